@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "platform/data/Database.h"
+
+#include "platform/data/DatabaseFile.h"
+#include "platform/data/SchemaCheck.h"
+#include "platform/data/SqlFunctions.h"
+#include "platform/data/Statement.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+constexpr int busyMilliseconds = 3000; // longer than any commit of another program should take
+constexpr int largestValue = 64 * 1024 * 1024; // bytes; a memo of a life's story has about one
+
+QString Say(const char* text)
+{
+    return QCoreApplication::translate("DatabaseError", text);
+}
+
+// Returns whether the file has a password; throws for what no password opens.
+bool NeedsPassword(const QString& path)
+{
+    const QString shown = QDir::toNativeSeparators(path);
+    switch (KindOfDatabaseFile(path)) {
+    case DatabaseFileKind::Missing:
+        throw DatabaseError(DatabaseError::NoSuchFile,
+                            Say("The file '%1' does not exist.").arg(shown));
+    case DatabaseFileKind::Unopenable:
+        throw DatabaseError(DatabaseError::CannotOpen,
+                            Say("'%1' is not a file that can be opened.").arg(shown));
+    case DatabaseFileKind::ReadOnly:
+        throw DatabaseError(
+            DatabaseError::ReadOnly,
+            Say("'%1' cannot be changed: the file or its folder is read-only.").arg(shown));
+    case DatabaseFileKind::Empty:
+        throw DatabaseError(DatabaseError::NotADatabase, Say("'%1' is an empty file.").arg(shown));
+    case DatabaseFileKind::OldAlbum:
+        throw DatabaseError(DatabaseError::NotADatabase,
+                            Say("'%1' is an album of the former file format.").arg(shown));
+    case DatabaseFileKind::NotADatabase:
+        throw DatabaseError(DatabaseError::NotADatabase,
+                            Say("'%1' is damaged or not an album.").arg(shown));
+    case DatabaseFileKind::Plain:
+        return false;
+    case DatabaseFileKind::Encrypted:
+        return true;
+    }
+    return false;
+}
+
+// Second line of defence behind CheckSchema: no statement may run anything that the album's schema
+// brings along (then the last argument names it), nor reach another file.
+int Authorize(void*, int action, const char*, const char*, const char*, const char* source)
+{
+    const bool reachesOut = action == SQLITE_ATTACH || action == SQLITE_CREATE_VTABLE;
+    return source || reachesOut ? SQLITE_DENY : SQLITE_OK;
+}
+
+int LibraryGeneration(sqlite3* engine)
+{
+    Statement version(engine, "PRAGMA cipher_version");
+    return version.Step() ? QByteArray(version.GetUtf8(0).data()).split('.').first().toInt() : 0;
+}
+
+} // namespace
+
+std::shared_ptr<Database> Database::Open(const QString& path, const QString& password)
+{
+    const bool locked = NeedsPassword(path);
+    std::shared_ptr<Database> database(new Database(path));
+    database->Connect();
+    if (locked)
+        database->Unlock(password);
+    database->Prepare();
+    return database;
+}
+
+Database::Database(const QString& path) : path_(path) {}
+
+Database::~Database()
+{
+    sqlite3_close_v2(engine_);
+}
+
+void Database::Connect()
+{
+    sqlite3_close_v2(engine_);
+    engine_ = nullptr;
+    const int code = sqlite3_open_v2(QFile::encodeName(path_).constData(), &engine_,
+                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    if (code != SQLITE_OK)
+        ThrowEngineError(engine_, code);
+    sqlite3_busy_timeout(engine_, busyMilliseconds);
+    sqlite3_limit(engine_, SQLITE_LIMIT_LENGTH, largestValue);
+    sqlite3_limit(engine_, SQLITE_LIMIT_ATTACHED, 0);
+    sqlite3_limit(engine_, SQLITE_LIMIT_TRIGGER_DEPTH, 0);
+    sqlite3_db_config(engine_, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_set_authorizer(engine_, Authorize, nullptr);
+}
+
+// A wrong key shows only at the first read, and then looks like a file that is no database.
+void Database::Unlock(const QString& password)
+{
+    const QByteArray key = password.toUtf8();
+    if (!key.isEmpty() && TryKey(key, 0))
+        return;
+    // Albums of the library's third generation open in the fourth under its rules of then.
+    if (!key.isEmpty() && LibraryGeneration(engine_) > 3) {
+        Connect();
+        if (TryKey(key, 3))
+            return;
+    }
+    throw DatabaseError(DatabaseError::WrongPassword, Say("The password is wrong or missing."));
+}
+
+bool Database::TryKey(const QByteArray& key, int compatibility)
+{
+    if (sqlite3_key(engine_, key.constData(), int(key.size())) != SQLITE_OK)
+        return false;
+    if (compatibility > 0)
+        Execute("PRAGMA cipher_compatibility=" + QByteArray::number(compatibility));
+    return IsReadable();
+}
+
+bool Database::IsReadable()
+{
+    try {
+        Execute("SELECT count(*) FROM sqlite_master");
+        return true;
+    } catch (const DatabaseError& error) {
+        if (error.GetNumber() == DatabaseError::NotADatabase)
+            return false;
+        throw;
+    }
+}
+
+void Database::Prepare()
+{
+    CheckSchema(engine_);
+    RegisterSqlFunctions(engine_);
+    // One file that is safe to copy once closed, and nothing lost when the power goes.
+    Execute("PRAGMA journal_mode=DELETE");
+    Execute("PRAGMA synchronous=FULL");
+    Execute("PRAGMA cache_size=-8000");
+}
+
+int Database::ChangeCount() const
+{
+    return sqlite3_total_changes(engine_);
+}
+
+void Database::Execute(const QByteArray& sql)
+{
+    Statement(engine_, sql).Run();
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+
+struct sqlite3;
+
+// One open album file. Every change is committed to disk at once, except inside a WriteBatch.
+// Lives as long as a record set on it does.
+class Database
+{
+public:
+    // Opens an existing file for reading and writing. The password counts only for a file that has
+    // one. Throws DatabaseError: NoSuchFile, CannotOpen, ReadOnly, NotADatabase, WrongPassword
+    // (also when the password is missing), Damaged, InUse. Never makes a file.
+    static std::shared_ptr<Database> Open(const QString& path, const QString& password = {});
+
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    const QString& GetPath() const { return path_; }
+    sqlite3* GetEngine() const { return engine_; }
+
+    // Goes up with every row that this program changes in the album; a row read under an earlier
+    // count may be stale.
+    int ChangeCount() const;
+
+    void Execute(const QByteArray& sql);
+
+private:
+    friend class WriteBatch;
+
+    explicit Database(const QString& path);
+
+    void Connect();
+    void Unlock(const QString& password);
+    bool TryKey(const QByteArray& key, int compatibility);
+    bool IsReadable();
+    void Prepare();
+
+    QString path_;
+    sqlite3* engine_ = nullptr;
+    int openBatches_ = 0;
+};

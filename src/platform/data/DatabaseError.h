@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <exception>
+#include <string>
+
+// What the album's engine reports: a number that code and users know it by, and a sentence.
+class DatabaseError : public std::exception
+{
+public:
+    enum Number {
+        Overflow = 6,
+        InvalidPattern = 93,
+        InvalidUseOfNull = 94,
+        UpdateWithoutEdit = 3020,
+        NoCurrentRecord = 3021,
+        DuplicateKey = 3022,
+        NoSuchFile = 3024,
+        DiskFull = 3026,
+        ReadOnly = 3027,
+        WrongPassword = 3031,
+        DiskError = 3043,
+        Damaged = 3049,
+        CannotOpen = 3051,
+        UnknownFieldInFilter = 3070,
+        BadFilter = 3075,
+        NoSuchTable = 3078,
+        RecordDeleted = 3167,
+        InUse = 3260,
+        NoSuchField = 3265,
+        NotADatabase = 3343,
+        TooComplex = 3360,
+        TypeMismatch = 3464,
+    };
+
+    DatabaseError(Number number, const QString& description);
+
+    int GetNumber() const { return number_; }
+    const QString& GetDescription() const { return description_; }
+    const char* what() const noexcept override { return what_.c_str(); }
+
+private:
+    int number_;
+    QString description_;
+    std::string what_;
+};

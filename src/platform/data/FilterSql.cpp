@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "platform/data/FilterSql.h"
+
+#include "platform/data/SqlFunctions.h"
+#include "platform/text/LikePattern.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+bool IsAscii(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
+class Translator
+{
+public:
+    Translator(QStringView text, const TableLayout& table, FilterSql& result)
+        : text_(text), table_(table), result_(result)
+    {
+    }
+
+    void Translate(const FilterNode& node)
+    {
+        switch (node.kind) {
+        case FilterNode::Kind::Equals:
+            return TranslateEquals(node);
+        case FilterNode::Kind::Like:
+            return TranslateLike(node);
+        case FilterNode::Kind::Not:
+            result_.condition += "NOT (";
+            Translate(node.operands.front());
+            result_.condition += ')';
+            return;
+        case FilterNode::Kind::And:
+            return TranslateJoined(node, " AND ");
+        case FilterNode::Kind::Or:
+            return TranslateJoined(node, " OR ");
+        }
+    }
+
+private:
+    void TranslateJoined(const FilterNode& node, const char* word)
+    {
+        result_.condition += '(';
+        for (std::size_t i = 0; i < node.operands.size(); ++i) {
+            if (i > 0)
+                result_.condition += word;
+            Translate(node.operands[i]);
+        }
+        result_.condition += ')';
+    }
+
+    void TranslateEquals(const FilterNode& node)
+    {
+        const TableLayout::Field& field = FindField(node.field);
+        const auto* value = std::get_if<QString>(&node.value);
+        if (field.isNumber == (value != nullptr))
+            FailMismatch(node.field);
+        result_.condition += QuotedName(field.name) + '=' + AddValue(node.value);
+        // The engine's own comparison knows the letter case of ASCII only, but can use an index.
+        if (value && field.ignoresCase && !IsAscii(*value))
+            result_.condition += QByteArrayLiteral(" COLLATE ") + foldedCollation;
+    }
+
+    void TranslateLike(const FilterNode& node)
+    {
+        const TableLayout::Field& field = FindField(node.field);
+        if (field.isNumber)
+            FailMismatch(node.field);
+        const QByteArray pattern = std::get<QString>(node.value).toUtf8();
+        if (!LikePattern(pattern.toStdString(), LikePattern::Case::Insensitive).IsValid()) {
+            throw DatabaseError(
+                DatabaseError::InvalidPattern,
+                QCoreApplication::translate("DatabaseError", "Invalid pattern in filter '%1'.")
+                    .arg(text_));
+        }
+        result_.condition += QByteArray(likeFunction) + '(' + AddValue(node.value) + ',' +
+                             QuotedName(field.name) + ')';
+    }
+
+    QByteArray AddValue(const FieldValue& value)
+    {
+        result_.values.push_back(value);
+        return '?' + QByteArray::number(qsizetype(result_.values.size()) + 1);
+    }
+
+    const TableLayout::Field& FindField(const QString& name) const
+    {
+        const int field = table_.Find(name);
+        if (field < 0) {
+            throw DatabaseError(
+                DatabaseError::UnknownFieldInFilter,
+                QCoreApplication::translate("DatabaseError", "Unknown field '%1' in filter '%2'.")
+                    .arg(name, text_));
+        }
+        return table_.At(field);
+    }
+
+    [[noreturn]] void FailMismatch(const QString& field) const
+    {
+        throw DatabaseError(
+            DatabaseError::TypeMismatch,
+            QCoreApplication::translate(
+                "DatabaseError", "Field '%1' is compared with a value of another type in '%2'.")
+                .arg(field, text_));
+    }
+
+    QStringView text_;
+    const TableLayout& table_;
+    FilterSql& result_;
+};
+
+} // namespace
+
+FilterSql TranslateFilter(QStringView text, const TableLayout& table)
+{
+    FilterSql result;
+    if (!text.isEmpty())
+        Translator(text, table, result).Translate(ParseFilter(text));
+    return result;
+}

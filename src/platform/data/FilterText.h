@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/data/Statement.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+// The criteria language of record sets:
+//   [Field]='text'   [Field]=5   [Field] LIKE 'pattern'   NOT x   x AND y   x OR y   (x)
+// NOT binds tighter than AND, AND tighter than OR; keywords in any letter case; a quote inside a
+// quoted text is written twice; texts may also stand between double quotes.
+struct FilterNode
+{
+    enum class Kind { Equals, Like, Not, And, Or };
+
+    Kind kind;
+    QString field;                    // Equals, Like
+    FieldValue value;                 // Equals, Like
+    std::vector<FilterNode> operands; // Not: one; And, Or: two or more
+};
+
+// Throws DatabaseError BadFilter, with the text that failed, for anything else, an empty text too;
+// TooComplex when it is nested too deep or holds too many comparisons.
+FilterNode ParseFilter(QStringView text);

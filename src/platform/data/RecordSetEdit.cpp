@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+// The half of RecordSet that changes rows.
+#include "platform/data/RecordSet.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr qsizetype mostKept = 64;
+
+[[noreturn]] void Fail(DatabaseError::Number number, const char* text)
+{
+    throw DatabaseError(number, QCoreApplication::translate("DatabaseError", text));
+}
+
+} // namespace
+
+void RecordSet::Edit()
+{
+    RequireRow();
+    buffer_ = Buffer{};
+}
+
+void RecordSet::AddNew()
+{
+    buffer_ = Buffer{};
+    buffer_->adding = true;
+    if (layout_.GetIdentity() >= 0)
+        buffer_->values.emplace_back(layout_.GetIdentity(), NextIdentifier());
+}
+
+// Above every identifier that ever was, deleted ones too: links to deleted rows may still lie
+// about.
+qint64 RecordSet::NextIdentifier()
+{
+    Statement highest(database_->GetEngine(),
+                      "SELECT max(ifnull((SELECT max(rowid) FROM " + table_ +
+                          "),0), ifnull((SELECT seq FROM sqlite_sequence WHERE name=?1),0))");
+    highest.Bind(1, QString::fromUtf8(layout_.GetTable()));
+    const qint64 next = highest.Step() ? highest.GetInteger(0) + 1 : 1;
+    if (next > std::numeric_limits<qint32>::max())
+        Fail(DatabaseError::Overflow, "The album has used up its identifiers.");
+    return next;
+}
+
+void RecordSet::Set(QStringView field, const QString& text)
+{
+    SetBuffered(field, text);
+}
+
+void RecordSet::Set(QStringView field, qint64 number)
+{
+    SetBuffered(field, number);
+}
+
+void RecordSet::SetBuffered(QStringView field, FieldValue value)
+{
+    if (!buffer_)
+        Fail(DatabaseError::UpdateWithoutEdit, "A record was changed without editing it.");
+    const int number = FieldNumber(field);
+    if (layout_.At(number).isNumber != std::holds_alternative<qint64>(value))
+        Fail(DatabaseError::TypeMismatch, "A field was given a value of another type.");
+    auto& values = buffer_->values;
+    const auto known = std::find_if(values.begin(), values.end(),
+                                    [number](const auto& entry) { return entry.first == number; });
+    if (known == values.end())
+        values.emplace_back(number, std::move(value));
+    else
+        known->second = std::move(value);
+}
+
+void RecordSet::Update()
+{
+    if (!buffer_)
+        Fail(DatabaseError::UpdateWithoutEdit, "A record was changed without editing it.");
+    if (buffer_->adding)
+        UpdateAdded();
+    else
+        UpdateEdited();
+    buffer_.reset();
+}
+
+void RecordSet::UpdateEdited()
+{
+    if (buffer_->values.empty())
+        return;
+    QByteArray assignments;
+    for (std::size_t i = 0; i < buffer_->values.size(); ++i) {
+        assignments += i > 0 ? "," : "";
+        assignments += QuotedName(layout_.At(buffer_->values[i].first).name) + "=?" +
+                       QByteArray::number(qsizetype(i) + 2);
+    }
+    Statement& update =
+        WriteStatement("UPDATE " + table_ + " SET " + assignments + " WHERE rowid=?1");
+    update.Bind(1, row_);
+    for (std::size_t i = 0; i < buffer_->values.size(); ++i)
+        update.Bind(int(i) + 2, buffer_->values[i].second);
+    update.Run();
+    if (sqlite3_changes(database_->GetEngine()) == 0)
+        Fail(DatabaseError::RecordDeleted, "The record has been deleted.");
+}
+
+void RecordSet::UpdateAdded()
+{
+    QByteArray names;
+    QByteArray parameters;
+    for (std::size_t i = 0; i < buffer_->values.size(); ++i) {
+        names += (i > 0 ? "," : "") + QuotedName(layout_.At(buffer_->values[i].first).name);
+        parameters += (i > 0 ? ",?" : "?") + QByteArray::number(qsizetype(i) + 1);
+    }
+    Statement& insert = WriteStatement(names.isEmpty() ? "INSERT INTO " + table_ + " DEFAULT VALUES"
+                                                       : "INSERT INTO " + table_ + " (" + names +
+                                                             ") VALUES (" + parameters + ')');
+    for (std::size_t i = 0; i < buffer_->values.size(); ++i)
+        insert.Bind(int(i) + 1, buffer_->values[i].second);
+    insert.Run();
+}
+
+void RecordSet::CancelUpdate()
+{
+    buffer_.reset();
+}
+
+void RecordSet::Delete()
+{
+    buffer_.reset();
+    RequireRow();
+    Statement& remove = WriteStatement("DELETE FROM " + table_ + " WHERE rowid=?1");
+    remove.Bind(1, row_);
+    remove.Run();
+    place_ = Place::DeletedRow;
+}
+
+Statement& RecordSet::WriteStatement(const QByteArray& sql)
+{
+    if (writes_.size() >= mostKept && !writes_.contains(sql))
+        writes_.clear();
+    std::shared_ptr<Statement>& statement = writes_[sql];
+    if (!statement)
+        statement = std::make_shared<Statement>(database_->GetEngine(), sql);
+    return *statement;
+}

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "platform/data/Statement.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace {
+
+QString Say(const char* text)
+{
+    return QCoreApplication::translate("DatabaseError", text);
+}
+
+} // namespace
+
+void ThrowEngineError(sqlite3* engine, int code)
+{
+    switch (code & 0xFF) {
+    case SQLITE_NOTADB:
+        throw DatabaseError(DatabaseError::NotADatabase, Say("This file is not an album."));
+    case SQLITE_CORRUPT:
+        throw DatabaseError(DatabaseError::Damaged, Say("The album file is damaged."));
+    case SQLITE_CONSTRAINT:
+        throw DatabaseError(DatabaseError::DuplicateKey,
+                            Say("The album holds such an entry already."));
+    case SQLITE_FULL:
+        throw DatabaseError(DatabaseError::DiskFull, Say("The disk is full; nothing was changed."));
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+        throw DatabaseError(
+            DatabaseError::ReadOnly,
+            Say("The album cannot be changed: its file or its folder is read-only."));
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        throw DatabaseError(
+            DatabaseError::InUse,
+            Say("The album is being changed by another program. Please try again."));
+    case SQLITE_CANTOPEN:
+        throw DatabaseError(DatabaseError::CannotOpen,
+                            Say("The album file or a file beside it cannot be opened."));
+    case SQLITE_IOERR:
+        throw DatabaseError(
+            DatabaseError::DiskError,
+            Say("The album file cannot be read or written: disk or network error."));
+    case SQLITE_TOOBIG:
+    case SQLITE_NOMEM:
+        throw DatabaseError(DatabaseError::TooComplex, Say("A value or a query is too large."));
+    default:
+        throw DatabaseError(DatabaseError::Damaged, QString::fromUtf8(sqlite3_errmsg(engine)));
+    }
+}
+
+Statement::Statement(sqlite3* engine, const QByteArray& sql)
+{
+    const int code =
+        sqlite3_prepare_v2(engine, sql.constData(), int(sql.size()), &handle_, nullptr);
+    if (code != SQLITE_OK)
+        ThrowEngineError(engine, code);
+}
+
+Statement::~Statement()
+{
+    sqlite3_finalize(handle_);
+}
+
+Statement::Statement(Statement&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+
+Statement& Statement::operator=(Statement&& other) noexcept
+{
+    std::swap(handle_, other.handle_);
+    return *this;
+}
+
+void Statement::Bind(int parameter, qint64 number)
+{
+    sqlite3_bind_int64(handle_, parameter, number);
+}
+
+void Statement::Bind(int parameter, const QString& text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    sqlite3_bind_text(handle_, parameter, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+}
+
+void Statement::Bind(int parameter, const FieldValue& value)
+{
+    if (const auto* number = std::get_if<qint64>(&value))
+        Bind(parameter, *number);
+    else if (const auto* text = std::get_if<QString>(&value))
+        Bind(parameter, *text);
+    else
+        sqlite3_bind_null(handle_, parameter);
+}
+
+bool Statement::Step()
+{
+    const int code = sqlite3_step(handle_);
+    if (code == SQLITE_ROW)
+        return true;
+    sqlite3* engine = sqlite3_db_handle(handle_);
+    // Resetting repeats the failure's code, which is why the message is fetched only afterwards.
+    sqlite3_reset(handle_);
+    if (code != SQLITE_DONE)
+        ThrowEngineError(engine, code);
+    return false;
+}
+
+void Statement::Reset() noexcept
+{
+    sqlite3_reset(handle_);
+}
+
+void Statement::Run()
+{
+    if (Step())
+        Reset();
+}
+
+bool Statement::IsNull(int column) const
+{
+    return sqlite3_column_type(handle_, column) == SQLITE_NULL;
+}
+
+qint64 Statement::GetInteger(int column) const
+{
+    return sqlite3_column_int64(handle_, column);
+}
+
+std::string_view Statement::GetUtf8(int column) const
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(handle_, column));
+    return {text, text ? std::size_t(sqlite3_column_bytes(handle_, column)) : 0};
+}
+
+FieldValue Statement::GetValue(int column) const
+{
+    switch (sqlite3_column_type(handle_, column)) {
+    case SQLITE_NULL:
+        return {};
+    case SQLITE_INTEGER:
+        return GetInteger(column);
+    case SQLITE_BLOB:
+        throw DatabaseError(DatabaseError::TypeMismatch,
+                            Say("The album holds a value of a wrong type."));
+    default: {
+        const std::string_view text = GetUtf8(column);
+        return QString::fromUtf8(text.data(), qsizetype(text.size()));
+    }
+    }
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/data/DatabaseError.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <string_view>
+#include <variant>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+// A field's value: nothing (Null), a whole number or a text.
+using FieldValue = std::variant<std::monostate, qint64, QString>;
+
+// Turns the engine's last result code into the error that the program knows, and throws it.
+[[noreturn]] void ThrowEngineError(sqlite3* engine, int code);
+
+// One prepared statement. Parameters are numbered from 1, result columns from 0.
+class Statement
+{
+public:
+    Statement() = default;
+    Statement(sqlite3* engine, const QByteArray& sql); // throws DatabaseError
+    ~Statement();
+    Statement(Statement&& other) noexcept;
+    Statement& operator=(Statement&& other) noexcept;
+    Statement(const Statement&) = delete;
+    Statement& operator=(const Statement&) = delete;
+
+    bool IsPrepared() const { return handle_ != nullptr; }
+
+    // Bound values stay until they are bound anew; texts are copied.
+    void Bind(int parameter, qint64 number);
+    void Bind(int parameter, const QString& text);
+    void Bind(int parameter, const FieldValue& value);
+
+    // True when a row stands ready, false after the last; throws DatabaseError. A statement that
+    // returned false or threw has been reset and holds no lock.
+    bool Step();
+    void Reset() noexcept;
+    // Step and Reset for a statement that returns no row.
+    void Run();
+
+    bool IsNull(int column) const;
+    qint64 GetInteger(int column) const;
+    // Valid until the next Step or Reset.
+    std::string_view GetUtf8(int column) const;
+    // Throws TypeMismatch for a value that is neither number nor text.
+    FieldValue GetValue(int column) const;
+
+private:
+    sqlite3_stmt* handle_ = nullptr;
+};

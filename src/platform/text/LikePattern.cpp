@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text/LikePattern.h"
+
+#include "platform/text/TextFold.h"
+
+LikePattern::LikePattern(std::string_view utf8Pattern, Case caseRule)
+    : foldsCase_(caseRule == Case::Insensitive)
+{
+    Parse(utf8Pattern);
+}
+
+void LikePattern::Parse(std::string_view pattern)
+{
+    while (!pattern.empty() && valid_) {
+        const char32_t character = TakeUtf8(pattern);
+        switch (character) {
+        case U'*':
+            segments_.emplace_back();
+            break;
+        case U'?':
+            segments_.back().push_back({Kind::AnyCharacter});
+            break;
+        case U'#':
+            segments_.back().push_back({Kind::Digit});
+            break;
+        case U'[':
+            valid_ = ParseList(pattern);
+            break;
+        default:
+            segments_.back().push_back(
+                {Kind::Character, foldsCase_ ? FoldCase(character) : character});
+        }
+    }
+}
+
+// Reads what stands after the opening bracket, up to and including the closing one.
+bool LikePattern::ParseList(std::string_view& pattern)
+{
+    const std::size_t end = pattern.find(']');
+    if (end == std::string_view::npos)
+        return false;
+    std::string_view list = pattern.substr(0, end);
+    pattern.remove_prefix(end + 1);
+    if (list.empty())
+        return true;
+
+    Element element{Kind::List};
+    if (list.front() == '!' && list.size() > 1) {
+        element.negated = true;
+        list.remove_prefix(1);
+    }
+    while (!list.empty()) {
+        const char32_t first = TakeUtf8(list);
+        char32_t last = first;
+        if (list.size() > 1 && list.front() == '-') {
+            list.remove_prefix(1);
+            last = TakeUtf8(list);
+        }
+        if (last < first)
+            return false;
+        element.ranges.push_back({first, last});
+    }
+    segments_.back().push_back(std::move(element));
+    return true;
+}
+
+bool LikePattern::Lists(const Element& element, char32_t character)
+{
+    for (const Range& range : element.ranges) {
+        if (character >= range.first && character <= range.last)
+            return true;
+    }
+    return false;
+}
+
+bool LikePattern::Fits(const Element& element, char32_t character) const
+{
+    switch (element.kind) {
+    case Kind::Character:
+        return element.character == (foldsCase_ ? FoldCase(character) : character);
+    case Kind::Digit:
+        return character >= U'0' && character <= U'9';
+    case Kind::List: {
+        const bool listed = Lists(element, character) ||
+                            (foldsCase_ && (Lists(element, QChar::toLower(character)) ||
+                                            Lists(element, QChar::toUpper(character))));
+        return listed != element.negated;
+    }
+    case Kind::AnyCharacter:
+        break;
+    }
+    return true;
+}
+
+// Takes the segment off the text's beginning; false, with the text half taken, when it does not
+// fit.
+bool LikePattern::TakeSegment(const Segment& segment, std::string_view& text) const
+{
+    for (const Element& element : segment) {
+        if (text.empty() || !Fits(element, TakeUtf8(text)))
+            return false;
+    }
+    return true;
+}
+
+// Takes the last segment off the text's end. It stands for a fixed number of characters, so it can
+// only fit in one place.
+bool LikePattern::TakeTail(std::string_view& text) const
+{
+    const Segment& tail = segments_.back();
+    std::string_view rest = text;
+    for (std::size_t i = 0; i < tail.size(); ++i) {
+        if (rest.empty())
+            return false;
+        DropLastUtf8(rest);
+    }
+    std::string_view end = text.substr(rest.size());
+    text = rest;
+    return TakeSegment(tail, end);
+}
+
+// Cuts the text behind the first place where the segment fits. The first place is enough: it leaves
+// the most text for the segments that follow.
+bool LikePattern::SkipBehind(const Segment& segment, std::string_view& text) const
+{
+    if (segment.empty())
+        return true;
+    while (!text.empty()) {
+        std::string_view rest = text;
+        if (TakeSegment(segment, rest)) {
+            text = rest;
+            return true;
+        }
+        TakeUtf8(text);
+    }
+    return false;
+}
+
+bool LikePattern::Matches(std::string_view text) const
+{
+    if (!valid_ || !TakeSegment(segments_.front(), text))
+        return false;
+    if (segments_.size() == 1)
+        return text.empty();
+    if (!TakeTail(text))
+        return false;
+    for (std::size_t i = 1; i + 1 < segments_.size(); ++i) {
+        if (!SkipBehind(segments_[i], text))
+            return false;
+    }
+    return true;
+}
+
+bool IsLike(const QString& text, const char* pattern)
+{
+    const QByteArray utf8 = text.toUtf8();
+    return LikePattern(pattern, LikePattern::Case::Sensitive)
+        .Matches({utf8.constData(), std::size_t(utf8.size())});
+}
+
+QString EscapedForLike(const QString& text)
+{
+    QString escaped;
+    escaped.reserve(text.size());
+    for (const QChar character : text) {
+        const bool wildcard = QStringView(u"*?#[").contains(character);
+        escaped += wildcard ? QStringLiteral("[%1]").arg(character) : QString(character);
+    }
+    return escaped;
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QChar>
+
+#include <string_view>
+
+// Comparing text without regard to case. Accents count, and each character is folded by itself
+// (simple case folding of Unicode), so that folding never changes a text's length in characters.
+
+inline char32_t FoldCase(char32_t character)
+{
+    if (character < 0x80)
+        return character >= U'A' && character <= U'Z' ? character + 32 : character;
+    return QChar::toCaseFolded(character);
+}
+
+// TakeUtf8 for a text whose first byte is not ASCII.
+char32_t TakeLongUtf8(std::string_view& text);
+
+// Takes the first character off a UTF-8 text, which must not be empty. A byte that begins no valid
+// character counts as the character of its own number, so damaged text still compares.
+inline char32_t TakeUtf8(std::string_view& text)
+{
+    const auto lead = static_cast<unsigned char>(text.front());
+    if (lead >= 0x80)
+        return TakeLongUtf8(text);
+    text.remove_prefix(1);
+    return lead;
+}
+
+// Takes the last character off, without looking at it; the text must not be empty.
+void DropLastUtf8(std::string_view& text);
+
+// Negative, zero or positive as first sorts before, with or after second; both UTF-8.
+int CompareFolded(std::string_view first, std::string_view second);
