@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+// Every picture is described by twelve short texts, columns 0 to 11, in four groups of three. The
+// columns of groups 1 and 2 are twins: they describe two subjects of the same kind and share their
+// labels and their tables of allowed values.
+
+constexpr int columnCount = 12;
+constexpr int columnsPerGroup = 3;
+constexpr int groupCount = 4;
+
+// Marks a column without a value.
+inline const QString noValue = QStringLiteral("-");
+
+// Longest value, in characters.
+constexpr int longestValue = 20;
+
+// 0 to 3, for a column from 0 to 11.
+constexpr int GroupOf(int column)
+{
+    return column / columnsPerGroup;
+}
+
+// The column whose label and value table a column goes by: 6, 7, 8 go by 3, 4, 5, every other by
+// its own.
+constexpr int LabelledColumnOf(int column)
+{
+    return GroupOf(column) == 2 ? column - columnsPerGroup : column;
+}
+
+// Name of the table of a column's allowed values.
+QString ValueTableOf(int column);
+
+// 3, 4, 5 give 6, 7, 8; all others none.
+std::optional<int> TwinColumnOf(int column);
+
+// Markers begin with neither a letter from A to Z in either case, nor a comma, nor a digit. They
+// mean something to the program and are not for users to delete or change.
+bool IsSpecialMarker(const QString& value);
+
+// A typed text as a value may stand in a filter: no ";", blanks for apostrophes, at most 20
+// characters, no blanks at the ends. May be empty.
+QString CleanValue(const QString& typed);
+
+// What becomes of a text typed for a picture: an ordinary value or nothing stays, whatever begins
+// with "-" is the mark for no value, and any other marker loses its first character.
+QString NormalizedValue(const QString& typed);
+
+// Adds the value, cleaned, to a column's table; an empty one counts as "-". Returns the value
+// added, or an empty text when the table refused it, most often because it holds the value already.
+QString AddValueToTable(int column, const QString& typed);

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+// The pictures still to be shown, by the File that the album knows them by: first those linked to
+// the paragraph, then those that its filter found. Shrinks as screens are filled from it.
+class PictureList
+{
+public:
+    void Clear();
+    void AddLinked(const QString& file); // before any other picture
+    void Add(const QString& file);
+    bool HoldsLinked(const QString& file) const;
+
+    int Count() const { return int(upcoming_.size() + files_.size()); }
+    // In list order, those picked already first.
+    QStringList GetFiles() const;
+
+    // The picture to show next, or an empty text when none is left: one picked before and not shown
+    // yet, else a linked one at random while there are any, else at random or in list order. A
+    // picture that isThere turns down is dropped and the next one picked. The same picture is
+    // given again until it is taken.
+    QString PickNext(bool atRandom, const std::function<bool(const QString&)>& isThere);
+    // The picture that PickNext gave is on the screen and leaves the list.
+    void TakePicked();
+    // Shown pictures that shall be shown again, before any other and in this order.
+    void PutBack(const QStringList& files);
+
+private:
+    void Pick(bool atRandom);
+
+    std::deque<QString> upcoming_;
+    std::vector<QString> files_;
+    int linked_ = 0; // leading entries of files_ that are linked pictures
+};

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "core/Settings.h"
+
+#include "platform/shell/UserSettings.h"
+
+namespace {
+
+const QString application = QStringLiteral("QVRLumenark");
+const QString userSection = QStringLiteral("User");
+const QString lastAlbum = QStringLiteral("LastDBOpened");
+
+} // namespace
+
+namespace GeneralModule {
+
+QString GetUserSetting(const QString& section, const QString& key)
+{
+    return ReadUserSetting(application, section, key);
+}
+
+void SaveUserSetting(const QString& section, const QString& key, const QString& value)
+{
+    WriteUserSetting(application, section, key, value);
+}
+
+QString GetLastAlbum()
+{
+    return GetUserSetting(userSection, lastAlbum);
+}
+
+void SaveLastAlbum(const QString& path)
+{
+    SaveUserSetting(userSection, lastAlbum, path);
+}
+
+} // namespace GeneralModule

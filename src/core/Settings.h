@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+// What the program remembers for each user outside the album.
+namespace GeneralModule {
+
+// An empty text when the key was never saved.
+QString GetUserSetting(const QString& section, const QString& key);
+void SaveUserSetting(const QString& section, const QString& key, const QString& value);
+
+// Full path of the album last opened successfully, empty when there is none.
+QString GetLastAlbum();
+void SaveLastAlbum(const QString& path);
+
+} // namespace GeneralModule

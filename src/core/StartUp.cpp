@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "core/StartUp.h"
+
+#include "platform/shell/ProgramFolder.h"
+
+#include <QDir>
+
+#include <chrono>
+#include <random>
+
+namespace {
+
+std::mt19937& Random()
+{
+    static std::mt19937 random;
+    return random;
+}
+
+} // namespace
+
+namespace GeneralModule {
+
+void InitModule()
+{
+    SeedRandom(std::uint32_t(std::chrono::system_clock::now().time_since_epoch().count()));
+    QDir::setCurrent(ProgramFolder());
+}
+
+QString HelpFile()
+{
+    return ProgramFile(QStringLiteral("lumenark.hlp"));
+}
+
+int RandomBelow(int below)
+{
+    return below > 0 ? std::uniform_int_distribution<int>(0, below - 1)(Random()) : 0;
+}
+
+void SeedRandom(std::uint32_t seed)
+{
+    Random().seed(seed);
+}
+
+} // namespace GeneralModule

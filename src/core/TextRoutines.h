@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace GeneralModule {
+
+// Replaces every occurrence of find from position start on, counted from 1; upper and lower case
+// differ. What was put in is not searched again, so a replacement may contain find. An empty find
+// changes nothing.
+QString ReplaceText(const QString& text, const QString& find, const QString& replacement,
+                    int start);
+
+// A name for a "like" comparison: an apostrophe becomes the wildcard for one character, so that it
+// does not end the quoted text.
+QString LikeSafe(const QString& name);
+
+// A text between single quotes, as filters hold it; quotes inside are doubled.
+QString Quoted(const QString& text);
+
+} // namespace GeneralModule

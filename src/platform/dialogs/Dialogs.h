@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+// The one door to message boxes, input boxes and file dialogs. Whoever asks needs to know no
+// window; tests put a script behind the door.
+class Dialogs
+{
+public:
+    enum class Icon { None, Information, Question, Warning, Critical };
+    enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+    enum class Answer { Ok, Cancel, Yes, No };
+
+    struct Box
+    {
+        QString text; // shown as it is, never as markup
+        Icon icon = Icon::None;
+        Buttons buttons = Buttons::Ok;
+        std::optional<Answer> defaultAnswer = {}; // the platform's choice when not given
+        QString title = {};                       // the program's name when empty
+    };
+
+    struct Input
+    {
+        QString prompt;
+        QString proposal = {};
+        QString title = {}; // the program's name when empty
+        bool isPassword = false;
+    };
+
+    struct FileChoice
+    {
+        QString title;
+        QString filter; // "Album|*.alb": a name, a bar, patterns separated by ";"
+        QString folder; // where to begin; the current folder when empty
+    };
+
+    virtual ~Dialogs() = default;
+
+    // Closing the box without a button counts as Cancel, or as No or Ok where there is no Cancel.
+    virtual Answer Ask(const Box& box) = 0;
+    // An empty text when the box was cancelled.
+    virtual QString AskText(const Input& input) = 0;
+    // The chosen path, empty when cancelled. AskSaveFile has asked before it returns an existing
+    // file, and has added the filter's extension to a name without one.
+    virtual QString AskOpenFile(const FileChoice& choice) = 0;
+    virtual QString AskSaveFile(const FileChoice& choice) = 0;
+
+    // The dialogs in use. Install before the first use; the caller keeps them alive.
+    static Dialogs& Door();
+    static void Install(Dialogs* dialogs);
+};
+
+// The commonest boxes.
+void Tell(const QString& text, Dialogs::Icon icon = Dialogs::Icon::Information);

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "story/PictureFilter.h"
+
+#include "catalogue/CharacteristicModel.h"
+#include "core/Album.h"
+#include "core/TextRoutines.h"
+
+#include <QSet>
+
+using GeneralModule::ImageSet;
+using GeneralModule::LinkedImagesSet;
+using GeneralModule::ReplaceText;
+
+namespace {
+
+constexpr int feedbackStep = 500;
+
+// Writes one condition per restricted column, joined by AND.
+class CarFilterWriter
+{
+public:
+    void AddColumn(int column, QString values)
+    {
+        bool negated = false;
+        bool firstValue = true;
+        for (QString token = NextToken(values); !token.isEmpty(); token = NextToken(values)) {
+            if (token == QLatin1String("!")) {
+                Open(QStringLiteral("NOT("), QStringLiteral(") AND NOT("));
+                negated = true;
+                // The group just opened takes its first value without OR.
+                firstValue = true;
+                continue;
+            }
+            if (!firstValue)
+                filter_ += QLatin1String(" OR ");
+            else if (!negated)
+                Open(QStringLiteral("("), QStringLiteral(") AND ("));
+            firstValue = false;
+            filter_ += QStringLiteral("[Car%1]='").arg(column) + token + QLatin1Char('\'');
+        }
+    }
+
+    QString Finish() const { return isFirst_ ? filter_ : filter_ + QLatin1Char(')'); }
+
+private:
+    void Open(const QString& first, const QString& later)
+    {
+        filter_ += isFirst_ ? first : later;
+        isFirst_ = false;
+    }
+
+    QString filter_;
+    bool isFirst_ = true;
+};
+
+void AddLinkedPictures(RecordSet& paragraph, PictureList& pictures)
+{
+    const QString filter =
+        QStringLiteral("[ParagraphId]=") + QString::number(paragraph.Number(u"Id"));
+    const RecordSet::Walk walk(*LinkedImagesSet);
+    LinkedImagesSet->FindFirst(filter);
+    while (!LinkedImagesSet->NoMatch()) {
+        pictures.AddLinked(LinkedImagesSet->TextOrEmpty(u"File"));
+        LinkedImagesSet->FindNext(filter);
+    }
+}
+
+void AddMatchingPictures(const QString& filter, PictureList& pictures, int most,
+                         const CountFeedback& feedback)
+{
+    const QStringList linked = pictures.GetFiles();
+    const QSet<QString> linkedFiles(linked.begin(), linked.end());
+    const int file = ImageSet->FieldNumber(u"File");
+    const RecordSet::Walk walk(*ImageSet);
+    ImageSet->FindFirst(filter);
+    while (!ImageSet->NoMatch() && pictures.Count() < most) {
+        const QString picture = ImageSet->TextOrEmpty(file);
+        if (!linkedFiles.contains(picture))
+            pictures.Add(picture);
+        if (pictures.Count() % feedbackStep == 0)
+            feedback(pictures.Count());
+        ImageSet->FindNext(filter);
+    }
+}
+
+} // namespace
+
+QString NextToken(QString& values)
+{
+    const qsizetype end = values.indexOf(u';');
+    const QString token = end < 0 ? values : values.first(end);
+    values = end < 0 ? QString() : values.sliced(end + 1);
+    return token;
+}
+
+QString BuildCarFilter(RecordSet& paragraph)
+{
+    CarFilterWriter writer;
+    for (int column = 0; column < columnCount; ++column) {
+        const QString values = paragraph.TextOrEmpty(QStringLiteral("Car%1").arg(column));
+        if (values != QLatin1String("*"))
+            writer.AddColumn(column, values);
+    }
+    return writer.Finish();
+}
+
+QString SwapCarGroups(const QString& filter)
+{
+    // The letters D, E, F keep columns 3 to 5 apart while 6 to 8 take their place.
+    const auto column = [](int number) { return QStringLiteral("[Car%1").arg(number); };
+    const auto marker = [](int number) { return QStringLiteral("[Car") + QChar(u'A' + number); };
+    QString swapped = filter;
+    for (int i = 3; i <= 5; ++i)
+        swapped = ReplaceText(swapped, column(i), marker(i), 1);
+    for (int i = 6; i <= 8; ++i)
+        swapped = ReplaceText(swapped, column(i), column(i - 3), 1);
+    for (int i = 3; i <= 5; ++i)
+        swapped = ReplaceText(swapped, marker(i), column(i + 3), 1);
+    return swapped;
+}
+
+QString BuildPictureFilter(RecordSet& paragraph)
+{
+    QString carFilter = BuildCarFilter(paragraph);
+    const QString swapped = SwapCarGroups(carFilter);
+    if (swapped != carFilter)
+        carFilter += QLatin1String(" OR ") + swapped;
+    const QString selection = paragraph.TextOrEmpty(u"FileSelection");
+    if (selection.isEmpty())
+        return carFilter;
+    const QString fileFilter =
+        QStringLiteral("([File] LIKE ") + GeneralModule::Quoted(selection) + QLatin1Char(')');
+    return carFilter.isEmpty()
+               ? fileFilter
+               : fileFilter + QLatin1String(" AND (") + carFilter + QLatin1Char(')');
+}
+
+void BuildPictureList(RecordSet& paragraph, PictureList& pictures, int most,
+                      const CountFeedback& feedback)
+{
+    pictures.Clear();
+    AddLinkedPictures(paragraph, pictures);
+    AddMatchingPictures(BuildPictureFilter(paragraph), pictures, most, feedback);
+    feedback(pictures.Count());
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/PictureList.h"
+#include "platform/data/RecordSet.h"
+
+#include <QString>
+
+#include <functional>
+
+// A paragraph chooses its pictures by links, by values of their characteristics, and by a pattern
+// of their file names. For each characteristic it stores "*" for any value, or values joined by ";"
+// one of which the picture must have; after a value "!" it must have none of them.
+
+// Cuts the first value off the list, with the ";" behind it, and returns it.
+QString NextToken(QString& values);
+
+// The condition on characteristics of the paragraph on which the set stands; empty when all are
+// "*".
+QString BuildCarFilter(RecordSet& paragraph);
+
+// The same condition with the columns of the two twin groups, 3 to 5 and 6 to 8, exchanged: a
+// picture may show the two subjects in either order.
+QString SwapCarGroups(const QString& filter);
+
+// The whole filter: the file-name pattern and the condition in both orders; empty for any picture.
+QString BuildPictureFilter(RecordSet& paragraph);
+
+// Called with the number of pictures found so far.
+using CountFeedback = std::function<void(int)>;
+
+// Fills the list for the paragraph on which the set stands (it may be one that is being added):
+// linked pictures first, then those that meet its filter, each once, at most most in all. Calls
+// feedback at every multiple of 500 and at the end. Throws DatabaseError, BadFilter for a value
+// that a filter cannot hold; the list then holds what was found until then.
+void BuildPictureList(RecordSet& paragraph, PictureList& pictures, int most,
+                      const CountFeedback& feedback);
