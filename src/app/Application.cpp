@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "Application.h"
+
+#include "platform/dialogs/Guard.h"
+#include "platform/widgets/ThemedIcon.h"
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv)
+{
+    setApplicationName(QStringLiteral("Lumenark"));
+    setApplicationDisplayName(QStringLiteral("Lumenark"));
+    setApplicationVersion(QStringLiteral(LUMENARK_VERSION));
+    setDesktopFileName(QStringLiteral("lumenark"));
+    setWindowIcon(ProgramIcon());
+}
+
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& error) {
+        ReportError(error);
+        return true;
+    }
+}

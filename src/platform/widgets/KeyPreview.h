@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+class QKeyEvent;
+class QWidget;
+
+// Shows a window every key before the control that has the focus gets it, so that a window's keys
+// work whichever button was used last. The window owns it.
+class KeyPreview : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Returns true when the key is used up.
+    using Handler = std::function<bool(QKeyEvent&)>;
+
+    KeyPreview(QWidget* window, Handler handler);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget* window_;
+    Handler handler_;
+};

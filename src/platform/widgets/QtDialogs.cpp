@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "platform/widgets/QtDialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+
+namespace {
+
+constexpr int inputWidth = 420; // logical pixels; a chapter's name or a path's end is seen whole
+
+QString TitleOr(const QString& title)
+{
+    return title.isEmpty() ? QApplication::applicationDisplayName() : title;
+}
+
+QMessageBox::Icon ToQt(Dialogs::Icon icon)
+{
+    switch (icon) {
+    case Dialogs::Icon::Information:
+        return QMessageBox::Information;
+    case Dialogs::Icon::Question:
+        return QMessageBox::Question;
+    case Dialogs::Icon::Warning:
+        return QMessageBox::Warning;
+    case Dialogs::Icon::Critical:
+        return QMessageBox::Critical;
+    case Dialogs::Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ToQt(Dialogs::Buttons buttons)
+{
+    switch (buttons) {
+    case Dialogs::Buttons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Dialogs::Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Dialogs::Buttons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Dialogs::Buttons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton ToQt(Dialogs::Answer answer)
+{
+    switch (answer) {
+    case Dialogs::Answer::Cancel:
+        return QMessageBox::Cancel;
+    case Dialogs::Answer::Yes:
+        return QMessageBox::Yes;
+    case Dialogs::Answer::No:
+        return QMessageBox::No;
+    case Dialogs::Answer::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+Dialogs::Answer FromQt(int button)
+{
+    switch (button) {
+    case QMessageBox::Yes:
+        return Dialogs::Answer::Yes;
+    case QMessageBox::No:
+        return Dialogs::Answer::No;
+    case QMessageBox::Cancel:
+        return Dialogs::Answer::Cancel;
+    default:
+        return Dialogs::Answer::Ok;
+    }
+}
+
+// "Album|*.alb;*.bak" reads "Album (*.alb *.bak)" to the toolkit.
+QString ToQtFilter(const QString& filter)
+{
+    const QString patterns = filter.section(u'|', 1).replace(u';', u' ');
+    return QStringLiteral("%1 (%2)").arg(filter.section(u'|', 0, 0), patterns);
+}
+
+QString FirstExtension(const QString& filter)
+{
+    return filter.section(u'|', 1).section(u';', 0, 0).section(u'.', 1);
+}
+
+QString Choose(const Dialogs::FileChoice& choice, QFileDialog::AcceptMode mode)
+{
+    QFileDialog dialog(QApplication::activeWindow(), choice.title, choice.folder,
+                       ToQtFilter(choice.filter));
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
+                                                       : QFileDialog::AnyFile);
+    if (mode == QFileDialog::AcceptSave)
+        dialog.setDefaultSuffix(FirstExtension(choice.filter));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+}
+
+} // namespace
+
+Dialogs::Answer QtDialogs::Ask(const Box& box)
+{
+    QMessageBox message(ToQt(box.icon), TitleOr(box.title), box.text, ToQt(box.buttons),
+                        QApplication::activeWindow());
+    message.setTextFormat(Qt::PlainText);
+    if (box.defaultAnswer)
+        message.setDefaultButton(ToQt(*box.defaultAnswer));
+    return FromQt(message.exec());
+}
+
+QString QtDialogs::AskText(const Input& input)
+{
+    QInputDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(TitleOr(input.title));
+    dialog.setLabelText(input.prompt);
+    dialog.setTextValue(input.proposal);
+    dialog.setTextEchoMode(input.isPassword ? QLineEdit::Password : QLineEdit::Normal);
+    // Prompts hold names of users, which must not be read as markup.
+    for (QLabel* label : dialog.findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
+    dialog.resize(std::max(dialog.sizeHint().width(), inputWidth), dialog.sizeHint().height());
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
+QString QtDialogs::AskOpenFile(const FileChoice& choice)
+{
+    return Choose(choice, QFileDialog::AcceptOpen);
+}
+
+QString QtDialogs::AskSaveFile(const FileChoice& choice)
+{
+    return Choose(choice, QFileDialog::AcceptSave);
+}

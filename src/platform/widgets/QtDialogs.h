@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/dialogs/Dialogs.h"
+
+// The door's real side: the toolkit's message boxes, input boxes and file dialogs, modal to the
+// window in front.
+class QtDialogs : public Dialogs
+{
+public:
+    Answer Ask(const Box& box) override;
+    QString AskText(const Input& input) override;
+    QString AskOpenFile(const FileChoice& choice) override;
+    QString AskSaveFile(const FileChoice& choice) override;
+};

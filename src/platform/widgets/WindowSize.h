@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSize>
+
+class QWidget;
+
+// Gives the window the size it had when it was last closed, else the proposed one, at most what the
+// screen has room for; and remembers the size when it closes. Sizes are kept in the user's settings
+// under the window's name, in logical pixels.
+void KeepWindowSize(QWidget* window, QSize proposed);

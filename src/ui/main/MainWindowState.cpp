@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main/MainWindowState.h"
+
+namespace {
+
+QString WarningFor(const AlbumFacts& facts)
+{
+    if (!facts.isOpen)
+        return QStringLiteral("Please OPEN or CREATE an ALBUM\nPress F1 for Help");
+    if (!facts.hasPictures)
+        return QStringLiteral("Please LOAD and INDEX Pictures\nPress F1 for Help");
+    if (facts.chapters == 0)
+        return QStringLiteral("Please Create the first Chapter of your Album");
+    return {};
+}
+
+} // namespace
+
+MainWindowState DescribeMainWindow(const AlbumFacts& facts)
+{
+    MainWindowState state;
+    state.caption = facts.isOpen ? QStringLiteral("Choose the chapter you want to read")
+                                 : QStringLiteral("First Open or Create an Album");
+    state.warning = WarningFor(facts);
+    state.offersAlbumCommands = facts.isOpen;
+    state.offersPictureCommands = facts.isOpen && facts.hasPictures;
+    const bool hasSelection = facts.selected >= 0 && facts.selected < facts.chapters;
+    state.offersChapterCommands = facts.isOpen && hasSelection;
+    state.canMoveUp = state.offersChapterCommands && facts.selected > 0;
+    state.canMoveDown = state.offersChapterCommands && facts.selected + 1 < facts.chapters;
+    return state;
+}

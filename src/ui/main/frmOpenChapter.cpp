@@ -1,0 +1,350 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main/frmOpenChapter.h"
+#include "ui_frmOpenChapter.h"
+
+#include "core/Album.h"
+#include "core/ChapterChain.h"
+#include "core/PathRoutines.h"
+#include "core/Settings.h"
+#include "core/StartUp.h"
+#include "core/ViewerFlags.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/dialogs/Guard.h"
+#include "platform/widgets/HelpWindow.h"
+#include "platform/widgets/ThemedIcon.h"
+#include "platform/widgets/WindowSize.h"
+#include "ui/main/MainWindowState.h"
+#include "viewer/frmReelvane.h"
+
+#include <QKeyEvent>
+#include <QShortcut>
+
+using namespace GeneralModule;
+
+namespace {
+
+constexpr QSize proposedSize(860, 600);
+const QString albumFilter = QStringLiteral("Album|*.alb");
+
+} // namespace
+
+frmOpenChapter::frmOpenChapter(const QString& album) : ui_(std::make_unique<Ui::frmOpenChapter>())
+{
+    ui_->setupUi(this);
+    KeepWindowSize(this, proposedSize);
+    ConnectControls();
+    DecorateWarning();
+    Form_Load(album);
+}
+
+frmOpenChapter::~frmOpenChapter() = default;
+
+void frmOpenChapter::ConnectControls()
+{
+    Connect(ui_->cmdOpenAlbum, ui_->mnuOpenScript, &frmOpenChapter::mnuOpenScript_Click,
+            "album-open");
+    Connect(ui_->cmdCreateAlbum, ui_->mnuCreateScript, &frmOpenChapter::mnuCreateScript_Click,
+            "album-create");
+    Connect(ui_->cmdExit, ui_->mnuExit, &frmOpenChapter::mnuExit_Click, "exit");
+    Connect(ui_->cmdReadChapter, ui_->mnuReadChapter, &frmOpenChapter::cmdReadChapter_Click,
+            "read-chapter");
+    Connect(ui_->cmdCreateChapter, ui_->mnuCreateChapter, &frmOpenChapter::cmdCreateChapter_Click,
+            "chapter-create");
+    Connect(nullptr, ui_->mnuRename, &frmOpenChapter::mnuRename_Click, "rename");
+    Connect(nullptr, ui_->mnuDeleteChapter, &frmOpenChapter::mnuDeleteChapter_Click, "delete");
+    Connect(ui_->cmdMoveUp, nullptr, &frmOpenChapter::cmdMoveUp_Click, "move-up");
+    Connect(ui_->cmdMoveDown, nullptr, &frmOpenChapter::cmdMoveDown_Click, "move-down");
+    Connect(ui_->cmdLoadPictures, ui_->mnuLoadPictures, nullptr, "load-pictures");
+    Connect(ui_->cmdDisplayUndefined, ui_->mnuUndefined, &frmOpenChapter::mnuUndefined_Click,
+            "index-pictures");
+    Connect(nullptr, ui_->mnuAllPictures, &frmOpenChapter::mnuAllPictures_Click, "");
+    Connect(nullptr, ui_->mnuRepair, nullptr, "repair");
+    Connect(nullptr, ui_->mnuPhotoAlbumHelp, &frmOpenChapter::mnuPhotoAlbumHelp_Click, "help");
+    Connect(nullptr, ui_->mnuAbout, nullptr, "about");
+    for (QAction* separator :
+         {ui_->mnuSep1, ui_->mnuSep2, ui_->mnuSep3, ui_->mnuSep4, ui_->mnuSep5})
+        separator->setSeparator(true);
+    // Nothing stands behind this menu yet.
+    ui_->mnuOptions->setEnabled(false);
+
+    connect(ui_->lstChapter, &QListWidget::currentRowChanged, this,
+            Guarded(this, &frmOpenChapter::RefreshState));
+    connect(ui_->lstChapter, &QListWidget::itemDoubleClicked, this,
+            Guarded(this, &frmOpenChapter::cmdReadChapter_Click));
+    ui_->lstChapter->installEventFilter(this);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
+            &frmOpenChapter::mnuExit_Click);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            &frmOpenChapter::mnuPhotoAlbumHelp_Click);
+}
+
+// Each button does what its menu entry does.
+void frmOpenChapter::Connect(QPushButton* button, QAction* entry, void (frmOpenChapter::*handler)(),
+                             const char* icon)
+{
+    const QIcon drawing = ThemedIcon(QString::fromLatin1(icon));
+    if (entry) {
+        entry->setIcon(drawing);
+        if (handler)
+            connect(entry, &QAction::triggered, this, Guarded(this, handler));
+    }
+    if (button) {
+        button->setIcon(drawing);
+        if (handler)
+            connect(button, &QPushButton::clicked, this, Guarded(this, handler));
+    }
+}
+
+void frmOpenChapter::DecorateWarning()
+{
+    QFont font = ui_->lblWarning->font();
+    font.setPointSizeF(font.pointSizeF() * 1.35);
+    ui_->lblWarning->setFont(font);
+    ui_->lblWarning->setAutoFillBackground(true);
+    ui_->lblWarning->setBackgroundRole(QPalette::ToolTipBase);
+    ui_->lblWarning->setForegroundRole(QPalette::ToolTipText);
+    QFont listFont = ui_->lstChapter->font();
+    listFont.setPointSizeF(listFont.pointSizeF() * 1.2);
+    ui_->lstChapter->setFont(listFont);
+}
+
+void frmOpenChapter::Form_Load(const QString& album)
+{
+    InitModule();
+    const QString path = album.isEmpty() ? GetLastAlbum() : album;
+    AlbumOpen = !path.isEmpty() && OpenAlbum(path);
+}
+
+void frmOpenChapter::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    RunGuarded([this] {
+        if (AlbumOpen)
+            FillChapterList();
+        RefreshState();
+    });
+}
+
+void frmOpenChapter::FillChapterList()
+{
+    const QSignalBlocker quiet(ui_->lstChapter);
+    ui_->lstChapter->clear();
+    ui_->lstChapter->addItems(ChapterNames());
+    SelectRow(0);
+}
+
+void frmOpenChapter::RefreshState()
+{
+    const MainWindowState state =
+        DescribeMainWindow({AlbumOpen, AlbumOpen && !ImageSet->IsEmpty(), ui_->lstChapter->count(),
+                            ui_->lstChapter->currentRow()});
+    setWindowTitle(state.caption);
+    ui_->lblWarning->setText(state.warning);
+    ui_->lblWarning->setVisible(!state.warning.isEmpty());
+
+    for (QPushButton* button : {ui_->cmdLoadPictures, ui_->cmdDisplayUndefined,
+                                ui_->cmdCreateChapter, ui_->cmdReadChapter})
+        button->setVisible(state.offersAlbumCommands);
+    ui_->cmdCreateChapter->setEnabled(state.offersAlbumCommands);
+    ui_->mnuCreateChapter->setEnabled(state.offersAlbumCommands);
+    ui_->cmdDisplayUndefined->setEnabled(state.offersPictureCommands);
+    ui_->mnuUndefined->setEnabled(state.offersPictureCommands);
+    ui_->mnuAllPictures->setEnabled(state.offersPictureCommands);
+    ui_->cmdReadChapter->setEnabled(state.offersChapterCommands);
+    for (QAction* entry : {ui_->mnuReadChapter, ui_->mnuRename, ui_->mnuDeleteChapter})
+        entry->setEnabled(state.offersChapterCommands);
+    ui_->cmdMoveUp->setEnabled(state.canMoveUp);
+    ui_->cmdMoveDown->setEnabled(state.canMoveDown);
+    // The windows behind these are still to come.
+    ui_->cmdLoadPictures->setEnabled(false);
+    for (QAction* entry : {ui_->mnuLoadPictures, ui_->mnuReloadPictures, ui_->mnuSelectedUndefined,
+                           ui_->mnuSelectedPictures, ui_->mnuRepair, ui_->mnuAbout})
+        entry->setEnabled(false);
+    if (ui_->lstChapter->isVisible())
+        ui_->lstChapter->setFocus();
+}
+
+bool frmOpenChapter::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            RunGuarded([this] { cmdReadChapter_Click(); });
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmOpenChapter::OpenChosen(const QString& path)
+{
+    AlbumOpen = OpenAlbum(path);
+    if (AlbumOpen)
+        FillChapterList();
+}
+
+void frmOpenChapter::mnuOpenScript_Click()
+{
+    const QString path = Dialogs::Door().AskOpenFile(
+        {QStringLiteral("Open Album"), albumFilter, FolderOf(GetLastAlbum())});
+    if (!path.isEmpty()) {
+        ui_->lstChapter->clear();
+        OpenChosen(path);
+    }
+    RefreshState();
+}
+
+void frmOpenChapter::mnuCreateScript_Click()
+{
+    const QString path = Dialogs::Door().AskSaveFile(
+        {QStringLiteral("Create a new Album"), albumFilter, FolderOf(GetLastAlbum())});
+    if (!path.isEmpty() && CreateAlbumFile(path)) {
+        ui_->lstChapter->clear();
+        OpenChosen(path);
+    }
+    RefreshState();
+}
+
+void frmOpenChapter::mnuExit_Click()
+{
+    close();
+}
+
+QString frmOpenChapter::SelectedChapter() const
+{
+    const QListWidgetItem* item = ui_->lstChapter->currentItem();
+    return item ? item->text() : QString();
+}
+
+void frmOpenChapter::SelectRow(int row)
+{
+    if (ui_->lstChapter->count() > 0)
+        ui_->lstChapter->setCurrentRow(row);
+}
+
+void frmOpenChapter::cmdReadChapter_Click()
+{
+    const std::optional<qint32> chapter = FindChapter(SelectedChapter());
+    if (!AlbumOpen || !chapter)
+        return;
+    AutoviewOn = false;
+    frmReelvane viewer(this);
+    viewer.CurrentChapter = *chapter;
+    viewer.exec();
+    RefreshState();
+}
+
+bool frmOpenChapter::IsListed(const QString& name) const
+{
+    return !ui_->lstChapter->findItems(name, Qt::MatchFixedString).isEmpty();
+}
+
+QString frmOpenChapter::AskChapterName(const QString& prompt, const QString& ownName)
+{
+    while (true) {
+        const QString name = Dialogs::Door().AskText({.prompt = prompt, .proposal = ownName});
+        if (name.isEmpty())
+            return {};
+        const bool isOwn = name.compare(ownName, Qt::CaseInsensitive) == 0;
+        if (!IsChapterName(name))
+            Tell(QStringLiteral("Chapter Names must begin with a letter or a figure"),
+                 Dialogs::Icon::Warning);
+        else if (IsListed(name) && !isOwn)
+            Tell(QStringLiteral("This chapter exists already"), Dialogs::Icon::Warning);
+        else
+            return name;
+    }
+}
+
+void frmOpenChapter::cmdCreateChapter_Click()
+{
+    if (!AlbumOpen)
+        return;
+    const QString name = AskChapterName(QStringLiteral("Please Enter Chapter Name"), {});
+    if (name.isEmpty())
+        return;
+    CreateChapter(name, SelectedChapter());
+    const int row = ui_->lstChapter->currentRow() + 1;
+    ui_->lstChapter->insertItem(row, name);
+    SelectRow(row);
+    RefreshState();
+    cmdReadChapter_Click();
+}
+
+void frmOpenChapter::mnuRename_Click()
+{
+    const QString name = SelectedChapter();
+    if (name.isEmpty())
+        return;
+    const QString newName = AskChapterName(
+        QStringLiteral("Enter new name for chapter '") + name + QLatin1Char('\''), name);
+    if (newName.isEmpty())
+        return;
+    RenameChapter(name, newName);
+    ui_->lstChapter->currentItem()->setText(newName);
+    RefreshState();
+}
+
+void frmOpenChapter::mnuDeleteChapter_Click()
+{
+    const QString name = SelectedChapter();
+    if (name.isEmpty())
+        return;
+    switch (DeleteChapter(name)) {
+    case ChapterDeletion::HasParagraphs:
+        Tell(QStringLiteral("This chapter contains paragraphs and can't be deleted"),
+             Dialogs::Icon::Critical);
+        break;
+    case ChapterDeletion::Deleted:
+        delete ui_->lstChapter->takeItem(ui_->lstChapter->currentRow());
+        break;
+    case ChapterDeletion::NotFound:
+        break;
+    }
+    RefreshState();
+}
+
+void frmOpenChapter::cmdMoveUp_Click()
+{
+    const int row = ui_->lstChapter->currentRow();
+    if (row < 0 || !MoveChapterUp(SelectedChapter()))
+        return;
+    FillChapterList();
+    SelectRow(row - 1);
+    RefreshState();
+}
+
+void frmOpenChapter::cmdMoveDown_Click()
+{
+    const int row = ui_->lstChapter->currentRow();
+    if (row < 0 || !MoveChapterDown(SelectedChapter()))
+        return;
+    FillChapterList();
+    SelectRow(row + 1);
+    RefreshState();
+}
+
+void frmOpenChapter::ShowPictures(const QString& imageSelection)
+{
+    AutoviewOn = false;
+    PictureAtRandom = true;
+    frmReelvane viewer(this);
+    viewer.ImageSelection = imageSelection;
+    viewer.exec();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuUndefined_Click()
+{
+    ShowPictures(QStringLiteral("-"));
+}
+
+void frmOpenChapter::mnuAllPictures_Click()
+{
+    ShowPictures(QStringLiteral("*"));
+}
+
+void frmOpenChapter::mnuPhotoAlbumHelp_Click()
+{
+    HelpWindow(HelpFile(), this).exec();
+}

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMainWindow>
+
+#include <memory>
+
+class QAction;
+class QPushButton;
+
+namespace Ui {
+class frmOpenChapter;
+}
+
+// The main window: opens or makes an album, lists its chapters in reading order, and is the hub
+// from which every other window is opened.
+class frmOpenChapter : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    // Opens the given album, or the one opened last when album is empty.
+    explicit frmOpenChapter(const QString& album = {});
+    ~frmOpenChapter() override;
+
+    bool AlbumOpen = false;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Form_Load(const QString& album);
+    void FillChapterList();
+    void RefreshState();
+
+    void mnuOpenScript_Click();
+    void mnuCreateScript_Click();
+    void mnuExit_Click();
+    void cmdReadChapter_Click();
+    void cmdCreateChapter_Click();
+    void mnuRename_Click();
+    void mnuDeleteChapter_Click();
+    void cmdMoveUp_Click();
+    void cmdMoveDown_Click();
+    void mnuUndefined_Click();
+    void mnuAllPictures_Click();
+    void mnuPhotoAlbumHelp_Click();
+
+    void ConnectControls();
+    void Connect(QPushButton* button, QAction* entry, void (frmOpenChapter::*handler)(),
+                 const char* icon);
+    void DecorateWarning();
+    void OpenChosen(const QString& path);
+    void ShowPictures(const QString& imageSelection);
+    QString SelectedChapter() const;
+    // Asks until the answer is a name that a chapter may get; empty when the user gave up. ownName
+    // does not count as taken.
+    QString AskChapterName(const QString& prompt, const QString& ownName);
+    bool IsListed(const QString& name) const;
+    void SelectRow(int row);
+
+    std::unique_ptr<Ui::frmOpenChapter> ui_;
+};

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/PictureList.h"
+#include "viewer/LineLayout.h"
+
+#include <QImage>
+#include <QRect>
+#include <QSize>
+#include <QString>
+
+#include <vector>
+
+// The screen that pictures are laid out for.
+struct ScreenShape
+{
+    QSize area;               // logical pixels of the drawing area, 100 by 100 display units
+    qreal pixelRatio = 1;     // device pixels to a logical one
+    float maxTotalHeight = 0; // display units that pictures may take, from the top
+    int lines = 1;            // 0 to 4
+};
+
+struct ShownPicture
+{
+    QString file; // as the album knows it
+    QString path; // where it is read from
+    QRect place;  // logical pixels
+};
+
+// Most pictures that a screen holds.
+constexpr int mostPictures = 21;
+
+// Takes pictures from the list, as many as find room, and returns where they stand, line by line
+// centred. Only reads the files' headers. Pictures whose file is gone are dropped from the list;
+// one that cannot be read keeps its place on the screen.
+std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape);
+
+// The place of one picture that has the whole band to itself.
+QRect PlaceOfSinglePicture(const QString& path, const ScreenShape& shape);
+
+// The pictures decoded at their size on the screen, in the same order; null for an unreadable one.
+std::vector<QImage> DecodePictures(const std::vector<ShownPicture>& pictures, qreal pixelRatio);
