@@ -1,11 +1,11 @@
 # lumenark_test(NAME name SOURCES ... LINKS ...)
-# One program per unit, run by CTest without a display, under a time limit.
+# One program per unit, run by CTest without a display, under a time limit. It lies in the program's
+# folder, where the album template is.
 function(lumenark_test)
   cmake_parse_arguments(ARG "" "NAME" "SOURCES;LINKS" ${ARGN})
   add_executable(${ARG_NAME} ${ARG_SOURCES})
   target_link_libraries(${ARG_NAME} PRIVATE lumenark_flags Qt6::Test ${ARG_LINKS})
-  set_target_properties(${ARG_NAME} PROPERTIES
-    RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  add_dependencies(${ARG_NAME} album_template)
   add_test(NAME ${ARG_NAME} COMMAND ${ARG_NAME})
   set_tests_properties(${ARG_NAME} PROPERTIES
     TIMEOUT 300

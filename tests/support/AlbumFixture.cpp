@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "support/AlbumFixture.h"
+
+#include "core/Album.h"
+#include "core/StartUp.h"
+#include "core/ViewerFlags.h"
+#include "platform/shell/ProgramFolder.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <QImage>
+#include <QSettings>
+#include <QtTest>
+
+#include <initializer_list>
+
+using namespace GeneralModule;
+
+AlbumFixture::AlbumFixture() : album_(folder_.filePath(QStringLiteral("story.alb")))
+{
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, PathOf("settings"));
+    SeedRandom(1);
+    AutoviewOn = false;
+    PictureAtRandom = false;
+    if (!CreateAlbumFile(album_) || !OpenAlbum(album_))
+        qFatal("the test's album cannot be made");
+}
+
+AlbumFixture::~AlbumFixture()
+{
+    ReleaseAlbum();
+}
+
+QString AlbumFixture::AddPicture(const QString& name, const QMap<QString, QString>& values,
+                                 QSize size, const QColor& color)
+{
+    const QString path = PathOf(name);
+    PaintPicture(path, size, color);
+    AddImageRow(path, values);
+    return path;
+}
+
+void AlbumFixture::AddImageRow(const QString& path, const QMap<QString, QString>& values)
+{
+    ImageSet->AddNew();
+    ImageSet->Set(u"File", path);
+    ImageSet->Set(u"Legend", QString());
+    for (int column = 0; column < 12; ++column)
+        ImageSet->Set(QStringLiteral("Car%1").arg(column), QStringLiteral("-"));
+    for (auto value = values.begin(); value != values.end(); ++value)
+        ImageSet->Set(value.key(), value.value());
+    ImageSet->Update();
+}
+
+qint32 AlbumFixture::AddChapter(const QString& name)
+{
+    const QStringList last = Rows("SELECT Id FROM Chapter WHERE NextChapter=0");
+    ChapterSet->AddNew();
+    const qint32 id = ChapterSet->Number(u"Id");
+    ChapterSet->Set(u"Name", name);
+    ChapterSet->Set(u"PreviousChapter", last.isEmpty() ? 0 : last.first().toInt());
+    ChapterSet->Update();
+    if (!last.isEmpty())
+        Execute(QStringLiteral("UPDATE Chapter SET NextChapter=%1 WHERE Id=%2")
+                    .arg(id)
+                    .arg(last.first()));
+    return id;
+}
+
+qint32 AlbumFixture::AddParagraph(qint32 chapter, const QString& text,
+                                  const QMap<QString, QString>& fields)
+{
+    const QStringList last =
+        Rows(QStringLiteral("SELECT Id FROM Paragraph WHERE NextParagraph=0 AND Chapter=%1")
+                 .arg(chapter));
+    ParagraphSet->AddNew();
+    const qint32 id = ParagraphSet->Number(u"Id");
+    ParagraphSet->Set(u"Chapter", chapter);
+    ParagraphSet->Set(u"Text", text);
+    ParagraphSet->Set(u"FileSelection", QString());
+    ParagraphSet->Set(u"PreviousParagraph", last.isEmpty() ? 0 : last.first().toInt());
+    for (int column = 0; column < 12; ++column)
+        ParagraphSet->Set(QStringLiteral("Car%1").arg(column), QStringLiteral("*"));
+    for (auto field = fields.begin(); field != fields.end(); ++field)
+        ParagraphSet->Set(field.key(), field.value());
+    ParagraphSet->Update();
+    const QString link = last.isEmpty() ? "UPDATE Chapter SET FirstParagraph=%1 WHERE Id=%2"
+                                        : "UPDATE Paragraph SET NextParagraph=%1 WHERE Id=%2";
+    Execute(link.arg(id).arg(last.isEmpty() ? QString::number(chapter) : last.first()));
+    return id;
+}
+
+void AlbumFixture::Link(qint32 paragraph, const QString& file)
+{
+    LinkedImagesSet->AddNew();
+    LinkedImagesSet->Set(u"ParagraphId", paragraph);
+    LinkedImagesSet->Set(u"File", file);
+    LinkedImagesSet->Update();
+}
+
+QStringList AlbumFixture::Rows(const QString& sql) const
+{
+    sqlite3* engine = nullptr;
+    QStringList rows;
+    const auto addRow = [](void* target, int count, char** values, char**) {
+        QStringList row;
+        for (int i = 0; i < count; ++i)
+            row += values[i] ? QString::fromUtf8(values[i]) : QStringLiteral("NULL");
+        static_cast<QStringList*>(target)->append(row.join(u'|'));
+        return 0;
+    };
+    char* message = nullptr;
+    sqlite3_open_v2(QFile::encodeName(album_), &engine, SQLITE_OPEN_READWRITE, nullptr);
+    sqlite3_busy_timeout(engine, 2000);
+    if (sqlite3_exec(engine, sql.toUtf8(), addRow, &rows, &message) != SQLITE_OK)
+        QTest::qFail(message, __FILE__, __LINE__);
+    sqlite3_free(message);
+    sqlite3_close(engine);
+    return rows;
+}
+
+void AlbumFixture::Execute(const QString& sql) const
+{
+    Rows(sql);
+}
+
+void PaintPicture(const QString& path, QSize size, const QColor& color)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    if (!image.save(path))
+        QTest::qFail(qPrintable("cannot write " + path), __FILE__, __LINE__);
+}

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QMap>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <vector>
+
+// A fresh world for one test: a folder that goes with it, settings of its own, a fixed random seed,
+// and a new album that is open. Everything is released at the end.
+class AlbumFixture
+{
+public:
+    AlbumFixture();
+    ~AlbumFixture();
+
+    QString PathOf(const QString& name) const { return folder_.filePath(name); }
+    const QString& GetAlbum() const { return album_; }
+
+    // Writes a one-coloured picture and adds it to the album; values are fields other than File,
+    // Legend among them; characteristics not named are "-". Returns its path.
+    QString AddPicture(const QString& name, const QMap<QString, QString>& values = {},
+                       QSize size = {60, 40}, const QColor& color = Qt::darkCyan);
+    // The same for a path that no file needs to be at.
+    void AddImageRow(const QString& path, const QMap<QString, QString>& values = {});
+
+    // A chapter at the end of the story; returns its identifier.
+    qint32 AddChapter(const QString& name);
+    // A paragraph at the end of a chapter, linked both ways; fields other than Text may be given,
+    // characteristics not named are "*". Returns its identifier.
+    qint32 AddParagraph(qint32 chapter, const QString& text,
+                        const QMap<QString, QString>& fields = {});
+    void Link(qint32 paragraph, const QString& file);
+
+    // What a query returns through a connection of its own, each row as its values joined by "|",
+    // Null written as NULL.
+    QStringList Rows(const QString& sql) const;
+    void Execute(const QString& sql) const;
+
+private:
+    QTemporaryDir folder_;
+    QString album_;
+};
+
+// Writes a one-coloured picture file; the kind follows from the name.
+void PaintPicture(const QString& path, QSize size, const QColor& color);

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "support/ModalDriver.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+#include <QtTest>
+
+namespace {
+
+constexpr int patience = 20000; // milliseconds until a window that does not come fails the test
+
+bool IsMeant(const QWidget* window, const QString& name)
+{
+    return window && (window->objectName() == name || window->inherits(qPrintable(name)));
+}
+
+void Poll(const QString& name, const std::function<void(QWidget&)>& action, bool closesItself,
+          QDeadlineTimer deadline)
+{
+    QPointer<QWidget> window = QApplication::activeModalWidget();
+    if (!IsMeant(window, name)) {
+        if (deadline.hasExpired()) {
+            QTest::qFail(qPrintable("window never came: " + name), __FILE__, __LINE__);
+            if (window)
+                window->close();
+            return;
+        }
+        QTimer::singleShot(5, qApp, [=] { Poll(name, action, closesItself, deadline); });
+        return;
+    }
+    action(*window);
+    if (window && window->isVisible() && QApplication::activeModalWidget() == window) {
+        if (closesItself)
+            QTest::qFail(qPrintable("window stayed open: " + name), __FILE__, __LINE__);
+        window->close();
+    }
+}
+
+} // namespace
+
+void WhenModal(const QString& name, const std::function<void(QWidget&)>& action, bool closesItself)
+{
+    QTimer::singleShot(0, qApp,
+                       [=] { Poll(name, action, closesItself, QDeadlineTimer(patience)); });
+}
