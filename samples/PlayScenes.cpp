@@ -65,8 +65,6 @@ void PicnicScene(Canvas& canvas)
         PaintPerson(canvas, canvas.people.front(), cloth + QPointF(-190, 0), 300, false);
         PaintPerson(canvas, canvas.people.back(), cloth + QPointF(210, -6), 290, true);
     }
-    PaintKite(canvas, {canvas.width * 0.2, canvas.height * 0.2},
-              {canvas.width * 0.06, near.At(0) + 10}, 70);
     PaintWeather(canvas, horizon);
 }
 

@@ -3,6 +3,8 @@
 
 #include "Canvas.h"
 
+#include <array>
+
 enum class Roof { Gable, Steps, Eaves };
 
 struct House
