@@ -24,9 +24,9 @@ void PaintBackdrop(Canvas& canvas, double horizon, double light)
     } else if (mood.Storm()) {
         PaintStormClouds(canvas, horizon * 0.72);
     } else {
-        canvas.Glow({x, horizon * 0.12}, horizon * 0.9, mood.sun, 0.5);
+        canvas.Glow({x, horizon * 0.12}, horizon * 0.9, mood.sun, 0.3);
         PaintClouds(canvas, 2 + 2 * wide, horizon * 0.3, horizon * 0.86, 340);
-        PaintBirds(canvas, 5, {canvas.width * (1 - light), horizon * 0.4}, 90);
+        PaintBirds(canvas, 5, {canvas.width * (light < 0.5 ? 0.88 : 0.14), horizon * 0.26}, 80);
     }
 }
 

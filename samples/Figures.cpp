@@ -174,7 +174,8 @@ void Head(Canvas& canvas, const Body& body, const Pose& pose, const Looks& looks
     const QColor skin = mood.Lit(QColor(0xeec2a2));
     canvas.Line(body.At(pose.neck), head, skin, 0.05 * unit);
     if (looks.skirt) {
-        canvas.Ellipse(head + QPointF(0, radius * 0.35), radius * 1.15, radius * 1.25,
+        const double back = body.At({0, 0}).x() < body.At({1, 0}).x() ? -radius : radius;
+        canvas.Ellipse(head + QPointF(back * 0.42, radius * 0.2), radius * 0.95, radius * 1.15,
                        mood.Lit(looks.hair));
     }
     canvas.Ellipse(head, radius, radius * 1.06, skin);

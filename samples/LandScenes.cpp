@@ -101,7 +101,10 @@ void OrchardScene(Canvas& canvas)
             }
         }
     }
-    PaintPeople(canvas, {middle + canvas.width * 0.02, canvas.height * 0.84}, 210);
+    const bool picking = mood.Autumn();
+    PaintPeople(canvas,
+                {canvas.width * (picking ? 0.27 : 0.52), canvas.height * (picking ? 0.81 : 0.84)},
+                210);
     for (int petal = 0; petal < 160; ++petal) {
         const QColor color = mood.Spring() ? QColor(0xfbe1e6) : QColor(0xc9582f);
         canvas.Ellipse({canvas.random.Between(0, canvas.width),

@@ -59,10 +59,10 @@ void LowSun(Mood& mood)
 {
     const bool dusk = mood.Dusk();
     mood.sun = QColor(dusk ? 0xffc27a : 0xfff0c4);
-    mood.tint = QColor(dusk ? 0x4a2f5c : 0xf2a78f);
+    mood.tint = QColor(dusk ? 0x4a3a60 : 0xf2a78f);
     mood.tintAmount = dusk ? 0.46 : 0.22;
-    mood.skyTop = QColor(dusk ? 0x34386b : 0x6f8fbb);
-    mood.skyMiddle = QColor(dusk ? 0xb3597f : 0xe9b4a6);
+    mood.skyTop = QColor(dusk ? 0x3a4473 : 0x6f8fbb);
+    mood.skyMiddle = QColor(dusk ? 0xb86c80 : 0xe9b4a6);
     mood.skyLow = QColor(dusk ? 0xffb870 : 0xffe3ae);
     mood.haze = QColor(dusk ? 0xd98a80 : 0xf3cdb4);
     mood.water = QColor(dusk ? 0x4a3f70 : 0x8a8fae);

@@ -146,12 +146,16 @@ void PaintStormClouds(Canvas& canvas, double lowest)
         const QColor dark = Mix(QColor(0x2e3644), canvas.mood.skyMiddle, row / 8.0);
         for (double x = -100; x < canvas.width + 100; x += random.Between(70, 150)) {
             const double radius = random.Between(90, 190) * (1.1 - row * 0.1);
-            QRadialGradient puff(QPointF(x, y - radius * 0.2), radius);
+            QRadialGradient puff(QPointF(0, 0), radius);
             const QColor tone = Mix(dark, QColor(0x8d98a3), random.Between(0, 0.45));
             puff.setColorAt(0, Faded(tone, 0.75));
             puff.setColorAt(0.7, Faded(tone, 0.4));
             puff.setColorAt(1, Faded(dark, 0));
-            canvas.Ellipse({x, y}, radius * 1.5, radius * 0.6, puff);
+            canvas.painter.save();
+            canvas.painter.translate(x, y);
+            canvas.painter.scale(1.5, 0.62);
+            canvas.Ellipse({0, 0}, radius, radius, puff);
+            canvas.painter.restore();
         }
     }
 }

@@ -20,7 +20,7 @@ const std::array<QColor, 5> tiles = {QColor(0xb5624a), QColor(0x9a5148), QColor(
 // A row of houses drawn flat and then leaned into the depth of a lane.
 void LaneSide(Canvas& canvas, bool left, QPointF far, double eye)
 {
-    const double length = 2300;
+    const double length = 1350;
     const double tall = 560;
     const double edge = left ? -canvas.width * 0.12 : canvas.width * 1.12;
     const double street = canvas.height * 1.02;
@@ -28,7 +28,7 @@ void LaneSide(Canvas& canvas, bool left, QPointF far, double eye)
     flat << QPointF(0, -tall) << QPointF(length, -tall) << QPointF(length, 0) << QPointF(0, 0);
     const double farTall = (far.y() - eye) * 4.4;
     QPolygonF deep;
-    deep << QPointF(edge, street - tall * 2.35) << QPointF(far.x(), far.y() - farTall)
+    deep << QPointF(edge, street - tall * 2.05) << QPointF(far.x(), far.y() - farTall)
          << QPointF(far.x(), far.y()) << QPointF(edge, street);
     QTransform lean;
     if (!QTransform::quadToQuad(flat, deep, lean)) {

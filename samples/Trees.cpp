@@ -50,7 +50,7 @@ void Leaves(Canvas& canvas, QPointF center, double height, const Tones& tones)
     const int dabs = static_cast<int>(std::min(1500.0, height * 2.2));
     const double size = std::max(2.2, height * 0.012);
     for (int i = 0; i < dabs; ++i) {
-        const QPointF at = InCrown(random, height * 0.37, height * 0.34);
+        const QPointF at = InCrown(random, height * 0.43, height * 0.36);
         // The light comes from the upper left.
         const double light = -(at.x() + at.y() * 1.6) / height + random.Between(-0.35, 0.35);
         const QColor tone = light > 0.15 ? tones.light : light > -0.2 ? tones.middle : tones.dark;
@@ -85,20 +85,24 @@ void PaintLeafTree(Canvas& canvas, QPointF foot, double height, const QColor& le
     Random& random = canvas.random;
     const Tones tones = TonesOf(canvas.mood, leaf, distance);
     const QColor bark = Bark(canvas.mood, distance);
-    Trunk(canvas, foot, height * 0.55, std::max(2.5, height * 0.055), bark);
-    const QPointF center = foot + QPointF(0, -height * 0.64);
+    Trunk(canvas, foot, height * 0.55, std::max(2.5, height * 0.07), bark);
+    const QPointF center = foot + QPointF(0, -height * 0.62);
     if (height > 120) {
-        canvas.Line(foot + QPointF(0, -height * 0.3), center + QPointF(-height * 0.2, 0), bark,
-                    height * 0.02);
-        canvas.Line(foot + QPointF(0, -height * 0.36), center + QPointF(height * 0.2, 0), bark,
-                    height * 0.02);
+        canvas.Line(foot + QPointF(0, -height * 0.2), center + QPointF(-height * 0.2, 0), bark,
+                    height * 0.026);
+        canvas.Line(foot + QPointF(0, -height * 0.25), center + QPointF(height * 0.2, 0), bark,
+                    height * 0.024);
     }
     std::vector<QPointF> blobs;
-    const int count = height > 60 ? 18 : 7;
+    const int count = height > 60 ? 24 : 8;
     for (int i = 0; i < count; ++i) {
-        blobs.push_back(center + InCrown(random, height * 0.3, height * 0.26));
+        // Spread evenly by the golden angle, so that the crown has no holes.
+        const double turn = i * 2.39996;
+        const double out = std::sqrt((i + 0.5) / count) * random.Between(0.88, 1.08);
+        blobs.push_back(
+            center + QPointF(std::cos(turn) * height * 0.31, std::sin(turn) * height * 0.24) * out);
     }
-    const double radius = height * (count == 18 ? 0.13 : 0.16);
+    const double radius = height * (count == 24 ? 0.13 : 0.16);
     for (const QPointF& blob : blobs) {
         canvas.Ellipse(blob + QPointF(0.02, 0.03) * height, radius, radius * 0.92, tones.dark);
     }

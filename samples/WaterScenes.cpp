@@ -43,27 +43,38 @@ Ridge Cliff(Canvas& canvas, double left, double top, double line)
     Random& random = canvas.random;
     const Ridge crest(random, top, 10, 700);
     QPolygonF rock;
-    rock << QPointF(left - 70, line + 40);
+    QPolygonF foot;
+    // Ledges: down, then a little to the right, as far as the lower edge.
+    const double deep = canvas.height + 30 - line;
+    for (int i = 8; i >= 0; --i) {
+        const double x = left - 60 + (canvas.width - left) * 0.42 * (i / 8.0) * (i / 8.0);
+        foot << QPointF(x + random.Between(-26, 14), line + deep * i / 8.0);
+        foot << QPointF(x - 20 + random.Between(-14, 14), line + deep * (i - 0.45) / 8.0);
+    }
+    rock << foot;
     for (int i = 1; i < 8; ++i) {
-        rock << QPointF(left - 70 + i * 9 + random.Between(-9, 9), line + (top - line) * i / 8.0);
+        rock << QPointF(left - 70 + i * 9 + random.Between(-11, 11), line + (top - line) * i / 8.0);
     }
     for (double x = left; x < canvas.width + 20; x += 12) {
         rock << QPointF(x, crest.At(x));
     }
-    rock << QPointF(canvas.width + 20, canvas.height + 20)
-         << QPointF(left + 260, canvas.height + 20)
-         << QPointF(left + 60, line + (canvas.height - line) * 0.45);
+    rock << QPointF(canvas.width + 20, canvas.height + 30);
     const QColor stone = mood.Lit(mood.Winter() ? QColor(0x8d8f9c) : QColor(0xa58d76));
     canvas.Fill(rock, Fade(top, canvas.height, Lighter(stone, 0.15), Darker(stone, 0.35)));
     QPainterPath area;
     area.addPolygon(rock);
     canvas.painter.save();
     canvas.painter.setClipPath(area);
-    for (int i = 0; i < 130; ++i) {
+    for (int i = 0; i < 90; ++i) {
         const QPointF at(random.Between(left - 80, canvas.width),
                          random.Between(top, canvas.height));
-        canvas.Line(at, at + QPointF(random.Between(-12, 12), random.Between(20, 70)),
-                    Faded(random.Chance(0.5) ? Lighter(stone, 0.3) : Darker(stone, 0.5), 0.22), 4);
+        const double size = random.Between(30, 110);
+        QPolygonF facet;
+        facet << at
+              << at + QPointF(size * random.Between(0.3, 0.6), random.Between(-0.1, 0.3) * size)
+              << at + QPointF(size * random.Between(0.1, 0.4), size * random.Between(0.7, 1.3));
+        canvas.Fill(facet,
+                    Faded(random.Chance(0.45) ? Lighter(stone, 0.35) : Darker(stone, 0.45), 0.2));
     }
     QPainterPath turf(QPointF(left - 30, top - 30));
     turf.lineTo(canvas.width + 20, top - 40);
@@ -71,6 +82,13 @@ Ridge Cliff(Canvas& canvas, double left, double top, double line)
     turf.quadTo(left + (canvas.width - left) * 0.5, top + 60, left - 30, top + 22);
     canvas.Fill(turf, Fade(top - 10, top + 160, mood.Lit(mood.ground), mood.Lit(mood.groundDark)));
     canvas.painter.restore();
+    for (const QPointF& at : foot) {
+        for (int i = 0; i < 5; ++i) {
+            canvas.Ellipse(at + QPointF(random.Between(-34, 6), random.Between(-14, 14)),
+                           random.Between(9, 30), random.Between(3, 7),
+                           Faded(mood.Lit(QColor(0xffffff)), 0.4));
+        }
+    }
     return crest;
 }
 

@@ -37,9 +37,24 @@ void Stems(Canvas& canvas, int layer, double ground)
              << QPointF(x + width * 0.7, ground);
         canvas.Fill(
             stem, Across(x - width * 0.5, x + width * 0.5, Lighter(bark, 0.16), Darker(bark, 0.2)));
-        if (mood.Winter() && layer > 1) {
-            canvas.Line({x - width * 0.42, ground - 6}, {x - width * 0.3 + lean, 0},
-                        Faded(QColor(0xffffff), 0.5), width * 0.12);
+        if (layer > 2) {
+            PaintBush(canvas, {x - width * 0.6, ground + 12}, width * 1.3, 0.05);
+            PaintBush(canvas, {x + width * 0.7, ground + 14}, width, 0.05);
+        }
+    }
+}
+
+// Conifers under snow that leave the middle open.
+void SnowyRow(Canvas& canvas, int layer, double ground)
+{
+    const double near = layer / 4.0;
+    const double gap = 60 + 90 * near;
+    for (double x = -gap; x < canvas.width + gap; x += gap * canvas.random.Between(0.5, 1.2)) {
+        const double middle = std::abs(x / canvas.width - 0.5);
+        if (middle > 0.02 + 0.115 * layer) {
+            const double height = canvas.height * (0.34 + 0.16 * near + 0.55 * middle) *
+                                  canvas.random.Between(0.7, 1.05);
+            PaintConifer(canvas, {x, ground}, height, 0.74 - 0.7 * near);
         }
     }
 }
@@ -76,8 +91,12 @@ void ForestScene(Canvas& canvas)
                             Fade(0, ground, Mix(mood.skyMiddle, glow, 0.35), glow));
     canvas.Glow({canvas.width * 0.5, canvas.height * 0.42}, 620, mood.sun, 0.8);
     for (int layer = 0; layer < 3; ++layer) {
-        Stems(canvas, layer, ground + layer * 14);
-        Canopy(canvas, layer);
+        if (mood.Winter()) {
+            SnowyRow(canvas, layer, ground + layer * 14);
+        } else {
+            Stems(canvas, layer, ground + layer * 14);
+            Canopy(canvas, layer);
+        }
     }
     const Ridge floor(canvas.random, ground, 9, 700);
     PaintGround(canvas, floor);
@@ -95,9 +114,19 @@ void ForestScene(Canvas& canvas)
         canvas.Ellipse(at, 3 + 8 * deep, 1.6 + 4 * deep, Faded(mood.Lit(leaf), 0.6));
     }
     PaintPeople(canvas, {canvas.width * 0.53, canvas.height * 0.8}, 170);
-    Stems(canvas, 3, canvas.height * 0.82);
-    Stems(canvas, 4, canvas.height * 0.98);
-    Canopy(canvas, 4);
+    if (mood.Winter()) {
+        SnowyRow(canvas, 3, canvas.height * 0.82);
+        SnowyRow(canvas, 4, canvas.height * 1.01);
+    } else {
+        for (double x = -30; x < canvas.width + 30; x += canvas.random.Between(50, 110)) {
+            if (std::abs(x / canvas.width - 0.5) > 0.08) {
+                PaintBush(canvas, {x, floor.At(x) + 22}, canvas.random.Between(50, 100), 0.3);
+            }
+        }
+        Stems(canvas, 3, canvas.height * 0.82);
+        Stems(canvas, 4, canvas.height * 0.98);
+        Canopy(canvas, 4);
+    }
     for (int beam = 0; beam < 5; ++beam) {
         const double x = canvas.width * (0.3 + 0.11 * beam);
         QPolygonF light;
