@@ -16,7 +16,7 @@ struct Tones
 
 Tones TonesOf(const Mood& mood, const QColor& leaf, double distance)
 {
-    return {mood.Far(Darker(leaf, 0.34), distance), mood.Far(leaf, distance),
+    return {mood.Far(Darker(leaf, 0.25), distance), mood.Far(leaf, distance),
             mood.Far(Lighter(leaf, 0.28), distance)};
 }
 
@@ -104,7 +104,7 @@ void PaintLeafTree(Canvas& canvas, QPointF foot, double height, const QColor& le
     }
     const double radius = height * (count == 24 ? 0.13 : 0.16);
     for (const QPointF& blob : blobs) {
-        canvas.Ellipse(blob + QPointF(0.02, 0.03) * height, radius, radius * 0.92, tones.dark);
+        canvas.Ellipse(blob + QPointF(0.008, 0.02) * height, radius, radius * 0.92, tones.dark);
     }
     for (const QPointF& blob : blobs) {
         canvas.Ellipse(blob - QPointF(0.012, 0.015) * height, radius * 0.86, radius * 0.78,

@@ -74,7 +74,7 @@ Ridge Cliff(Canvas& canvas, double left, double top, double line)
               << at + QPointF(size * random.Between(0.3, 0.6), random.Between(-0.1, 0.3) * size)
               << at + QPointF(size * random.Between(0.1, 0.4), size * random.Between(0.7, 1.3));
         canvas.Fill(facet,
-                    Faded(random.Chance(0.45) ? Lighter(stone, 0.35) : Darker(stone, 0.45), 0.2));
+                    Faded(random.Chance(0.45) ? Lighter(stone, 0.35) : Darker(stone, 0.45), 0.13));
     }
     QPainterPath turf(QPointF(left - 30, top - 30));
     turf.lineTo(canvas.width + 20, top - 40);

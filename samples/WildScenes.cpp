@@ -127,7 +127,7 @@ void ForestScene(Canvas& canvas)
         Stems(canvas, 4, canvas.height * 0.98);
         Canopy(canvas, 4);
     }
-    for (int beam = 0; beam < 5; ++beam) {
+    for (int beam = 0; beam < 5 && !mood.Winter(); ++beam) {
         const double x = canvas.width * (0.3 + 0.11 * beam);
         QPolygonF light;
         light << QPointF(x + 60, -10) << QPointF(x + 110, -10) << QPointF(x - 120, ground + 130)
