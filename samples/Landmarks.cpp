@@ -274,7 +274,7 @@ void PaintCobbles(Canvas& canvas, double top)
                             Fade(top, canvas.height, Lighter(stone, 0.12), Darker(stone, 0.18)));
     double y = top + 5;
     for (int row = 0; y < canvas.height; ++row) {
-        const double size = 9 + (y - top) * 0.11;
+        const double size = 9 + (y - top) * 0.07;
         for (double x = (row % 2 == 0 ? 0 : -size); x < canvas.width + size; x += size * 2.1) {
             const QColor tone = random.Chance(0.5) ? Lighter(stone, 0.35) : Darker(stone, 0.3);
             canvas.Ellipse({x + random.Between(-2, 2), y}, size * 0.9, size * 0.34,
