@@ -96,7 +96,7 @@ QByteArray Indexes(const QImage& image, const QList<QRgb>& palette)
 {
     QHash<QRgb, char> known;
     QByteArray indexes;
-    indexes.reserve(image.width() * image.height());
+    indexes.reserve(static_cast<qsizetype>(image.width()) * image.height());
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             const QRgb color = image.pixel(x, y);

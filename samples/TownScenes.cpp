@@ -76,7 +76,7 @@ void StreetScene(Canvas& canvas)
         PaintTree(canvas, {x + 190, ground + 26}, 250, 0.02);
         PaintStreetLamp(canvas, {x, ground + 40}, 270);
     }
-    PaintPeople(canvas, {canvas.width * 0.41, canvas.height * 0.9}, 220);
+    PaintPeople(canvas, {canvas.width * 0.355, canvas.height * 0.9}, 220);
     PaintWeather(canvas, ground);
 }
 
