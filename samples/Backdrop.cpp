@@ -11,7 +11,7 @@ void PaintBackdrop(Canvas& canvas, double horizon, double light)
     PaintSky(canvas, horizon);
     if (mood.Night()) {
         PaintStars(canvas, 160 + 190 * wide, horizon);
-        PaintMoon(canvas, {x, horizon * 0.3}, 42);
+        PaintMoon(canvas, {x, horizon * 0.21}, 42);
     } else if (mood.Dusk()) {
         PaintSun(canvas, {x, horizon * 0.86}, 46);
         PaintStreaks(canvas, 6 + 5 * wide, horizon * 0.2, horizon * 0.85);

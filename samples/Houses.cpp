@@ -37,7 +37,9 @@ QPolygonF Front(const House& house)
 void Window(Canvas& canvas, const QRectF& frame, double distance)
 {
     const Mood& mood = canvas.mood;
-    const bool lit = mood.Lamps() && canvas.random.Chance(0.55);
+    // On winter mornings those who are up have the light on.
+    const bool early = mood.Dawn() && mood.Winter();
+    const bool lit = (mood.Lamps() || early) && canvas.random.Chance(early ? 0.3 : 0.55);
     const double edge = frame.width() * 0.13;
     canvas.painter.fillRect(frame.adjusted(-edge, -edge, edge, edge),
                             mood.Far(QColor(0xf6efe2), distance));

@@ -101,3 +101,23 @@ void PaintLantern(Canvas& canvas, QPointF foot, double height)
         canvas.Fill(snow, mood.Lit(QColor(0xffffff)));
     }
 }
+
+void PaintFire(Canvas& canvas, QPointF foot, double height)
+{
+    const auto at = [&](double x, double y) { return foot + QPointF(x, -y) * height; };
+    canvas.Glow(at(0, 0.4), height * 3.6, QColor(0xff9a3d), 0.6);
+    const QColor log(0x6b4228);
+    canvas.Line(at(-0.45, 0.02), at(0.4, 0.16), log, height * 0.13);
+    canvas.Line(at(0.45, 0.0), at(-0.4, 0.18), Darker(log, 0.25), height * 0.13);
+    double size = 1;
+    for (const QColor& color : {QColor(0xf2792f), QColor(0xffb347), QColor(0xfff0b4)}) {
+        QPainterPath flame(at(0.04 * size, 0.1 + size));
+        flame.cubicTo(at(0.1 * size, 0.1 + 0.6 * size), at(0.42 * size, 0.4 * size),
+                      at(0.26 * size, 0.12));
+        flame.quadTo(at(0, 0.04), at(-0.26 * size, 0.12));
+        flame.cubicTo(at(-0.4 * size, 0.4 * size), at(-0.06 * size, 0.5 * size),
+                      at(0.04 * size, 0.1 + size));
+        canvas.Fill(flame, color);
+        size *= 0.62;
+    }
+}

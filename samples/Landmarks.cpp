@@ -86,8 +86,8 @@ void PaintLighthouse(Canvas& canvas, QPointF foot, double height, bool burning)
     if (burning) {
         for (const double side : {-1.0, 1.0}) {
             QPolygonF beam;
-            beam << lamp << lamp + QPointF(side * 1500, -190) << lamp + QPointF(side * 1500, 10);
-            QLinearGradient light(lamp, lamp + QPointF(side * 720, -60));
+            beam << lamp << lamp + QPointF(side * 1500, -30) << lamp + QPointF(side * 1500, 150);
+            QLinearGradient light(lamp, lamp + QPointF(side * 720, 30));
             light.setColorAt(0, QColor(255, 240, 190, 120));
             light.setColorAt(1, QColor(255, 240, 190, 0));
             canvas.Fill(beam, light);

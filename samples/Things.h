@@ -17,6 +17,7 @@ void PaintBalloon(Canvas& canvas, QPointF basket, double height, const QColor& f
                   const QColor& second);
 void PaintParasol(Canvas& canvas, QPointF foot, double height, const QColor& cloth);
 void PaintBale(Canvas& canvas, QPointF foot, double size);
+void PaintFire(Canvas& canvas, QPointF foot, double height);
 void PaintTent(Canvas& canvas, QPointF foot, double width);
 void PaintFence(Canvas& canvas, double left, double right, double base, double height);
 void PaintPier(Canvas& canvas, QPointF far, double farWidth, QPointF near, double nearWidth);

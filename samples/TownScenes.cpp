@@ -54,7 +54,8 @@ void Roofs(Canvas& canvas, double base, double size, double distance)
         house.top = size * random.Between(0.5, 0.75);
         house.form = random.Chance(0.55) ? Roof::Eaves : Roof::Gable;
         house.roof = tiles[static_cast<size_t>(random.Below(5))];
-        house.wall = Mix(QColor(0xf0e2c8), house.roof, random.Between(0.05, 0.4));
+        const double tint = mood.Winter() ? 0.3 : 0.05;
+        house.wall = Mix(QColor(0xf0e2c8), house.roof, random.Between(tint, tint + 0.35));
         PaintHouse(canvas, house, distance);
         if (random.Chance(0.25) && !mood.Summer()) {
             PaintSmoke(canvas, {x + house.width * 0.3, base + size * 1.6 - house.eaves - house.top},

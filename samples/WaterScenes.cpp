@@ -149,11 +149,7 @@ void CoastScene(Canvas& canvas)
     const Mood& mood = canvas.mood;
     const double line = canvas.height * 0.58;
     PaintBackdrop(canvas, line, 0.26);
-    const Ridge far(canvas.random, line - 10, 14, 1200);
-    canvas.painter.save();
-    canvas.painter.setClipRect(QRectF(canvas.width * 0.55, 0, canvas.width, canvas.height));
-    PaintHill(canvas, far, mood.hill, 0.6);
-    canvas.painter.restore();
+
     PaintWater(canvas, line, mood.Storm() ? 0.9 : 0.6);
     SunLane(canvas, line, 0.26);
     PaintSailBoat(canvas, {canvas.width * 0.14, line + 44}, 92, QColor(0xfdf4e2));
@@ -288,7 +284,7 @@ void BridgeScene(Canvas& canvas)
         PaintStreetLamp(canvas, {canvas.width * x, canvas.height * 0.56}, 120);
     }
     PaintWater(canvas, line + 26, 0.16);
-    const Ridge bank(canvas.random, canvas.height * 1.0, 12, 600);
+
     canvas.painter.save();
     canvas.painter.setClipRect(QRectF(0, 0, canvas.width * 0.3, canvas.height));
     PaintReeds(canvas, {canvas.width * 0.06, canvas.height + 6}, 300, 190);

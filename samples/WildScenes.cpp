@@ -211,7 +211,12 @@ void CampScene(Canvas& canvas)
     PaintGround(canvas, near);
     const double x = canvas.width * 0.34;
     PaintTent(canvas, {x, near.At(x) + 50}, 210);
-    PaintPeople(canvas, {canvas.width * 0.52, near.At(canvas.width * 0.52) + 64}, 130);
+    if (!canvas.people.empty()) {
+        const QPointF fire(canvas.width * 0.565, near.At(canvas.width * 0.565) + 78);
+        PaintPerson(canvas, canvas.people.front(), fire + QPointF(-120, 0), 150, false);
+        PaintPerson(canvas, canvas.people.back(), fire + QPointF(120, 2), 150, true);
+        PaintFire(canvas, fire, 74);
+    }
     for (int tree = 0; tree < 4; ++tree) {
         PaintConifer(canvas, {canvas.width * (0.82 + 0.065 * tree), canvas.height * 0.93},
                      canvas.random.Between(240, 420), 0);
