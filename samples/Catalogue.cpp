@@ -65,7 +65,7 @@ const std::vector<Line>& Lines()
         {{"winter-lantern.jpg", {1200, 1600}, "A light on the sill for whoever is still out", "Winter", "Old Town", "Lantern", "Night", "", "", "", ""}, LanternScene},
         {{"winter-peaks-dusk.jpg", {2400, 600}, "The mountains keep the day a little longer", "Winter", "Mountains", "Landscape", "Dusk", "", "", "", ""}, MountainScene},
         {{"winter-lighthouse.jpg", {1600, 1200}, "It counts to seven and looks at you again", "Winter", "Coast", "Lighthouse", "Night", "", "", "", ""}, CoastScene},
-        {{"winter-stars.gif", {600, 400}, "The year ends as quietly as it came", "Winter", "Mountains", "Stars", "Night", "", "", "", ""}, CampScene},
+        {{"winter-stars.png", {900, 600}, "The year ends as quietly as it came", "Winter", "Mountains", "Stars", "Night", "", "", "", ""}, CampScene},
     };
     return lines;
 }

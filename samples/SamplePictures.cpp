@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Catalogue.h"
-#include "GifWriter.h"
 
 #include <QStringList>
 #include <QtConcurrent>
@@ -34,10 +33,6 @@ bool PaintSamplePicture(const SamplePicture& picture, const QString& folder)
     }
     const QImage image = Painted(picture, scene);
     const QString path = folder + QLatin1Char('/') + picture.fileName;
-    // Qt reads GIF files but does not write them.
-    if (picture.fileName.endsWith(QLatin1String(".gif"))) {
-        return WriteGif(image, path);
-    }
     const bool jpeg = picture.fileName.endsWith(QLatin1String(".jpg"));
     return image.save(path, nullptr, jpeg ? jpegQuality : -1);
 }

@@ -170,6 +170,7 @@ void TestRecordSet::NullIsNotAnEmptyText()
 void TestRecordSet::RefusesWrongUse()
 {
     QVERIFY_THROWS_EXCEPTION(DatabaseError, ImageSet->Set(u"Legend", QString("x")));
+    ImageSet->MoveFirst();
     ImageSet->Edit();
     QVERIFY_THROWS_EXCEPTION(DatabaseError, ImageSet->Set(u"Colour", QString("x")));
     QVERIFY_THROWS_EXCEPTION(DatabaseError, ImageSet->Set(u"Legend", 5));
