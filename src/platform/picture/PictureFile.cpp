@@ -50,8 +50,8 @@ bool IsProgressiveFrame(uchar marker)
 
 bool IsFrame(uchar marker)
 {
-    // 0xC4, 0xC8 and 0xCC lie in the range of the frames but are tables and a reserved one.
-    return marker >= 0xC0 && marker <= 0xCF && marker % 4 != 0;
+    // Three in the range of the frames are none: two kinds of tables and a reserved one.
+    return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
 
 } // namespace
