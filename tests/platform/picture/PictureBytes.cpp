@@ -40,8 +40,9 @@ QByteArray AbsurdPng()
 {
     return QByteArray("\x89PNG\r\n\x1A\n\0\0\0\x0D"
                       "IHDR\0\x01\x86\xA0\0\x01\x86\xA0\x08\x02\0\0\0"
-                      "\x27\x30\x9C\x9F", // checksum
-                      33);
+                      "\x27\x30\x9C\x9F" // checksum
+                      "\0\0\0\x01IDAT",
+                      41);
 }
 
 QByteArray Bitmap(QSize size, const QByteArray& pixels)

@@ -15,7 +15,7 @@ QByteArray WithOrientation(const QByteArray& jpeg, char orientation);
 // A JPEG whose frame header claims another size. The rest stays.
 QByteArray WithClaimedJpegSize(QByteArray jpeg, QSize size);
 
-// A PNG that claims 100,000 by 100,000 pixels and ends after its header.
+// A PNG that claims 100,000 by 100,000 pixels and ends where they should begin.
 QByteArray AbsurdPng();
 
 // A 24-bit bitmap of that header, pixels following. A negative height means top-down.
