@@ -32,6 +32,22 @@ constexpr qint64 kMostTargetPixels = 128LL << 20;
 
 constexpr qint64 kMostJpegBytes = 1LL << 30;
 
+// To a format that needs no conversion at each paint.
+void ConvertToDraw(QImage& image)
+{
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                            : QImage::Format_RGB32);
+}
+
+void ConvertToScreenColours(QImage& image)
+{
+    const QColorSpace profile = image.colorSpace();
+    if (profile.isValid() && profile != QColorSpace(QColorSpace::SRgb)) {
+        image.convertToColorSpace(QColorSpace::SRgb);
+        ConvertToDraw(image);
+    }
+}
+
 // A file's decoder on its way to pixels. Not to be copied or moved: the reader points to the
 // device.
 class OpenPicture
@@ -74,8 +90,13 @@ public:
         }
         if (reader_.supportsOption(QImageIOHandler::ScaledSize)) {
             reader_.setScaledSize(IsTurned() ? target.transposed() : target);
+            return reader_.read();
         }
-        return reader_.read();
+        // Asked to scale, the reader does so before it has pixels that scale quickly: a palette
+        // takes it fifteen times as long.
+        QImage image = reader_.read();
+        ConvertToDraw(image);
+        return image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
 
 private:
@@ -135,19 +156,6 @@ private:
     QImageReader reader_;
 };
 
-// Formats that can be drawn without a conversion at each paint; colours in sRGB.
-QImage ReadyToDraw(QImage image)
-{
-    const bool alpha = image.hasAlphaChannel();
-    const QColorSpace profile = image.colorSpace();
-    image.convertTo(alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    if (profile.isValid() && profile != QColorSpace(QColorSpace::SRgb)) {
-        image.convertToColorSpace(QColorSpace::SRgb);
-        image.convertTo(alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    }
-    return image;
-}
-
 bool IsPlausibleTarget(QSize size)
 {
     return !size.isEmpty() && size.width() <= kMostTargetSide && size.height() <= kMostTargetSide &&
@@ -167,10 +175,9 @@ QImage DecodeTo(const QString& path, QSize size)
     if (image.isNull()) {
         return {};
     }
-    if (image.size() != size) {
-        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
-    return ReadyToDraw(std::move(image));
+    ConvertToDraw(image);
+    ConvertToScreenColours(image);
+    return image;
 }
 
 } // namespace
