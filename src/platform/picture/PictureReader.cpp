@@ -88,15 +88,10 @@ public:
         if (IsLargeWhole()) {
             alone.lock();
         }
-        if (reader_.supportsOption(QImageIOHandler::ScaledSize)) {
-            reader_.setScaledSize(IsTurned() ? target.transposed() : target);
-            return reader_.read();
-        }
-        // Asked to scale, the reader does so before it has pixels that scale quickly: a palette
-        // takes it fifteen times as long.
-        QImage image = reader_.read();
-        ConvertToDraw(image);
-        return image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        // Counts before the turn. Decoders that cannot scale give all pixels, which are then scaled
+        // smoothly.
+        reader_.setScaledSize(IsTurned() ? target.transposed() : target);
+        return reader_.read();
     }
 
 private:
