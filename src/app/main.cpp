@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Application.h"
+#include "Tour.h"
 
 #include "platform/widgets/QtDialogs.h"
 #include "ui/main/frmOpenChapter.h"
@@ -10,20 +11,32 @@
 
 namespace {
 
-// Absolute, because the program makes its own folder the current one.
-QString AlbumFromArguments(const QApplication& application)
+struct Arguments
+{
+    QString album; // absolute, because the program makes its own folder the current one
+    QString tour;  // folder for the pictures of a tour, empty for none
+};
+
+Arguments ReadArguments(const QApplication& application)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::tr("Tells stories with photographs."));
     parser.addHelpOption();
     parser.addVersionOption();
+    const QCommandLineOption tour(
+        QStringLiteral("tour"),
+        QApplication::tr("Go through the windows, write a picture of each into FOLDER, and end."),
+        QStringLiteral("FOLDER"));
+    parser.addOption(tour);
     parser.addPositionalArgument(
         QStringLiteral("album"),
         QApplication::tr("The album to open; the last one when not given."),
         QStringLiteral("[album]"));
     parser.process(application);
-    const QStringList arguments = parser.positionalArguments();
-    return arguments.isEmpty() ? QString() : QFileInfo(arguments.constFirst()).absoluteFilePath();
+    const auto absolute = [](const QString& path) {
+        return path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+    };
+    return {absolute(parser.positionalArguments().value(0)), absolute(parser.value(tour))};
 }
 
 } // namespace
@@ -33,8 +46,11 @@ int main(int argc, char** argv)
     Application application(argc, argv);
     QtDialogs dialogs;
     Dialogs::Install(&dialogs);
-    frmOpenChapter mainWindow(AlbumFromArguments(application));
+    const Arguments arguments = ReadArguments(application);
+    frmOpenChapter mainWindow(arguments.album);
     mainWindow.show();
+    if (!arguments.tour.isEmpty())
+        new Tour(arguments.tour, &mainWindow);
     // Start-up is measured from outside, from the program's start to its end.
     if (qEnvironmentVariableIsSet("LUMENARK_EXIT_AFTER_FIRST_PAINT"))
         QTimer::singleShot(0, &application, &QApplication::quit);

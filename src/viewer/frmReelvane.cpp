@@ -135,6 +135,7 @@ void frmReelvane::DisplayEmptyChapter()
     DisplayUndefined(QStringLiteral("*"), mostListed);
     text_ = invitation;
     DisplayForm->SetLegend(text_);
+    DisplayForm->SetLegendAlignment(Qt::AlignHCenter);
 }
 
 void frmReelvane::DisplayParagraph()
