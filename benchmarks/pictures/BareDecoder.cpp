@@ -58,6 +58,7 @@ void DecodeAllBare(const QStringList& paths, QSize size, int threads)
 {
     std::atomic<qsizetype> next = 0;
     std::vector<std::jthread> workers;
+    workers.reserve(std::size_t(threads));
     for (int i = 0; i < threads; ++i) {
         workers.emplace_back([&] {
             for (qsizetype at = next++; at < paths.size(); at = next++) {

@@ -16,6 +16,7 @@ constexpr int kNoise = 45; // levels up or down where the noise is strongest
 std::vector<int> Waves(int count, double length, int height, int shift)
 {
     std::vector<int> waves;
+    waves.reserve(std::size_t(count));
     for (int i = 0; i < count; ++i) {
         waves.push_back(height + int(height * std::sin((i + shift) / length)));
     }

@@ -3,6 +3,7 @@
 #include "PaintedPictures.h"
 #include "platform/picture/PictureReader.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QProcess>
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <functional>
 
 // Every comparison runs its sides in turn within one iteration, so that a busy machine slows them

@@ -9,6 +9,7 @@
 #include <QImageReader>
 #include <QThread>
 #include <QThreadPool>
+#include <QTransform>
 
 #include <algorithm>
 #include <atomic>
@@ -30,6 +31,7 @@ constexpr qint64 kLargeWhole = 32LL << 20;
 constexpr int kMostTargetSide = 1 << 15;
 constexpr qint64 kMostTargetPixels = 128LL << 20;
 
+// No photograph comes near; what lies above it would be read into memory for nothing.
 constexpr qint64 kMostJpegBytes = 1LL << 30;
 
 // To a format that needs no conversion at each paint.
@@ -45,6 +47,19 @@ void ConvertToScreenColours(QImage& image)
     if (profile.isValid() && profile != QColorSpace(QColorSpace::SRgb)) {
         image.convertToColorSpace(QColorSpace::SRgb);
         ConvertToDraw(image);
+    }
+}
+
+// Done after the colours: the reader's own turn loses the profile.
+void Turn(QImage& image, QImageIOHandler::Transformations turn)
+{
+    const bool mirror = turn.testFlag(QImageIOHandler::TransformationMirror);
+    const bool flip = turn.testFlag(QImageIOHandler::TransformationFlip);
+    if (mirror || flip) {
+        image = std::move(image).mirrored(mirror, flip);
+    }
+    if (turn.testFlag(QImageIOHandler::TransformationRotate90)) {
+        image = image.transformed(QTransform().rotate(90));
     }
 }
 
@@ -64,7 +79,6 @@ public:
         }
         reader_.setAutoDetectImageFormat(false);
         reader_.setFormat(format);
-        reader_.setAutoTransform(true);
         reader_.setDevice(&file_);
     }
     Q_DISABLE_COPY_MOVE(OpenPicture)
@@ -91,7 +105,13 @@ public:
         // Counts before the turn. Decoders that cannot scale give all pixels, which are then scaled
         // smoothly.
         reader_.setScaledSize(IsTurned() ? target.transposed() : target);
-        return reader_.read();
+        QImage image = reader_.read();
+        if (!image.isNull()) {
+            ConvertToDraw(image);
+            ConvertToScreenColours(image);
+            Turn(image, reader_.transformation());
+        }
+        return image;
     }
 
 private:
@@ -166,13 +186,7 @@ QImage DecodeTo(const QString& path, QSize size)
     if (!IsPlausibleTarget(size) || picture.Size().isEmpty()) {
         return {};
     }
-    QImage image = picture.Read(size);
-    if (image.isNull()) {
-        return {};
-    }
-    ConvertToDraw(image);
-    ConvertToScreenColours(image);
-    return image;
+    return picture.Read(size);
 }
 
 } // namespace
