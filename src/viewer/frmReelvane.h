@@ -76,6 +76,8 @@ private:
     void DisplayEmptyChapter();
     void ShowText(bool isBrowsing);
     void ShowLargePicture(const ShownPicture& picture);
+    void IndexPicture(const QString& file);
+    void DropTakenOut(const QStringList& files);
 
     std::unique_ptr<Ui::frmReelvane> ui_;
     PictureList lstImage_;
