@@ -2,6 +2,8 @@
 #include "ui/main/frmOpenChapter.h"
 #include "ui_frmOpenChapter.h"
 
+#include "catalogue/frmLoadFiles.h"
+#include "catalogue/frmReloadPictures.h"
 #include "core/Album.h"
 #include "core/ChapterChain.h"
 #include "core/PathRoutines.h"
@@ -54,7 +56,9 @@ void frmOpenChapter::ConnectControls()
     Connect(nullptr, ui_->mnuDeleteChapter, &frmOpenChapter::mnuDeleteChapter_Click, "delete");
     Connect(ui_->cmdMoveUp, nullptr, &frmOpenChapter::cmdMoveUp_Click, "move-up");
     Connect(ui_->cmdMoveDown, nullptr, &frmOpenChapter::cmdMoveDown_Click, "move-down");
-    Connect(ui_->cmdLoadPictures, ui_->mnuLoadPictures, nullptr, "load-pictures");
+    Connect(ui_->cmdLoadPictures, ui_->mnuLoadPictures, &frmOpenChapter::mnuLoadPictures_Click,
+            "load-pictures");
+    Connect(nullptr, ui_->mnuReloadPictures, &frmOpenChapter::mnuReloadPictures_Click, "refresh");
     Connect(ui_->cmdDisplayUndefined, ui_->mnuUndefined, &frmOpenChapter::mnuUndefined_Click,
             "index-pictures");
     Connect(nullptr, ui_->mnuAllPictures, &frmOpenChapter::mnuAllPictures_Click, "");
@@ -147,6 +151,9 @@ void frmOpenChapter::RefreshState()
         button->setVisible(state.offersAlbumCommands);
     ui_->cmdCreateChapter->setEnabled(state.offersAlbumCommands);
     ui_->mnuCreateChapter->setEnabled(state.offersAlbumCommands);
+    ui_->cmdLoadPictures->setEnabled(state.offersAlbumCommands);
+    ui_->mnuLoadPictures->setEnabled(state.offersAlbumCommands);
+    ui_->mnuReloadPictures->setEnabled(state.offersPictureCommands);
     ui_->cmdDisplayUndefined->setEnabled(state.offersPictureCommands);
     ui_->mnuUndefined->setEnabled(state.offersPictureCommands);
     ui_->mnuAllPictures->setEnabled(state.offersPictureCommands);
@@ -156,9 +163,8 @@ void frmOpenChapter::RefreshState()
     ui_->cmdMoveUp->setEnabled(state.canMoveUp);
     ui_->cmdMoveDown->setEnabled(state.canMoveDown);
     // The windows behind these are still to come.
-    ui_->cmdLoadPictures->setEnabled(false);
-    for (QAction* entry : {ui_->mnuLoadPictures, ui_->mnuReloadPictures, ui_->mnuSelectedUndefined,
-                           ui_->mnuSelectedPictures, ui_->mnuRepair, ui_->mnuAbout})
+    for (QAction* entry :
+         {ui_->mnuSelectedUndefined, ui_->mnuSelectedPictures, ui_->mnuRepair, ui_->mnuAbout})
         entry->setEnabled(false);
     if (ui_->lstChapter->isVisible())
         ui_->lstChapter->setFocus();
@@ -321,6 +327,18 @@ void frmOpenChapter::cmdMoveDown_Click()
         return;
     FillChapterList();
     SelectRow(row + 1);
+    RefreshState();
+}
+
+void frmOpenChapter::mnuLoadPictures_Click()
+{
+    frmLoadFiles(this).exec();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuReloadPictures_Click()
+{
+    frmReloadPictures(this).exec();
     RefreshState();
 }
 

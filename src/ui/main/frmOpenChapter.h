@@ -43,6 +43,8 @@ private:
     void mnuDeleteChapter_Click();
     void cmdMoveUp_Click();
     void cmdMoveDown_Click();
+    void mnuLoadPictures_Click();
+    void mnuReloadPictures_Click();
     void mnuUndefined_Click();
     void mnuAllPictures_Click();
     void mnuPhotoAlbumHelp_Click();
