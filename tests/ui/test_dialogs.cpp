@@ -8,6 +8,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -36,7 +37,7 @@ void TestDialogs::AsksWithTheButtonsGiven()
         QCOMPARE(box.text(), "Delete <b>it</b> ?");
         QCOMPARE(box.textFormat(), Qt::PlainText);
         QCOMPARE(box.icon(), QMessageBox::Question);
-        QVERIFY(box.defaultButton() == box.button(QMessageBox::Cancel));
+        QCOMPARE(box.standardButton(box.defaultButton()), QMessageBox::Cancel);
         box.button(QMessageBox::No)->click();
     });
     const auto answer = dialogs_.Ask({"Delete <b>it</b> ?", Dialogs::Icon::Question,
