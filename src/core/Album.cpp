@@ -117,9 +117,8 @@ std::unique_ptr<RecordSet> ImageSet;
 std::unique_ptr<RecordSet> ChapterSet;
 std::unique_ptr<RecordSet> LinkedImagesSet;
 
-bool OpenAlbum(const QString& path)
+bool OpenAlbum(const QString& path, QString password)
 {
-    QString password;
     while (true) {
         ReleaseAlbum();
         try {

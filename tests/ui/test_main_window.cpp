@@ -110,6 +110,7 @@ void TestMainWindow::HasItsMenusInOrder()
              "from Folder; mnuSep1; mnuAllPictures=Display Pictures at Random; "
              "mnuSelectedPictures=Display Pictures from Folder; mnuTools=Tools; "
              "mnuSetCDBuffer=Set CD-ROM Buffer; mnuSep5; mnuRepair=Repair Album; "
+             "mnuPassword=Set Album Password; "
              "mnuOptions=Options; mnuHelp=Help; mnuPhotoAlbumHelp=Lumenark Help (F1); mnuSep4; "
              "mnuAbout=About Lumenark");
 }

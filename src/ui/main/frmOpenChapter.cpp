@@ -16,6 +16,7 @@
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/MainWindowState.h"
+#include "ui/main/PasswordQuestions.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmRepairAlbum.h"
 #include "viewer/frmReelvane.h"
@@ -65,6 +66,7 @@ void frmOpenChapter::ConnectControls()
             "index-pictures");
     Connect(nullptr, ui_->mnuAllPictures, &frmOpenChapter::mnuAllPictures_Click, "");
     Connect(nullptr, ui_->mnuRepair, &frmOpenChapter::mnuRepair_Click, "repair");
+    Connect(nullptr, ui_->mnuPassword, &frmOpenChapter::mnuPassword_Click, "");
     Connect(nullptr, ui_->mnuPhotoAlbumHelp, &frmOpenChapter::mnuPhotoAlbumHelp_Click, "help");
     Connect(nullptr, ui_->mnuAbout, &frmOpenChapter::mnuAbout_Click, "about");
     for (QAction* separator :
@@ -165,6 +167,7 @@ void frmOpenChapter::RefreshState()
     ui_->cmdMoveUp->setEnabled(state.canMoveUp);
     ui_->cmdMoveDown->setEnabled(state.canMoveDown);
     ui_->mnuRepair->setEnabled(state.offersAlbumCommands);
+    ui_->mnuPassword->setEnabled(state.offersAlbumCommands);
     // The windows behind these are still to come.
     for (QAction* entry : {ui_->mnuSelectedUndefined, ui_->mnuSelectedPictures})
         entry->setEnabled(false);
@@ -369,6 +372,13 @@ void frmOpenChapter::mnuRepair_Click()
     frmRepairAlbum(this).exec();
     if (AlbumOpen)
         FillChapterList();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuPassword_Click()
+{
+    AskForNewPassword();
+    AlbumOpen = AlbumDatabase != nullptr;
     RefreshState();
 }
 

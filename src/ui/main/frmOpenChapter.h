@@ -48,6 +48,7 @@ private:
     void mnuUndefined_Click();
     void mnuAllPictures_Click();
     void mnuRepair_Click();
+    void mnuPassword_Click();
     void mnuAbout_Click();
     void mnuPhotoAlbumHelp_Click();
 
