@@ -10,6 +10,8 @@ install(FILES
   ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Album.tpl
   ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lumenark.hlp
   DESTINATION ${program_folder})
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/help/ DESTINATION ${program_folder}/help
+        FILES_MATCHING PATTERN *.jpg)
 file(RELATIVE_PATH link_target
   /${CMAKE_INSTALL_BINDIR} /${program_folder}/lumenark)
 file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/links)

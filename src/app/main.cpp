@@ -2,6 +2,8 @@
 #include "Application.h"
 #include "Tour.h"
 
+#include "core/StartUp.h"
+#include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/QtDialogs.h"
 #include "ui/main/frmOpenChapter.h"
 
@@ -64,6 +66,7 @@ int main(int argc, char** argv)
     Application application(argc, argv);
     QtDialogs dialogs;
     Dialogs::Install(&dialogs);
+    InstallHelpKey(GeneralModule::HelpFile());
     const Arguments arguments = ReadArguments(application);
     frmOpenChapter mainWindow(arguments.album);
     mainWindow.show();

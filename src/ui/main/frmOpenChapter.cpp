@@ -12,7 +12,6 @@
 #include "core/ViewerFlags.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
-#include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/MainWindowState.h"
@@ -82,8 +81,6 @@ void frmOpenChapter::ConnectControls()
     ui_->lstChapter->installEventFilter(this);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
             &frmOpenChapter::mnuExit_Click);
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            &frmOpenChapter::mnuPhotoAlbumHelp_Click);
 }
 
 // Each button does what its menu entry does.
@@ -389,5 +386,5 @@ void frmOpenChapter::mnuAbout_Click()
 
 void frmOpenChapter::mnuPhotoAlbumHelp_Click()
 {
-    HelpWindow(HelpFile(), this).exec();
+    QApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
 }
