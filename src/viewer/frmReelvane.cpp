@@ -13,6 +13,7 @@
 #include "platform/widgets/WindowSize.h"
 #include "story/ParagraphMarkers.h"
 #include "story/PictureFilter.h"
+#include "story/frmEditParagraph.h"
 #include "viewer/StoryPage.h"
 #include "viewer/ViewerKeys.h"
 
@@ -64,7 +65,7 @@ void frmReelvane::ConnectControls()
              Button{ui_->cmdZoomIn, "zoom-in", &frmReelvane::cmdZoomIn_Click},
              Button{ui_->cmdZoomOut, "zoom-out", &frmReelvane::cmdZoomOut_Click},
              Button{ui_->cmdTimer, "timer-start", nullptr},
-             Button{ui_->cmdEditParagraph, "edit-paragraph", nullptr},
+             Button{ui_->cmdEditParagraph, "edit-paragraph", &frmReelvane::cmdEditParagraph_Click},
              Button{ui_->cmdRefresh, "refresh", &frmReelvane::cmdRefresh_Click},
              Button{ui_->cmdHideMenu, "full-screen", nullptr},
              Button{ui_->cmdClose, "exit", &frmReelvane::CloseViewer},
@@ -77,6 +78,8 @@ void frmReelvane::ConnectControls()
     connect(ui_->page, &StoryPage::PicturePressed, this, [this](int index, Qt::MouseButton button) {
         RunGuarded([&] { imgImage_MouseDown(index, button); });
     });
+    connect(ui_->page, &StoryPage::LegendClicked, this,
+            Guarded(this, &frmReelvane::lblLegend_Click));
     connect(ui_->page, &StoryPage::FullSizePressed, this, &frmReelvane::imgFullSize_MouseDown);
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
     resizeDelay_.setSingleShot(true);
@@ -103,6 +106,7 @@ void frmReelvane::Form_Resize()
     sinceResize_.start();
     Nblines = 1;
     ui_->cmdRefresh->setVisible(CurrentChapter == 0);
+    ui_->cmdEditParagraph->setEnabled(CurrentChapter != 0);
     if (CurrentChapter != 0) {
         DisplayForm->SetPictureToolTip(tr("Click to edit image"));
         DisplayChapter();
@@ -260,6 +264,47 @@ void frmReelvane::CloseViewer()
     close();
 }
 
+// Pictures outside the story belong to no paragraph; the first one of a chapter is made here.
+bool frmReelvane::HasParagraphToEdit()
+{
+    if (CurrentChapter == 0)
+        return false;
+    if (CurrentParagraph > 0)
+        return true;
+    ParagraphPlace place{CurrentChapter, 0};
+    CreateFirstParagraph(place);
+    CurrentParagraph = place.paragraph;
+    return CurrentParagraph > 0;
+}
+
+void frmReelvane::EditCurrentParagraph()
+{
+    if (!HasParagraphToEdit())
+        return;
+    // Autoview is paused here,
+    frmEditParagraph editor(this);
+    editor.CurrentChapter = CurrentChapter;
+    editor.CurrentParagraph = CurrentParagraph;
+    editor.exec();
+    CurrentChapter = editor.CurrentChapter;
+    CurrentParagraph = editor.CurrentParagraph;
+    // and goes on here if it was on.
+    if (CurrentParagraph < 1)
+        CloseViewer();
+    else
+        DisplayParagraph();
+}
+
+void frmReelvane::cmdEditParagraph_Click()
+{
+    EditCurrentParagraph();
+}
+
+void frmReelvane::lblLegend_Click()
+{
+    EditCurrentParagraph();
+}
+
 void frmReelvane::cmdNextImages_Click()
 {
     if (lstImage_.Count() == 0)
@@ -383,6 +428,8 @@ bool frmReelvane::Form_KeyDown(QKeyEvent& key)
         CloseViewer();
         return true;
     case ViewerCommand::EditParagraph:
+        cmdEditParagraph_Click();
+        return true;
     case ViewerCommand::SwitchAutoview:
     case ViewerCommand::Leave:
     case ViewerCommand::None:

@@ -30,11 +30,10 @@ private slots:
 private:
     QString Save(const QString& name, const QByteArray& bytes) const
     {
-        QFile file(Path(name));
+        QFile file(folder_.filePath(name));
         const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
         return written ? file.fileName() : QString();
     }
-    QString Path(const QString& name) const { return folder_.filePath(name); }
 
     QTemporaryDir folder_;
 };
@@ -173,10 +172,18 @@ void TestPictureReader::ColoursFollowTheProfile_data()
     QTest::addColumn<QByteArray>("format");
     QTest::addColumn<QColorSpace>("profile");
     QTest::addColumn<bool>("changes");
-    QTest::newRow("wide JPEG") << QByteArray("jpeg") << QColorSpace(QColorSpace::AdobeRgb) << true;
-    QTest::newRow("wide PNG") << QByteArray("png") << QColorSpace(QColorSpace::DisplayP3) << true;
-    QTest::newRow("usual JPEG") << QByteArray("jpeg") << QColorSpace(QColorSpace::SRgb) << false;
-    QTest::newRow("JPEG without") << QByteArray("jpeg") << QColorSpace() << false;
+    QTest::addColumn<char>("orientation");
+    QTest::newRow("wide JPEG") << QByteArray("jpeg") << QColorSpace(QColorSpace::AdobeRgb) << true
+                               << '\0';
+    for (const char orientation : {'\2', '\3', '\6', '\7'}) {
+        QTest::addRow("wide JPEG turned by %d", orientation)
+            << QByteArray("jpeg") << QColorSpace(QColorSpace::AdobeRgb) << true << orientation;
+    }
+    QTest::newRow("wide PNG") << QByteArray("png") << QColorSpace(QColorSpace::DisplayP3) << true
+                              << '\0';
+    QTest::newRow("usual JPEG") << QByteArray("jpeg") << QColorSpace(QColorSpace::SRgb) << false
+                                << '\0';
+    QTest::newRow("JPEG without") << QByteArray("jpeg") << QColorSpace() << false << '\0';
 }
 
 void TestPictureReader::ColoursFollowTheProfile()
@@ -184,6 +191,7 @@ void TestPictureReader::ColoursFollowTheProfile()
     QFETCH(QByteArray, format);
     QFETCH(QColorSpace, profile);
     QFETCH(bool, changes);
+    QFETCH(char, orientation);
     const QColor stored(180, 90, 60);
     QImage image = Filled({64, 64}, stored);
     image.setColorSpace(profile);
@@ -191,7 +199,11 @@ void TestPictureReader::ColoursFollowTheProfile()
     if (profile.isValid()) {
         expected = profile.transformationToColorSpace(QColorSpace::SRgb).map(stored);
     }
-    const QImage read = ReadPicture(Save("profile", Encoded(image, format)), {32, 32});
+    QByteArray bytes = Encoded(image, format);
+    if (orientation != 0) {
+        bytes = WithOrientation(bytes, orientation);
+    }
+    const QImage read = ReadPicture(Save("profile", bytes), {32, 32});
     QVERIFY(IsQuickToDraw(read));
     QVERIFY(Distance(read.pixelColor(16, 16), expected) <= 3);
     QCOMPARE(Distance(read.pixelColor(16, 16), stored) > 8, changes);
@@ -263,9 +275,9 @@ void TestPictureReader::ContentsDecide()
 
 void TestPictureReader::ManyKeepTheirOrder()
 {
-    constexpr int kCount = 24;
+    constexpr int count = 24;
     std::vector<PictureRequest> requests;
-    for (int i = 0; i < kCount; ++i) {
+    for (int i = 0; i < count; ++i) {
         const QImage image = Filled({300 + i, 200}, QColor::fromHsv(i * 10, 255, 255));
         const bool bad = i % 5 == 3;
         const QByteArray bytes = bad ? QByteArray("bad") : Encoded(image, i % 2 ? "png" : "jpeg");
@@ -273,7 +285,7 @@ void TestPictureReader::ManyKeepTheirOrder()
     }
     const std::vector<QImage> images = ReadPictures(requests);
     QCOMPARE(images.size(), requests.size());
-    for (int i = 0; i < kCount; ++i) {
+    for (int i = 0; i < count; ++i) {
         const QImage& image = images[std::size_t(i)];
         QCOMPARE(image.isNull(), i % 5 == 3);
         if (!image.isNull()) {
