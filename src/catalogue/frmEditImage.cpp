@@ -253,7 +253,14 @@ void frmEditImage::cmdEditTables_Click()
 bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
 {
     const bool isPlain = !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (key.key() != Qt::Key_Q || !isPlain || IsTyping(focusWidget()))
+    const bool isTyping = IsTyping(focusWidget());
+    const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (isEnter && isTyping && ui_->cmdNextImage->isVisible()) {
+        // The first Enter would only confirm the completed part of a value.
+        cmdNextImage_Click();
+        return true;
+    }
+    if (key.key() != Qt::Key_Q || !isPlain || isTyping)
         return false;
     close();
     return true;
