@@ -16,6 +16,8 @@
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/MainWindowState.h"
+#include "ui/main/frmAbout.h"
+#include "ui/main/frmRepairAlbum.h"
 #include "viewer/frmReelvane.h"
 
 #include <QKeyEvent>
@@ -62,9 +64,9 @@ void frmOpenChapter::ConnectControls()
     Connect(ui_->cmdDisplayUndefined, ui_->mnuUndefined, &frmOpenChapter::mnuUndefined_Click,
             "index-pictures");
     Connect(nullptr, ui_->mnuAllPictures, &frmOpenChapter::mnuAllPictures_Click, "");
-    Connect(nullptr, ui_->mnuRepair, nullptr, "repair");
+    Connect(nullptr, ui_->mnuRepair, &frmOpenChapter::mnuRepair_Click, "repair");
     Connect(nullptr, ui_->mnuPhotoAlbumHelp, &frmOpenChapter::mnuPhotoAlbumHelp_Click, "help");
-    Connect(nullptr, ui_->mnuAbout, nullptr, "about");
+    Connect(nullptr, ui_->mnuAbout, &frmOpenChapter::mnuAbout_Click, "about");
     for (QAction* separator :
          {ui_->mnuSep1, ui_->mnuSep2, ui_->mnuSep3, ui_->mnuSep4, ui_->mnuSep5})
         separator->setSeparator(true);
@@ -162,9 +164,9 @@ void frmOpenChapter::RefreshState()
         entry->setEnabled(state.offersChapterCommands);
     ui_->cmdMoveUp->setEnabled(state.canMoveUp);
     ui_->cmdMoveDown->setEnabled(state.canMoveDown);
+    ui_->mnuRepair->setEnabled(state.offersAlbumCommands);
     // The windows behind these are still to come.
-    for (QAction* entry :
-         {ui_->mnuSelectedUndefined, ui_->mnuSelectedPictures, ui_->mnuRepair, ui_->mnuAbout})
+    for (QAction* entry : {ui_->mnuSelectedUndefined, ui_->mnuSelectedPictures})
         entry->setEnabled(false);
     if (ui_->lstChapter->isVisible())
         ui_->lstChapter->setFocus();
@@ -360,6 +362,19 @@ void frmOpenChapter::mnuUndefined_Click()
 void frmOpenChapter::mnuAllPictures_Click()
 {
     ShowPictures(QStringLiteral("*"));
+}
+
+void frmOpenChapter::mnuRepair_Click()
+{
+    frmRepairAlbum(this).exec();
+    if (AlbumOpen)
+        FillChapterList();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuAbout_Click()
+{
+    frmAbout(this).exec();
 }
 
 void frmOpenChapter::mnuPhotoAlbumHelp_Click()

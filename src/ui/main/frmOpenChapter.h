@@ -47,6 +47,8 @@ private:
     void mnuReloadPictures_Click();
     void mnuUndefined_Click();
     void mnuAllPictures_Click();
+    void mnuRepair_Click();
+    void mnuAbout_Click();
     void mnuPhotoAlbumHelp_Click();
 
     void ConnectControls();
