@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int tokenRole = Qt::UserRole;
-constexpr int labelPadding = 5; // logical pixels
+constexpr int labelPadding = 3; // logical pixels; texts of both cells begin at one place
 
 // Each group is a column of the grid; a characteristic takes two cells, its label above its values.
 int LabelRow(int column)
@@ -29,6 +29,8 @@ QString FullName(int column)
 {
     const QString label = GeneralModule::ColumnLabel(LabelledColumnOf(column));
     const QString group = GeneralModule::CaractLabel(GroupOf(column));
+    if (label.isEmpty() && group.isEmpty())
+        return FilterPanel::tr("Caracteristic %1").arg(column);
     return group.isEmpty() ? label : label + QStringLiteral(" (") + group + QLatin1Char(')');
 }
 

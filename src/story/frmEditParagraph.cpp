@@ -40,6 +40,10 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
     ui_->pictureFrame->SetHint(tr("Preview shows the pictures of this paragraph here"));
     KeepWindowSize(this, proposedSize);
     ConnectControls();
+    // Both columns begin at one height, with and without drawings on their buttons.
+    for (QWidget* heading :
+         std::initializer_list<QWidget*>{ui_->lblText, ui_->cmdInsertCar, ui_->cmdCancelInsert})
+        heading->setMinimumHeight(ui_->cmdPreview->sizeHint().height());
     ShowInsertList(false);
     SetPreviewMode(false);
     ShowPicture({});
@@ -85,10 +89,7 @@ void frmEditParagraph::ConnectControls()
             Guarded(this, &frmEditParagraph::filterPanel_Change));
     connect(ui_->lblText, &ClickLabel::Clicked, this,
             Guarded(this, &frmEditParagraph::lblText_Click));
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (now == ui_->txtParagraphPreview)
-            RunGuarded([this] { lblText_Click(); });
-    });
+    ui_->txtParagraphPreview->installEventFilter(this);
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
 }
 
@@ -96,12 +97,13 @@ void frmEditParagraph::ConnectControls()
 bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
 {
     const bool isShortcut = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    const bool isLetter = key.key() == Qt::Key_Q && !isShortcut && !ui_->txtParagraph->hasFocus();
+    const bool isLetter =
+        key.key() == Qt::Key_Q && !isShortcut && focusWidget() != ui_->txtParagraph;
     if (key.key() == Qt::Key_Escape || isLetter) {
         cmdExit_Click();
         return true;
     }
-    if (ui_->lstInsertCar->hasFocus() && IsChoosingKey(key.key())) {
+    if (focusWidget() == ui_->lstInsertCar && IsChoosingKey(key.key())) {
         lstInsertCar_Click();
         return true;
     }
@@ -115,6 +117,20 @@ void frmEditParagraph::showEvent(QShowEvent* event)
         return;
     RunGuarded([this] { ShowParagraph(); });
     ui_->txtParagraph->setFocus();
+}
+
+// Whoever clicks into the preview of the text wants to write.
+bool frmEditParagraph::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn)
+        txtParagraphPreview_GotFocus();
+    return QDialog::eventFilter(watched, event);
+}
+
+// Later, when the click that brought the focus is done with the preview.
+void frmEditParagraph::txtParagraphPreview_GotFocus()
+{
+    QMetaObject::invokeMethod(this, &frmEditParagraph::lblText_Click, Qt::QueuedConnection);
 }
 
 void frmEditParagraph::ShowParagraph()
@@ -244,7 +260,8 @@ void frmEditParagraph::ShowInsertList(bool shown)
 {
     ui_->lstInsertCar->setVisible(shown);
     ui_->cmdCancelInsert->setVisible(shown);
-    ui_->cmdInsertCar->setVisible(!shown && !isPreview_);
+    ui_->cmdInsertCar->setVisible(!shown);
+    ui_->cmdInsertCar->setEnabled(!isPreview_);
 }
 
 void frmEditParagraph::cmdInsertCar_Click()

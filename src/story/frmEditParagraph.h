@@ -36,6 +36,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void ConnectControls();
@@ -69,6 +70,7 @@ private:
     void RefreshPictureList();
     void filterPanel_Change();
     void lblText_Click();
+    void txtParagraphPreview_GotFocus();
     void ShowPicture(const QString& file);
     void FillPreviewText();
     void chkLinkedImage_Click();

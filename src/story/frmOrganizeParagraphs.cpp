@@ -4,10 +4,11 @@
 
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
-#include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "story/ParagraphMoves.h"
+
+#include <QStyle>
 
 #include <algorithm>
 
@@ -41,8 +42,8 @@ void frmOrganizeParagraphs::ConnectControls()
         void (frmOrganizeParagraphs::*handler)();
     };
     for (const Button& entry : {
-             Button{ui_->cmdUp, "previous-paragraph", &frmOrganizeParagraphs::cmdUp_Click},
-             Button{ui_->cmdDown, "next-paragraph", &frmOrganizeParagraphs::cmdDown_Click},
+             Button{ui_->cmdUp, "", &frmOrganizeParagraphs::cmdUp_Click},
+             Button{ui_->cmdDown, "", &frmOrganizeParagraphs::cmdDown_Click},
              Button{ui_->cmdMoveUp, "move-up", &frmOrganizeParagraphs::cmdMoveUp_Click},
              Button{ui_->cmdMoveDown, "move-down", &frmOrganizeParagraphs::cmdMoveDown_Click},
              Button{ui_->cmdPreviousChapter, "previous-chapter",
@@ -53,13 +54,13 @@ void frmOrganizeParagraphs::ConnectControls()
         entry.button->setIcon(ThemedIcon(QString::fromLatin1(entry.icon)));
         connect(entry.button, &QPushButton::clicked, this, Guarded(this, entry.handler));
     }
+    ui_->cmdUp->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
+    ui_->cmdDown->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
     connect(ui_->lstParagraph, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmOrganizeParagraphs::lstParagraph_Click));
     connect(ui_->lstParagraph, &QListWidget::itemDoubleClicked, this,
             Guarded(this, &frmOrganizeParagraphs::lstParagraph_DblClick));
-    new KeyPreview(this, [this](QKeyEvent& key) {
-        return ui_->lstParagraph->hasFocus() && lstParagraph_KeyDown(key);
-    });
+    ui_->lstParagraph->installEventFilter(this);
 }
 
 void frmOrganizeParagraphs::showEvent(QShowEvent* event)
@@ -69,6 +70,14 @@ void frmOrganizeParagraphs::showEvent(QShowEvent* event)
         return;
     RunGuarded([this] { RefreshParagraphList(); });
     ui_->lstParagraph->setFocus();
+}
+
+bool frmOrganizeParagraphs::eventFilter(QObject* watched, QEvent* event)
+{
+    bool used = false;
+    if (event->type() == QEvent::KeyPress)
+        RunGuarded([&] { used = lstParagraph_KeyDown(*static_cast<QKeyEvent*>(event)); });
+    return used || QDialog::eventFilter(watched, event);
 }
 
 bool frmOrganizeParagraphs::lstParagraph_KeyDown(QKeyEvent& key)
