@@ -14,6 +14,9 @@
 #include "story/PictureFilter.h"
 #include "story/frmOrganizeParagraphs.h"
 
+#include <QKeyEvent>
+#include <QTimer>
+
 using GeneralModule::FindById;
 using GeneralModule::ParagraphSet;
 
@@ -130,7 +133,7 @@ bool frmEditParagraph::eventFilter(QObject* watched, QEvent* event)
 // Later, when the click that brought the focus is done with the preview.
 void frmEditParagraph::txtParagraphPreview_GotFocus()
 {
-    QMetaObject::invokeMethod(this, &frmEditParagraph::lblText_Click, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, Guarded(this, &frmEditParagraph::lblText_Click));
 }
 
 void frmEditParagraph::ShowParagraph()

@@ -8,7 +8,7 @@
 #include "platform/widgets/WindowSize.h"
 #include "story/ParagraphMoves.h"
 
-#include <QStyle>
+#include <QKeyEvent>
 
 #include <algorithm>
 
@@ -42,8 +42,8 @@ void frmOrganizeParagraphs::ConnectControls()
         void (frmOrganizeParagraphs::*handler)();
     };
     for (const Button& entry : {
-             Button{ui_->cmdUp, "", &frmOrganizeParagraphs::cmdUp_Click},
-             Button{ui_->cmdDown, "", &frmOrganizeParagraphs::cmdDown_Click},
+             Button{ui_->cmdUp, "previous-paragraph", &frmOrganizeParagraphs::cmdUp_Click},
+             Button{ui_->cmdDown, "next-paragraph", &frmOrganizeParagraphs::cmdDown_Click},
              Button{ui_->cmdMoveUp, "move-up", &frmOrganizeParagraphs::cmdMoveUp_Click},
              Button{ui_->cmdMoveDown, "move-down", &frmOrganizeParagraphs::cmdMoveDown_Click},
              Button{ui_->cmdPreviousChapter, "previous-chapter",
@@ -54,8 +54,6 @@ void frmOrganizeParagraphs::ConnectControls()
         entry.button->setIcon(ThemedIcon(QString::fromLatin1(entry.icon)));
         connect(entry.button, &QPushButton::clicked, this, Guarded(this, entry.handler));
     }
-    ui_->cmdUp->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
-    ui_->cmdDown->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
     connect(ui_->lstParagraph, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmOrganizeParagraphs::lstParagraph_Click));
     connect(ui_->lstParagraph, &QListWidget::itemDoubleClicked, this,

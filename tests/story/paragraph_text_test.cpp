@@ -114,11 +114,14 @@ private slots:
             GeneralModule::SetCaractLabel(i, groups[i]);
         const std::vector<TextMarker> markers = ReadTextMarkers();
         std::set<QString> displays;
+        std::set<QString> titles;
         for (const TextMarker& marker : markers) {
             displays.insert(marker.display);
+            titles.insert(marker.title);
             QCOMPARE(ToStoredMarkers(marker.display, markers), marker.stored);
         }
         QCOMPARE(displays.size(), markers.size());
+        QCOMPARE(titles.size(), markers.size());
         for (const char* between : {"", "<", ">", " (p)>>", "]>", "<["}) {
             QString stored;
             for (const TextMarker& marker : markers)
