@@ -252,6 +252,16 @@ private slots:
         QVERIFY(link.isChecked());
         link.click();
         QVERIFY(writing.Rows("SELECT * FROM LinkedImages").isEmpty());
+        // A changed filter shows at once what it finds.
+        QTest::mouseClick(&Find<QLabel>(writing.editor, "lblCar_4"), Qt::LeftButton);
+        QTest::keyClick(&writing.Values(), Qt::Key_End);
+        QTest::keyClick(&writing.Values(), Qt::Key_Return);
+        QCOMPARE(writing.Feedback(), QString("0 images found"));
+        QCOMPARE(preview.toPlainText(), QString("See !"));
+        QVERIFY(!writing.IsShown("imgImage"));
+        QTest::keyClick(&writing.Values(), Qt::Key_Home);
+        QTest::keyClick(&writing.Values(), Qt::Key_Return);
+        QCOMPARE(writing.Feedback(), QString("3 images found"));
         QTest::mouseClick(preview.viewport(), Qt::LeftButton);
         QTRY_VERIFY(writing.IsShown("txtParagraph"));
         writing.Click("cmdPreview");
