@@ -2,11 +2,14 @@
 #include "story/frmEditParagraph.h"
 #include "ui_frmEditParagraph.h"
 
+#include "catalogue/frmEditImage.h"
 #include "core/Album.h"
+#include "core/PictureFile.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/KeyPreview.h"
+#include "platform/widgets/PictureBox.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "story/ParagraphLinks.h"
@@ -40,7 +43,8 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
     ui_->txtParagraphPreview->setFont(ui_->txtParagraph->font());
     ui_->txtParagraphPreview->document()->setDocumentMargin(
         ui_->txtParagraph->document()->documentMargin());
-    ui_->pictureFrame->SetHint(tr("Preview shows the pictures of this paragraph here"));
+    imgImage_ = ui_->stage->findChild<PictureBox*>();
+    imgImage_->setToolTip(tr("Click to edit image"));
     KeepWindowSize(this, proposedSize);
     ConnectControls();
     // Both columns begin at one height, with and without drawings on their buttons.
@@ -86,7 +90,7 @@ void frmEditParagraph::ConnectControls()
             Guarded(this, &frmEditParagraph::lstInsertCar_Click));
     connect(ui_->chkLinkedImage, &QCheckBox::toggled, this,
             Guarded(this, &frmEditParagraph::chkLinkedImage_Click));
-    connect(ui_->pictureFrame, &PictureFrame::Pressed, this,
+    connect(imgImage_, &PictureBox::Pressed, this,
             Guarded(this, &frmEditParagraph::imgImage_MouseDown));
     connect(ui_->filterPanel, &FilterPanel::ValuesChanged, this,
             Guarded(this, &frmEditParagraph::filterPanel_Change));
@@ -138,16 +142,24 @@ void frmEditParagraph::txtParagraphPreview_GotFocus()
 
 void frmEditParagraph::ShowParagraph()
 {
+    SetPreviewMode(false);
+    ShowPicture({});
+    pictures_.clear();
+    ui_->txtParagraph->SetText({});
+    FillFromAlbum();
+}
+
+// The text box keeps caret and history where it holds the text already.
+void frmEditParagraph::FillFromAlbum()
+{
     setWindowTitle(QStringLiteral("Edit Paragraph from Chapter '") + ChapterNameOf(CurrentChapter) +
                    QLatin1Char('\''));
     markers_ = ReadTextMarkers();
     ui_->filterPanel->ShowLabels();
-    ShowInsertList(false);
-    SetPreviewMode(false);
-    ShowPicture({});
-    pictures_.clear();
     const ParagraphContent content = LoadParagraph(CurrentParagraph);
-    ui_->txtParagraph->SetText(ToDisplayMarkers(content.text, markers_));
+    const QString text = ToDisplayMarkers(content.text, markers_);
+    if (ui_->txtParagraph->GetText() != text)
+        ui_->txtParagraph->SetText(text);
     ui_->filterPanel->SetValues(content.values);
 }
 
@@ -354,12 +366,14 @@ void frmEditParagraph::lblText_Click()
 void frmEditParagraph::FillPreviewText()
 {
     ui_->txtParagraphPreview->setPlainText(
-        FillPictureMarkers(GetContent().text, ui_->pictureFrame->GetFile()));
+        FillPictureMarkers(GetContent().text, imgImage_->GetTag()));
 }
 
 void frmEditParagraph::ShowPicture(const QString& file)
 {
-    ui_->pictureFrame->Show(file);
+    ui_->stage->setVisible(!file.isEmpty());
+    ui_->lblNoPicture->setVisible(file.isEmpty());
+    ui_->stage->ShowPicture(file, file.isEmpty() ? file : GeneralModule::ResolvePictureFile(file));
     const QSignalBlocker quiet(ui_->chkLinkedImage);
     ui_->chkLinkedImage->setEnabled(!file.isEmpty());
     ui_->chkLinkedImage->setChecked(!file.isEmpty() && IsLinked(CurrentParagraph, file));
@@ -367,17 +381,31 @@ void frmEditParagraph::ShowPicture(const QString& file)
 
 void frmEditParagraph::chkLinkedImage_Click()
 {
-    const QString& file = ui_->pictureFrame->GetFile();
+    const QString& file = imgImage_->GetTag();
     if (!file.isEmpty())
         SetLinked(CurrentParagraph, file, ui_->chkLinkedImage->isChecked());
 }
 
 void frmEditParagraph::imgImage_MouseDown()
 {
+    const QString file = imgImage_->GetTag();
     SaveParagraph();
-    EditPicture(ui_->pictureFrame->GetFile());
+    EditPicture(file);
 }
 
-// The picture's legend and characteristics are edited in a window of the catalogue, which is to be
-// opened here. Labels may change in it: the text box must then be filled anew from the album.
-void frmEditParagraph::EditPicture(const QString&) {}
+// Everything may have changed there: the picture, labels, values, and the paragraph with them.
+void frmEditParagraph::EditPicture(const QString& file)
+{
+    frmEditImage window(this);
+    window.CurrentImage = file;
+    window.IsSinglePicture = true;
+    window.exec();
+    FillFromAlbum();
+    if (!window.TakenOut.contains(file))
+        ShowPicture(file);
+    else if (isPreview_)
+        return cmdNextImage_Click();
+    else
+        ShowPicture({});
+    FillPreviewText();
+}

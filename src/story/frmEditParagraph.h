@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+class PictureBox;
 class QKeyEvent;
 
 namespace Ui {
@@ -43,6 +44,7 @@ private:
     bool Form_KeyDown(QKeyEvent& key);
 
     void ShowParagraph();
+    void FillFromAlbum();
     ParagraphPlace GetPlace() const { return {CurrentChapter, CurrentParagraph}; }
     void GoTo(const ParagraphPlace& place);
     ParagraphContent GetContent() const;
@@ -78,6 +80,7 @@ private:
     void EditPicture(const QString& file);
 
     std::unique_ptr<Ui::frmEditParagraph> ui_;
+    PictureBox* imgImage_;
     std::vector<TextMarker> markers_;
     QStringList pictures_; // still to be shown in the preview
     bool isPreview_ = false;

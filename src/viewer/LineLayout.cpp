@@ -14,14 +14,18 @@ bool ShareLine(const UnitRect& first, const UnitRect& second)
     return std::fabs((first.top + first.height) - (second.top + second.height)) < sameLine;
 }
 
-float OccupiedWidth(const std::vector<UnitRect>& pictures, const UnitRect& ofLine)
+// How far the picture's line stands left of the middle.
+float ShiftToMiddle(const std::vector<UnitRect>& pictures, const UnitRect& ofLine, float totalWidth)
 {
-    float width = 0;
+    float left = ofLine.left;
+    float right = ofLine.left + ofLine.width;
     for (const UnitRect& picture : pictures) {
-        if (ShareLine(picture, ofLine))
-            width += picture.width;
+        if (ShareLine(picture, ofLine)) {
+            left = std::min(left, picture.left);
+            right = std::max(right, picture.left + picture.width);
+        }
     }
-    return width;
+    return (totalWidth - left - right) / 2;
 }
 
 } // namespace
@@ -77,7 +81,7 @@ void CentreLines(std::vector<UnitRect>& pictures, float totalWidth)
 {
     std::vector<float> shifts;
     for (const UnitRect& picture : pictures)
-        shifts.push_back((totalWidth - OccupiedWidth(pictures, picture)) / 2);
+        shifts.push_back(ShiftToMiddle(pictures, picture, totalWidth));
     for (std::size_t i = 0; i < pictures.size(); ++i)
         pictures[i].left += shifts[i];
 }

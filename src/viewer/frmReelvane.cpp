@@ -2,7 +2,9 @@
 #include "viewer/frmReelvane.h"
 #include "ui_frmReelvane.h"
 
+#include "catalogue/frmEditImage.h"
 #include "core/Album.h"
+#include "core/PictureFile.h"
 #include "core/ViewerFlags.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
@@ -15,6 +17,7 @@
 #include "viewer/StoryPage.h"
 #include "viewer/ViewerKeys.h"
 
+#include <QFileInfo>
 #include <QScopeGuard>
 
 using GeneralModule::ChapterSet;
@@ -139,6 +142,7 @@ void frmReelvane::DisplayEmptyChapter()
     DisplayUndefined(QStringLiteral("*"), mostListed);
     text_ = invitation;
     DisplayForm->SetLegend(text_);
+    DisplayForm->SetLegendAlignment(Qt::AlignHCenter);
 }
 
 void frmReelvane::DisplayParagraph()
@@ -338,8 +342,47 @@ void frmReelvane::cmdRefresh_Click()
 
 void frmReelvane::imgImage_MouseDown(int index, Qt::MouseButton button)
 {
-    if (button == Qt::LeftButton && std::size_t(index) < displayed_.size())
+    if (std::size_t(index) >= displayed_.size())
+        return;
+    if (button == Qt::LeftButton)
         ShowLargePicture(displayed_[std::size_t(index)]);
+    else if (button == Qt::RightButton)
+        IndexPicture(displayed_[std::size_t(index)].file);
+}
+
+void frmReelvane::IndexPicture(const QString& file)
+{
+    // A story still shows the pictures that the indexing window went on to; a selection to be
+    // indexed does not come back to them.
+    PictureList upcoming = lstImage_;
+    const auto isThere = [](const QString& picture) {
+        return QFileInfo::exists(GeneralModule::ResolvePictureFile(picture));
+    };
+    frmEditImage window(this);
+    window.CurrentImage = file;
+    window.HasNextPicture = [&] { return upcoming.Count() > 0; };
+    window.NextPicture = [&] {
+        const QString next = upcoming.PickNext(GeneralModule::PictureAtRandom, isThere);
+        upcoming.TakePicked();
+        return next;
+    };
+    window.exec();
+    const bool isBrowsing = CurrentChapter < 1;
+    if (isBrowsing)
+        lstImage_ = upcoming;
+    DropTakenOut(window.TakenOut);
+    ShowText(isBrowsing);
+}
+
+void frmReelvane::DropTakenOut(const QStringList& files)
+{
+    if (files.isEmpty())
+        return;
+    for (const QString& file : files)
+        lstImage_.Remove(file);
+    std::erase_if(displayed_,
+                  [&files](const ShownPicture& picture) { return files.contains(picture.file); });
+    DisplayImagesFromList(true);
 }
 
 void frmReelvane::ShowLargePicture(const ShownPicture& picture)

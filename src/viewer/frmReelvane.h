@@ -83,6 +83,8 @@ private:
     void ShowText(bool isBrowsing);
     bool HasParagraphToEdit();
     void ShowLargePicture(const ShownPicture& picture);
+    void IndexPicture(const QString& file);
+    void DropTakenOut(const QStringList& files);
 
     std::unique_ptr<Ui::frmReelvane> ui_;
     PictureList lstImage_;

@@ -11,6 +11,9 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+
+#include <cstdlib>
 
 namespace {
 
@@ -61,10 +64,11 @@ int Authorize(void*, int action, const char*, const char*, const char*, const ch
     return source || reachesOut ? SQLITE_DENY : SQLITE_OK;
 }
 
+// 3 or 4: the first number of the library's version, which is told as a text such as "3.4.1".
 int LibraryGeneration(sqlite3* engine)
 {
     Statement version(engine, "PRAGMA cipher_version");
-    return version.Step() ? QByteArray(version.GetUtf8(0).data()).split('.').first().toInt() : 0;
+    return version.Step() ? std::atoi(version.GetUtf8(0).data()) : 0;
 }
 
 } // namespace
@@ -139,9 +143,24 @@ bool Database::IsReadable()
     }
 }
 
+qint64 Database::GetPragma(const QByteArray& name)
+{
+    Statement pragma(engine_, "PRAGMA " + name);
+    return pragma.Step() ? pragma.GetInteger(0) : 0;
+}
+
+// The engine takes a file whose last page is cut off for whole until something reads that page.
+void Database::CheckSize()
+{
+    if (QFileInfo(path_).size() < GetPragma("page_count") * GetPragma("page_size"))
+        throw DatabaseError(DatabaseError::Damaged,
+                            Say("The album file is damaged: its end is missing."));
+}
+
 void Database::Prepare()
 {
     CheckSchema(engine_);
+    CheckSize();
     RegisterSqlFunctions(engine_);
     // One file that is safe to copy once closed, and nothing lost when the power goes.
     Execute("PRAGMA journal_mode=DELETE");

@@ -40,6 +40,8 @@ private:
     void Unlock(const QString& password);
     bool TryKey(const QByteArray& key, int compatibility);
     bool IsReadable();
+    void CheckSize();
+    qint64 GetPragma(const QByteArray& name);
     void Prepare();
 
     QString path_;

@@ -17,11 +17,14 @@ bool KeyPreview::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress)
         return false;
-    // A key goes to the focused control first and then up its parents; it is looked at once.
-    const auto* control = qobject_cast<QWidget*>(watched);
-    const QWidget* first = control ? control->window()->focusWidget() : nullptr;
-    if (!control || control->window() != window_ || (first ? first : window_) != control)
+    auto* control = qobject_cast<QWidget*>(watched);
+    if (!control || control->window() != window_)
         return false;
+    // A key that a control leaves unused goes up through its parents; it is looked at once.
+    if (event == seen_ && seenBy_ && control != seenBy_ && control->isAncestorOf(seenBy_))
+        return false;
+    seen_ = event;
+    seenBy_ = control;
     bool used = false;
     RunGuarded([&] { used = handler_(*static_cast<QKeyEvent*>(event)); });
     return used;

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 #include <functional>
 
 class QKeyEvent;
-class QWidget;
 
 // Shows a window every key before the control that has the focus gets it, so that a window's keys
 // work whichever button was used last. The window owns it.
@@ -26,4 +27,6 @@ protected:
 private:
     QWidget* window_;
     Handler handler_;
+    const QEvent* seen_ = nullptr; // for comparison only
+    QPointer<QWidget> seenBy_;
 };

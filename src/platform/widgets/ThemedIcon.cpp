@@ -9,6 +9,12 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
+// A static library's resources are not there until they are asked for, outside any namespace.
+static void LoadDrawings()
+{
+    Q_INIT_RESOURCE(icons);
+}
+
 namespace {
 
 QByteArray ReadDrawing(const QString& name)
@@ -61,11 +67,13 @@ private:
 
 QIcon ProgramIcon()
 {
+    LoadDrawings();
     return QIcon(QStringLiteral(":/icons/lumenark.svg"));
 }
 
 QIcon ThemedIcon(const QString& name)
 {
+    LoadDrawings();
     return QFile::exists(QStringLiteral(":/icons/%1.svg").arg(name))
                ? QIcon(new ThemedIconEngine(name))
                : QIcon();

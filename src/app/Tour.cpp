@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "Tour.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPixmap>
+#include <QPushButton>
+#include <QTextStream>
+#include <QTimer>
+
+namespace {
+
+constexpr int stepPause = 60;   // milliseconds between steps, for windows to draw themselves
+constexpr int patience = 20000; // milliseconds until a window that does not come ends the tour
+
+} // namespace
+
+Tour::Tour(const QString& folder, QWidget* mainWindow)
+    : QObject(mainWindow), folder_(folder), mainWindow_(mainWindow)
+{
+    PlanReading();
+    QTimer::singleShot(stepPause, this, &Tour::Continue);
+}
+
+void Tour::PlanReading()
+{
+    Shoot("main-window");
+    Click("cmdReadChapter");
+    Await("frmReelvane");
+    Resize(1280, 800);
+    Shoot("viewer-one-picture");
+    Press(Qt::Key_Right);
+    Press(Qt::Key_Plus);
+    Shoot("viewer-two-lines");
+    Press(Qt::Key_PageDown);
+    Press(Qt::Key_Right);
+    Shoot("viewer-three-pictures");
+    Press(Qt::Key_PageDown);
+    Press(Qt::Key_PageDown);
+    Press(Qt::Key_PageDown);
+    for (int i = 0; i < 3; ++i)
+        Press(Qt::Key_Plus);
+    Shoot("viewer-empty-chapter");
+    Press(Qt::Key_Escape);
+    Await("frmOpenChapter");
+}
+
+QWidget* Tour::Front() const
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal ? modal : mainWindow_;
+}
+
+void Tour::Act(std::function<void()> action)
+{
+    steps_.push_back([action = std::move(action)] {
+        action();
+        return true;
+    });
+}
+
+void Tour::Await(const QString& window)
+{
+    steps_.push_back([this, window] { return Front()->objectName() == window; });
+}
+
+void Tour::Shoot(const QString& name)
+{
+    Act([this, name] {
+        const QString path = folder_ + QLatin1Char('/') + name + QStringLiteral(".png");
+        if (!Front()->grab().save(path))
+            Fail(QStringLiteral("cannot write %1").arg(path));
+    });
+}
+
+// A button that opens a modal window does not return before that closes, so it is pressed from the
+// event loop while the tour goes on.
+void Tour::Click(const QString& button)
+{
+    Act([this, button] {
+        auto* control = Front()->findChild<QPushButton*>(button);
+        if (!control)
+            return Fail(QStringLiteral("there is no button %1").arg(button));
+        QTimer::singleShot(0, control, &QPushButton::click);
+    });
+}
+
+void Tour::Press(int key)
+{
+    Act([this, key] {
+        QWidget* window = Front();
+        QWidget* target = window->focusWidget() ? window->focusWidget() : window;
+        QApplication::postEvent(target, new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
+    });
+}
+
+void Tour::Resize(int width, int height)
+{
+    Act([this, width, height] { Front()->resize(width, height); });
+}
+
+void Tour::Continue()
+{
+    if (next_ == steps_.size())
+        return QApplication::exit(0);
+    waited_ += stepPause;
+    if (steps_[next_]()) {
+        ++next_;
+        waited_ = 0;
+    } else if (waited_ > patience) {
+        return Fail(QStringLiteral("step %1 of the tour did not come to an end").arg(next_));
+    }
+    QTimer::singleShot(stepPause, this, &Tour::Continue);
+}
+
+void Tour::Fail(const QString& text)
+{
+    QTextStream(stderr) << "lumenark: " << text << '\n';
+    next_ = steps_.size();
+    std::exit(1);
+}

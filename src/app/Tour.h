@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class QWidget;
+
+// Goes through the program's windows by itself, with the keys and buttons of a person, and writes a
+// picture of each into a folder. Needs an album that is open and has a story; ends the program when
+// it is through, with status 1 when a window did not come or a picture could not be written.
+class Tour : public QObject
+{
+    Q_OBJECT
+
+public:
+    Tour(const QString& folder, QWidget* mainWindow);
+
+private:
+    void Continue();
+    void PlanReading();
+    void Act(std::function<void()> action);
+    void Await(const QString& window);
+    void Shoot(const QString& name);
+    void Press(int key);
+    void Click(const QString& button);
+    void Resize(int width, int height);
+    QWidget* Front() const;
+    void Fail(const QString& text);
+
+    // Returns true when done, false to be called again a little later.
+    using Step = std::function<bool()>;
+
+    QString folder_;
+    QWidget* mainWindow_;
+    std::vector<Step> steps_;
+    std::size_t next_ = 0;
+    int waited_ = 0;
+};
