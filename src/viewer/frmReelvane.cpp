@@ -281,14 +281,14 @@ void frmReelvane::EditCurrentParagraph()
 {
     if (!HasParagraphToEdit())
         return;
-    // Autoview is paused here,
+    // Autoview is to be paused from here
     frmEditParagraph editor(this);
     editor.CurrentChapter = CurrentChapter;
     editor.CurrentParagraph = CurrentParagraph;
     editor.exec();
     CurrentChapter = editor.CurrentChapter;
     CurrentParagraph = editor.CurrentParagraph;
-    // and goes on here if it was on.
+    // to here, and to go on when it was on.
     if (CurrentParagraph < 1)
         CloseViewer();
     else
