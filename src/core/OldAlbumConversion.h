@@ -11,7 +11,7 @@ namespace GeneralModule {
 struct ConversionOrder
 {
     QString target;        // path of the new album
-    QString password;      // of the new album; empty for none
+    QString password = {}; // of the new album; empty for none
     bool replaces = false; // a file that is at the target's place
     // Asked now and then; what it throws ends the conversion.
     std::function<void()> check = {};
