@@ -104,6 +104,8 @@ int Convert(const QString& path, const QString& target, const QCommandLineParser
     const DatabaseFileKind kind = KindOfDatabaseFile(path);
     if (kind == DatabaseFileKind::Missing)
         throw Trouble{path, Say("There is no such file.")};
+    if (kind == DatabaseFileKind::Unopenable)
+        throw Trouble{path, Say("It is not a file that can be opened.")};
     if (kind != DatabaseFileKind::OldAlbum)
         throw Trouble{path, Say("It is not an album of the former file format.")};
     OldAlbumFile old(path);

@@ -12,9 +12,9 @@ constexpr qsizetype shownProblems = 15; // what a message box shows on a small s
 constexpr qsizetype shownFolders = 10;
 constexpr qsizetype countedFolders = 10000;
 
-QString Say(const char* text, int count = -1)
+QString Say(const char* text)
 {
-    return QCoreApplication::translate("OldAlbum", text, nullptr, count);
+    return QCoreApplication::translate("OldAlbum", text);
 }
 
 // "C:\..." or "\\server\...", and this system has no such paths.
