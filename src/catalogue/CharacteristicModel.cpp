@@ -5,6 +5,9 @@
 #include "core/TextRoutines.h"
 #include "platform/text/LikePattern.h"
 
+using GeneralModule::AlbumDatabase;
+using GeneralModule::Quoted;
+
 QString ValueTableOf(int column)
 {
     return QStringLiteral("Car%1").arg(LabelledColumnOf(column));
@@ -36,16 +39,35 @@ QString NormalizedValue(const QString& typed)
     return typed.startsWith(noValue) ? noValue : typed.sliced(1);
 }
 
+QStringList ValuesOf(int column)
+{
+    RecordSet table(AlbumDatabase, ValueTableOf(column));
+    const RecordSet::Walk walk(table);
+    const int name = table.FieldNumber(u"Name");
+    QStringList values;
+    for (table.MoveFirst(); !table.AtEnd(); table.MoveNext())
+        values.append(table.TextOrEmpty(name));
+    return values;
+}
+
 QString AddValueToTable(int column, const QString& typed)
 {
     const QString value = CleanValue(typed.isEmpty() ? noValue : typed);
-    try {
-        RecordSet table(GeneralModule::AlbumDatabase, ValueTableOf(column));
-        table.AddNew();
-        table.Set(u"Name", value);
-        table.Update();
-    } catch (const DatabaseError&) {
+    RecordSet table(AlbumDatabase, ValueTableOf(column));
+    // The engine itself finds equal only what differs in the case of A to Z.
+    table.FindFirst(QStringLiteral("[Name] = ") + Quoted(value));
+    if (!table.NoMatch())
         return {};
-    }
+    table.AddNew();
+    table.Set(u"Name", value);
+    table.Update();
     return value;
+}
+
+void RemoveValueFromTable(int column, const QString& value)
+{
+    RecordSet table(AlbumDatabase, ValueTableOf(column));
+    table.FindFirst(QStringLiteral("[Name] = ") + Quoted(value));
+    if (!table.NoMatch())
+        table.Delete();
 }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
+#include <array>
 #include <optional>
 
 // Every picture is described by twelve short texts, columns 0 to 11, in four groups of three. The
@@ -12,6 +14,9 @@
 constexpr int columnCount = 12;
 constexpr int columnsPerGroup = 3;
 constexpr int groupCount = 4;
+
+// Columns with a label and a value table of their own.
+inline constexpr std::array labelledColumns{0, 1, 2, 3, 4, 5, 9, 10, 11};
 
 // Marks a column without a value.
 inline const QString noValue = QStringLiteral("-");
@@ -50,6 +55,13 @@ QString CleanValue(const QString& typed);
 // with "-" is the mark for no value, and any other marker loses its first character.
 QString NormalizedValue(const QString& typed);
 
+// The allowed values of a column, in the order in which they were added.
+QStringList ValuesOf(int column);
+
 // Adds the value, cleaned, to a column's table; an empty one counts as "-". Returns the value
-// added, or an empty text when the table refused it, most often because it holds the value already.
+// added, or an empty text when the table holds it already, in whatever letter case. Throws
+// DatabaseError when the album cannot be changed.
 QString AddValueToTable(int column, const QString& typed);
+
+// Pictures and paragraphs that have the value keep it.
+void RemoveValueFromTable(int column, const QString& value);

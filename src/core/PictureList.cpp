@@ -65,6 +65,14 @@ void PictureList::TakePicked()
         upcoming_.pop_front();
 }
 
+void PictureList::Remove(const QString& file)
+{
+    std::erase(upcoming_, file);
+    const auto endOfLinked = files_.begin() + linked_;
+    linked_ -= int(std::count(files_.begin(), endOfLinked, file));
+    std::erase(files_, file);
+}
+
 void PictureList::PutBack(const QStringList& files)
 {
     upcoming_.insert(upcoming_.begin(), files.begin(), files.end());

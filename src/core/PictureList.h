@@ -29,6 +29,8 @@ public:
     QString PickNext(bool atRandom, const std::function<bool(const QString&)>& isThere);
     // The picture that PickNext gave is on the screen and leaves the list.
     void TakePicked();
+    // Drops a picture that is in the album no more.
+    void Remove(const QString& file);
     // Shown pictures that shall be shown again, before any other and in this order.
     void PutBack(const QStringList& files);
 

@@ -3,8 +3,12 @@
 
 #include "catalogue/CharacteristicModel.h"
 #include "core/Album.h"
+#include "core/Parameters.h"
 #include "core/TextRoutines.h"
 
+#include <QRegularExpression>
+
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -29,7 +33,72 @@ QString ValueOf(const QString& field, bool isKnownPicture)
     return isKnownPicture ? GeneralModule::ImageSet->TextOrEmpty(field) : QString();
 }
 
+// A marker ends at the first ">>", stands in one line, and must not be taken for a "<" before it.
+bool CanNameMarker(const QString& label)
+{
+    static const QRegularExpression bad(QStringLiteral("^<|<<|>>|[\\x00-\\x1f\\x{2028}\\x{2029}]"));
+    return !label.contains(bad);
+}
+
+// What a person reads in a list: a column without any label goes by its number.
+QString TitleOf(const QString& label, const QString& group, int column)
+{
+    if (label.isEmpty() && group.isEmpty())
+        return QStringLiteral("Caracteristic %1").arg(column);
+    return label + QStringLiteral(" (") + group + QLatin1Char(')');
+}
+
+QString Replaced(const QString& text, const std::vector<TextMarker>& markers,
+                 QString TextMarker::*from, QString TextMarker::*to)
+{
+    QString result;
+    qsizetype done = 0;
+    for (qsizetype begin = text.indexOf(u'<'); begin >= 0; begin = text.indexOf(u'<', begin)) {
+        const QStringView rest = QStringView(text).sliced(begin);
+        const auto found =
+            std::find_if(markers.begin(), markers.end(),
+                         [&](const TextMarker& marker) { return rest.startsWith(marker.*from); });
+        if (found == markers.end()) {
+            ++begin;
+            continue;
+        }
+        result.append(QStringView(text).sliced(done, begin - done));
+        result += (*found).*to;
+        begin += ((*found).*from).size();
+        done = begin;
+    }
+    return result.append(QStringView(text).sliced(done));
+}
+
 } // namespace
+
+std::vector<TextMarker> ReadTextMarkers()
+{
+    const QString legend = QStringLiteral("Picture Legend");
+    std::vector<TextMarker> markers{{opening + legend + closing, "<<" + legend + ">>", legend}};
+    for (int column = 0; column < columnCount; ++column) {
+        const QString label = GeneralModule::ColumnLabel(LabelledColumnOf(column));
+        const QString group = GeneralModule::CaractLabel(GroupOf(column));
+        const QString stored = opening + QString::number(column) + closing;
+        const QString display = "<<" + label + " (" + group + ")>>";
+        const bool isTaken =
+            std::any_of(markers.begin(), markers.end(),
+                        [&](const TextMarker& marker) { return marker.display == display; });
+        const bool isPlain = !isTaken && CanNameMarker(label) && CanNameMarker(group);
+        markers.push_back({stored, isPlain ? display : stored, TitleOf(label, group, column)});
+    }
+    return markers;
+}
+
+QString ToDisplayMarkers(const QString& text, const std::vector<TextMarker>& markers)
+{
+    return Replaced(text, markers, &TextMarker::stored, &TextMarker::display);
+}
+
+QString ToStoredMarkers(const QString& text, const std::vector<TextMarker>& markers)
+{
+    return Replaced(text, markers, &TextMarker::display, &TextMarker::stored);
+}
 
 QString FillPictureMarkers(const QString& text, const QString& pictureFile)
 {

@@ -2,7 +2,9 @@
 #include "viewer/frmReelvane.h"
 #include "ui_frmReelvane.h"
 
+#include "catalogue/frmEditImage.h"
 #include "core/Album.h"
+#include "core/PictureFile.h"
 #include "core/ViewerFlags.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
@@ -11,9 +13,11 @@
 #include "platform/widgets/WindowSize.h"
 #include "story/ParagraphMarkers.h"
 #include "story/PictureFilter.h"
+#include "story/frmEditParagraph.h"
 #include "viewer/StoryPage.h"
 #include "viewer/ViewerKeys.h"
 
+#include <QFileInfo>
 #include <QScopeGuard>
 
 using GeneralModule::ChapterSet;
@@ -61,7 +65,7 @@ void frmReelvane::ConnectControls()
              Button{ui_->cmdZoomIn, "zoom-in", &frmReelvane::cmdZoomIn_Click},
              Button{ui_->cmdZoomOut, "zoom-out", &frmReelvane::cmdZoomOut_Click},
              Button{ui_->cmdTimer, "timer-start", nullptr},
-             Button{ui_->cmdEditParagraph, "edit-paragraph", nullptr},
+             Button{ui_->cmdEditParagraph, "edit-paragraph", &frmReelvane::cmdEditParagraph_Click},
              Button{ui_->cmdRefresh, "refresh", &frmReelvane::cmdRefresh_Click},
              Button{ui_->cmdHideMenu, "full-screen", nullptr},
              Button{ui_->cmdClose, "exit", &frmReelvane::CloseViewer},
@@ -74,6 +78,8 @@ void frmReelvane::ConnectControls()
     connect(ui_->page, &StoryPage::PicturePressed, this, [this](int index, Qt::MouseButton button) {
         RunGuarded([&] { imgImage_MouseDown(index, button); });
     });
+    connect(ui_->page, &StoryPage::LegendClicked, this,
+            Guarded(this, &frmReelvane::lblLegend_Click));
     connect(ui_->page, &StoryPage::FullSizePressed, this, &frmReelvane::imgFullSize_MouseDown);
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
     resizeDelay_.setSingleShot(true);
@@ -100,6 +106,7 @@ void frmReelvane::Form_Resize()
     sinceResize_.start();
     Nblines = 1;
     ui_->cmdRefresh->setVisible(CurrentChapter == 0);
+    ui_->cmdEditParagraph->setEnabled(CurrentChapter != 0);
     if (CurrentChapter != 0) {
         DisplayForm->SetPictureToolTip(tr("Click to edit image"));
         DisplayChapter();
@@ -257,6 +264,47 @@ void frmReelvane::CloseViewer()
     close();
 }
 
+// Pictures outside the story belong to no paragraph; the first one of a chapter is made here.
+bool frmReelvane::HasParagraphToEdit()
+{
+    if (CurrentChapter == 0)
+        return false;
+    if (CurrentParagraph > 0)
+        return true;
+    ParagraphPlace place{CurrentChapter, 0};
+    CreateFirstParagraph(place);
+    CurrentParagraph = place.paragraph;
+    return CurrentParagraph > 0;
+}
+
+void frmReelvane::EditCurrentParagraph()
+{
+    if (!HasParagraphToEdit())
+        return;
+    // Autoview is paused here,
+    frmEditParagraph editor(this);
+    editor.CurrentChapter = CurrentChapter;
+    editor.CurrentParagraph = CurrentParagraph;
+    editor.exec();
+    CurrentChapter = editor.CurrentChapter;
+    CurrentParagraph = editor.CurrentParagraph;
+    // and goes on here if it was on.
+    if (CurrentParagraph < 1)
+        CloseViewer();
+    else
+        DisplayParagraph();
+}
+
+void frmReelvane::cmdEditParagraph_Click()
+{
+    EditCurrentParagraph();
+}
+
+void frmReelvane::lblLegend_Click()
+{
+    EditCurrentParagraph();
+}
+
 void frmReelvane::cmdNextImages_Click()
 {
     if (lstImage_.Count() == 0)
@@ -294,8 +342,47 @@ void frmReelvane::cmdRefresh_Click()
 
 void frmReelvane::imgImage_MouseDown(int index, Qt::MouseButton button)
 {
-    if (button == Qt::LeftButton && std::size_t(index) < displayed_.size())
+    if (std::size_t(index) >= displayed_.size())
+        return;
+    if (button == Qt::LeftButton)
         ShowLargePicture(displayed_[std::size_t(index)]);
+    else if (button == Qt::RightButton)
+        IndexPicture(displayed_[std::size_t(index)].file);
+}
+
+void frmReelvane::IndexPicture(const QString& file)
+{
+    // A story still shows the pictures that the indexing window went on to; a selection to be
+    // indexed does not come back to them.
+    PictureList upcoming = lstImage_;
+    const auto isThere = [](const QString& picture) {
+        return QFileInfo::exists(GeneralModule::ResolvePictureFile(picture));
+    };
+    frmEditImage window(this);
+    window.CurrentImage = file;
+    window.HasNextPicture = [&] { return upcoming.Count() > 0; };
+    window.NextPicture = [&] {
+        const QString next = upcoming.PickNext(GeneralModule::PictureAtRandom, isThere);
+        upcoming.TakePicked();
+        return next;
+    };
+    window.exec();
+    const bool isBrowsing = CurrentChapter < 1;
+    if (isBrowsing)
+        lstImage_ = upcoming;
+    DropTakenOut(window.TakenOut);
+    ShowText(isBrowsing);
+}
+
+void frmReelvane::DropTakenOut(const QStringList& files)
+{
+    if (files.isEmpty())
+        return;
+    for (const QString& file : files)
+        lstImage_.Remove(file);
+    std::erase_if(displayed_,
+                  [&files](const ShownPicture& picture) { return files.contains(picture.file); });
+    DisplayImagesFromList(true);
 }
 
 void frmReelvane::ShowLargePicture(const ShownPicture& picture)
@@ -341,6 +428,8 @@ bool frmReelvane::Form_KeyDown(QKeyEvent& key)
         CloseViewer();
         return true;
     case ViewerCommand::EditParagraph:
+        cmdEditParagraph_Click();
+        return true;
     case ViewerCommand::SwitchAutoview:
     case ViewerCommand::Leave:
     case ViewerCommand::None:

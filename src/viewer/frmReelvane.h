@@ -48,6 +48,10 @@ public:
     void GoToTopOfChapter();
     void CloseViewer();
 
+    // Opens the paragraph editor on the current paragraph, which an empty chapter is given first,
+    // and follows it to where the user went.
+    void EditCurrentParagraph();
+
     // Shows the pictures of the album that fit a selection, at most that many. An empty selection
     // means any path.
     void DisplayUndefined(const QString& fileSelection, int maxImages);
@@ -67,6 +71,8 @@ private:
     void cmdZoomIn_Click();
     void cmdZoomOut_Click();
     void cmdRefresh_Click();
+    void cmdEditParagraph_Click();
+    void lblLegend_Click();
     void imgImage_MouseDown(int index, Qt::MouseButton button);
     void imgFullSize_MouseDown(Qt::MouseButton button);
 
@@ -75,7 +81,10 @@ private:
     void DisplayImagesFromList(bool displayAgain);
     void DisplayEmptyChapter();
     void ShowText(bool isBrowsing);
+    bool HasParagraphToEdit();
     void ShowLargePicture(const ShownPicture& picture);
+    void IndexPicture(const QString& file);
+    void DropTakenOut(const QStringList& files);
 
     std::unique_ptr<Ui::frmReelvane> ui_;
     PictureList lstImage_;

@@ -2,6 +2,8 @@
 #include "ui/main/frmOpenChapter.h"
 #include "ui_frmOpenChapter.h"
 
+#include "catalogue/frmLoadFiles.h"
+#include "catalogue/frmReloadPictures.h"
 #include "core/Album.h"
 #include "core/ChapterChain.h"
 #include "core/PathRoutines.h"
@@ -14,6 +16,8 @@
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/MainWindowState.h"
+#include "ui/main/frmAbout.h"
+#include "ui/main/frmRepairAlbum.h"
 #include "viewer/frmReelvane.h"
 
 #include <QKeyEvent>
@@ -54,13 +58,15 @@ void frmOpenChapter::ConnectControls()
     Connect(nullptr, ui_->mnuDeleteChapter, &frmOpenChapter::mnuDeleteChapter_Click, "delete");
     Connect(ui_->cmdMoveUp, nullptr, &frmOpenChapter::cmdMoveUp_Click, "move-up");
     Connect(ui_->cmdMoveDown, nullptr, &frmOpenChapter::cmdMoveDown_Click, "move-down");
-    Connect(ui_->cmdLoadPictures, ui_->mnuLoadPictures, nullptr, "load-pictures");
+    Connect(ui_->cmdLoadPictures, ui_->mnuLoadPictures, &frmOpenChapter::mnuLoadPictures_Click,
+            "load-pictures");
+    Connect(nullptr, ui_->mnuReloadPictures, &frmOpenChapter::mnuReloadPictures_Click, "refresh");
     Connect(ui_->cmdDisplayUndefined, ui_->mnuUndefined, &frmOpenChapter::mnuUndefined_Click,
             "index-pictures");
     Connect(nullptr, ui_->mnuAllPictures, &frmOpenChapter::mnuAllPictures_Click, "");
-    Connect(nullptr, ui_->mnuRepair, nullptr, "repair");
+    Connect(nullptr, ui_->mnuRepair, &frmOpenChapter::mnuRepair_Click, "repair");
     Connect(nullptr, ui_->mnuPhotoAlbumHelp, &frmOpenChapter::mnuPhotoAlbumHelp_Click, "help");
-    Connect(nullptr, ui_->mnuAbout, nullptr, "about");
+    Connect(nullptr, ui_->mnuAbout, &frmOpenChapter::mnuAbout_Click, "about");
     for (QAction* separator :
          {ui_->mnuSep1, ui_->mnuSep2, ui_->mnuSep3, ui_->mnuSep4, ui_->mnuSep5})
         separator->setSeparator(true);
@@ -147,6 +153,9 @@ void frmOpenChapter::RefreshState()
         button->setVisible(state.offersAlbumCommands);
     ui_->cmdCreateChapter->setEnabled(state.offersAlbumCommands);
     ui_->mnuCreateChapter->setEnabled(state.offersAlbumCommands);
+    ui_->cmdLoadPictures->setEnabled(state.offersAlbumCommands);
+    ui_->mnuLoadPictures->setEnabled(state.offersAlbumCommands);
+    ui_->mnuReloadPictures->setEnabled(state.offersPictureCommands);
     ui_->cmdDisplayUndefined->setEnabled(state.offersPictureCommands);
     ui_->mnuUndefined->setEnabled(state.offersPictureCommands);
     ui_->mnuAllPictures->setEnabled(state.offersPictureCommands);
@@ -155,10 +164,9 @@ void frmOpenChapter::RefreshState()
         entry->setEnabled(state.offersChapterCommands);
     ui_->cmdMoveUp->setEnabled(state.canMoveUp);
     ui_->cmdMoveDown->setEnabled(state.canMoveDown);
+    ui_->mnuRepair->setEnabled(state.offersAlbumCommands);
     // The windows behind these are still to come.
-    ui_->cmdLoadPictures->setEnabled(false);
-    for (QAction* entry : {ui_->mnuLoadPictures, ui_->mnuReloadPictures, ui_->mnuSelectedUndefined,
-                           ui_->mnuSelectedPictures, ui_->mnuRepair, ui_->mnuAbout})
+    for (QAction* entry : {ui_->mnuSelectedUndefined, ui_->mnuSelectedPictures})
         entry->setEnabled(false);
     if (ui_->lstChapter->isVisible())
         ui_->lstChapter->setFocus();
@@ -324,6 +332,18 @@ void frmOpenChapter::cmdMoveDown_Click()
     RefreshState();
 }
 
+void frmOpenChapter::mnuLoadPictures_Click()
+{
+    frmLoadFiles(this).exec();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuReloadPictures_Click()
+{
+    frmReloadPictures(this).exec();
+    RefreshState();
+}
+
 void frmOpenChapter::ShowPictures(const QString& imageSelection)
 {
     AutoviewOn = false;
@@ -342,6 +362,19 @@ void frmOpenChapter::mnuUndefined_Click()
 void frmOpenChapter::mnuAllPictures_Click()
 {
     ShowPictures(QStringLiteral("*"));
+}
+
+void frmOpenChapter::mnuRepair_Click()
+{
+    frmRepairAlbum(this).exec();
+    if (AlbumOpen)
+        FillChapterList();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuAbout_Click()
+{
+    frmAbout(this).exec();
 }
 
 void frmOpenChapter::mnuPhotoAlbumHelp_Click()

@@ -43,8 +43,12 @@ private:
     void mnuDeleteChapter_Click();
     void cmdMoveUp_Click();
     void cmdMoveDown_Click();
+    void mnuLoadPictures_Click();
+    void mnuReloadPictures_Click();
     void mnuUndefined_Click();
     void mnuAllPictures_Click();
+    void mnuRepair_Click();
+    void mnuAbout_Click();
     void mnuPhotoAlbumHelp_Click();
 
     void ConnectControls();

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/PictureRecord.h"
+
+#include "core/Album.h"
+#include "core/TextRoutines.h"
+#include "platform/data/WriteBatch.h"
+#include "platform/dialogs/Dialogs.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using GeneralModule::AlbumDatabase;
+using GeneralModule::ImageSet;
+using GeneralModule::Quoted;
+
+namespace {
+
+QString FieldOf(int column)
+{
+    return QStringLiteral("Car%1").arg(column);
+}
+
+QString HeldSpelling(int column, const QString& value)
+{
+    RecordSet table(AlbumDatabase, ValueTableOf(column));
+    table.FindFirst(QStringLiteral("[Name] = ") + Quoted(value));
+    return table.NoMatch() ? QString() : table.TextOrEmpty(u"Name");
+}
+
+// The value that a typed text stands for; in the column's table afterwards.
+QString StoreValue(int column, const QString& typed)
+{
+    if (typed.isEmpty())
+        return noValue;
+    // Looked up as it is first: a marker may be chosen, though not typed.
+    QString held = HeldSpelling(column, typed);
+    if (!held.isEmpty())
+        return held;
+    const QString value = CleanValue(NormalizedValue(typed));
+    if (value.isEmpty() || value == noValue)
+        return noValue;
+    held = HeldSpelling(column, value);
+    return held.isEmpty() ? AddValueToTable(column, value) : held;
+}
+
+bool FindPicture(const QString& file)
+{
+    ImageSet->FindFirst(QStringLiteral("[File]=") + Quoted(file));
+    return !ImageSet->NoMatch();
+}
+
+// Why the file could not be deleted; empty when it is gone.
+QString DeleteFile(const QString& path)
+{
+    QFile file(path);
+    if (file.remove() || !QFileInfo::exists(path))
+        return {};
+    return QCoreApplication::translate("PictureRecord", "The file '%1' cannot be deleted: %2")
+        .arg(QDir::toNativeSeparators(path), file.errorString());
+}
+
+// Why the picture could not be taken out; empty when it is out of the album.
+QString TryToTakeOut(const QString& file, bool deleteFile)
+{
+    // Begun before the file goes: an album that cannot be changed is found out here.
+    WriteBatch batch(AlbumDatabase);
+    const QString trouble = deleteFile ? DeleteFile(file) : QString();
+    if (trouble.isEmpty() && FindPicture(file))
+        ImageSet->Delete();
+    batch.Finish();
+    return trouble;
+}
+
+} // namespace
+
+std::optional<PictureRecord> ReadPictureRecord(const QString& file)
+{
+    if (!FindPicture(file))
+        return std::nullopt;
+    PictureRecord record;
+    for (int column = 0; column < columnCount; ++column)
+        record.values[std::size_t(column)] = ImageSet->TextOrEmpty(FieldOf(column));
+    record.legend = ImageSet->TextOrEmpty(u"Legend");
+    return record;
+}
+
+PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
+                                const PictureRecord& edited)
+{
+    PictureRecord saved = edited;
+    for (QString& value : saved.values) {
+        if (value.isEmpty())
+            value = noValue;
+    }
+    if (saved == shown || !FindPicture(file))
+        return saved;
+    WriteBatch batch(AlbumDatabase);
+    for (int column = 0; column < columnCount; ++column) {
+        QString& value = saved.values[std::size_t(column)];
+        if (value != shown.values[std::size_t(column)])
+            value = StoreValue(column, value);
+    }
+    ImageSet->Edit();
+    for (int column = 0; column < columnCount; ++column) {
+        const QString& value = saved.values[std::size_t(column)];
+        if (value != shown.values[std::size_t(column)])
+            ImageSet->Set(FieldOf(column), value);
+    }
+    if (saved.legend != shown.legend)
+        ImageSet->Set(u"Legend", saved.legend);
+    ImageSet->Update();
+    batch.Finish();
+    return saved;
+}
+
+bool TakeOutPicture(const QString& file, bool deleteFile)
+{
+    const QString trouble = TryToTakeOut(file, deleteFile);
+    if (!trouble.isEmpty())
+        Tell(trouble, Dialogs::Icon::Warning);
+    return trouble.isEmpty();
+}

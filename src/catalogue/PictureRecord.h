@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "catalogue/CharacteristicModel.h"
+
+#include <QString>
+
+#include <array>
+#include <optional>
+
+// What the album tells of a picture.
+struct PictureRecord
+{
+    QString legend;
+    std::array<QString, columnCount> values;
+
+    bool operator==(const PictureRecord&) const = default;
+};
+
+// None when the album holds no picture of that File.
+std::optional<PictureRecord> ReadPictureRecord(const QString& file);
+
+// Writes what a person made of the record that was shown. A value that was not touched stays as it
+// is, also one that its table no longer offers; an empty one becomes "-"; a new one is cleaned and
+// added to its table, and one that the table holds in another letter case is taken from there.
+// Returns the record as it is now; edited when the album no longer holds the picture. Throws
+// DatabaseError.
+PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
+                                const PictureRecord& edited);
+
+// Takes the picture out of the album, and deletes its file before when that is wanted. A file that
+// cannot be deleted costs a message and nothing is changed; one that is not there counts as
+// deleted. Returns whether the picture is out of the album. Throws DatabaseError.
+bool TakeOutPicture(const QString& file, bool deleteFile);

@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/frmEditImage.h"
+#include "ui_frmEditImage.h"
+
+#include "catalogue/frmEditTables.h"
+#include "core/Parameters.h"
+#include "core/PictureFile.h"
+#include "platform/data/DatabaseError.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/dialogs/Guard.h"
+#include "platform/widgets/KeyPreview.h"
+#include "platform/widgets/ThemedIcon.h"
+#include "platform/widgets/WindowSize.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStringListModel>
+
+#include <algorithm>
+
+using namespace GeneralModule;
+
+namespace {
+
+constexpr QSize proposedSize(1020, 780);
+
+// Of the entry that is the value, else of one that differs from it in letter case only; -1 for
+// none. Faster than the toolkit's own search, which matters with thousands of entries in twelve
+// lists.
+int IndexOf(const QComboBox& combo, const QString& value)
+{
+    const auto* model = qobject_cast<const QStringListModel*>(combo.model());
+    const QStringList values = model ? model->stringList() : QStringList();
+    const qsizetype exact = values.indexOf(value);
+    if (exact >= 0)
+        return int(exact);
+    const auto same = std::find_if(values.begin(), values.end(), [&value](const QString& entry) {
+        return entry.compare(value, Qt::CaseInsensitive) == 0;
+    });
+    return same == values.end() ? -1 : int(same - values.begin());
+}
+
+bool IsTyping(const QWidget* focus)
+{
+    return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QComboBox*>(focus);
+}
+
+} // namespace
+
+frmEditImage::frmEditImage(QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmEditImage>())
+{
+    ui_->setupUi(this);
+    setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    KeepWindowSize(this, proposedSize);
+    for (int column = 0; column < columnCount; ++column)
+        cboCategory_[std::size_t(column)] =
+            findChild<QComboBox*>(QStringLiteral("cboCategory_%1").arg(column));
+    ConnectControls();
+}
+
+frmEditImage::~frmEditImage() = default;
+
+void frmEditImage::ConnectControls()
+{
+    ui_->cmdNextImage->setIcon(ThemedIcon(QStringLiteral("next-pictures")));
+    ui_->cmdNextImage->setShortcut(Qt::ALT | Qt::Key_N);
+    ui_->cmdDelete->setIcon(ThemedIcon(QStringLiteral("delete")));
+    ui_->cmdEditTables->setIcon(ThemedIcon(QStringLiteral("rename")));
+    ui_->cmdExit->setIcon(ThemedIcon(QStringLiteral("exit")));
+    connect(ui_->cmdNextImage, &QPushButton::clicked, this,
+            Guarded(this, &frmEditImage::cmdNextImage_Click));
+    connect(ui_->cmdDelete, &QPushButton::clicked, this,
+            Guarded(this, &frmEditImage::cmdDelete_Click));
+    connect(ui_->cmdEditTables, &QPushButton::clicked, this,
+            Guarded(this, &frmEditImage::cmdEditTables_Click));
+    connect(ui_->cmdExit, &QPushButton::clicked, this, &QDialog::close);
+    for (int column = 0; column < columnCount; ++column)
+        connect(cboCategory_[std::size_t(column)]->lineEdit(), &QLineEdit::textEdited, this,
+                [this, column] { cboCategory_Change(column); });
+    new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
+}
+
+void frmEditImage::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (isLoaded_)
+        return;
+    isLoaded_ = true;
+    RunGuarded([this] { Form_Load(); });
+}
+
+void frmEditImage::Form_Load()
+{
+    DisplayCaracteristicNames();
+    ShowPicture();
+    ui_->txtLegend->setFocus();
+}
+
+QLabel* frmEditImage::LabelOf(const QString& name) const
+{
+    return findChild<QLabel*>(name);
+}
+
+void frmEditImage::DisplayCaracteristicNames()
+{
+    for (int group = 0; group < groupCount; ++group)
+        LabelOf(QStringLiteral("lblCaract_%1").arg(group))->setText(CaractLabel(group));
+    for (const int column : labelledColumns) {
+        const QString label = ColumnLabel(column);
+        LabelOf(QStringLiteral("lblCar_%1").arg(column))->setText(label);
+        // Twins offer the same values, read once and held once.
+        auto* values = new QStringListModel(ValuesOf(column), this);
+        std::vector<int> columns{column};
+        if (const auto twin = TwinColumnOf(column))
+            columns.push_back(*twin);
+        QAbstractItemModel* former = cboCategory_[std::size_t(column)]->model();
+        for (const int user : columns) {
+            QComboBox* combo = cboCategory_[std::size_t(user)];
+            combo->setModel(values);
+            combo->setAccessibleName(CaractLabel(GroupOf(user)) + QLatin1Char(' ') + label);
+            SetValue(user, {});
+        }
+        if (former->parent() == this)
+            delete former;
+    }
+}
+
+void frmEditImage::ShowPicture()
+{
+    ui_->stage->ShowPicture(CurrentImage, ResolvePictureFile(CurrentImage));
+    ui_->lblFileName->setText(CurrentImage);
+    ui_->lblFileName->setToolTip(CurrentImage.toHtmlEscaped());
+    ui_->cmdNextImage->setVisible(HasNextPicture && HasNextPicture());
+    const std::optional<PictureRecord> record = ReadPictureRecord(CurrentImage);
+    isKnown_ = record.has_value();
+    shown_ = record.value_or(PictureRecord());
+    ShowRecord();
+    if (!isKnown_)
+        Tell(QStringLiteral("Internal Error : Image File ") + CurrentImage +
+                 QStringLiteral(" not found"),
+             Dialogs::Icon::Critical);
+}
+
+void frmEditImage::ShowRecord()
+{
+    for (int column = 0; column < columnCount; ++column)
+        SetValue(column, shown_.values[std::size_t(column)]);
+    if (ui_->txtLegend->text() != shown_.legend)
+        ui_->txtLegend->setText(shown_.legend);
+}
+
+// A value that the table does not offer is shown all the same, with no entry selected, so that
+// nobody takes the picture for one without.
+void frmEditImage::SetValue(int column, const QString& value)
+{
+    QComboBox* combo = cboCategory_[std::size_t(column)];
+    combo->setCurrentIndex(IndexOf(*combo, value));
+    combo->setEditText(value);
+}
+
+void frmEditImage::cboCategory_Change(int column)
+{
+    QComboBox* combo = cboCategory_[std::size_t(column)];
+    QString text = combo->currentText();
+    for (QString normal = NormalizedValue(text); normal != text; normal = NormalizedValue(text))
+        text = normal;
+    if (text != combo->currentText())
+        combo->setEditText(text);
+}
+
+void frmEditImage::SavePicture()
+{
+    if (CurrentImage.isEmpty() || !isKnown_)
+        return;
+    PictureRecord edited;
+    for (int column = 0; column < columnCount; ++column)
+        edited.values[std::size_t(column)] = cboCategory_[std::size_t(column)]->currentText();
+    edited.legend = ui_->txtLegend->text();
+    const PictureRecord saved = SavePictureRecord(CurrentImage, shown_, edited);
+    for (int column = 0; column < columnCount; ++column) {
+        QComboBox* combo = cboCategory_[std::size_t(column)];
+        const QString& value = saved.values[std::size_t(column)];
+        const bool isNew = value != shown_.values[std::size_t(column)];
+        if (isNew && IndexOf(*combo, value) < 0)
+            combo->addItem(value);
+    }
+    shown_ = saved;
+    ShowRecord();
+}
+
+void frmEditImage::cmdNextImage_Click()
+{
+    SavePicture();
+    GoToNextPicture();
+}
+
+void frmEditImage::GoToNextPicture()
+{
+    const QString next = NextPicture ? NextPicture() : QString();
+    if (next.isEmpty()) {
+        close();
+        return;
+    }
+    CurrentImage = next;
+    ShowPicture();
+    ui_->txtLegend->setFocus();
+    ui_->txtLegend->selectAll();
+}
+
+void frmEditImage::cmdDelete_Click()
+{
+    const Dialogs::Answer answer =
+        Dialogs::Door().Ask({.text = QStringLiteral("Do you also want to delete the file ") +
+                                     CurrentImage + QStringLiteral(" ?"),
+                             .icon = Dialogs::Icon::Question,
+                             .buttons = Dialogs::Buttons::YesNoCancel,
+                             .defaultAnswer = Dialogs::Answer::Cancel});
+    if (answer == Dialogs::Answer::Cancel ||
+        !TakeOutPicture(CurrentImage, answer == Dialogs::Answer::Yes))
+        return;
+    TakenOut.append(CurrentImage);
+    CurrentImage.clear();
+    if (IsSinglePicture)
+        close();
+    else
+        GoToNextPicture();
+}
+
+// Saved first, so that a value just typed stands in its table, and a replacement reaches it.
+void frmEditImage::cmdEditTables_Click()
+{
+    SavePicture();
+    frmEditTables(CurrentImage, this).exec();
+    DisplayCaracteristicNames();
+    shown_ = ReadPictureRecord(CurrentImage).value_or(shown_);
+    ShowRecord();
+}
+
+bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
+{
+    const bool isPlain = !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (key.key() != Qt::Key_Q || !isPlain || IsTyping(focusWidget()))
+        return false;
+    close();
+    return true;
+}
+
+// Every way out leads through here.
+void frmEditImage::reject()
+{
+    if (SaveBeforeLeaving())
+        QDialog::reject();
+}
+
+bool frmEditImage::SaveBeforeLeaving()
+{
+    try {
+        SavePicture();
+        return true;
+    } catch (const DatabaseError& error) {
+        const Dialogs::Answer answer = Dialogs::Door().Ask(
+            {.text = error.GetDescription() + QLatin1Char('\n') +
+                     tr("The picture could not be saved. Leave without saving ?"),
+             .icon = Dialogs::Icon::Warning,
+             .buttons = Dialogs::Buttons::YesNo,
+             .defaultAnswer = Dialogs::Answer::No});
+        return answer == Dialogs::Answer::Yes;
+    }
+}

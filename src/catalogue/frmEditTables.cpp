@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/frmEditTables.h"
+#include "ui_frmEditTables.h"
+
+#include "catalogue/CharacteristicModel.h"
+#include "catalogue/ValueEntry.h"
+#include "catalogue/ValueReplacement.h"
+#include "catalogue/frmEditLabels.h"
+#include "core/Parameters.h"
+#include "core/PictureFile.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/dialogs/Guard.h"
+#include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/ThemedIcon.h"
+#include "platform/widgets/WindowSize.h"
+
+#include <QScopeGuard>
+
+#include <array>
+
+using namespace GeneralModule;
+
+namespace {
+
+constexpr QSize proposedSize(820, 600);
+
+// First column of the tables that each optCaracteristic stands for; the twin groups are one choice.
+constexpr std::array firstColumns{0, 3, 9};
+
+// In a caption "&" would mark an access key.
+QString AsCaption(const QString& label, const QString& whenEmpty)
+{
+    return label.isEmpty() ? whenEmpty : QString(label).replace(u'&', QStringLiteral("&&"));
+}
+
+QString TwinGroupsLabel()
+{
+    const QString first = CaractLabel(1);
+    const QString second = CaractLabel(2);
+    return first.isEmpty() && second.isEmpty() ? QString() : first + QLatin1Char('/') + second;
+}
+
+} // namespace
+
+frmEditTables::frmEditTables(const QString& picture, QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmEditTables>())
+{
+    ui_->setupUi(this);
+    KeepWindowSize(this, proposedSize);
+    RunGuarded([&] { Form_Load(picture); });
+    ConnectControls();
+}
+
+frmEditTables::~frmEditTables() = default;
+
+void frmEditTables::ConnectControls()
+{
+    struct Button
+    {
+        QPushButton* button;
+        const char* icon;
+        void (frmEditTables::*handler)();
+    };
+    for (const Button& entry : {
+             Button{ui_->cmdAddNew, "chapter-create", &frmEditTables::cmdAddNew_Click},
+             Button{ui_->cmdReplace, "rename", &frmEditTables::cmdReplace_Click},
+             Button{ui_->cmdDelete, "delete", &frmEditTables::cmdDelete_Click},
+             Button{ui_->cmdEditLabels, "edit-paragraph", &frmEditTables::cmdEditLabels_Click},
+         }) {
+        entry.button->setIcon(ThemedIcon(QString::fromLatin1(entry.icon)));
+        connect(entry.button, &QPushButton::clicked, this, Guarded(this, entry.handler));
+    }
+    ui_->cmdClose->setIcon(ThemedIcon(QStringLiteral("exit")));
+    connect(ui_->cmdClose, &QPushButton::clicked, this, &QDialog::close);
+    for (QRadioButton* option :
+         {ui_->optCaracteristic_1, ui_->optCaracteristic_2, ui_->optCaracteristic_3})
+        connect(option, &QRadioButton::clicked, this,
+                Guarded(this, &frmEditTables::optCaracteristic_Click));
+    for (QRadioButton* option : {ui_->optColumn_1, ui_->optColumn_2, ui_->optColumn_3})
+        connect(option, &QRadioButton::clicked, this,
+                Guarded(this, &frmEditTables::optColumn_Click));
+}
+
+void frmEditTables::Form_Load(const QString& picture)
+{
+    ui_->stage->ShowPicture(picture, picture.isEmpty() ? picture : ResolvePictureFile(picture));
+    optCaracteristic_Click();
+}
+
+void frmEditTables::optCaracteristic_Click()
+{
+    ShowCaptions();
+    LoadTable();
+}
+
+void frmEditTables::optColumn_Click()
+{
+    LoadTable();
+}
+
+void frmEditTables::ShowCaptions()
+{
+    const std::array groups{ui_->optCaracteristic_1, ui_->optCaracteristic_2,
+                            ui_->optCaracteristic_3};
+    const std::array labels{CaractLabel(0), TwinGroupsLabel(), CaractLabel(3)};
+    const std::array columns{ui_->optColumn_1, ui_->optColumn_2, ui_->optColumn_3};
+    for (int i = 0; i < columnsPerGroup; ++i) {
+        const auto at = std::size_t(i);
+        groups[at]->setText(AsCaption(labels[at], QStringLiteral("Caracteristic%1").arg(i + 1)));
+        if (!groups[at]->isChecked())
+            continue;
+        for (int j = 0; j < columnsPerGroup; ++j)
+            columns[std::size_t(j)]->setText(AsCaption(ColumnLabel(firstColumns[at] + j),
+                                                       QStringLiteral("Column %1").arg(j + 1)));
+    }
+}
+
+void frmEditTables::LoadTable()
+{
+    column_ = -1;
+    const std::array groups{ui_->optCaracteristic_1, ui_->optCaracteristic_2,
+                            ui_->optCaracteristic_3};
+    const std::array columns{ui_->optColumn_1, ui_->optColumn_2, ui_->optColumn_3};
+    for (std::size_t i = 0; i < groups.size(); ++i) {
+        for (std::size_t j = 0; j < columns.size(); ++j) {
+            if (groups[i]->isChecked() && columns[j]->isChecked())
+                column_ = firstColumns[i] + int(j);
+        }
+    }
+    if (column_ < 0)
+        return;
+    ui_->lstCar->clear();
+    ui_->lstCar->addItems(ValuesOf(column_));
+}
+
+QString frmEditTables::SelectedValue() const
+{
+    const QList<QListWidgetItem*> selected = ui_->lstCar->selectedItems();
+    return selected.isEmpty() ? QString() : selected.constFirst()->text();
+}
+
+bool frmEditTables::IsListed(const QString& value) const
+{
+    return !ui_->lstCar->findItems(value, Qt::MatchFixedString).isEmpty();
+}
+
+void frmEditTables::cmdAddNew_Click()
+{
+    if (column_ < 0)
+        return;
+    const QString value = AskForValue(QStringLiteral("Please Enter Parameter's Name"), {});
+    if (value.isEmpty())
+        return;
+    const QString added = AddValueToTable(column_, value);
+    if (added.isEmpty())
+        return;
+    ui_->lstCar->addItem(added);
+    ui_->lstCar->setCurrentRow(ui_->lstCar->count() - 1);
+}
+
+void frmEditTables::cmdDelete_Click()
+{
+    const QString value = SelectedValue();
+    if (value.isEmpty())
+        return;
+    if (IsSpecialMarker(value))
+        return Tell(QStringLiteral("Sorry, you can't delete the special markers"),
+                    Dialogs::Icon::Warning);
+    RemoveValueFromTable(column_, value);
+    delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
+}
+
+void frmEditTables::cmdReplace_Click()
+{
+    const QString old = SelectedValue();
+    if (old.isEmpty())
+        return;
+    if (IsSpecialMarker(old))
+        return Tell(QStringLiteral("Sorry, you can't modify the special markers"),
+                    Dialogs::Icon::Warning);
+    const QString replacement = AskForValue(
+        QStringLiteral("Replace all occurences of ") + old + QStringLiteral(" by :"), old);
+    if (replacement.isEmpty() || replacement == old)
+        return;
+    RunReplacement(old, replacement);
+    delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
+    if (!IsListed(replacement)) {
+        ui_->lstCar->addItem(replacement);
+        ui_->lstCar->setCurrentRow(ui_->lstCar->count() - 1);
+    }
+}
+
+void frmEditTables::RunReplacement(const QString& old, const QString& replacement)
+{
+    const BusyPointer busy;
+    ui_->progress->Begin(0, false);
+    const auto end = qScopeGuard([this] {
+        ui_->progress->End();
+        ui_->lblProgress->clear();
+    });
+    ReplaceValue(column_, old, replacement, [this](int changed) {
+        ui_->progress->Advance(changed);
+        if (ui_->progress->HasShown())
+            ui_->lblProgress->setText(tr("%1 pictures and paragraphs changed").arg(changed));
+    });
+}
+
+void frmEditTables::cmdEditLabels_Click()
+{
+    frmEditLabels(this).exec();
+    ShowCaptions();
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmEditTables;
+}
+
+// Keeps the tables of allowed values: adds and deletes values, and replaces one throughout the
+// album.
+class frmEditTables : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // Shows the album's picture of that File beside the tables.
+    frmEditTables(const QString& picture, QWidget* parent);
+    ~frmEditTables() override;
+
+private:
+    void Form_Load(const QString& picture);
+    void optCaracteristic_Click();
+    void optColumn_Click();
+    void cmdAddNew_Click();
+    void cmdDelete_Click();
+    void cmdReplace_Click();
+    void cmdEditLabels_Click();
+
+    void ConnectControls();
+    void ShowCaptions();
+    void LoadTable();
+    void RunReplacement(const QString& old, const QString& replacement);
+    QString SelectedValue() const;
+    bool IsListed(const QString& value) const;
+
+    std::unique_ptr<Ui::frmEditTables> ui_;
+    int column_ = -1; // whose table is shown: 0 to 5 or 9 to 11; -1 when none is chosen
+};

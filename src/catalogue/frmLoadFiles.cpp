@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/frmLoadFiles.h"
+#include "ui_frmLoadFiles.h"
+
+#include "catalogue/PictureLoading.h"
+#include "platform/dialogs/Guard.h"
+#include "platform/files/FolderListing.h"
+#include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/ThemedIcon.h"
+#include "platform/widgets/WindowSize.h"
+
+#include <QScopeGuard>
+
+namespace {
+
+constexpr QSize proposedSize(820, 560);
+
+} // namespace
+
+frmLoadFiles::frmLoadFiles(QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmLoadFiles>())
+{
+    ui_->setupUi(this);
+    KeepWindowSize(this, proposedSize);
+    ui_->cmdLoad->setIcon(ThemedIcon(QStringLiteral("load-pictures")));
+    ui_->cmdCancel->setIcon(ThemedIcon(QStringLiteral("exit")));
+    RunGuarded([this] { Form_Load(); });
+    connect(ui_->drvPicturesToLoad, &DriveBox::DriveChanged, this,
+            Guarded(this, &frmLoadFiles::drvPicturesToLoad_Change));
+    connect(ui_->dirPicturesToLoad, &FolderList::PathChanged, this,
+            Guarded(this, &frmLoadFiles::dirPicturesToLoad_Change));
+    connect(ui_->txtPictureTypes, &QLineEdit::textChanged, this,
+            Guarded(this, &frmLoadFiles::txtPictureTypes_Change));
+    connect(ui_->cmdLoad, &QPushButton::clicked, this, Guarded(this, &frmLoadFiles::cmdLoad_Click));
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &QDialog::close);
+}
+
+frmLoadFiles::~frmLoadFiles() = default;
+
+void frmLoadFiles::Form_Load()
+{
+    ui_->txtPictureTypes->setText(ui_->filPicturesToLoad->GetPattern());
+    ui_->dirPicturesToLoad->SetPath(UsersPictureFolder());
+    dirPicturesToLoad_Change();
+}
+
+void frmLoadFiles::ShowCount()
+{
+    ui_->lblFeedback->setText(QString::number(ui_->filPicturesToLoad->Count()) +
+                              QStringLiteral(" picture(s) selected"));
+}
+
+void frmLoadFiles::drvPicturesToLoad_Change()
+{
+    ui_->dirPicturesToLoad->SetPath(ui_->drvPicturesToLoad->GetDrive());
+    ShowCount();
+}
+
+void frmLoadFiles::dirPicturesToLoad_Change()
+{
+    const BusyPointer busy;
+    const QString& folder = ui_->dirPicturesToLoad->GetPath();
+    ui_->drvPicturesToLoad->ShowVolumeOf(folder);
+    ui_->filPicturesToLoad->SetPath(folder);
+    ShowCount();
+}
+
+void frmLoadFiles::txtPictureTypes_Change()
+{
+    ui_->filPicturesToLoad->SetPattern(ui_->txtPictureTypes->text());
+    ShowCount();
+}
+
+void frmLoadFiles::cmdLoad_Click()
+{
+    const BusyPointer busy;
+    ui_->lblFeedback->setText(QStringLiteral("Loading pictures..."));
+    const QStringList names = ui_->filPicturesToLoad->GetNames();
+    ui_->progress->Begin(int(names.size()), true);
+    int loaded = 0;
+    {
+        const auto end = qScopeGuard([this] { ui_->progress->End(); });
+        loaded = LoadPictures(ui_->filPicturesToLoad->GetPath(), names, [this](int done) {
+            const bool goOn = ui_->progress->Advance(done);
+            if (ui_->progress->HasShown())
+                ui_->filPicturesToLoad->SelectRow(done - 1);
+            return goOn;
+        });
+    }
+    ui_->filPicturesToLoad->SelectRow(loaded - 1);
+    ui_->lblFeedback->setText(QString::number(loaded) + QStringLiteral(" picture(s) loaded"));
+}

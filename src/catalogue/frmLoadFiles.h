@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmLoadFiles;
+}
+
+// Brings the picture files of a folder into the album.
+class frmLoadFiles : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frmLoadFiles(QWidget* parent = nullptr);
+    ~frmLoadFiles() override;
+
+private:
+    void Form_Load();
+    void drvPicturesToLoad_Change();
+    void dirPicturesToLoad_Change();
+    void txtPictureTypes_Change();
+    void cmdLoad_Click();
+
+    void ShowCount();
+
+    std::unique_ptr<Ui::frmLoadFiles> ui_;
+};

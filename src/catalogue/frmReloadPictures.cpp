@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/frmReloadPictures.h"
+#include "ui_frmReloadPictures.h"
+
+#include "catalogue/MovedPictures.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/dialogs/Guard.h"
+#include "platform/files/FolderListing.h"
+#include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/ThemedIcon.h"
+#include "platform/widgets/WindowSize.h"
+
+#include <QScopeGuard>
+
+namespace {
+
+constexpr QSize proposedSize(880, 560);
+
+} // namespace
+
+frmReloadPictures::frmReloadPictures(QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmReloadPictures>())
+{
+    ui_->setupUi(this);
+    KeepWindowSize(this, proposedSize);
+    ui_->cmdReloadPictures->setIcon(ThemedIcon(QStringLiteral("refresh")));
+    ui_->cmdCancel->setIcon(ThemedIcon(QStringLiteral("exit")));
+    connect(ui_->lstOldReferences, &QListWidget::currentRowChanged, this,
+            Guarded(this, &frmReloadPictures::lstOldReferences_Click));
+    RunGuarded([this] { Form_Load(); });
+    connect(ui_->drvNewReferences, &DriveBox::DriveChanged, this,
+            Guarded(this, &frmReloadPictures::drvNewReferences_Change));
+    connect(ui_->dirNewReferences, &FolderList::PathChanged, this,
+            Guarded(this, &frmReloadPictures::dirNewReferences_Change));
+    connect(ui_->cmdReloadPictures, &QPushButton::clicked, this,
+            Guarded(this, &frmReloadPictures::cmdReloadPictures_Click));
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &QDialog::close);
+}
+
+frmReloadPictures::~frmReloadPictures() = default;
+
+void frmReloadPictures::Form_Load()
+{
+    const QString folder = UsersPictureFolder();
+    ui_->drvNewReferences->ShowVolumeOf(folder);
+    ui_->dirNewReferences->SetPath(folder);
+    ui_->lstOldReferences->addItems(PictureFolders());
+    ui_->lstOldReferences->setCurrentRow(0);
+}
+
+void frmReloadPictures::lstOldReferences_Click()
+{
+    ui_->lblFeedback->clear();
+    if (const QListWidgetItem* item = ui_->lstOldReferences->currentItem())
+        ui_->lblOldReferences->setText(item->text() + QStringLiteral("*.*"));
+}
+
+void frmReloadPictures::drvNewReferences_Change()
+{
+    ui_->lblFeedback->clear();
+    ui_->dirNewReferences->SetPath(ui_->drvNewReferences->GetDrive());
+}
+
+void frmReloadPictures::dirNewReferences_Change()
+{
+    ui_->lblFeedback->clear();
+    newFolder_ = ui_->dirNewReferences->GetPath();
+    ui_->drvNewReferences->ShowVolumeOf(newFolder_);
+    ui_->lblNewReferences->setText(PathIn(newFolder_, QStringLiteral("*.*")));
+}
+
+void frmReloadPictures::ShowUpdated(int count)
+{
+    ui_->lblFeedback->setText(QString::number(count) +
+                              QStringLiteral(" picture references updated"));
+    ui_->lblFeedback->repaint();
+}
+
+void frmReloadPictures::cmdReloadPictures_Click()
+{
+    const QListWidgetItem* old = ui_->lstOldReferences->currentItem();
+    if (!old)
+        return;
+    if (newFolder_.isEmpty())
+        return Tell(tr("Please choose the new folder first: double click on it."),
+                    Dialogs::Icon::Warning);
+    const BusyPointer busy;
+    ShowUpdated(0);
+    ui_->progress->Begin(0, true);
+    const auto end = qScopeGuard([this] { ui_->progress->End(); });
+    const int updated = RepointPictures(old->text(), newFolder_, [this](int count) {
+        const bool goOn = ui_->progress->Advance(count);
+        if (ui_->progress->HasShown())
+            ShowUpdated(count);
+        return goOn;
+    });
+    ShowUpdated(updated);
+}

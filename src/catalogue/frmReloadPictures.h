@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmReloadPictures;
+}
+
+// Tells the album where pictures are now whose files were moved to another folder.
+class frmReloadPictures : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frmReloadPictures(QWidget* parent = nullptr);
+    ~frmReloadPictures() override;
+
+private:
+    void Form_Load();
+    void lstOldReferences_Click();
+    void drvNewReferences_Change();
+    void dirNewReferences_Change();
+    void cmdReloadPictures_Click();
+
+    void ShowUpdated(int count);
+
+    std::unique_ptr<Ui::frmReloadPictures> ui_;
+    QString newFolder_; // empty until one is chosen
+};

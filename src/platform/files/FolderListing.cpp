@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "platform/files/FolderListing.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path ToNative(const QString& path)
+{
+    const QByteArray utf8 = path.toUtf8();
+    return fs::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+// Empty for a name that is no valid text.
+QString NameOf(const fs::path& path)
+{
+    const std::u8string name = path.filename().u8string();
+    const auto* bytes = reinterpret_cast<const char*>(name.data());
+    const QString text = QString::fromUtf8(bytes, qsizetype(name.size()));
+    const bool isDoubtful = text.contains(QChar::ReplacementCharacter);
+    return isDoubtful && text.toUtf8() != QByteArrayView(bytes, qsizetype(name.size())) ? QString()
+                                                                                        : text;
+}
+
+bool ComesBefore(const QString& first, const QString& second)
+{
+    const int order = first.compare(second, Qt::CaseInsensitive);
+    return order != 0 ? order < 0 : first < second;
+}
+
+// The kind of an entry comes with its name; only links are looked at one by one.
+template<typename IsMeant>
+FolderListing List(const QString& folder, IsMeant isMeant)
+{
+    FolderListing listing;
+    std::error_code error;
+    fs::directory_iterator entry(ToNative(folder), error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        std::error_code unknown;
+        if (!isMeant(*entry, unknown))
+            continue;
+        const QString name = NameOf(entry->path());
+        if (!name.isEmpty() && !name.startsWith(u'.'))
+            listing.names.append(name);
+    }
+    if (error) {
+        listing.error =
+            QCoreApplication::translate("FolderListing", "The folder '%1' cannot be read: %2")
+                .arg(QDir::toNativeSeparators(folder), QString::fromStdString(error.message()));
+    }
+    std::sort(listing.names.begin(), listing.names.end(), ComesBefore);
+    return listing;
+}
+
+} // namespace
+
+FolderListing ListFiles(const QString& folder)
+{
+    return List(folder, [](const fs::directory_entry& entry, std::error_code& error) {
+        return entry.is_regular_file(error);
+    });
+}
+
+FolderListing ListFolders(const QString& folder)
+{
+    return List(folder, [](const fs::directory_entry& entry, std::error_code& error) {
+        return entry.is_directory(error);
+    });
+}
+
+QString PathIn(const QString& folder, const QString& name)
+{
+    const QChar separator = QDir::separator();
+    return folder.endsWith(separator) ? folder + name : folder + separator + name;
+}
+
+QString UsersPictureFolder()
+{
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return QDir::toNativeSeparators(QDir(pictures).exists() ? pictures : QDir::homePath());
+}

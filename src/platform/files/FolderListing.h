@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+struct FolderListing
+{
+    QStringList names; // sorted without regard to case
+    QString error;     // why the folder could not be read to its end; empty when it could
+};
+
+// The files or the folders that lie directly in a folder, links to such among them. Hidden ones
+// are left out, and so are names that are no valid text, by which no file could be found again.
+FolderListing ListFiles(const QString& folder);
+FolderListing ListFolders(const QString& folder);
+
+// The path of something in a folder. The folder may or may not end in the separator.
+QString PathIn(const QString& folder, const QString& name);
+
+// Where a user looks for pictures first: the folder that the desktop keeps for them, else the
+// user's own.
+QString UsersPictureFolder();

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QComboBox>
+
+// The mounted volumes, one of which is chosen. The list is read anew whenever it drops down.
+class DriveBox : public QComboBox
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Drive READ GetDrive)
+
+public:
+    explicit DriveBox(QWidget* parent = nullptr);
+
+    // Root path of the chosen volume; empty when none is.
+    QString GetDrive() const { return currentText(); }
+    // Chooses the volume that the path lies on, without DriveChanged.
+    void ShowVolumeOf(const QString& path);
+
+    void showPopup() override;
+
+signals:
+    void DriveChanged(const QString& root);
+
+private:
+    void Fill();
+};

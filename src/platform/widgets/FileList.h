@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QListView>
+#include <QStringList>
+
+class QStringListModel;
+
+// The files of one folder whose names fit the pattern (see FilePatterns.h).
+class FileList : public QListView
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Path READ GetPath WRITE SetPath)
+    Q_PROPERTY(QString Pattern READ GetPattern WRITE SetPattern)
+
+public:
+    explicit FileList(QWidget* parent = nullptr);
+
+    const QString& GetPath() const { return path_; }
+    // Reads the folder. When that fails half way a message box tells why, and what was read is
+    // shown.
+    void SetPath(const QString& path);
+
+    const QString& GetPattern() const { return pattern_; }
+    // Does not read the folder again.
+    void SetPattern(const QString& pattern);
+
+    QStringList GetNames() const; // those on show
+    int Count() const;
+    void SelectRow(int row);
+
+private:
+    void ApplyPattern();
+
+    QString path_;
+    QString pattern_ = QStringLiteral("*.*");
+    QStringList files_; // of the folder, whatever the pattern
+    QStringListModel* model_;
+};

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "story/FilterValues.h"
+
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class ClickLabel;
+
+namespace Ui {
+class FilterPanel;
+}
+
+// A paragraph's picture filter: all twelve characteristics by group, each with the values it asks
+// for below its label, and beside them the list of values of the one being changed.
+class FilterPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FilterPanel(QWidget* parent = nullptr);
+    ~FilterPanel() override;
+
+    // Names of the open album. Closes the list.
+    void ShowLabels();
+
+    // Closes the list.
+    void SetValues(const CarValues& values);
+    const CarValues& GetValues() const { return values_; }
+
+signals:
+    void ValuesChanged();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void CreateGrid();
+    void FitGridHeight();
+    void lblCar_Click(int column);
+    void lstCar_Click();
+    void grdCar_Click(int row, int gridColumn);
+    void OpenList(int column);
+    void CloseList();
+    void MarkChosen();
+    void ShowFilter(int column);
+
+    std::unique_ptr<Ui::FilterPanel> ui_;
+    std::array<ClickLabel*, columnCount> lblCar_{};
+    CarValues values_;
+    int openColumn_ = -1; // whose values lstCar shows, -1 for none
+};

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "story/FilterValues.h"
+
+#include "core/Album.h"
+#include "story/PictureFilter.h"
+
+#include <algorithm>
+
+namespace {
+
+bool IsRealValue(const QString& token)
+{
+    return token != negation;
+}
+
+bool HasRealValue(const QStringList& tokens)
+{
+    return std::any_of(tokens.begin(), tokens.end(), IsRealValue);
+}
+
+// A value with ";" inside would be read back as two.
+bool CanBeChosen(const QString& value)
+{
+    return !value.isEmpty() && !value.contains(u';') && value != negation && value != anyValue;
+}
+
+QStringList TableValues(int column)
+{
+    QStringList values;
+    RecordSet table(GeneralModule::AlbumDatabase, ValueTableOf(column));
+    const RecordSet::Walk walk(table);
+    const int name = table.FieldNumber(u"Name");
+    for (table.MoveFirst(); !table.AtEnd(); table.MoveNext()) {
+        if (const QString value = table.TextOrEmpty(name); CanBeChosen(value))
+            values += value;
+    }
+    std::sort(values.begin(), values.end(), [](const QString& left, const QString& right) {
+        const bool leftIsOrdinary = !IsSpecialMarker(left);
+        const bool rightIsOrdinary = !IsSpecialMarker(right);
+        return leftIsOrdinary != rightIsOrdinary
+                   ? rightIsOrdinary
+                   : QString::localeAwareCompare(left.toCaseFolded(), right.toCaseFolded()) < 0;
+    });
+    return values;
+}
+
+} // namespace
+
+QStringList FilterTokens(const QString& filter)
+{
+    QStringList tokens;
+    QString rest = filter == anyValue ? QString() : filter;
+    for (QString token = NextToken(rest); !token.isEmpty(); token = NextToken(rest))
+        tokens += token;
+    return tokens;
+}
+
+bool Restricts(const QString& filter)
+{
+    return HasRealValue(FilterTokens(filter));
+}
+
+QString StorableFilter(const QString& filter)
+{
+    const QStringList tokens = FilterTokens(filter);
+    QStringList kept;
+    for (qsizetype i = 0; i < tokens.size(); ++i) {
+        const bool isFollowed = i + 1 < tokens.size() && IsRealValue(tokens[i + 1]);
+        if (IsRealValue(tokens[i]) || isFollowed)
+            kept += tokens[i];
+    }
+    if (kept.isEmpty())
+        return anyValue;
+    return kept == tokens ? filter : kept.join(u';');
+}
+
+bool HoldsToken(const QString& filter, const QString& token)
+{
+    return FilterTokens(filter).contains(token, Qt::CaseInsensitive);
+}
+
+QString ToggleToken(const QString& filter, const QString& token)
+{
+    if (token == anyValue)
+        return anyValue;
+    QStringList tokens = FilterTokens(filter);
+    if (tokens.contains(token, Qt::CaseInsensitive)) {
+        tokens.removeIf(
+            [&](const QString& held) { return held.compare(token, Qt::CaseInsensitive) == 0; });
+        return StorableFilter(tokens.join(u';'));
+    }
+    if (token == negation)
+        tokens.prepend(token);
+    else
+        tokens.append(token);
+    return HasRealValue(tokens) ? StorableFilter(tokens.join(u';')) : negation;
+}
+
+QString DescribeFilter(const QString& filter)
+{
+    QStringList parts;
+    QString prefix;
+    for (const QString& token : FilterTokens(StorableFilter(filter))) {
+        if (token == negation) {
+            prefix = QStringLiteral("not ");
+            continue;
+        }
+        parts += prefix + token;
+        prefix.clear();
+    }
+    return parts.isEmpty() ? anyValue : parts.join(QStringLiteral(", "));
+}
+
+std::vector<FilterChoice> FilterChoices(int column, const QString& filter)
+{
+    std::vector<FilterChoice> choices{{QStringLiteral("* (Reset)"), anyValue},
+                                      {negation, negation}};
+    const QStringList known = TableValues(column);
+    for (const QString& value : known)
+        choices.push_back({value, value});
+    QStringList unknown = FilterTokens(filter);
+    unknown.removeDuplicates();
+    for (const QString& value : unknown) {
+        if (IsRealValue(value) && !known.contains(value, Qt::CaseInsensitive))
+            choices.push_back({value, value, false});
+    }
+    return choices;
+}

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "story/ParagraphChain.h"
+
+#include "core/Album.h"
+#include "platform/data/WriteBatch.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+using GeneralModule::AlbumDatabase;
+using GeneralModule::ChapterSet;
+using GeneralModule::FindById;
+using GeneralModule::ParagraphSet;
+
+namespace {
+
+QString CarField(int column)
+{
+    return QStringLiteral("Car%1").arg(column);
+}
+
+void RequireParagraph(qint32 paragraph)
+{
+    if (FindById(*ParagraphSet, paragraph))
+        return;
+    throw DatabaseError(
+        DatabaseError::RecordDeleted,
+        QCoreApplication::translate("ParagraphChain", "This paragraph is no longer in the album."));
+}
+
+qint32 LinkIn(RecordSet& set, QStringView field)
+{
+    return set.IsNull(field) ? 0 : set.Number(field);
+}
+
+// The set must be in the middle of an edit. A value that is there already is not written again:
+// leafing through a chapter then costs no write to disk.
+void SetText(QStringView field, const QString& value)
+{
+    if (ParagraphSet->IsNull(field) || ParagraphSet->Text(field) != value)
+        ParagraphSet->Set(field, value);
+}
+
+void SetNumber(RecordSet& set, qint32 id, QStringView field, qint32 value)
+{
+    if (id <= 0 || !FindById(set, id) || (!set.IsNull(field) && set.Number(field) == value))
+        return;
+    set.Edit();
+    set.Set(field, value);
+    set.Update();
+}
+
+CarValues ReadCarValues()
+{
+    CarValues values;
+    for (int column = 0; column < columnCount; ++column) {
+        const QString stored = ParagraphSet->TextOrEmpty(CarField(column));
+        values[std::size_t(column)] = stored.isEmpty() ? anyValue : stored;
+    }
+    return values;
+}
+
+struct Neighbours
+{
+    qint32 previous;
+    qint32 next;
+};
+
+// As stored, on the current row.
+Neighbours CurrentNeighbours()
+{
+    return {LinkIn(*ParagraphSet, u"PreviousParagraph"), LinkIn(*ParagraphSet, u"NextParagraph")};
+}
+
+qint32 IfThere(qint32 paragraph)
+{
+    return paragraph > 0 && FindById(*ParagraphSet, paragraph) ? paragraph : 0;
+}
+
+// A chapter that begins with another paragraph keeps it: the one deleted was then not part of what
+// the chapter leads to.
+void ReplaceFirstParagraph(qint32 chapter, qint32 gone, qint32 next)
+{
+    if (FindById(*ChapterSet, chapter) && LinkIn(*ChapterSet, u"FirstParagraph") == gone)
+        SetFirstParagraph(chapter, next);
+}
+
+} // namespace
+
+ParagraphContent LoadParagraph(qint32 paragraph)
+{
+    RequireParagraph(paragraph);
+    return {ParagraphSet->TextOrEmpty(u"Text"), ReadCarValues()};
+}
+
+void SaveParagraph(const ParagraphPlace& place, const ParagraphContent& content)
+{
+    if (place.paragraph <= 0)
+        return;
+    RequireParagraph(place.paragraph);
+    WriteBatch batch(AlbumDatabase);
+    const Neighbours neighbours = CurrentNeighbours();
+    ParagraphSet->Edit();
+    SetText(u"Text", content.text);
+    for (int column = 0; column < columnCount; ++column)
+        SetText(CarField(column), StorableFilter(content.values[std::size_t(column)]));
+    if (LinkIn(*ParagraphSet, u"Chapter") != place.chapter)
+        ParagraphSet->Set(u"Chapter", place.chapter);
+    ParagraphSet->Update();
+
+    SetParagraphLink(neighbours.next, u"PreviousParagraph", place.paragraph);
+    if (neighbours.previous > 0)
+        SetParagraphLink(neighbours.previous, u"NextParagraph", place.paragraph);
+    else
+        SetFirstParagraph(place.chapter, place.paragraph);
+    batch.Finish();
+}
+
+void AddParagraph(ParagraphPlace& place)
+{
+    ParagraphSet->AddNew();
+    const qint32 added = ParagraphSet->Number(u"Id");
+    ParagraphSet->Set(u"NextParagraph", 0);
+    ParagraphSet->Set(u"PreviousParagraph", 0);
+    ParagraphSet->Set(u"Chapter", place.chapter);
+    ParagraphSet->Set(u"Text", QString());
+    ParagraphSet->Set(u"FileSelection", QString());
+    for (int column = 0; column < columnCount; ++column)
+        ParagraphSet->Set(CarField(column), anyValue);
+    ParagraphSet->Update();
+    place.paragraph = added;
+}
+
+void CreateFirstParagraph(ParagraphPlace& place)
+{
+    if (!FindById(*ChapterSet, place.chapter))
+        return;
+    WriteBatch batch(AlbumDatabase);
+    AddParagraph(place);
+    SetFirstParagraph(place.chapter, place.paragraph);
+    batch.Finish();
+}
+
+void CreateNextParagraph(ParagraphPlace& place, const ParagraphContent& content)
+{
+    RequireParagraph(place.paragraph);
+    const qint32 old = place.paragraph;
+    const qint32 oldNext = LinkIn(*ParagraphSet, u"NextParagraph");
+    const CarValues inherited = ReadCarValues();
+    WriteBatch batch(AlbumDatabase);
+    SaveParagraph(place, content);
+    AddParagraph(place);
+    RequireParagraph(place.paragraph);
+    ParagraphSet->Edit();
+    ParagraphSet->Set(u"PreviousParagraph", old);
+    ParagraphSet->Set(u"NextParagraph", oldNext);
+    for (int column = 0; column < columnCount; ++column)
+        ParagraphSet->Set(CarField(column), inherited[std::size_t(column)]);
+    ParagraphSet->Update();
+    batch.Finish();
+}
+
+void DeleteParagraph(ParagraphPlace& place, const ParagraphContent& content)
+{
+    WriteBatch batch(AlbumDatabase);
+    SaveParagraph(place, content);
+    RequireParagraph(place.paragraph);
+    const Neighbours stored = CurrentNeighbours();
+    ParagraphSet->Delete();
+    const qint32 previous = IfThere(stored.previous);
+    const qint32 next = IfThere(stored.next);
+    if (previous > 0)
+        SetParagraphLink(previous, u"NextParagraph", next);
+    else
+        ReplaceFirstParagraph(place.chapter, place.paragraph, next);
+    SetParagraphLink(next, u"PreviousParagraph", previous);
+    batch.Finish();
+    place.paragraph = next > 0 ? next : previous;
+}
+
+void SaveAndStep(ParagraphPlace& place, const ParagraphContent& content, ChainStep step)
+{
+    SaveParagraph(place, content);
+    const bool isBackward = step == ChainStep::First || step == ChainStep::Previous;
+    const QStringView field = isBackward ? u"PreviousParagraph" : u"NextParagraph";
+    if (step == ChainStep::First || step == ChainStep::Last) {
+        const std::vector<qint32> visited = WalkParagraphs(place.paragraph, field);
+        place.paragraph = visited.empty() ? place.paragraph : visited.back();
+    } else if (FindById(*ParagraphSet, place.paragraph)) {
+        const qint32 reached = FollowParagraphLink(field);
+        place.paragraph = reached > 0 ? reached : place.paragraph;
+    }
+}
+
+qint32 FollowParagraphLink(QStringView field)
+{
+    return IfThere(LinkIn(*ParagraphSet, field));
+}
+
+std::vector<qint32> WalkParagraphs(qint32 first, QStringView field)
+{
+    std::vector<qint32> visited;
+    QSet<qint32> known;
+    for (qint32 paragraph = IfThere(first); paragraph > 0 && !known.contains(paragraph);
+         paragraph = FollowParagraphLink(field)) {
+        known.insert(paragraph);
+        visited.push_back(paragraph);
+    }
+    return visited;
+}
+
+void SetParagraphLink(qint32 paragraph, QStringView field, qint32 value)
+{
+    SetNumber(*ParagraphSet, paragraph, field, value);
+}
+
+void SetFirstParagraph(qint32 chapter, qint32 paragraph)
+{
+    SetNumber(*ChapterSet, chapter, u"FirstParagraph", paragraph);
+}

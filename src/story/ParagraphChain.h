@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "story/FilterValues.h"
+
+#include <QString>
+
+#include <vector>
+
+// The paragraphs of a chapter of the open album, linked by PreviousParagraph and NextParagraph (0 =
+// none), the first one named by the chapter. A link to a row that is not there counts as none, and
+// no walk visits a row twice. All rows that one operation changes are committed together.
+
+// Where the user is writing.
+struct ParagraphPlace
+{
+    qint32 chapter = 0;
+    qint32 paragraph = 0; // 0: there is none
+
+    bool operator==(const ParagraphPlace&) const = default;
+};
+
+struct ParagraphContent
+{
+    QString text; // in stored form, see ParagraphMarkers.h
+    CarValues values;
+};
+
+// Throws RecordDeleted when the paragraph is not in the album.
+ParagraphContent LoadParagraph(qint32 paragraph);
+
+// Writes the content and sets right the links of both neighbours, or the chapter's, that should
+// lead here. Writes nothing that is in the album already. Nothing happens without a paragraph;
+// throws RecordDeleted when it is not in the album any more.
+void SaveParagraph(const ParagraphPlace& place, const ParagraphContent& content);
+
+// Adds a paragraph that links to nothing and goes there.
+void AddParagraph(ParagraphPlace& place);
+
+// Gives a chapter without paragraphs its first one and goes there. Nothing happens when there is no
+// such chapter.
+void CreateFirstParagraph(ParagraphPlace& place);
+
+// Saves and goes to a new paragraph behind this one. It inherits the filter that this one had in
+// the album before the save, on purpose. Its neighbours link to it once it is saved itself, not
+// before: every way out of the editor saves.
+void CreateNextParagraph(ParagraphPlace& place, const ParagraphContent& content);
+
+// Saves, deletes, and goes to the next paragraph, else to the previous one, else to none. Links to
+// pictures stay in the album; nothing else gets the identifier.
+void DeleteParagraph(ParagraphPlace& place, const ParagraphContent& content);
+
+enum class ChainStep { First, Previous, Next, Last };
+// Saves and goes there; on the last and the first paragraph Next and Previous stay.
+void SaveAndStep(ParagraphPlace& place, const ParagraphContent& content, ChainStep step);
+
+// The paragraph that the set stands on leads to by that field, 0 for none. The set then stands on
+// that paragraph.
+qint32 FollowParagraphLink(QStringView field);
+
+// Identifiers from that paragraph on along the links in that field; empty when it is not there.
+std::vector<qint32> WalkParagraphs(qint32 first, QStringView field);
+
+// Sets one field of a row found by its identifier, unless it holds the value already; nothing
+// happens when there is no such row.
+void SetParagraphLink(qint32 paragraph, QStringView field, qint32 value);
+void SetFirstParagraph(qint32 chapter, qint32 paragraph);

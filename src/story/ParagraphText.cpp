@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "story/ParagraphText.h"
+
+#include "story/PastedText.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+constexpr double pointSize = 13; // for writing at length
+
+// Undo must be able to go back behind a paste and its cleaning, so it does not clean again.
+bool Cleans(const QKeyEvent& key)
+{
+    switch (key.key()) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+    case Qt::Key_CapsLock:
+        return false;
+    default:
+        return !key.matches(QKeySequence::Undo) && !key.matches(QKeySequence::Redo);
+    }
+}
+
+} // namespace
+
+ParagraphText::ParagraphText(QWidget* parent) : QPlainTextEdit(parent)
+{
+    QFont writing = font();
+    writing.setPointSizeF(pointSize);
+    setFont(writing);
+    setTabChangesFocus(true);
+    document()->setDocumentMargin(12);
+}
+
+void ParagraphText::SetText(const QString& text)
+{
+    setPlainText(text);
+}
+
+QString ParagraphText::GetText() const
+{
+    return document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
+}
+
+void ParagraphText::Insert(const QString& text)
+{
+    insertPlainText(text);
+    ensureCursorVisible();
+}
+
+void ParagraphText::keyPressEvent(QKeyEvent* event)
+{
+    if (Cleans(*event))
+        CleanPasted();
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+// Edits the document instead of replacing its text. Positions in the raw text are the document's.
+void ParagraphText::CleanPasted()
+{
+    const QString text = document()->toRawText();
+    if (CleanPastedText(text) == text)
+        return;
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    for (const PastedMarkup& markup : PastedMarkups()) {
+        const QString current = document()->toRawText();
+        const qsizetype length = markup.found.size();
+        for (qsizetype at = current.lastIndexOf(markup.found); at >= 0;
+             at = at < length ? -1 : current.lastIndexOf(markup.found, at - length)) {
+            cursor.setPosition(int(at));
+            cursor.setPosition(int(at + length), QTextCursor::KeepAnchor);
+            cursor.insertText(markup.replacement);
+        }
+    }
+    cursor.endEditBlock();
+}

@@ -1,0 +1,363 @@
+// SPDX-License-Identifier: MIT
+#include "story/frmEditParagraph.h"
+#include "ui_frmEditParagraph.h"
+
+#include "core/Album.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/dialogs/Guard.h"
+#include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/KeyPreview.h"
+#include "platform/widgets/ThemedIcon.h"
+#include "platform/widgets/WindowSize.h"
+#include "story/ParagraphLinks.h"
+#include "story/ParagraphMoves.h"
+#include "story/PictureFilter.h"
+#include "story/frmOrganizeParagraphs.h"
+
+using GeneralModule::FindById;
+using GeneralModule::ParagraphSet;
+
+namespace {
+
+constexpr int mostPreviewed = 5000; // pictures
+constexpr QSize proposedSize(1120, 780);
+
+bool IsChoosingKey(int key)
+{
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+} // namespace
+
+frmEditParagraph::frmEditParagraph(QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmEditParagraph>())
+{
+    ui_->setupUi(this);
+    setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    ui_->txtParagraphPreview->setFont(ui_->txtParagraph->font());
+    ui_->txtParagraphPreview->document()->setDocumentMargin(
+        ui_->txtParagraph->document()->documentMargin());
+    ui_->pictureFrame->SetHint(tr("Preview shows the pictures of this paragraph here"));
+    KeepWindowSize(this, proposedSize);
+    ConnectControls();
+    ShowInsertList(false);
+    SetPreviewMode(false);
+    ShowPicture({});
+}
+
+frmEditParagraph::~frmEditParagraph() = default;
+
+void frmEditParagraph::ConnectControls()
+{
+    struct Button
+    {
+        QPushButton* button;
+        const char* icon;
+        void (frmEditParagraph::*handler)();
+    };
+    for (const Button& entry : {
+             Button{ui_->cmdFirstParagraph, "previous-chapter",
+                    &frmEditParagraph::cmdFirstParagraph_Click},
+             Button{ui_->cmdPreviousParagraph, "previous-paragraph",
+                    &frmEditParagraph::cmdPreviousParagraph_Click},
+             Button{ui_->cmdNextParagraph, "next-paragraph",
+                    &frmEditParagraph::cmdNextParagraph_Click},
+             Button{ui_->cmdEndOfChapter, "next-chapter", &frmEditParagraph::cmdEndOfChapter_Click},
+             Button{ui_->cmdCreateNext, "chapter-create", &frmEditParagraph::cmdCreateNext_Click},
+             Button{ui_->cmdDelete, "delete", &frmEditParagraph::cmdDelete_Click},
+             Button{ui_->cmdOrganize, "organize", &frmEditParagraph::cmdOrganize_Click},
+             Button{ui_->cmdExit, "exit", &frmEditParagraph::cmdExit_Click},
+             Button{ui_->cmdInsertCar, "", &frmEditParagraph::cmdInsertCar_Click},
+             Button{ui_->cmdCancelInsert, "", &frmEditParagraph::cmdCancelInsert_Click},
+             Button{ui_->cmdPreview, "preview", &frmEditParagraph::cmdPreview_Click},
+             Button{ui_->cmdNextImage, "next-pictures", &frmEditParagraph::cmdNextImage_Click},
+         }) {
+        entry.button->setIcon(ThemedIcon(QString::fromLatin1(entry.icon)));
+        connect(entry.button, &QPushButton::clicked, this, Guarded(this, entry.handler));
+    }
+    connect(ui_->lstInsertCar, &QListWidget::itemClicked, this,
+            Guarded(this, &frmEditParagraph::lstInsertCar_Click));
+    connect(ui_->chkLinkedImage, &QCheckBox::toggled, this,
+            Guarded(this, &frmEditParagraph::chkLinkedImage_Click));
+    connect(ui_->pictureFrame, &PictureFrame::Pressed, this,
+            Guarded(this, &frmEditParagraph::imgImage_MouseDown));
+    connect(ui_->filterPanel, &FilterPanel::ValuesChanged, this,
+            Guarded(this, &frmEditParagraph::filterPanel_Change));
+    connect(ui_->lblText, &ClickLabel::Clicked, this,
+            Guarded(this, &frmEditParagraph::lblText_Click));
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now == ui_->txtParagraphPreview)
+            RunGuarded([this] { lblText_Click(); });
+    });
+    new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
+}
+
+// A "q" that is typed into the text is a q.
+bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
+{
+    const bool isShortcut = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    const bool isLetter = key.key() == Qt::Key_Q && !isShortcut && !ui_->txtParagraph->hasFocus();
+    if (key.key() == Qt::Key_Escape || isLetter) {
+        cmdExit_Click();
+        return true;
+    }
+    if (ui_->lstInsertCar->hasFocus() && IsChoosingKey(key.key())) {
+        lstInsertCar_Click();
+        return true;
+    }
+    return false;
+}
+
+void frmEditParagraph::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    RunGuarded([this] { ShowParagraph(); });
+    ui_->txtParagraph->setFocus();
+}
+
+void frmEditParagraph::ShowParagraph()
+{
+    setWindowTitle(QStringLiteral("Edit Paragraph from Chapter '") + ChapterNameOf(CurrentChapter) +
+                   QLatin1Char('\''));
+    markers_ = ReadTextMarkers();
+    ui_->filterPanel->ShowLabels();
+    ShowInsertList(false);
+    SetPreviewMode(false);
+    ShowPicture({});
+    pictures_.clear();
+    const ParagraphContent content = LoadParagraph(CurrentParagraph);
+    ui_->txtParagraph->SetText(ToDisplayMarkers(content.text, markers_));
+    ui_->filterPanel->SetValues(content.values);
+}
+
+void frmEditParagraph::GoTo(const ParagraphPlace& place)
+{
+    CurrentChapter = place.chapter;
+    CurrentParagraph = place.paragraph;
+    if (CurrentParagraph > 0)
+        ShowParagraph();
+    else
+        cmdExit_Click();
+}
+
+ParagraphContent frmEditParagraph::GetContent() const
+{
+    return {ToStoredMarkers(ui_->txtParagraph->GetText(), markers_), ui_->filterPanel->GetValues()};
+}
+
+void frmEditParagraph::SaveParagraph()
+{
+    ::SaveParagraph(GetPlace(), GetContent());
+}
+
+void frmEditParagraph::cmdFirstParagraph_Click()
+{
+    StepTo(ChainStep::First);
+}
+
+void frmEditParagraph::cmdPreviousParagraph_Click()
+{
+    StepTo(ChainStep::Previous);
+}
+
+void frmEditParagraph::cmdNextParagraph_Click()
+{
+    StepTo(ChainStep::Next);
+}
+
+void frmEditParagraph::cmdEndOfChapter_Click()
+{
+    StepTo(ChainStep::Last);
+}
+
+// Where there is no further paragraph, caret and preview stay as they are.
+void frmEditParagraph::StepTo(ChainStep step)
+{
+    ParagraphPlace place = GetPlace();
+    SaveAndStep(place, GetContent(), step);
+    if (place != GetPlace())
+        GoTo(place);
+}
+
+void frmEditParagraph::cmdCreateNext_Click()
+{
+    ParagraphPlace place = GetPlace();
+    CreateNextParagraph(place, GetContent());
+    GoTo(place);
+    ui_->txtParagraph->setFocus();
+}
+
+void frmEditParagraph::cmdDelete_Click()
+{
+    const Dialogs::Answer answer =
+        Dialogs::Door().Ask({QStringLiteral("Are you sure you want to DELETE current paragraph ?"),
+                             Dialogs::Icon::Question, Dialogs::Buttons::OkCancel});
+    if (answer != Dialogs::Answer::Ok)
+        return;
+    ParagraphPlace place = GetPlace();
+    DeleteParagraph(place, GetContent());
+    GoTo(place);
+}
+
+void frmEditParagraph::cmdOrganize_Click()
+{
+    SaveParagraph();
+    frmOrganizeParagraphs organiser(this);
+    organiser.CurrentChapter = CurrentChapter;
+    organiser.CurrentParagraph = CurrentParagraph;
+    organiser.exec();
+    ParagraphPlace place{CurrentChapter, organiser.CurrentParagraph};
+    if (FindById(*ParagraphSet, place.paragraph))
+        place.chapter = ParagraphSet->Number(u"Chapter");
+    GoTo(place);
+}
+
+void frmEditParagraph::cmdExit_Click()
+{
+    reject();
+}
+
+// However the window is left, by its frame too.
+void frmEditParagraph::reject()
+{
+    if (SaveOrGiveUp())
+        QDialog::reject();
+}
+
+// What cannot be saved is not thrown away without asking.
+bool frmEditParagraph::SaveOrGiveUp()
+{
+    try {
+        SaveParagraph();
+        return true;
+    } catch (const std::exception& error) {
+        return Dialogs::Door().Ask({tr("The paragraph cannot be saved: %1\n\nLeave without saving?")
+                                        .arg(QString::fromUtf8(error.what())),
+                                    Dialogs::Icon::Warning, Dialogs::Buttons::YesNo,
+                                    Dialogs::Answer::No}) == Dialogs::Answer::Yes;
+    }
+}
+
+void frmEditParagraph::ShowInsertList(bool shown)
+{
+    ui_->lstInsertCar->setVisible(shown);
+    ui_->cmdCancelInsert->setVisible(shown);
+    ui_->cmdInsertCar->setVisible(!shown && !isPreview_);
+}
+
+void frmEditParagraph::cmdInsertCar_Click()
+{
+    ui_->lstInsertCar->clear();
+    for (const TextMarker& marker : markers_)
+        ui_->lstInsertCar->addItem(marker.title);
+    ShowInsertList(true);
+    ui_->lstInsertCar->setCurrentRow(0);
+    ui_->lstInsertCar->setFocus();
+}
+
+void frmEditParagraph::cmdCancelInsert_Click()
+{
+    ShowInsertList(false);
+    ui_->txtParagraph->setFocus();
+}
+
+void frmEditParagraph::lstInsertCar_Click()
+{
+    const int row = ui_->lstInsertCar->currentRow();
+    if (row < 0 || std::size_t(row) >= markers_.size())
+        return;
+    ui_->txtParagraph->Insert(markers_[std::size_t(row)].display);
+    cmdCancelInsert_Click();
+}
+
+void frmEditParagraph::SetPreviewMode(bool isPreview)
+{
+    isPreview_ = isPreview;
+    ui_->txtParagraph->setVisible(!isPreview);
+    ui_->cmdPreview->setVisible(!isPreview);
+    ui_->txtParagraphPreview->setVisible(isPreview);
+    ui_->cmdNextImage->setVisible(isPreview);
+    ui_->lblFeedback->setVisible(isPreview);
+    ShowInsertList(false);
+}
+
+void frmEditParagraph::cmdPreview_Click()
+{
+    SetPreviewMode(true);
+    ui_->cmdNextImage->setFocus();
+    RefreshPictureList();
+}
+
+void frmEditParagraph::RefreshPictureList()
+{
+    const BusyPointer busy;
+    SaveParagraph();
+    pictures_.clear();
+    ui_->lblFeedback->clear();
+    ShowPicture({});
+    FillPreviewText();
+    FindById(*ParagraphSet, CurrentParagraph);
+    PictureList found;
+    BuildPictureList(*ParagraphSet, found, mostPreviewed, [this](int count) {
+        ui_->lblFeedback->setText(QString::number(count) + QStringLiteral(" images found"));
+        ui_->lblFeedback->repaint();
+    });
+    pictures_ = found.GetFiles();
+    ShowPicture(pictures_.isEmpty() ? QString() : pictures_.takeFirst());
+    FillPreviewText();
+}
+
+void frmEditParagraph::cmdNextImage_Click()
+{
+    if (pictures_.isEmpty())
+        return lblText_Click();
+    ShowPicture(pictures_.takeFirst());
+    FillPreviewText();
+    ui_->lblFeedback->setText(QString::number(pictures_.size()) + QStringLiteral(" images left"));
+}
+
+// A preview shows at once what a changed filter finds.
+void frmEditParagraph::filterPanel_Change()
+{
+    if (isPreview_)
+        RefreshPictureList();
+}
+
+void frmEditParagraph::lblText_Click()
+{
+    SetPreviewMode(false);
+    ui_->txtParagraph->setFocus();
+}
+
+void frmEditParagraph::FillPreviewText()
+{
+    ui_->txtParagraphPreview->setPlainText(
+        FillPictureMarkers(GetContent().text, ui_->pictureFrame->GetFile()));
+}
+
+void frmEditParagraph::ShowPicture(const QString& file)
+{
+    ui_->pictureFrame->Show(file);
+    const QSignalBlocker quiet(ui_->chkLinkedImage);
+    ui_->chkLinkedImage->setEnabled(!file.isEmpty());
+    ui_->chkLinkedImage->setChecked(!file.isEmpty() && IsLinked(CurrentParagraph, file));
+}
+
+void frmEditParagraph::chkLinkedImage_Click()
+{
+    const QString& file = ui_->pictureFrame->GetFile();
+    if (!file.isEmpty())
+        SetLinked(CurrentParagraph, file, ui_->chkLinkedImage->isChecked());
+}
+
+void frmEditParagraph::imgImage_MouseDown()
+{
+    SaveParagraph();
+    EditPicture(ui_->pictureFrame->GetFile());
+}
+
+// The picture's legend and characteristics are edited in a window of the catalogue, which is to be
+// opened here. Labels may change in it: the text box must then be filled anew from the album.
+void frmEditParagraph::EditPicture(const QString&) {}

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "story/ParagraphChain.h"
+#include "story/ParagraphMarkers.h"
+
+#include <QDialog>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class QKeyEvent;
+
+namespace Ui {
+class frmEditParagraph;
+}
+
+// The paragraph editor: text, picture filter and linked pictures of one paragraph, and the way from
+// paragraph to paragraph of its chapter. Every way out of a paragraph saves it.
+//
+// Whoever opens it sets chapter and paragraph, shows it modally, and takes them back: the user may
+// have gone elsewhere, and no paragraph may be left.
+class frmEditParagraph : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frmEditParagraph(QWidget* parent = nullptr);
+    ~frmEditParagraph() override;
+
+    qint32 CurrentChapter = 0;
+    qint32 CurrentParagraph = 0; // 0: none
+
+    void reject() override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void ConnectControls();
+    bool Form_KeyDown(QKeyEvent& key);
+
+    void ShowParagraph();
+    ParagraphPlace GetPlace() const { return {CurrentChapter, CurrentParagraph}; }
+    void GoTo(const ParagraphPlace& place);
+    ParagraphContent GetContent() const;
+    void SaveParagraph();
+    bool SaveOrGiveUp();
+
+    void cmdFirstParagraph_Click();
+    void cmdPreviousParagraph_Click();
+    void cmdNextParagraph_Click();
+    void cmdEndOfChapter_Click();
+    void StepTo(ChainStep step);
+    void cmdCreateNext_Click();
+    void cmdDelete_Click();
+    void cmdOrganize_Click();
+    void cmdExit_Click();
+
+    void cmdInsertCar_Click();
+    void cmdCancelInsert_Click();
+    void lstInsertCar_Click();
+    void ShowInsertList(bool shown);
+
+    void SetPreviewMode(bool isPreview);
+    void cmdPreview_Click();
+    void cmdNextImage_Click();
+    void RefreshPictureList();
+    void filterPanel_Change();
+    void lblText_Click();
+    void ShowPicture(const QString& file);
+    void FillPreviewText();
+    void chkLinkedImage_Click();
+    void imgImage_MouseDown();
+    void EditPicture(const QString& file);
+
+    std::unique_ptr<Ui::frmEditParagraph> ui_;
+    std::vector<TextMarker> markers_;
+    QStringList pictures_; // still to be shown in the preview
+    bool isPreview_ = false;
+};

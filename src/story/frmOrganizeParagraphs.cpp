@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "story/frmOrganizeParagraphs.h"
+#include "ui_frmOrganizeParagraphs.h"
+
+#include "platform/dialogs/Guard.h"
+#include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/KeyPreview.h"
+#include "platform/widgets/ThemedIcon.h"
+#include "platform/widgets/WindowSize.h"
+#include "story/ParagraphMoves.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSize proposedSize(860, 560);
+
+} // namespace
+
+frmOrganizeParagraphs::frmOrganizeParagraphs(QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmOrganizeParagraphs>())
+{
+    ui_->setupUi(this);
+    setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    QFont heading = ui_->lblChapter->font();
+    heading.setPointSizeF(heading.pointSizeF() * 1.25);
+    heading.setBold(true);
+    ui_->lblChapter->setFont(heading);
+    KeepWindowSize(this, proposedSize);
+    ConnectControls();
+}
+
+frmOrganizeParagraphs::~frmOrganizeParagraphs() = default;
+
+void frmOrganizeParagraphs::ConnectControls()
+{
+    struct Button
+    {
+        QPushButton* button;
+        const char* icon;
+        void (frmOrganizeParagraphs::*handler)();
+    };
+    for (const Button& entry : {
+             Button{ui_->cmdUp, "previous-paragraph", &frmOrganizeParagraphs::cmdUp_Click},
+             Button{ui_->cmdDown, "next-paragraph", &frmOrganizeParagraphs::cmdDown_Click},
+             Button{ui_->cmdMoveUp, "move-up", &frmOrganizeParagraphs::cmdMoveUp_Click},
+             Button{ui_->cmdMoveDown, "move-down", &frmOrganizeParagraphs::cmdMoveDown_Click},
+             Button{ui_->cmdPreviousChapter, "previous-chapter",
+                    &frmOrganizeParagraphs::ShowPreviousChapter},
+             Button{ui_->cmdNextChapter, "next-chapter", &frmOrganizeParagraphs::ShowNextChapter},
+             Button{ui_->cmdExit, "exit", &frmOrganizeParagraphs::cmdExit_Click},
+         }) {
+        entry.button->setIcon(ThemedIcon(QString::fromLatin1(entry.icon)));
+        connect(entry.button, &QPushButton::clicked, this, Guarded(this, entry.handler));
+    }
+    connect(ui_->lstParagraph, &QListWidget::currentRowChanged, this,
+            Guarded(this, &frmOrganizeParagraphs::lstParagraph_Click));
+    connect(ui_->lstParagraph, &QListWidget::itemDoubleClicked, this,
+            Guarded(this, &frmOrganizeParagraphs::lstParagraph_DblClick));
+    new KeyPreview(this, [this](QKeyEvent& key) {
+        return ui_->lstParagraph->hasFocus() && lstParagraph_KeyDown(key);
+    });
+}
+
+void frmOrganizeParagraphs::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    RunGuarded([this] { RefreshParagraphList(); });
+    ui_->lstParagraph->setFocus();
+}
+
+bool frmOrganizeParagraphs::lstParagraph_KeyDown(QKeyEvent& key)
+{
+    switch (key.key()) {
+    case Qt::Key_Up:
+        cmdUp_Click();
+        return true;
+    case Qt::Key_Down:
+        cmdDown_Click();
+        return true;
+    case Qt::Key_PageUp:
+        ShowPreviousChapter();
+        return true;
+    case Qt::Key_PageDown:
+        ShowNextChapter();
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        lstParagraph_DblClick();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void frmOrganizeParagraphs::RefreshParagraphList()
+{
+    const BusyPointer busy;
+    const QString chapter = ChapterNameOf(CurrentChapter);
+    setWindowTitle(tr("Organize Paragraphs from Chapter '%1'").arg(chapter));
+    ui_->lblChapter->setText(chapter);
+    const QSignalBlocker quiet(ui_->lstParagraph);
+    ui_->lstParagraph->clear();
+    paragraphs_.clear();
+    QStringList texts;
+    for (const ParagraphLine& line : ListParagraphs(CurrentChapter)) {
+        paragraphs_.push_back(line.paragraph);
+        texts += line.text;
+    }
+    ui_->lstParagraph->addItems(texts);
+    const auto current = std::find(paragraphs_.begin(), paragraphs_.end(), CurrentParagraph);
+    Select(current == paragraphs_.end() ? -1 : int(current - paragraphs_.begin()));
+    RefreshButtons();
+}
+
+// In a chapter that was only paged to no line is selected, and so nothing can be moved there.
+void frmOrganizeParagraphs::RefreshButtons()
+{
+    const bool isSelected = ui_->lstParagraph->currentRow() >= 0;
+    ui_->cmdMoveUp->setEnabled(isSelected);
+    ui_->cmdMoveDown->setEnabled(isSelected);
+}
+
+void frmOrganizeParagraphs::ShowPreviousChapter()
+{
+    ShowChapter(PreviousChapterOf(CurrentChapter));
+}
+
+void frmOrganizeParagraphs::ShowNextChapter()
+{
+    ShowChapter(NextChapterOf(CurrentChapter));
+}
+
+void frmOrganizeParagraphs::ShowChapter(qint32 chapter)
+{
+    if (chapter == 0)
+        return;
+    CurrentChapter = chapter;
+    RefreshParagraphList();
+}
+
+void frmOrganizeParagraphs::lstParagraph_Click()
+{
+    const int row = ui_->lstParagraph->currentRow();
+    if (row >= 0 && std::size_t(row) < paragraphs_.size())
+        CurrentParagraph = paragraphs_[std::size_t(row)];
+    RefreshButtons();
+}
+
+void frmOrganizeParagraphs::lstParagraph_DblClick()
+{
+    lstParagraph_Click();
+    accept();
+}
+
+void frmOrganizeParagraphs::Select(int row)
+{
+    ui_->lstParagraph->setCurrentRow(row);
+    if (row >= 0)
+        ui_->lstParagraph->scrollToItem(ui_->lstParagraph->item(row));
+}
+
+void frmOrganizeParagraphs::cmdUp_Click()
+{
+    if (ui_->lstParagraph->currentRow() > 0)
+        Select(ui_->lstParagraph->currentRow() - 1);
+}
+
+void frmOrganizeParagraphs::cmdDown_Click()
+{
+    if (ui_->lstParagraph->currentRow() + 1 < ui_->lstParagraph->count())
+        Select(ui_->lstParagraph->currentRow() + 1);
+}
+
+// The list follows a paragraph that moved into another chapter.
+void frmOrganizeParagraphs::Move(bool (*moveParagraph)(ParagraphPlace& place))
+{
+    ParagraphPlace place{CurrentChapter, CurrentParagraph};
+    if (ui_->lstParagraph->currentRow() < 0 || !moveParagraph(place))
+        return;
+    CurrentChapter = place.chapter;
+    RefreshParagraphList();
+}
+
+void frmOrganizeParagraphs::cmdMoveUp_Click()
+{
+    Move(MoveParagraphUp);
+}
+
+void frmOrganizeParagraphs::cmdMoveDown_Click()
+{
+    Move(MoveParagraphDown);
+}
+
+void frmOrganizeParagraphs::cmdExit_Click()
+{
+    accept();
+}
