@@ -18,7 +18,7 @@ namespace {
 
 using namespace GeneralModule;
 
-enum Status { Whole = 0, InPart = 1, Failed = 2 };
+enum Status { Whole = 0, Failed = 1, BadUse = 2, InPart = 3 };
 
 constexpr const char* convertOption = "convert";
 constexpr const char* passwordOption = "password-file";
@@ -137,8 +137,8 @@ void AddConversionOptions(QCommandLineParser& parser)
 {
     parser.addOption({QString::fromLatin1(convertOption),
                       Say("Make the new album NEW of the album OLD of the former file format, "
-                          "without windows. The exit status is 0 when everything came over, 1 when "
-                          "the new album lacks something, 2 when none was made.")});
+                          "without windows. The exit status is 0 when everything came over, 3 when "
+                          "the new album lacks something, 1 when none was made.")});
     parser.addOption({QString::fromLatin1(passwordOption),
                       Say("With --convert: the first line of FILE is the old album's password. The "
                           "new one gets it too."),
@@ -163,7 +163,7 @@ int RunConversion(int& argc, char** argv)
         Print(stderr, understood ? Say("lumenark: --convert takes the old album and the new one")
                                  : QStringLiteral("lumenark: ") + parser.errorText());
         Print(stderr, Say("usage: lumenark --convert OLD NEW [--password-file FILE] [--force]"));
-        return Failed;
+        return BadUse;
     }
     CatchSignals();
     try {
