@@ -7,6 +7,7 @@
 #include "support/OldAlbums.h"
 #include "support/ScriptedDialogs.h"
 
+#include <QtEndian>
 #include <QtTest>
 
 using namespace GeneralModule;
@@ -21,12 +22,14 @@ private slots:
     void initTestCase();
     void BringsEverythingOver_data();
     void BringsEverythingOver();
+    void ReadsCharactersOfTwoUnits();
     void KeepsNumbersThatWereGiven();
     void OpensThroughItsQuestions();
     void GivingUpChangesNothing_data();
     void GivingUpChangesNothing();
     void NamesWhatIsDamaged_data();
     void NamesWhatIsDamaged();
+    void FindsPagesThatTheMapLacks();
     void ReportsOtherTables();
     void KeepsTheFileThatIsThere();
     void BreakingOffLeavesNothing();
@@ -110,6 +113,23 @@ void TestOldAlbum::BringsEverythingOver()
         QCOMPARE(FoundRows(target, password, expected, table), rows);
     }
     QCOMPARE(Listing(world).filter("lumenark"), QStringList());
+}
+
+void TestOldAlbum::ReadsCharactersOfTwoUnits()
+{
+    const auto utf16 = [](const QString& text) {
+        return QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
+    };
+    const AlbumFixture world;
+    QByteArray contents = OldAlbumBytes("small_jet4");
+    QVERIFY(contents.contains(utf16("plain paragraph")));
+    contents.replace(utf16("plain paragraph"), utf16("\U0001F600ain paragraph"));
+    const QString path = CopyTo(world, "old.alb", contents);
+    Convert(path, world.PathOf("new.alb"));
+    ScriptedDialogs dialogs;
+    QVERIFY(OpenAlbum(world.PathOf("new.alb")));
+    QVERIFY(FindById(*ParagraphSet, 5));
+    QVERIFY(ParagraphSet->Text(u"Text").startsWith("A \U0001F600ain paragraph without"));
 }
 
 // The highest chapter and two of the highest paragraphs were deleted in the old program.
@@ -223,6 +243,37 @@ void TestOldAlbum::NamesWhatIsDamaged()
             different += found[i] != rows[i];
     }
     QCOMPARE(different, rowsThatDiffer);
+}
+
+// The map of the picture table's pages is emptied: the pages themselves say whose they are.
+void TestOldAlbum::FindsPagesThatTheMapLacks()
+{
+    const AlbumFixture world;
+    QByteArray contents = OldAlbumBytes("small_jet4");
+    const QString path = CopyTo(world, "old.alb", contents);
+    quint32 table = 0;
+    for (const OldAlbumFile::Table& each : OldAlbumFile(path).GetTables()) {
+        if (each.name == "Image")
+            table = each.page;
+    }
+    const auto place = qFromLittleEndian<quint32>(contents.constData() + table * 4096 + 55);
+    const qsizetype page = qsizetype(place >> 8) * 4096;
+    const auto row =
+        qFromLittleEndian<quint16>(contents.constData() + page + 14 + (place & 0xFF) * 2);
+    QCOMPARE(contents[page + row], '\0'); // a map of bits, behind the number of its first page
+    int lost = 0;
+    for (int byte = 5; byte < 69; ++byte) {
+        lost += contents[page + row + byte] != 0;
+        contents[page + row + byte] = 0;
+    }
+    QVERIFY(lost > 0);
+    CopyTo(world, "old.alb", contents);
+    const QString target = world.PathOf("new.alb");
+    QCOMPARE(Convert(path, target).Problems(),
+             QStringList("Table Image: its list of pages is damaged; its rows were looked for in "
+                         "the whole file."));
+    const QJsonObject expected = OldAlbumContents("small_jet4");
+    QCOMPARE(FoundRows(target, {}, expected, "Image"), ExpectedRows(expected, "Image"));
 }
 
 // A table's name is changed in the catalogue: one is missing then, and one too many is there.

@@ -53,6 +53,7 @@ struct OldAlbumFile::Progress
     quint32 nextRow = 0;
     bool isTrying = false; // the next row was announced and did not come yet
     bool careful = false;
+    bool isRest = false; // rows on pages that the table's map leaves out
     qint64 volume = 0;
     std::vector<OldValue> values;
 
@@ -115,12 +116,26 @@ bool OldAlbumFile::PasswordFits(const QString& password) const
 OldAlbumFile::Outcome OldAlbumFile::ReadTable(const Table& table, OldTableVisitor& visitor)
 {
     Progress progress;
+    Outcome& outcome = progress.outcome;
+    outcome.isWhole = ReadToEnd(table, progress, visitor);
+    const qint64 rows = outcome.rows;
+    if (!outcome.isWhole || outcome.mapIsDamaged || rows + outcome.lostRows >= outcome.statedRows)
+        return outcome;
+    // Some rows did not come: perhaps the map lacks their pages.
+    progress.isRest = true;
+    progress.nextPage = progress.nextRow = 0;
+    ReadToEnd(table, progress, visitor);
+    outcome.mapIsDamaged = outcome.rows > rows;
+    return outcome;
+}
+
+bool OldAlbumFile::ReadToEnd(const Table& table, Progress& progress, OldTableVisitor& visitor)
+{
     while (!RunReader(table, progress, visitor)) {
         if (!PlanNextRun(progress))
-            return progress.outcome;
+            return false;
     }
-    progress.outcome.isWhole = true;
-    return progress.outcome;
+    return true;
 }
 
 // False when the reader broke off.
@@ -132,6 +147,8 @@ bool OldAlbumFile::RunReader(const Table& table, Progress& progress, OldTableVis
         arguments += QStringLiteral("careful");
     if (progress.outcome.mapIsDamaged)
         arguments += QStringLiteral("file");
+    if (progress.isRest)
+        arguments += QStringLiteral("rest");
     ReaderProcess reader(arguments);
     const qint64 earlier = progress.volume;
     while (const auto frame = reader.Next(patience_)) {
@@ -183,13 +200,15 @@ bool OldAlbumFile::TakeFrame(OldAlbumStream::Frame kind, QByteArrayView bytes, P
         progress.isTrying = true;
         return false;
     }
-    if (kind == OldAlbumStream::Row && progress.outcome.hasFields) {
+    // A page that the map leaves out may be one that was given up: no more than the stated rows.
+    const bool isSurplus = progress.isRest && progress.outcome.rows >= progress.outcome.statedRows;
+    if (kind == OldAlbumStream::Row && progress.outcome.hasFields && !isSurplus) {
         progress.values.clear();
         while (qsizetype(progress.values.size()) < progress.fields)
             progress.values.push_back(TakeValue(contents));
         ++progress.outcome.rows;
         visitor.TakeRow(progress.values);
-    } else if (kind == OldAlbumStream::LostRow) {
+    } else if (kind == OldAlbumStream::LostRow && !isSurplus) {
         ++progress.outcome.lostRows;
     }
     progress.MoveBehind(page, row);
@@ -209,7 +228,7 @@ bool OldAlbumFile::PlanNextRun(Progress& progress)
     } else if (progress.isTrying) {
         ++progress.outcome.lostRows;
         progress.MoveBehind(progress.nextPage, progress.nextRow);
-    } else if (!progress.outcome.mapIsDamaged) {
+    } else if (!progress.outcome.mapIsDamaged && !progress.isRest) {
         progress.outcome.mapIsDamaged = true;
     } else {
         return false;

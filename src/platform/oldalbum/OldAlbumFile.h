@@ -72,6 +72,7 @@ private:
     struct Progress;
 
     bool ReadList(bool wholeFile);
+    bool ReadToEnd(const Table& table, Progress& progress, OldTableVisitor& visitor);
     bool RunReader(const Table& table, Progress& progress, OldTableVisitor& visitor);
     bool TakeFrame(OldAlbumStream::Frame kind, QByteArrayView contents, Progress& progress,
                    OldTableVisitor& visitor);

@@ -26,6 +26,17 @@ bool HasHead(const char* path)
            (head[versionAt] == MDB_VER_JET3 || head[versionAt] == MDB_VER_JET4);
 }
 
+// The library converts Jet 4's texts as if no character needed two code units, and makes each of
+// such a pair a question mark.
+void ReadSurrogatePairs(MdbHandle* handle)
+{
+    const iconv_t whole = iconv_open("UTF-8", "UTF-16LE");
+    if (whole == iconv_t(-1))
+        return;
+    iconv_close(handle->iconv_in);
+    handle->iconv_in = whole;
+}
+
 } // namespace
 
 std::unique_ptr<JetFile> JetFile::Open(const char* path)
@@ -36,6 +47,8 @@ std::unique_ptr<JetFile> JetFile::Open(const char* path)
     file->handle_ = mdb_open(path, MDB_NOFLAGS);
     if (!file->handle_)
         return nullptr;
+    if (!IS_JET3(file->handle_))
+        ReadSurrogatePairs(file->handle_);
     const auto pageSize = std::size_t(file->handle_->fmt->pg_size);
     struct stat status = {};
     if (stat(path, &status) != 0 || std::size_t(status.st_size) < pageSize)

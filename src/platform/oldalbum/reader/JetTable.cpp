@@ -65,15 +65,30 @@ bool JetTable::GoToNextPage(Pages pages)
         return false;
     }
     while (nextPage_ < file_.GetPageCount()) {
-        if (mdb_read_pg(handle_, nextPage_++) && IsOwnPage())
+        const std::uint32_t page = nextPage_++;
+        const bool isLeftOut = page < inMap_.size() && inMap_[page];
+        if (!isLeftOut && mdb_read_pg(handle_, page) && IsOwnPage())
             return true;
     }
     return false;
 }
 
+void JetTable::NoteMap()
+{
+    inMap_.assign(file_.GetPageCount(), false);
+    while (GoToNextPage(Pages::OfMap)) {
+        if (nextPage_ - 1 < inMap_.size())
+            inMap_[nextPage_ - 1] = true;
+    }
+    nextPage_ = 0;
+}
+
 void JetTable::Read(Pages pages, Place from, Visitor& visitor)
 {
     mdb_rewind_table(table_);
+    inMap_.clear();
+    if (pages == Pages::OutsideMap)
+        NoteMap();
     table_->cur_phys_pg = from.page > 0 ? from.page - 1 : 0;
     nextPage_ = from.page;
     while (GoToNextPage(pages)) {

@@ -20,9 +20,9 @@ public:
         std::uint32_t row = 0;
     };
 
-    // Where the pages are taken from: the table's own map, or every page of the file that says
-    // that it belongs to the table (for a damaged map).
-    enum class Pages { OfMap, OfFile };
+    // Where the pages are taken from: the table's own map, or, where that is damaged, every page of
+    // the file that says that it belongs to the table, or those of them that the map leaves out.
+    enum class Pages { OfMap, OfFile, OutsideMap };
 
     struct Visitor
     {
@@ -53,6 +53,7 @@ public:
 
 private:
     bool GoToNextPage(Pages pages);
+    void NoteMap();
     bool IsOwnPage() const;
     void ReadPage(std::uint32_t firstRow, Visitor& visitor);
     void ReadRow(Place place, int start, std::size_t size, Visitor& visitor);
@@ -64,5 +65,6 @@ private:
     MdbTableDef* table_ = nullptr;
     std::uint32_t lastNumber_ = 0;
     std::uint32_t nextPage_ = 0; // the first one that was not read yet
+    std::vector<bool> inMap_;    // pages to leave out, when those outside the map are read
     std::vector<MdbField> fields_;
 };

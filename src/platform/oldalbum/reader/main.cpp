@@ -4,11 +4,12 @@
 // run for ever.
 //
 //   lumenark-import tables FILE [file]
-//   lumenark-import password FILE     the password to try comes on standard input; exit code 3:
-//   wrong lumenark-import rows FILE PAGE FROM-PAGE FROM-ROW [careful] [file]
+//   lumenark-import password FILE
+//   lumenark-import rows FILE PAGE FROM-PAGE FROM-ROW [careful] [file | rest]
 //
-// "file" goes through all pages of the file instead of those that the table's map names; "careful"
-// announces each row before it is read. What is written: OldAlbumStream.h.
+// The password to try comes on standard input. "file" goes through all pages of the file instead
+// of those that the table's map names, "rest" through those that it leaves out; "careful" announces
+// each row before it is read. What is written, and the exit codes: OldAlbumStream.h.
 #include "JetFile.h"
 #include "JetTable.h"
 #include "JetValue.h"
@@ -253,8 +254,9 @@ int Run(const std::vector<std::string>& arguments)
     const auto file = JetFile::Open(arguments[2].c_str());
     if (!file)
         return NotReadable;
-    const JetTable::Pages pages =
-        HasOption(arguments, "file") ? JetTable::Pages::OfFile : JetTable::Pages::OfMap;
+    const JetTable::Pages pages = HasOption(arguments, "file")   ? JetTable::Pages::OfFile
+                                  : HasOption(arguments, "rest") ? JetTable::Pages::OutsideMap
+                                                                 : JetTable::Pages::OfMap;
     if (arguments[1] == "tables")
         return WriteTables(*file, pages, stream);
     if (arguments[1] == "password")
