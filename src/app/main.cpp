@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Application.h"
+#include "Convert.h"
 #include "Tour.h"
 
 #include "core/StartUp.h"
@@ -30,6 +31,7 @@ Arguments ReadArguments(const QApplication& application)
         QApplication::tr("Go through the windows, write a picture of each into FOLDER, and end."),
         QStringLiteral("FOLDER"));
     parser.addOption(tour);
+    AddConversionOptions(parser);
     parser.addPositionalArgument(
         QStringLiteral("album"),
         QApplication::tr("The album to open; the last one when not given."),
@@ -63,6 +65,9 @@ public:
 
 int main(int argc, char** argv)
 {
+    // Before anything that needs a display.
+    if (IsConversion(argc, argv))
+        return RunConversion(argc, argv);
     Application application(argc, argv);
     QtDialogs dialogs;
     Dialogs::Install(&dialogs);
