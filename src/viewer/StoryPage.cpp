@@ -15,6 +15,8 @@ namespace {
 
 // Pictures stand out on a dark neutral ground, whatever the desktop's theme.
 const QColor bandColor(0x1f, 0x20, 0x23);
+const QColor inkOnBand(0xec, 0xea, 0xe5);
+const QColor scrollBarOnBand(0x4a, 0x4c, 0x52);
 
 constexpr double legendPointSize = 15;         // read from an arm's length away
 constexpr double smallestLegendPointSize = 12; // a longer text is scrolled
@@ -78,6 +80,16 @@ void StoryPage::CreateLegend()
     legendArea_->setWidget(lblLegend_);
     SetLegendAlignment(Qt::AlignHCenter);
     connect(lblLegend_, &ClickLabel::Clicked, this, &StoryPage::LegendClicked);
+}
+
+void StoryPage::Darken()
+{
+    QPalette dark = palette();
+    dark.setColor(QPalette::Window, bandColor);
+    dark.setColor(QPalette::WindowText, inkOnBand);
+    dark.setColor(QPalette::Base, bandColor);
+    dark.setColor(QPalette::Button, scrollBarOnBand);
+    setPalette(dark);
 }
 
 void StoryPage::Arrange(const QString& text)

@@ -21,6 +21,9 @@ class StoryPage : public QWidget
 public:
     explicit StoryPage(QWidget* parent = nullptr);
 
+    // Puts the text, too, on the pictures' dark ground.
+    void Darken();
+
     // Divides the page between pictures and text, for a text of about that length. Pictures on show
     // stay where they are; fill the screen again.
     void Arrange(const QString& text);
