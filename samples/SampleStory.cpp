@@ -59,34 +59,32 @@ const std::vector<Chapter>& Story()
               {{Season, "Spring"}, {Shape, "Panorama"}},
               "",
               {"spring-hills-dawn.jpg"}},
-             {"We went out as soon as the paths were dry. <[3]> was <[4]>, and nobody looked at "
-              "the "
-              "clock. <[Picture Legend]>.",
+             {"We went out as soon as the paths were dry. <[3]>: <[4]>. Nobody looked at the "
+              "clock. "
+              "<[Picture Legend]>.",
               {{Season, "Spring"}, {Person, "!;-"}}},
              {"There is one tree on the hill that we visit in every season. <[0]>: <[Picture "
               "Legend]>.",
               {},
               "*-tree.jpg",
               {"spring-tree.jpg"}},
-             {"The old town at <[9]>. <[Picture Legend]>.",
+             {"Meanwhile in town. <[1]>, <[9]>: <[Picture Legend]>.",
               {{Season, "Spring"}, {Place, "Old Town;River"}}},
          }},
         {"Summer by the water",
          {
-             {"In summer we live by the water: <[1]> in the morning, <[1]> at night. <[Picture "
-              "Legend]>.",
+             {"In summer we live by the water. <[1]>, <[9]>: <[Picture Legend]>.",
               {{Season, "Summer"}, {Place, "Lake;Coast;Beach;Harbour"}}},
              {"Some days need no plan.\n<[Picture Legend]>.",
               {},
               "",
               {"summer-picnic.jpg", "summer-beach.jpg", "summer-tree.jpg"}},
-             {"Everybody found something to do. <[3]> chose <[4]>, in a <[5]> mood. <[Picture "
-              "Legend]>.",
+             {"Everybody found something to do. <[3]>: <[4]>. Mood: <[5]>. <[Picture Legend]>.",
               {{Season, "Summer"}, {Person, "!;-"}}},
              {"Inland the fields stood high, and behind them the mountains kept their snow. "
               "<[Picture Legend]>.",
               {{Season, "Summer"}, {Place, "Fields;Mountains;Hills"}}},
-             {"And then it was <[9]>.\n<[Picture Legend]>.",
+             {"And then the day was over. <[9]>: <[Picture Legend]>.",
               {{Season, "Summer"}, {Light, "Night;Dusk"}}},
          }},
         {"Autumn comes home",
@@ -100,7 +98,7 @@ const std::vector<Chapter>& Story()
              {"Clara and Jonas walked a great deal that year, she before him or he before her. "
               "<[Picture Legend]>.",
               {{Person, "Clara"}, {Person2, "Jonas"}}},
-             {"The days drew in: <[2]> at <[9]>. <[Picture Legend]>.",
+             {"The days drew in. <[2]>, <[9]>: <[Picture Legend]>.",
               {{Season, "Autumn"}, {Light, "Dusk;Storm"}}},
          }},
         {"Winter lights",

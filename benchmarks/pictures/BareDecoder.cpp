@@ -14,14 +14,14 @@
 
 namespace {
 
-constexpr int kBytesPerPixel = 4;
-constexpr int kEighths = 8;
+constexpr int bytesPerPixel = 4;
+constexpr int eighths = 8;
 
 unsigned StepInEighths(const jpeg_decompress_struct& decoder, QSize size)
 {
     const double factor = std::min(double(decoder.image_width) / size.width(),
                                    double(decoder.image_height) / size.height());
-    return std::clamp(int(std::ceil(kEighths / factor)), 1, kEighths);
+    return std::clamp(int(std::ceil(eighths / factor)), 1, eighths);
 }
 
 } // namespace
@@ -41,10 +41,10 @@ void DecodeBare(const QString& path, QSize size)
                  static_cast<unsigned long>(bytes.size()));
     jpeg_read_header(&decoder, TRUE);
     decoder.scale_num = StepInEighths(decoder, size);
-    decoder.scale_denom = kEighths;
+    decoder.scale_denom = eighths;
     decoder.out_color_space = JCS_EXT_BGRX;
     jpeg_start_decompress(&decoder);
-    const std::size_t bytesPerLine = std::size_t(decoder.output_width) * kBytesPerPixel;
+    const std::size_t bytesPerLine = std::size_t(decoder.output_width) * bytesPerPixel;
     std::vector<unsigned char> pixels(bytesPerLine * decoder.output_height);
     while (decoder.output_scanline < decoder.output_height) {
         JSAMPROW line = pixels.data() + bytesPerLine * decoder.output_scanline;

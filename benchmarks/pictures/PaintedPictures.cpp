@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr int kJpegQuality = 90;
-constexpr int kNoise = 45; // levels up or down where the noise is strongest
+constexpr int jpegQuality = 90;
+constexpr int noiseStrength = 45; // levels up or down where the noise is strongest
 
 // Waves of the given length in pixels; 0 up to 2 * height.
 std::vector<int> Waves(int count, double length, int height, int shift)
@@ -34,8 +34,8 @@ QImage PaintPicture(QSize size, int seed)
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < size.width(); ++x) {
             // Patches without, with half and with full noise, as skies and foliage differ.
-            const int noise =
-                (int(random() >> 8) % (2 * kNoise + 1) - kNoise) * ((x / 400 + y / 300) % 3) / 2;
+            const int noise = (int(random() >> 8) % (2 * noiseStrength + 1) - noiseStrength) *
+                              ((x / 400 + y / 300) % 3) / 2;
             const int green = 30 + x * 150 / size.width() + grass[y] + noise;
             const int blue = 30 + y * 150 / size.height() + fence[x] + noise;
             line[x] = qRgb(30 + sky[x] + noise, green, blue);
@@ -52,7 +52,7 @@ QStringList PaintPictures(const QDir& folder, QSize size, int count)
     for (int i = 0; i < count; ++i) {
         const QString path = folder.filePath(
             QStringLiteral("%1x%2-%3.jpg").arg(size.width()).arg(size.height()).arg(i));
-        if (!PaintPicture(size, i).save(path, "jpeg", kJpegQuality)) {
+        if (!PaintPicture(size, i).save(path, "jpeg", jpegQuality)) {
             return {};
         }
         paths.append(path);

@@ -24,12 +24,12 @@
 
 namespace {
 
-constexpr QSize kTwelveMegapixels(4000, 3000);
-constexpr QSize kTwentyFourMegapixels(6000, 4000);
-constexpr int kPicturesOnScreen = 21;
-constexpr QSize kBox(640, 360);
-constexpr QSize kScreen(1920, 1080);
-constexpr double kKibibytesPerMebibyte = 1024;
+constexpr QSize twelveMegapixels(4000, 3000);
+constexpr QSize twentyFourMegapixels(6000, 4000);
+constexpr int picturesOnScreen = 21;
+constexpr QSize box(640, 360);
+constexpr QSize screen(1920, 1080);
+constexpr double kibibytesPerMebibyte = 1024;
 
 QStringList screenful; // 12 megapixels each
 QString largePicture;  // 24 megapixels
@@ -53,9 +53,9 @@ double Median(Times times)
 
 void Report(benchmark::State& state, const Times& ours, const Times& bare)
 {
-    constexpr double kMilliseconds = 1000;
-    state.counters["ours_ms"] = Median(ours) * kMilliseconds;
-    state.counters["bare_ms"] = Median(bare) * kMilliseconds;
+    constexpr double milliseconds = 1000;
+    state.counters["ours_ms"] = Median(ours) * milliseconds;
+    state.counters["bare_ms"] = Median(bare) * milliseconds;
     state.counters["to_bare"] = Median(ours) / Median(bare);
 }
 
@@ -78,7 +78,7 @@ void ReadHeadersOfScreenful(benchmark::State& state)
 
 void FillScreen(benchmark::State& state)
 {
-    const QSize size = kTwelveMegapixels.scaled(kBox, Qt::KeepAspectRatio);
+    const QSize size = twelveMegapixels.scaled(box, Qt::KeepAspectRatio);
     std::vector<PictureRequest> requests;
     for (const QString& path : screenful) {
         requests.push_back({path, size});
@@ -103,7 +103,7 @@ void FillScreen(benchmark::State& state)
 
 void ReadLargeToFullScreen(benchmark::State& state)
 {
-    const QSize size = kTwentyFourMegapixels.scaled(kScreen, Qt::KeepAspectRatio);
+    const QSize size = twentyFourMegapixels.scaled(screen, Qt::KeepAspectRatio);
     Times ours;
     Times bare;
     Times whole;
@@ -123,14 +123,14 @@ void PeakOfLargeToFullScreen(benchmark::State& state)
     double mebibytes = 0;
     for (auto _ : state) {
         QProcess process;
-        process.start(peakProgram, {largePicture, QString::number(kScreen.width()),
-                                    QString::number(kScreen.height())});
+        process.start(peakProgram, {largePicture, QString::number(screen.width()),
+                                    QString::number(screen.height())});
         if (!process.waitForFinished() || process.exitCode() != 0) {
             state.SkipWithError("picture_peak failed");
             return;
         }
         const double peak = process.readAllStandardOutput().trimmed().toDouble();
-        mebibytes = std::max(mebibytes, peak / kKibibytesPerMebibyte);
+        mebibytes = std::max(mebibytes, peak / kibibytesPerMebibyte);
     }
     state.counters["peak_MiB"] = mebibytes;
 }
@@ -138,14 +138,14 @@ void PeakOfLargeToFullScreen(benchmark::State& state)
 bool PaintAll(const QTemporaryDir& folder)
 {
     const QDir dir(folder.path());
-    screenful = PaintPictures(dir, kTwelveMegapixels, kPicturesOnScreen);
-    largePicture = PaintPictures(dir, kTwentyFourMegapixels, 1).value(0);
-    return screenful.size() == kPicturesOnScreen && !largePicture.isEmpty();
+    screenful = PaintPictures(dir, twelveMegapixels, picturesOnScreen);
+    largePicture = PaintPictures(dir, twentyFourMegapixels, 1).value(0);
+    return screenful.size() == picturesOnScreen && !largePicture.isEmpty();
 }
 
 double MebibytesOf(const QString& path)
 {
-    return double(QFileInfo(path).size()) / kKibibytesPerMebibyte / kKibibytesPerMebibyte;
+    return double(QFileInfo(path).size()) / kibibytesPerMebibyte / kibibytesPerMebibyte;
 }
 
 } // namespace

@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int kButtons = 20;
-constexpr int kColumns = 4;
+constexpr int buttonCount = 20;
+constexpr int columnCount = 4;
 
 class BareWindow : public QMainWindow
 {
@@ -24,9 +24,9 @@ public:
         menu->addAction(QStringLiteral("E&xit"));
         auto* centre = new QWidget;
         auto* grid = new QGridLayout(centre);
-        for (int i = 0; i < kButtons; ++i) {
+        for (int i = 0; i < buttonCount; ++i) {
             auto* button = new QPushButton(QStringLiteral("Button %1").arg(i + 1));
-            grid->addWidget(button, i / kColumns, i % kColumns);
+            grid->addWidget(button, i / columnCount, i % columnCount);
         }
         setCentralWidget(centre);
     }

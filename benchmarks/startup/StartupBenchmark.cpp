@@ -16,9 +16,9 @@
 
 namespace {
 
-constexpr int kRuns = 21;
-constexpr int kWarmUps = 2; // runs that fill the file cache and do not count
-constexpr int kMostMilliseconds = 30000;
+constexpr int runCount = 21;
+constexpr int warmUps = 2; // runs that fill the file cache and do not count
+constexpr int mostMilliseconds = 30000;
 
 struct Program
 {
@@ -35,7 +35,7 @@ std::optional<double> RunOnce(const Program& program)
     QElapsedTimer timer;
     timer.start();
     process.start(program.path, program.arguments);
-    const bool ended = process.waitForFinished(kMostMilliseconds);
+    const bool ended = process.waitForFinished(mostMilliseconds);
     const qint64 nanoseconds = timer.nsecsElapsed();
     if (!ended || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
         std::fprintf(stderr, "%s: %s\n", qUtf8Printable(program.path),
@@ -44,13 +44,13 @@ std::optional<double> RunOnce(const Program& program)
         process.waitForFinished();
         return {};
     }
-    constexpr double kNanosecondsPerMillisecond = 1e6;
-    return double(nanoseconds) / kNanosecondsPerMillisecond;
+    constexpr double nanosecondsPerMillisecond = 1e6;
+    return double(nanoseconds) / nanosecondsPerMillisecond;
 }
 
 bool Measure(std::vector<Program>& programs)
 {
-    for (int run = -kWarmUps; run < kRuns; ++run) {
+    for (int run = -warmUps; run < runCount; ++run) {
         for (Program& program : programs) {
             const std::optional<double> milliseconds = RunOnce(program);
             if (!milliseconds) {
@@ -97,6 +97,6 @@ int main(int argc, char** argv)
     PrintRow("bare window", programs[0]);
     PrintRow("program", programs[1]);
     std::printf("ratio        %.2f  (%d runs each, in turn)\n",
-                MedianOf(programs[1]) / MedianOf(programs[0]), kRuns);
+                MedianOf(programs[1]) / MedianOf(programs[0]), runCount);
     return 0;
 }

@@ -39,6 +39,24 @@ Arguments ReadArguments(const QApplication& application)
     return {absolute(parser.positionalArguments().value(0)), absolute(parser.value(tour))};
 }
 
+// For measuring the start from outside: ends the program once its window has been painted, children
+// and all.
+class EndAfterFirstPaint : public QObject
+{
+public:
+    explicit EndAfterFirstPaint(QWidget* window) : QObject(window)
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            QTimer::singleShot(0, qApp, &QApplication::quit);
+        return false;
+    }
+};
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -51,8 +69,7 @@ int main(int argc, char** argv)
     mainWindow.show();
     if (!arguments.tour.isEmpty())
         new Tour(arguments.tour, &mainWindow);
-    // Start-up is measured from outside, from the program's start to its end.
     if (qEnvironmentVariableIsSet("LUMENARK_EXIT_AFTER_FIRST_PAINT"))
-        QTimer::singleShot(0, &application, &QApplication::quit);
+        new EndAfterFirstPaint(&mainWindow);
     return QApplication::exec();
 }

@@ -14,6 +14,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QStringListModel>
 
 #include <algorithm>
@@ -114,14 +115,15 @@ void frmEditImage::DisplayCaracteristicNames()
         std::vector<int> columns{column};
         if (const auto twin = TwinColumnOf(column))
             columns.push_back(*twin);
-        QAbstractItemModel* former = cboCategory_[std::size_t(column)]->model();
+        // A list's own first model goes by itself.
+        const QPointer<QAbstractItemModel> former = cboCategory_[std::size_t(column)]->model();
         for (const int user : columns) {
             QComboBox* combo = cboCategory_[std::size_t(user)];
             combo->setModel(values);
             combo->setAccessibleName(CaractLabel(GroupOf(user)) + QLatin1Char(' ') + label);
             SetValue(user, {});
         }
-        if (former->parent() == this)
+        if (former && former->parent() == this)
             delete former;
     }
 }

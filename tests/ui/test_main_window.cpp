@@ -34,6 +34,8 @@ private slots:
     void MovesKeepTheSelection();
     void ReadsByEnterAndDoubleClick();
     void FailedOpeningLeavesNoAlbum();
+    void TellsAboutItself();
+    void RepairsTheAlbum();
     void EscapeEndsTheProgram();
 
 private:
@@ -268,6 +270,39 @@ void TestMainWindow::FailedOpeningLeavesNoAlbum()
     window_->resize(700, 500);
     Choose("mnuExit");
     QVERIFY(!window_->isVisible());
+}
+
+void TestMainWindow::TellsAboutItself()
+{
+    Start(album_->GetAlbum());
+    QApplication::setApplicationDisplayName("Lumenark");
+    QApplication::setApplicationVersion("1.2.3");
+    WhenModal("frmAbout", [](QWidget& about) {
+        QCOMPARE(about.windowTitle(), "About Lumenark");
+        QCOMPARE(::Find<QLabel>(about, "lblVersion").text(), "Version 1.2.3");
+        QTest::mouseClick(&::Find<QPushButton>(about, "cmdOK"), Qt::LeftButton);
+    });
+    Choose("mnuAbout");
+}
+
+void TestMainWindow::RepairsTheAlbum()
+{
+    for (const char* name : {"A", "B"})
+        album_->AddChapter(name);
+    album_->Execute("UPDATE Chapter SET NextChapter=0 WHERE Name='A'");
+    Start(album_->GetAlbum());
+    QCOMPARE(Chapters(), QStringList("*A"));
+    WhenModal("frmRepairAlbum", [](QWidget& repair) {
+        QTest::mouseClick(&::Find<QPushButton>(repair, "Command2"), Qt::LeftButton);
+    });
+    Choose("mnuRepair");
+    QCOMPARE(Chapters(), QStringList("*A"));
+    dialogs_->ExpectBoxBeginning("Chapters linked anew: 1\n", Dialogs::Icon::Information);
+    WhenModal("frmRepairAlbum", [](QWidget& repair) {
+        QTest::mouseClick(&::Find<QPushButton>(repair, "cmdProceed"), Qt::LeftButton);
+    });
+    Choose("mnuRepair");
+    QCOMPARE(Chapters(), QStringList({"*A", "B"}));
 }
 
 void TestMainWindow::EscapeEndsTheProgram()

@@ -16,7 +16,7 @@ struct Signature
     qsizetype laterAt = 0;
 };
 
-constexpr int kSignatureBytes = 16;
+constexpr int signatureBytes = 16;
 
 const std::array<Signature, 9>& Signatures()
 {
@@ -35,13 +35,13 @@ const std::array<Signature, 9>& Signatures()
 }
 
 // JPEG and most PNG come line by line, so the limit there is patience: about four seconds.
-constexpr qint64 kMostPixelsByLine = 512LL << 20;
-constexpr qint64 kMostPixelsWhole = 128LL << 20;
+constexpr qint64 mostPixelsByLine = 512LL << 20;
+constexpr qint64 mostPixelsWhole = 128LL << 20;
 
 // A block of 8x8 pixels takes at least one bit of a JPEG, so no more than 512 pixels come out of a
 // byte. Below the limit a file that was cut off still shows what is there.
-constexpr qint64 kPixelsPerJpegByte = 512;
-constexpr qint64 kMostPixelsOfCutJpeg = 64LL << 20;
+constexpr qint64 pixelsPerJpegByte = 512;
+constexpr qint64 mostPixelsOfCutJpeg = 64LL << 20;
 
 bool IsProgressiveFrame(uchar marker)
 {
@@ -67,7 +67,7 @@ bool OpenPictureFile(QFile& file, const QString& path)
 
 QByteArray PictureFormatOf(QFile& file)
 {
-    const QByteArray head = file.peek(kSignatureBytes);
+    const QByteArray head = file.peek(signatureBytes);
     const auto found = std::ranges::find_if(Signatures(), [&head](const Signature& signature) {
         return head.startsWith(signature.start) &&
                head.mid(signature.laterAt).startsWith(signature.later);
@@ -81,12 +81,11 @@ bool IsPlausibleSize(const QByteArray& format, QSize size, qint64 fileBytes)
     if (size.isEmpty()) {
         return false;
     }
-    if (format == "jpeg" &&
-        pixels > std::max(kMostPixelsOfCutJpeg, fileBytes * kPixelsPerJpegByte)) {
+    if (format == "jpeg" && pixels > std::max(mostPixelsOfCutJpeg, fileBytes * pixelsPerJpegByte)) {
         return false;
     }
     const bool byLine = format == "jpeg" || format == "png";
-    return pixels <= (byLine ? kMostPixelsByLine : kMostPixelsWhole);
+    return pixels <= (byLine ? mostPixelsByLine : mostPixelsWhole);
 }
 
 bool JpegNeedsWholePicture(const QByteArray& jpeg)

@@ -21,18 +21,18 @@ namespace {
 
 // Megabytes for one picture that cannot be decoded by line: 128 megapixels. The decoders' own limit
 // of 128 refuses scans and stitched pictures that fit well into memory.
-constexpr int kMostMegabytesWhole = 512;
+constexpr int mostMegabytesWhole = 512;
 
 // A picture above this many pixels that is held whole is decoded while no other such picture is, so
 // that the memory does not grow with the number of cores.
-constexpr qint64 kLargeWhole = 32LL << 20;
+constexpr qint64 largeWhole = 32LL << 20;
 
 // Larger than any screen; guards the allocation only.
-constexpr int kMostTargetSide = 1 << 15;
-constexpr qint64 kMostTargetPixels = 128LL << 20;
+constexpr int mostTargetSide = 1 << 15;
+constexpr qint64 mostTargetPixels = 128LL << 20;
 
 // No photograph comes near; what lies above it would be read into memory for nothing.
-constexpr qint64 kMostJpegBytes = 1LL << 30;
+constexpr qint64 mostJpegBytes = 1LL << 30;
 
 // To a format that needs no conversion at each paint.
 void ConvertToDraw(QImage& image)
@@ -138,7 +138,7 @@ private:
     bool IsLargeWhole()
     {
         const QSize size = HeaderSize();
-        return qint64(size.width()) * size.height() > kLargeWhole &&
+        return qint64(size.width()) * size.height() > largeWhole &&
                (!IsJpeg() || JpegNeedsWholePicture(bytes_));
     }
 
@@ -147,7 +147,7 @@ private:
     bool LoadIntoMemory()
     {
         file_.seek(0);
-        if (file_.size() > kMostJpegBytes) {
+        if (file_.size() > mostJpegBytes) {
             return false;
         }
         bytes_ = file_.readAll();
@@ -173,14 +173,14 @@ private:
 
 bool IsPlausibleTarget(QSize size)
 {
-    return !size.isEmpty() && size.width() <= kMostTargetSide && size.height() <= kMostTargetSide &&
-           qint64(size.width()) * size.height() <= kMostTargetPixels;
+    return !size.isEmpty() && size.width() <= mostTargetSide && size.height() <= mostTargetSide &&
+           qint64(size.width()) * size.height() <= mostTargetPixels;
 }
 
 QImage DecodeTo(const QString& path, QSize size)
 {
     static std::once_flag limitSet;
-    std::call_once(limitSet, [] { QImageReader::setAllocationLimit(kMostMegabytesWhole); });
+    std::call_once(limitSet, [] { QImageReader::setAllocationLimit(mostMegabytesWhole); });
 
     OpenPicture picture(path);
     if (!IsPlausibleTarget(size) || picture.Size().isEmpty()) {

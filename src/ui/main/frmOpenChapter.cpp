@@ -16,6 +16,8 @@
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/MainWindowState.h"
+#include "ui/main/frmAbout.h"
+#include "ui/main/frmRepairAlbum.h"
 #include "viewer/frmReelvane.h"
 #include "viewer/frmSelectImages.h"
 
@@ -65,9 +67,9 @@ void frmOpenChapter::ConnectControls()
     Connect(nullptr, ui_->mnuSelectedUndefined, &frmOpenChapter::mnuSelectedUndefined_Click, "");
     Connect(nullptr, ui_->mnuAllPictures, &frmOpenChapter::mnuAllPictures_Click, "");
     Connect(nullptr, ui_->mnuSelectedPictures, &frmOpenChapter::mnuSelectedPictures_Click, "");
-    Connect(nullptr, ui_->mnuRepair, nullptr, "repair");
+    Connect(nullptr, ui_->mnuRepair, &frmOpenChapter::mnuRepair_Click, "repair");
     Connect(nullptr, ui_->mnuPhotoAlbumHelp, &frmOpenChapter::mnuPhotoAlbumHelp_Click, "help");
-    Connect(nullptr, ui_->mnuAbout, nullptr, "about");
+    Connect(nullptr, ui_->mnuAbout, &frmOpenChapter::mnuAbout_Click, "about");
     for (QAction* separator :
          {ui_->mnuSep1, ui_->mnuSep2, ui_->mnuSep3, ui_->mnuSep4, ui_->mnuSep5})
         separator->setSeparator(true);
@@ -166,9 +168,7 @@ void frmOpenChapter::RefreshState()
         entry->setEnabled(state.offersChapterCommands);
     ui_->cmdMoveUp->setEnabled(state.canMoveUp);
     ui_->cmdMoveDown->setEnabled(state.canMoveDown);
-    // The windows behind these are still to come.
-    for (QAction* entry : {ui_->mnuRepair, ui_->mnuAbout})
-        entry->setEnabled(false);
+    ui_->mnuRepair->setEnabled(state.offersAlbumCommands);
     if (ui_->lstChapter->isVisible())
         ui_->lstChapter->setFocus();
 }
@@ -383,6 +383,19 @@ void frmOpenChapter::mnuAllPictures_Click()
 void frmOpenChapter::mnuSelectedPictures_Click()
 {
     ShowChosenFolder(QStringLiteral("*"));
+}
+
+void frmOpenChapter::mnuRepair_Click()
+{
+    frmRepairAlbum(this).exec();
+    if (AlbumOpen)
+        FillChapterList();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuAbout_Click()
+{
+    frmAbout(this).exec();
 }
 
 void frmOpenChapter::mnuPhotoAlbumHelp_Click()

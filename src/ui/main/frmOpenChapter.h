@@ -49,6 +49,8 @@ private:
     void mnuSelectedUndefined_Click();
     void mnuAllPictures_Click();
     void mnuSelectedPictures_Click();
+    void mnuRepair_Click();
+    void mnuAbout_Click();
     void mnuPhotoAlbumHelp_Click();
 
     void ConnectControls();

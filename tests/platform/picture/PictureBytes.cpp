@@ -47,12 +47,12 @@ QByteArray AbsurdPng()
 
 QByteArray Bitmap(QSize size, const QByteArray& pixels)
 {
-    constexpr quint32 kHeaderBytes = 54;
+    constexpr quint32 headerBytes = 54;
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setByteOrder(QDataStream::LittleEndian);
     stream.writeRawData("BM", 2);
-    stream << quint32(kHeaderBytes + pixels.size()) << quint32(0) << kHeaderBytes;
+    stream << quint32(headerBytes + pixels.size()) << quint32(0) << headerBytes;
     stream << quint32(40) << qint32(size.width()) << qint32(size.height());
     stream << quint16(1) << quint16(24) << quint32(0) << quint32(pixels.size());
     stream << qint32(2835) << qint32(2835) << quint32(0) << quint32(0);

@@ -275,9 +275,9 @@ void TestPictureReader::ContentsDecide()
 
 void TestPictureReader::ManyKeepTheirOrder()
 {
-    constexpr int kCount = 24;
+    constexpr int count = 24;
     std::vector<PictureRequest> requests;
-    for (int i = 0; i < kCount; ++i) {
+    for (int i = 0; i < count; ++i) {
         const QImage image = Filled({300 + i, 200}, QColor::fromHsv(i * 10, 255, 255));
         const bool bad = i % 5 == 3;
         const QByteArray bytes = bad ? QByteArray("bad") : Encoded(image, i % 2 ? "png" : "jpeg");
@@ -285,7 +285,7 @@ void TestPictureReader::ManyKeepTheirOrder()
     }
     const std::vector<QImage> images = ReadPictures(requests);
     QCOMPARE(images.size(), requests.size());
-    for (int i = 0; i < kCount; ++i) {
+    for (int i = 0; i < count; ++i) {
         const QImage& image = images[std::size_t(i)];
         QCOMPARE(image.isNull(), i % 5 == 3);
         if (!image.isNull()) {

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+#include "core/AlbumRepair.h"
+
+#include "core/Album.h"
+#include "core/AlbumCopy.h"
+#include "core/ChainMending.h"
+#include "core/ChapterChain.h"
+#include "platform/data/WriteBatch.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QHash>
+#include <QSet>
+
+#include <deque>
+
+using namespace GeneralModule;
+
+namespace {
+
+// The names of the fields that make a table's chain.
+struct ChainFields
+{
+    QStringView previous;
+    QStringView next;
+};
+
+constexpr ChainFields chapterFields{u"PreviousChapter", u"NextChapter"};
+constexpr ChainFields paragraphFields{u"PreviousParagraph", u"NextParagraph"};
+
+// -1 for what is no link, nor the 0 that stands for none: it leads nowhere and is to be rewritten.
+qint32 LinkIn(RecordSet& set, QStringView field)
+{
+    try {
+        return std::max(set.Number(field), -1);
+    } catch (const DatabaseError&) {
+        return -1;
+    }
+}
+
+class Repair
+{
+public:
+    RepairReport Run()
+    {
+        report_.copy = CopyAlbumBeside(QCoreApplication::translate("AlbumRepair", "before repair"));
+        WriteBatch batch(AlbumDatabase);
+        batch_ = &batch;
+        RepairChapters();
+        ReadParagraphs();
+        AdoptByLinks();
+        AdoptTheRest();
+        RepairParagraphs();
+        batch.Finish();
+        return report_;
+    }
+
+private:
+    void RepairChapters()
+    {
+        std::vector<ChainLink> links;
+        const RecordSet::Walk walk(*ChapterSet);
+        for (ChapterSet->MoveFirst(); !ChapterSet->AtEnd(); ChapterSet->MoveNext())
+            links.push_back({ChapterSet->Number(u"Id"), LinkIn(*ChapterSet, u"PreviousChapter"),
+                             LinkIn(*ChapterSet, u"NextChapter")});
+        const std::vector<ChainLink> mended = MendChain(links);
+        report_.chapterLinks += WriteLinks(*ChapterSet, chapterFields, links, mended);
+        for (const ChainLink& link : mended)
+            chapters_.append(link.id);
+    }
+
+    void ReadParagraphs()
+    {
+        const QSet<qint32> known(chapters_.begin(), chapters_.end());
+        const RecordSet::Walk walk(*ParagraphSet);
+        for (ParagraphSet->MoveFirst(); !ParagraphSet->AtEnd(); ParagraphSet->MoveNext()) {
+            const ChainLink link{ParagraphSet->Number(u"Id"),
+                                 LinkIn(*ParagraphSet, u"PreviousParagraph"),
+                                 LinkIn(*ParagraphSet, u"NextParagraph")};
+            const qint32 chapter = LinkIn(*ParagraphSet, u"Chapter");
+            paragraphs_.push_back(link);
+            owners_.insert(link.id, known.contains(chapter) ? chapter : 0);
+        }
+    }
+
+    // From every paragraph that has a chapter on to those that are linked with it, either way.
+    void AdoptByLinks()
+    {
+        QHash<qint32, QList<qint32>> neighbours;
+        std::deque<qint32> spreading;
+        for (const ChainLink& link : paragraphs_) {
+            for (const qint32 other : {link.previous, link.next}) {
+                neighbours[link.id].append(other);
+                neighbours[other].append(link.id);
+            }
+            if (owners_.value(link.id) != 0)
+                spreading.push_back(link.id);
+        }
+        for (; !spreading.empty(); spreading.pop_front()) {
+            const qint32 chapter = owners_.value(spreading.front());
+            for (const qint32 other : neighbours.value(spreading.front())) {
+                if (owners_.contains(other) && Adopt(other, chapter))
+                    spreading.push_back(other);
+            }
+        }
+    }
+
+    // False when the paragraph has a chapter already.
+    bool Adopt(qint32 paragraph, qint32 chapter)
+    {
+        if (owners_.value(paragraph) != 0)
+            return false;
+        owners_.insert(paragraph, chapter);
+        FindById(*ParagraphSet, paragraph);
+        ParagraphSet->Edit();
+        ParagraphSet->Set(u"Chapter", chapter);
+        ParagraphSet->Update();
+        batch_->RowDone();
+        ++report_.adopted;
+        return true;
+    }
+
+    void AdoptTheRest()
+    {
+        if (owners_.key(0, 0) == 0)
+            return;
+        const qint32 chapter = CreateChapterForFound();
+        for (const ChainLink& link : paragraphs_)
+            Adopt(link.id, chapter);
+    }
+
+    qint32 CreateChapterForFound()
+    {
+        const QString base = QCoreApplication::translate("AlbumRepair", "Found again");
+        QString name = base;
+        for (int number = 2; FindChapter(name); ++number)
+            name = QStringLiteral("%1 %2").arg(base).arg(number);
+        QString last;
+        if (!chapters_.isEmpty() && FindById(*ChapterSet, chapters_.last()))
+            last = ChapterSet->TextOrEmpty(u"Name");
+        chapters_.append(CreateChapter(name, last));
+        return chapters_.last();
+    }
+
+    void RepairParagraphs()
+    {
+        QHash<qint32, std::vector<ChainLink>> byChapter;
+        for (const ChainLink& link : paragraphs_)
+            byChapter[owners_.value(link.id)].push_back(link);
+        for (const qint32 chapter : std::as_const(chapters_))
+            RepairParagraphsOf(chapter, byChapter.value(chapter));
+    }
+
+    void RepairParagraphsOf(qint32 chapter, const std::vector<ChainLink>& links)
+    {
+        FindById(*ChapterSet, chapter);
+        const qint32 first = LinkIn(*ChapterSet, u"FirstParagraph");
+        const std::vector<ChainLink> mended = MendChain(links, first);
+        const qint32 head = mended.empty() ? 0 : mended.front().id;
+        if (first != head) {
+            ChapterSet->Edit();
+            ChapterSet->Set(u"FirstParagraph", head);
+            ChapterSet->Update();
+            batch_->RowDone();
+            ++report_.firstParagraphs;
+        }
+        report_.paragraphLinks += WriteLinks(*ParagraphSet, paragraphFields, links, mended);
+    }
+
+    // Writes the rows that differ and returns their number.
+    int WriteLinks(RecordSet& set, const ChainFields& fields, const std::vector<ChainLink>& before,
+                   const std::vector<ChainLink>& after)
+    {
+        QHash<qint32, ChainLink> old;
+        for (const ChainLink& link : before)
+            old.insert(link.id, link);
+        int written = 0;
+        for (const ChainLink& link : after) {
+            if (old.value(link.id) == link)
+                continue;
+            FindById(set, link.id);
+            set.Edit();
+            set.Set(fields.previous, link.previous);
+            set.Set(fields.next, link.next);
+            set.Update();
+            batch_->RowDone();
+            ++written;
+        }
+        return written;
+    }
+
+    RepairReport report_;
+    WriteBatch* batch_ = nullptr;
+    QList<qint32> chapters_; // in their order
+    std::vector<ChainLink> paragraphs_;
+    QHash<qint32, qint32> owners_; // chapter of each paragraph, 0 for none
+};
+
+} // namespace
+
+namespace GeneralModule {
+
+RepairReport RepairAlbum()
+{
+    return Repair().Run();
+}
+
+QString DescribeRepair(const RepairReport& report)
+{
+    const auto say = [](const char* text, int count) {
+        return QCoreApplication::translate("AlbumRepair", text, nullptr, count);
+    };
+    QStringList lines;
+    if (report.IsEmpty())
+        lines += say("The links of the album are in order; nothing was changed.", 0);
+    if (report.chapterLinks > 0)
+        lines += say("Chapters linked anew: %n", report.chapterLinks);
+    if (report.firstParagraphs > 0)
+        lines += say("Chapters given their right first paragraph: %n", report.firstParagraphs);
+    if (report.adopted > 0)
+        lines += say("Paragraphs without a chapter that have one now: %n", report.adopted);
+    if (report.paragraphLinks > 0)
+        lines += say("Paragraphs linked anew: %n", report.paragraphLinks);
+    lines += say("The album as it was before is kept in '%1'.", 0)
+                 .arg(QDir::toNativeSeparators(report.copy));
+    return lines.join(u'\n');
+}
+
+} // namespace GeneralModule

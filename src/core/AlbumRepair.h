@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace GeneralModule {
+
+// What a repair has changed.
+struct RepairReport
+{
+    QString copy;            // path of the album's copy as it was before
+    int chapterLinks = 0;    // chapters whose links were wrong
+    int firstParagraphs = 0; // chapters that named a wrong first paragraph
+    int paragraphLinks = 0;  // paragraphs whose links were wrong
+    int adopted = 0;         // paragraphs of no chapter that have one now
+
+    bool IsEmpty() const { return chapterLinks + firstParagraphs + paragraphLinks + adopted == 0; }
+};
+
+// Checks the chains of chapters and paragraphs of the open album and makes them whole: afterwards
+// the chapters are one chain, and each chapter's paragraphs are one. Only links change. A paragraph
+// of no chapter goes to the chapter of the paragraphs that it is linked with, or else to a new one
+// at the end. Keeps a copy of the album beside it first. Throws DatabaseError; what was repaired
+// until then stays, and so does the copy.
+RepairReport RepairAlbum();
+
+// What a person reads about it.
+QString DescribeRepair(const RepairReport& report);
+
+} // namespace GeneralModule

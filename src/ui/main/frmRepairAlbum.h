@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmRepairAlbum;
+}
+
+// Asks whether to repair the links of the open album, does it, and tells what was mended.
+class frmRepairAlbum : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frmRepairAlbum(QWidget* parent = nullptr);
+    ~frmRepairAlbum() override;
+
+private:
+    void cmdProceed_Click();
+
+    std::unique_ptr<Ui::frmRepairAlbum> ui_;
+};
