@@ -21,7 +21,8 @@ class StoryPage : public QWidget
 public:
     explicit StoryPage(QWidget* parent = nullptr);
 
-    // Puts the text, too, on the pictures' dark ground.
+    // Makes it a page for a whole screen: the text, too, stands on the pictures' dark ground, and
+    // is larger.
     void Darken();
 
     // Divides the page between pictures and text, for a text of about that length. Pictures on show
@@ -68,4 +69,5 @@ private:
     QScrollArea* legendArea_ = nullptr;
     ClickLabel* lblLegend_ = nullptr;
     int legendHeight_ = 0;
+    double legendPointSize_ = 15; // read from an arm's length away
 };

@@ -160,7 +160,7 @@ void TestAutoview::StepsThroughTheWholeStory()
     QVERIFY(!AutoviewOn && !story.Timer().isActive());
     QCOMPARE(button.text(), offCaption);
 
-    story.dialogs.ExpectInput("Please enter delay in seconds : ", "0,02", "32");
+    story.dialogs.ExpectInput("Please enter delay in seconds : ", "0,2", "32");
     story.Click("cmdTimer");
     for (const char* text : {"Third", "First"}) // by its own delay
         QTRY_COMPARE(story.Legend(), text);
@@ -226,11 +226,11 @@ void TestAutoview::WaitsForTheEditor()
 {
     OpenViewer story;
     story.Open(story.AddStory({"First", "Second"}));
-    story.StartAutoview("0.01");
+    story.StartAutoview("0.1");
     WhenModal("frmEditParagraph", [&](QWidget& editor) {
         QVERIFY(!story.Timer().isActive());
         const QString before = story.Legend();
-        LetTimersRunOut(10, 10);
+        LetTimersRunOut(4, 100);
         QCOMPARE(story.Legend(), before);
         QTest::keyClick(&editor, Qt::Key_Escape);
     });
@@ -287,7 +287,7 @@ void TestAutoview::WaitsForBoxes()
         QCOMPARE(box.windowTitle(), "Autoview Mode");
         QCOMPARE(box.labelText(), "Please enter delay in seconds : ");
         QVERIFY(!AutoviewOn);
-        box.setTextValue("0.01");
+        box.setTextValue("0.1");
         box.accept();
     });
     story.Click("cmdTimer");
@@ -295,7 +295,7 @@ void TestAutoview::WaitsForBoxes()
     QTRY_COMPARE(story.Legend(), "Second");
     WhenModal("QMessageBox", [&](QWidget& box) {
         const QString before = story.Legend();
-        LetTimersRunOut(10, 10);
+        LetTimersRunOut(4, 100);
         QCOMPARE(story.Legend(), before);
         QTest::keyClick(&box, Qt::Key_Escape);
     });
