@@ -35,6 +35,11 @@ void Tour::PlanReading()
     Press(Qt::Key_PageDown);
     Press(Qt::Key_Right);
     Shoot("viewer-three-pictures");
+    Click("cmdHideMenu");
+    Await("frmFullScreen");
+    Shoot("full-screen");
+    Press(Qt::Key_Escape);
+    Await("frmReelvane");
     Press(Qt::Key_PageDown);
     Press(Qt::Key_PageDown);
     Press(Qt::Key_PageDown);

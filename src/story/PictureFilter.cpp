@@ -3,7 +3,9 @@
 
 #include "catalogue/CharacteristicModel.h"
 #include "core/Album.h"
+#include "core/PathRoutines.h"
 #include "core/TextRoutines.h"
+#include "platform/text/LikePattern.h"
 
 #include <QSet>
 
@@ -117,6 +119,12 @@ QString SwapCarGroups(const QString& filter)
     for (int i = 3; i <= 5; ++i)
         swapped = ReplaceText(swapped, marker(i), column(i + 3), 1);
     return swapped;
+}
+
+QString PatternOfSelection(const QString& selection)
+{
+    return EscapedForLike(GeneralModule::FolderOf(selection)) +
+           GeneralModule::FileNameOf(selection);
 }
 
 QString BuildPictureFilter(RecordSet& paragraph)

@@ -56,7 +56,11 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
     ShowPicture({});
 }
 
-frmEditParagraph::~frmEditParagraph() = default;
+// The focus moves once more while the controls go.
+frmEditParagraph::~frmEditParagraph()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 void frmEditParagraph::ConnectControls()
 {

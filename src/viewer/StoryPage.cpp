@@ -15,8 +15,10 @@ namespace {
 
 // Pictures stand out on a dark neutral ground, whatever the desktop's theme.
 const QColor bandColor(0x1f, 0x20, 0x23);
+const QColor inkOnBand(0xec, 0xea, 0xe5);
+const QColor scrollBarOnBand(0x4a, 0x4c, 0x52);
 
-constexpr double legendPointSize = 15;         // read from an arm's length away
+constexpr double largeLegendPointSize = 18;    // read from across the room
 constexpr double smallestLegendPointSize = 12; // a longer text is scrolled
 constexpr int legendMargin = 14;               // logical pixels above and below the text
 constexpr int sideMargin = 32;
@@ -80,6 +82,17 @@ void StoryPage::CreateLegend()
     connect(lblLegend_, &ClickLabel::Clicked, this, &StoryPage::LegendClicked);
 }
 
+void StoryPage::Darken()
+{
+    QPalette dark = palette();
+    dark.setColor(QPalette::Window, bandColor);
+    dark.setColor(QPalette::WindowText, inkOnBand);
+    dark.setColor(QPalette::Base, bandColor);
+    dark.setColor(QPalette::Button, scrollBarOnBand);
+    setPalette(dark);
+    legendPointSize_ = largeLegendPointSize;
+}
+
 void StoryPage::Arrange(const QString& text)
 {
     legendHeight_ = LegendHeightFor(text);
@@ -92,13 +105,13 @@ void StoryPage::Arrange(const QString& text)
 
 int StoryPage::LegendWidth() const
 {
-    const QFontMetrics metrics(LegendFont(this, legendPointSize));
+    const QFontMetrics metrics(LegendFont(this, legendPointSize_));
     return std::min(width() - 2 * sideMargin, int(widestLegendEms * metrics.height()));
 }
 
 int StoryPage::LegendHeightFor(const QString& text) const
 {
-    const QFont font = LegendFont(this, legendPointSize);
+    const QFont font = LegendFont(this, legendPointSize_);
     const int line = QFontMetrics(font).lineSpacing();
     const int wanted = TextHeight(font, text, LegendWidth());
     const int largest = std::max(line, int(height() * largestLegendPart) - 2 * legendMargin);
@@ -117,7 +130,7 @@ int StoryPage::LegendHeightFor(const QString& text) const
 void StoryPage::FitLegend()
 {
     const int room = legendHeight_ - 2 * legendMargin;
-    double size = legendPointSize;
+    double size = legendPointSize_;
     while (size > smallestLegendPointSize &&
            TextHeight(LegendFont(this, size), lblLegend_->text(), LegendWidth()) > room)
         size -= 1;

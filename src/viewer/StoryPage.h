@@ -21,6 +21,10 @@ class StoryPage : public QWidget
 public:
     explicit StoryPage(QWidget* parent = nullptr);
 
+    // Makes it a page for a whole screen: the text, too, stands on the pictures' dark ground, and
+    // is larger.
+    void Darken();
+
     // Divides the page between pictures and text, for a text of about that length. Pictures on show
     // stay where they are; fill the screen again.
     void Arrange(const QString& text);
@@ -65,4 +69,5 @@ private:
     QScrollArea* legendArea_ = nullptr;
     ClickLabel* lblLegend_ = nullptr;
     int legendHeight_ = 0;
+    double legendPointSize_ = 15; // read from an arm's length away
 };

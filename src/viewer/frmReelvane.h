@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/PictureList.h"
-#include "viewer/PictureScreen.h"
+#include "viewer/Autoview.h"
+#include "viewer/PageDisplay.h"
 #include "viewer/StoryWalk.h"
+#include "viewer/ViewerKeys.h"
 
 #include <QDialog>
-#include <QElapsedTimer>
-#include <QTimer>
 
 #include <memory>
-#include <vector>
 
-class RecordSet;
 class StoryPage;
 
 namespace Ui {
@@ -38,7 +35,7 @@ public:
     QString ImageSelection = QStringLiteral("*"); // "*": any picture, "-": those not yet indexed
     int Nblines = 1;                              // lines of pictures on a screen, 0 to 4
     QString LastImageDisplayed; // File of the last picture on the screen, empty when there is none
-    StoryPage* DisplayForm;     // what is drawn on
+    StoryPage* DisplayForm;     // what is drawn on: the own page, or the full-screen view's
 
     void DisplayChapter();
     void DisplayParagraph();
@@ -46,7 +43,12 @@ public:
     void DisplayPreviousParagraph();
     void GoToNextChapter();
     void GoToTopOfChapter();
+    // Closes the full-screen view as well while it is open.
     void CloseViewer();
+
+    // Shows on DisplayForm what is on show already: the paragraph, else the chapter from its
+    // beginning, or the selection from its beginning.
+    void DisplayAgain();
 
     // Opens the paragraph editor on the current paragraph, which an empty chapter is given first,
     // and follows it to where the user went.
@@ -57,39 +59,43 @@ public:
     void DisplayUndefined(const QString& fileSelection, int maxImages);
 
     // True when the key is used up.
-    bool Form_KeyDown(QKeyEvent& key);
+    bool Form_KeyDown(const QKeyEvent& key);
+    // Handles the clicks on a page that is drawn on.
+    void TakeClicksOf(StoryPage* page);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void ConnectControls();
     void Form_Resize();
+    bool Run(ViewerCommand command);
+    bool IsFullScreenOpen() const;
+    // Whether no other window and no message box is in front of what is drawn on.
+    bool IsInFront() const;
 
     void cmdNextImages_Click();
     void cmdZoomIn_Click();
     void cmdZoomOut_Click();
+    void cmdTimer_Click();
     void cmdRefresh_Click();
     void cmdEditParagraph_Click();
+    void cmdHideMenu_Click();
     void lblLegend_Click();
     void imgImage_MouseDown(int index, Qt::MouseButton button);
     void imgFullSize_MouseDown(Qt::MouseButton button);
+    void timImage_Timer();
 
     void FollowStep(StoryStep step, const StoryPosition& position);
-    void FillPictureList(RecordSet& paragraph, int maxImages);
-    void DisplayImagesFromList(bool displayAgain);
+    void DisplaySelection();
+    void DisplayImagesFromList(bool isAgain);
     void DisplayEmptyChapter();
     void ShowText(bool isBrowsing);
+    void ShowAutoviewState(bool isOn);
     bool HasParagraphToEdit();
-    void ShowLargePicture(const ShownPicture& picture);
     void IndexPicture(const QString& file);
-    void DropTakenOut(const QStringList& files);
 
     std::unique_ptr<Ui::frmReelvane> ui_;
-    PictureList lstImage_;
-    std::vector<ShownPicture> displayed_;
-    QString text_; // of the paragraph, or the invitation of an empty chapter, before it is filled
-    QTimer resizeDelay_;
-    QElapsedTimer sinceResize_;
+    PageDisplay display_{DisplayForm};
+    Autoview autoview_;
 };

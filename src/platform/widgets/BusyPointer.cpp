@@ -5,10 +5,14 @@
 
 BusyPointer::BusyPointer()
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const QCursor* present = QApplication::overrideCursor();
+    isShown_ = !present || present->shape() != Qt::BlankCursor;
+    if (isShown_)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
 }
 
 BusyPointer::~BusyPointer()
 {
-    QApplication::restoreOverrideCursor();
+    if (isShown_)
+        QApplication::restoreOverrideCursor();
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Shows the busy mouse pointer while one lives; they may lie inside each other.
+// Shows the busy mouse pointer while one lives; they may lie inside each other. A pointer that is
+// hidden stays so.
 class BusyPointer
 {
 public:
@@ -9,4 +10,7 @@ public:
     ~BusyPointer();
     BusyPointer(const BusyPointer&) = delete;
     BusyPointer& operator=(const BusyPointer&) = delete;
+
+private:
+    bool isShown_;
 };

@@ -19,6 +19,7 @@
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmRepairAlbum.h"
 #include "viewer/frmReelvane.h"
+#include "viewer/frmSelectImages.h"
 
 #include <QKeyEvent>
 #include <QShortcut>
@@ -63,7 +64,9 @@ void frmOpenChapter::ConnectControls()
     Connect(nullptr, ui_->mnuReloadPictures, &frmOpenChapter::mnuReloadPictures_Click, "refresh");
     Connect(ui_->cmdDisplayUndefined, ui_->mnuUndefined, &frmOpenChapter::mnuUndefined_Click,
             "index-pictures");
+    Connect(nullptr, ui_->mnuSelectedUndefined, &frmOpenChapter::mnuSelectedUndefined_Click, "");
     Connect(nullptr, ui_->mnuAllPictures, &frmOpenChapter::mnuAllPictures_Click, "");
+    Connect(nullptr, ui_->mnuSelectedPictures, &frmOpenChapter::mnuSelectedPictures_Click, "");
     Connect(nullptr, ui_->mnuRepair, &frmOpenChapter::mnuRepair_Click, "repair");
     Connect(nullptr, ui_->mnuPassword, &frmOpenChapter::mnuPassword_Click, "");
     Connect(nullptr, ui_->mnuPhotoAlbumHelp, &frmOpenChapter::mnuPhotoAlbumHelp_Click, "help");
@@ -156,8 +159,9 @@ void frmOpenChapter::RefreshState()
     ui_->mnuLoadPictures->setEnabled(state.offersAlbumCommands);
     ui_->mnuReloadPictures->setEnabled(state.offersPictureCommands);
     ui_->cmdDisplayUndefined->setEnabled(state.offersPictureCommands);
-    ui_->mnuUndefined->setEnabled(state.offersPictureCommands);
-    ui_->mnuAllPictures->setEnabled(state.offersPictureCommands);
+    for (QAction* entry : {ui_->mnuUndefined, ui_->mnuSelectedUndefined, ui_->mnuAllPictures,
+                           ui_->mnuSelectedPictures})
+        entry->setEnabled(state.offersPictureCommands);
     ui_->cmdReadChapter->setEnabled(state.offersChapterCommands);
     for (QAction* entry : {ui_->mnuReadChapter, ui_->mnuRename, ui_->mnuDeleteChapter})
         entry->setEnabled(state.offersChapterCommands);
@@ -165,9 +169,6 @@ void frmOpenChapter::RefreshState()
     ui_->cmdMoveDown->setEnabled(state.canMoveDown);
     ui_->mnuRepair->setEnabled(state.offersAlbumCommands);
     ui_->mnuPassword->setEnabled(state.offersAlbumCommands);
-    // The windows behind these are still to come.
-    for (QAction* entry : {ui_->mnuSelectedUndefined, ui_->mnuSelectedPictures})
-        entry->setEnabled(false);
     if (ui_->lstChapter->isVisible())
         ui_->lstChapter->setFocus();
 }
@@ -344,24 +345,44 @@ void frmOpenChapter::mnuReloadPictures_Click()
     RefreshState();
 }
 
-void frmOpenChapter::ShowPictures(const QString& imageSelection)
+void frmOpenChapter::ShowPictures(const QString& imageSelection, const QString& fileSelection)
 {
     AutoviewOn = false;
-    PictureAtRandom = true;
     frmReelvane viewer(this);
+    viewer.FileSelection = fileSelection;
     viewer.ImageSelection = imageSelection;
     viewer.exec();
     RefreshState();
 }
 
+void frmOpenChapter::ShowChosenFolder(const QString& imageSelection)
+{
+    frmSelectImages chooser(this);
+    chooser.exec(); // also chooses the order
+    if (!chooser.FileSelection.isEmpty())
+        ShowPictures(imageSelection, chooser.FileSelection);
+}
+
 void frmOpenChapter::mnuUndefined_Click()
 {
-    ShowPictures(QStringLiteral("-"));
+    PictureAtRandom = true;
+    ShowPictures(QStringLiteral("-"), {});
+}
+
+void frmOpenChapter::mnuSelectedUndefined_Click()
+{
+    ShowChosenFolder(QStringLiteral("-"));
 }
 
 void frmOpenChapter::mnuAllPictures_Click()
 {
-    ShowPictures(QStringLiteral("*"));
+    PictureAtRandom = true;
+    ShowPictures(QStringLiteral("*"), {});
+}
+
+void frmOpenChapter::mnuSelectedPictures_Click()
+{
+    ShowChosenFolder(QStringLiteral("*"));
 }
 
 void frmOpenChapter::mnuRepair_Click()

@@ -46,7 +46,9 @@ private:
     void mnuLoadPictures_Click();
     void mnuReloadPictures_Click();
     void mnuUndefined_Click();
+    void mnuSelectedUndefined_Click();
     void mnuAllPictures_Click();
+    void mnuSelectedPictures_Click();
     void mnuRepair_Click();
     void mnuPassword_Click();
     void mnuAbout_Click();
@@ -57,7 +59,9 @@ private:
                  const char* icon);
     void DecorateWarning();
     void OpenChosen(const QString& path);
-    void ShowPictures(const QString& imageSelection);
+    // Both take what is shown of each characteristic: "*" for any value, "-" for none.
+    void ShowPictures(const QString& imageSelection, const QString& fileSelection);
+    void ShowChosenFolder(const QString& imageSelection);
     QString SelectedChapter() const;
     // Asks until the answer is a name that a chapter may get; empty when the user gave up. ownName
     // does not count as taken.

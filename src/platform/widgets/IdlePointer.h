@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QTimer>
+
+class QWidget;
+
+// Hides the mouse pointer over a window that has not been touched by the mouse for a moment, and
+// brings it back with the next movement. Another window in front of it keeps its pointer. The
+// window owns it.
+class IdlePointer : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit IdlePointer(QWidget* window, int patience = 2000 /* milliseconds */);
+    ~IdlePointer() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Hide();
+    void Show();
+
+    QWidget* window_;
+    QTimer idle_;
+    QPoint place_;
+    bool isHidden_ = false;
+};

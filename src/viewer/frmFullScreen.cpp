@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/frmFullScreen.h"
+#include "ui_frmFullScreen.h"
+
+#include "platform/widgets/IdlePointer.h"
+#include "platform/widgets/KeyPreview.h"
+#include "platform/widgets/SettledResize.h"
+#include "viewer/StoryPage.h"
+#include "viewer/frmReelvane.h"
+
+#include <QScreen>
+
+frmFullScreen::frmFullScreen(frmReelvane& viewer)
+    : QDialog(&viewer), viewer_(viewer), ui_(std::make_unique<Ui::frmFullScreen>())
+{
+    ui_->setupUi(this);
+    ui_->page->Darken();
+    Form_Load();
+    viewer_.TakeClicksOf(ui_->page);
+    new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
+    new SettledResize(this, [this] { Form_Resize(); });
+    new IdlePointer(this);
+}
+
+frmFullScreen::~frmFullScreen() = default;
+
+StoryPage* frmFullScreen::GetPage() const
+{
+    return ui_->page;
+}
+
+void frmFullScreen::CloseFullScreen()
+{
+    close();
+}
+
+void frmFullScreen::Form_Load()
+{
+    setWindowFlag(Qt::FramelessWindowHint);
+    setWindowTitle(viewer_.windowTitle());
+    // The place tells the desktop which screen to fill.
+    setGeometry(viewer_.screen()->geometry());
+    setWindowState(windowState() | Qt::WindowFullScreen);
+}
+
+void frmFullScreen::Form_Resize()
+{
+    viewer_.DisplayAgain();
+}
+
+bool frmFullScreen::Form_KeyDown(const QKeyEvent& key)
+{
+    switch (CommandOf(key)) {
+    case ViewerCommand::Leave:
+        return false;
+    case ViewerCommand::Close:
+        CloseFullScreen();
+        return true;
+    default:
+        viewer_.Form_KeyDown(key);
+        return true;
+    }
+}

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+// The viewer's way through the story, and what it shows outside it.
+#include "viewer/frmReelvane.h"
+
+#include "core/Album.h"
+#include "core/ViewerFlags.h"
+#include "story/ParagraphChain.h"
+#include "story/PictureFilter.h"
+#include "story/frmEditParagraph.h"
+#include "viewer/StoryPage.h"
+
+#include <QScopeGuard>
+
+using GeneralModule::ChapterSet;
+using GeneralModule::FindById;
+using GeneralModule::ParagraphSet;
+
+namespace {
+
+constexpr int mostListed = 30000; // pictures of one paragraph or selection
+
+} // namespace
+
+void frmReelvane::DisplayChapter()
+{
+    if (CurrentChapter == 0)
+        return;
+    StoryPosition position{CurrentChapter, 0};
+    GoToFirstParagraph(position);
+    CurrentParagraph = position.paragraph;
+    if (CurrentParagraph != 0)
+        DisplayParagraph();
+    else
+        DisplayEmptyChapter();
+}
+
+void frmReelvane::DisplayEmptyChapter()
+{
+    const bool isKnown = FindById(*ChapterSet, CurrentChapter);
+    const QString name = isKnown ? ChapterSet->TextOrEmpty(u"Name") : QString();
+    DisplayForm->window()->setWindowTitle(name);
+    DisplayUndefined(QStringLiteral("*"), mostListed);
+    display_.SetText(QStringLiteral("Click HERE to create first paragraph of the new chapter '") +
+                     name + QLatin1Char('\''));
+    display_.ShowText();
+    DisplayForm->SetLegendAlignment(Qt::AlignHCenter);
+}
+
+void frmReelvane::DisplayParagraph()
+{
+    if (CurrentParagraph == 0 || !FindById(*ParagraphSet, CurrentParagraph))
+        return;
+    const qint32 chapter = ParagraphSet->Number(u"Chapter");
+    if (chapter > 0 && FindById(*ChapterSet, chapter))
+        DisplayForm->window()->setWindowTitle(ChapterSet->TextOrEmpty(u"Name"));
+    display_.Arrange(ParagraphSet->TextOrEmpty(u"Text"));
+    display_.FindPictures(*ParagraphSet, mostListed);
+    GeneralModule::PictureAtRandom = true;
+    DisplayImagesFromList(false);
+    display_.ShowText();
+    DisplayForm->SetLegendAlignment(Nblines < 3 ? Qt::AlignHCenter : Qt::AlignLeft);
+}
+
+void frmReelvane::DisplayAgain()
+{
+    DisplayForm->SetPictureToolTip(CurrentChapter == 0 ? tr("Click to index picture")
+                                                       : tr("Click to edit image"));
+    if (CurrentChapter == 0)
+        DisplaySelection();
+    else if (CurrentParagraph != 0)
+        DisplayParagraph();
+    else
+        DisplayChapter();
+}
+
+void frmReelvane::DisplaySelection()
+{
+    CurrentParagraph = 0;
+    DisplayUndefined(FileSelection, mostListed);
+}
+
+void frmReelvane::DisplayUndefined(const QString& fileSelection, int maxImages)
+{
+    // The selection is written as a paragraph that is never saved, so that one routine finds the
+    // pictures of both.
+    ParagraphSet->AddNew();
+    const auto cancel = qScopeGuard([] { ParagraphSet->CancelUpdate(); });
+    for (int column = 0; column < 12; ++column)
+        ParagraphSet->Set(QStringLiteral("Car%1").arg(column), ImageSelection);
+    ParagraphSet->Set(u"FileSelection", PatternOfSelection(fileSelection));
+    display_.Arrange({});
+    display_.FindPictures(*ParagraphSet, maxImages);
+    DisplayImagesFromList(false);
+}
+
+void frmReelvane::FollowStep(StoryStep step, const StoryPosition& position)
+{
+    CurrentChapter = position.chapter;
+    CurrentParagraph = position.paragraph;
+    switch (step) {
+    case StoryStep::Paragraph:
+        return DisplayParagraph();
+    case StoryStep::Chapter:
+        return DisplayChapter();
+    case StoryStep::Close:
+        return CloseViewer();
+    case StoryStep::Nothing:
+        break;
+    }
+}
+
+void frmReelvane::DisplayNextParagraph()
+{
+    StoryPosition position{CurrentChapter, CurrentParagraph};
+    const StoryStep step = StepToNextParagraph(position);
+    FollowStep(step, position);
+}
+
+void frmReelvane::DisplayPreviousParagraph()
+{
+    StoryPosition position{CurrentChapter, CurrentParagraph};
+    const StoryStep step = StepToPreviousParagraph(position);
+    FollowStep(step, position);
+}
+
+void frmReelvane::GoToNextChapter()
+{
+    if (CurrentChapter == 0)
+        return;
+    StoryPosition position{CurrentChapter, CurrentParagraph};
+    const StoryStep step = StepToNextChapter(position);
+    FollowStep(step, position);
+}
+
+void frmReelvane::GoToTopOfChapter()
+{
+    if (CurrentChapter == 0)
+        return;
+    StoryPosition position{CurrentChapter, CurrentParagraph};
+    const StoryStep step = StepToTopOfChapter(position);
+    FollowStep(step, position);
+}
+
+// Pictures outside the story belong to no paragraph; the first one of a chapter is made here.
+bool frmReelvane::HasParagraphToEdit()
+{
+    if (CurrentChapter == 0)
+        return false;
+    if (CurrentParagraph > 0)
+        return true;
+    ParagraphPlace place{CurrentChapter, 0};
+    CreateFirstParagraph(place);
+    CurrentParagraph = place.paragraph;
+    return CurrentParagraph > 0;
+}
+
+void frmReelvane::EditCurrentParagraph()
+{
+    if (!HasParagraphToEdit())
+        return;
+    const auto pause = autoview_.Pause();
+    frmEditParagraph editor(DisplayForm->window());
+    editor.CurrentChapter = CurrentChapter;
+    editor.CurrentParagraph = CurrentParagraph;
+    editor.exec();
+    CurrentChapter = editor.CurrentChapter;
+    CurrentParagraph = editor.CurrentParagraph;
+    if (CurrentParagraph < 1)
+        CloseViewer();
+    else
+        DisplayParagraph();
+}

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/frmSelectImages.h"
+#include "ui_frmSelectImages.h"
+
+#include "core/Parameters.h"
+#include "core/PathRoutines.h"
+#include "core/ViewerFlags.h"
+#include "platform/dialogs/Guard.h"
+#include "platform/files/FolderListing.h"
+#include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/ThemedIcon.h"
+#include "platform/widgets/WindowSize.h"
+
+namespace {
+
+constexpr QSize proposedSize(820, 560);
+
+// The folder of the selection, which may have gone since it was made.
+QString FolderToBeginWith(const QString& selection)
+{
+    const QString folder = GeneralModule::FolderOf(selection);
+    return !folder.isEmpty() && QDir(folder).exists() ? folder : UsersPictureFolder();
+}
+
+} // namespace
+
+frmSelectImages::frmSelectImages(QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmSelectImages>())
+{
+    ui_->setupUi(this);
+    KeepWindowSize(this, proposedSize);
+    ui_->cmdSelect->setIcon(ThemedIcon(QStringLiteral("preview")));
+    ui_->cmdCancel->setIcon(ThemedIcon(QStringLiteral("exit")));
+    connect(ui_->drvPicturesToSelect, &DriveBox::DriveChanged, this,
+            Guarded(this, &frmSelectImages::drvPicturesToSelect_Change));
+    connect(ui_->dirPicturesToSelect, &FolderList::PathChanged, this,
+            Guarded(this, &frmSelectImages::dirPicturesToSelect_Change));
+    connect(ui_->txtPictureTypes, &QLineEdit::textChanged, this,
+            Guarded(this, &frmSelectImages::txtPictureTypes_Change));
+    connect(ui_->cmdSelect, &QPushButton::clicked, this,
+            Guarded(this, &frmSelectImages::cmdSelect_Click));
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmSelectImages::cmdCancel_Click);
+}
+
+frmSelectImages::~frmSelectImages() = default;
+
+void frmSelectImages::showEvent(QShowEvent* event)
+{
+    if (!event->spontaneous())
+        RunGuarded([this] { Form_Load(); });
+    QDialog::showEvent(event);
+}
+
+void frmSelectImages::Form_Load()
+{
+    if (FileSelection.isEmpty())
+        FileSelection = GeneralModule::GetLastFileSelection();
+    ui_->txtPictureTypes->setText(ui_->filPicturesToSelect->GetPattern());
+    ui_->dirPicturesToSelect->SetPath(FolderToBeginWith(FileSelection));
+}
+
+void frmSelectImages::drvPicturesToSelect_Change()
+{
+    ui_->dirPicturesToSelect->SetPath(ui_->drvPicturesToSelect->GetDrive());
+}
+
+void frmSelectImages::dirPicturesToSelect_Change()
+{
+    const BusyPointer busy;
+    const QString& folder = ui_->dirPicturesToSelect->GetPath();
+    ui_->drvPicturesToSelect->ShowVolumeOf(folder);
+    ui_->filPicturesToSelect->SetPath(folder);
+}
+
+void frmSelectImages::txtPictureTypes_Change()
+{
+    ui_->filPicturesToSelect->SetPattern(ui_->txtPictureTypes->text());
+}
+
+void frmSelectImages::cmdSelect_Click()
+{
+    FileSelection =
+        PathIn(ui_->dirPicturesToSelect->GetPath(), ui_->filPicturesToSelect->GetPattern());
+    GeneralModule::SetLastFileSelection(FileSelection);
+    GeneralModule::PictureAtRandom = ui_->chkAtRandom->isChecked();
+    accept();
+}
+
+void frmSelectImages::cmdCancel_Click()
+{
+    reject();
+}
+
+// Also when the window is closed in any other way.
+void frmSelectImages::reject()
+{
+    FileSelection.clear();
+    QDialog::reject();
+}

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/widgets/PictureBox.h"
+#include "support/AlbumFixture.h"
+#include "support/ModalDriver.h"
+#include "support/ScriptedDialogs.h"
+#include "viewer/frmReelvane.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
+
+// The viewer's window on an album of its own, with the words that a test needs to work it.
+struct OpenViewer
+{
+    AlbumFixture album;
+    ScriptedDialogs dialogs;
+    frmReelvane viewer;
+
+    // A chapter whose paragraphs have those texts.
+    qint32 AddStory(const QStringList& texts)
+    {
+        const qint32 chapter = album.AddChapter("One");
+        for (const QString& text : texts)
+            album.AddParagraph(chapter, text);
+        return chapter;
+    }
+
+    void Open(qint32 chapter)
+    {
+        viewer.CurrentChapter = chapter;
+        viewer.resize(1000, 700);
+        viewer.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&viewer));
+        QTRY_VERIFY(!Legend().isEmpty());
+    }
+
+    static QString LegendOf(QWidget& window) { return Find<QLabel>(window, "lblLegend").text(); }
+    QString Legend() { return LegendOf(viewer); }
+    static void Press(QWidget& window, int key) { QTest::keyClick(&window, Qt::Key(key)); }
+    void Press(int key) { Press(viewer, key); }
+    void Click(const char* button)
+    {
+        QTest::mouseClick(&Find<QPushButton>(viewer, button), Qt::LeftButton);
+    }
+
+    static QList<PictureBox*> Boxes(QWidget& window)
+    {
+        QList<PictureBox*> boxes;
+        for (int i = 0; i < mostPictures; ++i) {
+            auto& box = Find<PictureBox>(window, QStringLiteral("imgImage_%1").arg(i));
+            if (box.isVisible())
+                boxes += &box;
+        }
+        return boxes;
+    }
+
+    // Autoview: the delay is long, and a test lets it run out when it wants.
+    QTimer& Timer() { return *viewer.findChild<QTimer*>("timImage"); }
+    void Tick() { Timer().start(0); }
+    void StartAutoview(const QString& seconds)
+    {
+        dialogs.ExpectInput("Please enter delay in seconds : ", seconds, "10");
+        Press(Qt::Key_T);
+    }
+};
+
+// Lets the event loop run while a timer of that interval runs out so often.
+inline void LetTimersRunOut(int count, int milliseconds)
+{
+    int fired = 0;
+    QTimer clock;
+    QObject::connect(&clock, &QTimer::timeout, [&fired] { ++fired; });
+    clock.start(milliseconds);
+    QTRY_VERIFY(fired >= count);
+}
