@@ -4,7 +4,8 @@
 function(lumenark_test)
   cmake_parse_arguments(ARG "" "NAME" "SOURCES;LINKS" ${ARGN})
   add_executable(${ARG_NAME} ${ARG_SOURCES})
-  target_link_libraries(${ARG_NAME} PRIVATE lumenark_flags Qt6::Test ${ARG_LINKS})
+  target_link_libraries(${ARG_NAME} PRIVATE lumenark_flags Qt6::Test Qt6::Widgets ${ARG_LINKS})
+  target_precompile_headers(${ARG_NAME} REUSE_FROM lumenark_pch_widgets)
   add_dependencies(${ARG_NAME} album_template)
   add_test(NAME ${ARG_NAME} COMMAND ${ARG_NAME})
   set_tests_properties(${ARG_NAME} PROPERTIES
