@@ -56,11 +56,7 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
     ShowPicture({});
 }
 
-// The focus moves once more while the controls go.
-frmEditParagraph::~frmEditParagraph()
-{
-    disconnect(qApp, nullptr, this, nullptr);
-}
+frmEditParagraph::~frmEditParagraph() = default;
 
 void frmEditParagraph::ConnectControls()
 {
