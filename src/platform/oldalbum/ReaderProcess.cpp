@@ -13,6 +13,8 @@
 namespace {
 
 constexpr int finishMilliseconds = 5000; // for a reader that has nothing left to do
+// Where all patience was used up, so that the tables behind one that hangs have a chance.
+constexpr int leastPatience = 250;
 constexpr quint32 largestFrame = OldAlbumStream::largestRow + 64 * 1024;
 
 QString ReaderPath()
@@ -55,7 +57,8 @@ bool ReaderProcess::FetchMore(int& patience)
     }
     QElapsedTimer silence;
     silence.start();
-    if (process_.bytesAvailable() == 0 && !process_.waitForReadyRead(patience)) {
+    if (process_.bytesAvailable() == 0 &&
+        !process_.waitForReadyRead(std::max(patience, leastPatience))) {
         if (process_.state() != QProcess::NotRunning) {
             process_.kill();
             process_.waitForFinished(finishMilliseconds);
