@@ -17,7 +17,9 @@ constexpr int finishMilliseconds = 5000; // for a reader that has nothing left t
 constexpr int leastPatience = 250;
 constexpr quint32 largestFrame = OldAlbumStream::largestRow + 64 * 1024;
 
-QString ReaderPath()
+} // namespace
+
+QString ReaderProcess::ReaderPath()
 {
 #ifdef Q_OS_WIN
     return ProgramFile(QStringLiteral("lumenark-import.exe"));
@@ -26,19 +28,17 @@ QString ReaderPath()
 #endif
 }
 
-} // namespace
-
-ReaderProcess::ReaderProcess(const QStringList& arguments)
+ReaderProcess::ReaderProcess(const QStringList& arguments, const QString& program)
 {
     process_.setStandardErrorFile(QProcess::nullDevice());
-    process_.start(ReaderPath(), arguments);
+    process_.start(program, arguments);
     if (!process_.waitForStarted())
         throw DatabaseError(
             DatabaseError::CannotOpen,
             QCoreApplication::translate("DatabaseError",
                                         "The part of the program that reads former albums cannot "
                                         "be started: %1: %2")
-                .arg(ReaderPath(), process_.errorString()));
+                .arg(program, process_.errorString()));
 }
 
 ReaderProcess::~ReaderProcess()
@@ -98,7 +98,8 @@ int ReaderProcess::Finish(const QByteArray& input)
 {
     process_.write(input);
     process_.closeWriteChannel();
-    if (!process_.waitForFinished(finishMilliseconds))
+    // Waiting for a process that has ended already counts as failed.
+    if (process_.state() != QProcess::NotRunning && !process_.waitForFinished(finishMilliseconds))
         return -1;
     return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
 }
