@@ -23,6 +23,11 @@ bool IsValueTable(const QString& table)
     return table.startsWith(QLatin1String("Car"));
 }
 
+bool HasText(const OldValue& value)
+{
+    return value.state == OldValue::State::Whole || value.state == OldValue::State::Cut;
+}
+
 QString NameField(const QString& table)
 {
     if (table == u"Params")
@@ -97,17 +102,16 @@ void OldAlbumTable::PrepareInsert()
                                                     parameters.join(',') + ')');
 }
 
-FieldValue OldAlbumTable::Convert(int field, const OldValue& value)
+// Null where the old table lacks the field.
+const OldValue& OldAlbumTable::ValueOf(int field, const std::vector<OldValue>& values) const
 {
-    if (layout_.At(field).isNumber)
-        return ToNumber(field, value);
-    if (value.state == OldValue::State::Null || value.state == OldValue::State::Unreadable)
-        return {};
-    return QString::fromUtf8(value.utf8);
+    static const OldValue null;
+    const int source = sources_[std::size_t(field)];
+    return source < 0 ? null : values[std::size_t(source)];
 }
 
 // A link without a value leads nowhere, which is what 0 says.
-FieldValue OldAlbumTable::ToNumber(int field, const OldValue& value)
+FieldValue OldAlbumTable::ToNumber(int field, const OldValue& value) const
 {
     bool isNumber = false;
     const qint64 number = value.utf8.toByteArray().toLongLong(&isNumber);
@@ -118,15 +122,27 @@ FieldValue OldAlbumTable::ToNumber(int field, const OldValue& value)
     return layout_.At(field).isIdentity ? FieldValue() : FieldValue(qint64(0));
 }
 
+OldAlbumTable::Row OldAlbumTable::ToRow(const std::vector<OldValue>& values) const
+{
+    Row row;
+    for (const int field : inserted_) {
+        const OldValue& value = ValueOf(field, values);
+        if (layout_.At(field).isNumber)
+            row.push_back(ToNumber(field, value));
+        else if (HasText(value))
+            row.push_back(QString::fromUtf8(value.utf8));
+        else
+            row.push_back({});
+    }
+    return row;
+}
+
 // What a person can find the row by.
 QString OldAlbumTable::NameOfRow(const std::vector<OldValue>& values) const
 {
-    for (const char16_t* field : {u"Id", u"File", u"Param", u"Name", u"ParagraphId"}) {
-        const int number = layout_.Find(field);
-        const int source = number < 0 ? -1 : sources_[std::size_t(number)];
-        if (source < 0)
-            continue;
-        const QByteArrayView text = values[std::size_t(source)].utf8;
+    for (const char16_t* name : {u"Id", u"File", u"Param", u"Name", u"ParagraphId"}) {
+        const int field = layout_.Find(name);
+        const QByteArrayView text = field < 0 ? QByteArrayView() : ValueOf(field, values).utf8;
         if (!text.isEmpty())
             return QStringLiteral("%1 %2").arg(table_, QString::fromUtf8(text));
     }
@@ -136,8 +152,7 @@ QString OldAlbumTable::NameOfRow(const std::vector<OldValue>& values) const
 void OldAlbumTable::ReportValues(const std::vector<OldValue>& values)
 {
     for (const int field : inserted_) {
-        const int source = sources_[std::size_t(field)];
-        const auto state = source < 0 ? OldValue::State::Whole : values[std::size_t(source)].state;
+        const OldValue::State state = ValueOf(field, values).state;
         if (state != OldValue::State::Cut && state != OldValue::State::Unreadable)
             continue;
         const char* text = state == OldValue::State::Cut
@@ -148,27 +163,34 @@ void OldAlbumTable::ReportValues(const std::vector<OldValue>& values)
     }
 }
 
+// Pictures of one folder mostly follow each other.
+void OldAlbumTable::NotePicture(QByteArrayView path)
+{
+    const QByteArrayView folder = path.first(path.lastIndexOf('\\') + 1);
+    if (folder.isEmpty() || folder == lastFolder_)
+        return;
+    lastFolder_ = folder.toByteArray();
+    report_.AddPicturePath(QString::fromUtf8(path));
+}
+
 void OldAlbumTable::TakeRow(const std::vector<OldValue>& values)
 {
     ++rows_;
     ReportValues(values);
     if (!insert_.IsPrepared())
         return;
-    Row row;
-    for (const int field : inserted_) {
-        const int source = sources_[std::size_t(field)];
-        row.push_back(Convert(field, source < 0 ? OldValue() : values[std::size_t(source)]));
-        if (field == pictureFile_ && std::holds_alternative<QString>(row.back()))
-            report_.AddPicturePath(std::get<QString>(row.back()));
-    }
-    Insert(row);
+    if (pictureFile_ >= 0)
+        NotePicture(ValueOf(pictureFile_, values).utf8);
+    if (layout_.GetIdentity() >= 0)
+        InsertNumbered(ToRow(values));
+    else if (!TryInsert(values))
+        InsertUnderAnotherName(ToRow(values));
     batch_->RowDone();
 }
 
-bool OldAlbumTable::TryInsert(const Row& row)
+// False when the table holds a value already that it may hold only once.
+bool OldAlbumTable::RunInsert()
 {
-    for (std::size_t i = 0; i < row.size(); ++i)
-        insert_.Bind(int(i) + 1, row[i]);
     try {
         insert_.Run();
         return true;
@@ -177,6 +199,30 @@ bool OldAlbumTable::TryInsert(const Row& row)
             throw;
         return false;
     }
+}
+
+bool OldAlbumTable::TryInsert(const Row& row)
+{
+    for (std::size_t i = 0; i < row.size(); ++i)
+        insert_.Bind(int(i) + 1, row[i]);
+    return RunInsert();
+}
+
+// Most rows are pictures' and pass without a copy of their texts.
+bool OldAlbumTable::TryInsert(const std::vector<OldValue>& values)
+{
+    int parameter = 0;
+    for (const int field : inserted_) {
+        const OldValue& value = ValueOf(field, values);
+        ++parameter;
+        if (layout_.At(field).isNumber)
+            insert_.Bind(parameter, ToNumber(field, value));
+        else if (HasText(value))
+            insert_.BindUtf8(parameter, value.utf8);
+        else
+            insert_.BindNull(parameter);
+    }
+    return RunInsert();
 }
 
 bool OldAlbumTable::IdentifierIsTaken(const FieldValue& identifier)
@@ -190,24 +236,21 @@ bool OldAlbumTable::IdentifierIsTaken(const FieldValue& identifier)
     return isTaken;
 }
 
-void OldAlbumTable::Insert(const Row& row)
+void OldAlbumTable::InsertNumbered(const Row& row)
 {
-    const auto identity = std::find(inserted_.begin(), inserted_.end(), layout_.GetIdentity());
-    if (identity != inserted_.end()) {
-        const FieldValue& value = row[std::size_t(identity - inserted_.begin())];
-        const auto* number = std::get_if<qint64>(&value);
-        if (!number || IdentifierIsTaken(value)) {
-            if (setAside_.size() < mostSetAside)
-                setAside_.push_back(row);
-            else
-                report_.AddProblem(
-                    Say("%1, row %2: left out, it has no identifier.").arg(table_).arg(rows_));
-            return;
-        }
+    const auto place = std::find(inserted_.begin(), inserted_.end(), layout_.GetIdentity());
+    const FieldValue& value = row[std::size_t(place - inserted_.begin())];
+    const auto* number = std::get_if<qint64>(&value);
+    if (number && !IdentifierIsTaken(value)) {
         highest_ = std::max(highest_, *number);
+        if (!TryInsert(row))
+            InsertUnderAnotherName(row);
+    } else if (setAside_.size() < mostSetAside) {
+        setAside_.push_back(row);
+    } else {
+        report_.AddProblem(
+            Say("%1, row %2: left out, it has no identifier.").arg(table_).arg(rows_));
     }
-    if (!TryInsert(row))
-        InsertUnderAnotherName(row);
 }
 
 void OldAlbumTable::InsertUnderAnotherName(Row row)

@@ -36,14 +36,18 @@ private:
 
     void PrepareInsert();
     void ReportFields(const QStringList& fields);
-    FieldValue Convert(int field, const OldValue& value);
-    FieldValue ToNumber(int field, const OldValue& value);
+    const OldValue& ValueOf(int field, const std::vector<OldValue>& values) const;
+    FieldValue ToNumber(int field, const OldValue& value) const;
+    Row ToRow(const std::vector<OldValue>& values) const;
     QString NameOfRow(const std::vector<OldValue>& values) const;
     void ReportValues(const std::vector<OldValue>& values);
+    void NotePicture(QByteArrayView path);
 
     bool IdentifierIsTaken(const FieldValue& identifier);
+    bool RunInsert();
     bool TryInsert(const Row& row);
-    void Insert(const Row& row);
+    bool TryInsert(const std::vector<OldValue>& values);
+    void InsertNumbered(const Row& row);
     void InsertUnderAnotherName(Row row);
     void InsertSetAside();
     void SetLastNumber();
@@ -60,6 +64,7 @@ private:
     std::vector<int> inserted_; // fields in the order of the statement's parameters
     Statement find_;
     std::vector<Row> setAside_;
+    QByteArray lastFolder_; // of a picture with another system's path
     qint64 lastNumber_ = 0;
     qint64 highest_ = 0; // identifier
     qint64 rows_ = 0;    // taken from the old album

@@ -252,7 +252,8 @@ void TestOldAlbum::FindsPagesThatTheMapLacks()
     QByteArray contents = OldAlbumBytes("small_jet4");
     const QString path = CopyTo(world, "old.alb", contents);
     quint32 table = 0;
-    for (const OldAlbumFile::Table& each : OldAlbumFile(path).GetTables()) {
+    const OldAlbumFile sound(path);
+    for (const OldAlbumFile::Table& each : sound.GetTables()) {
         if (each.name == "Image")
             table = each.page;
     }

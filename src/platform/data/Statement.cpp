@@ -85,6 +85,18 @@ void Statement::Bind(int parameter, const QString& text)
     sqlite3_bind_text(handle_, parameter, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
 }
 
+void Statement::BindNull(int parameter)
+{
+    sqlite3_bind_null(handle_, parameter);
+}
+
+void Statement::BindUtf8(int parameter, QByteArrayView text)
+{
+    // Without an address the engine would take an empty text for none.
+    const char* bytes = text.isEmpty() ? "" : text.data();
+    sqlite3_bind_text(handle_, parameter, bytes, int(text.size()), SQLITE_STATIC);
+}
+
 void Statement::Bind(int parameter, const FieldValue& value)
 {
     if (const auto* number = std::get_if<qint64>(&value))

@@ -36,6 +36,9 @@ public:
     void Bind(int parameter, qint64 number);
     void Bind(int parameter, const QString& text);
     void Bind(int parameter, const FieldValue& value);
+    void BindNull(int parameter);
+    // Not copied: it must stay until the statement has run.
+    void BindUtf8(int parameter, QByteArrayView text);
 
     // True when a row stands ready, false after the last; throws DatabaseError. A statement that
     // returned false or threw has been reset and holds no lock.

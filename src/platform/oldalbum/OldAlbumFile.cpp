@@ -15,7 +15,7 @@ namespace {
 
 // Of one file altogether: milliseconds that failing readers may keep silent, and how often one is
 // started again. A sound file needs neither.
-constexpr int patienceOfFile = 8000;
+constexpr int patienceOfFile = 6000;
 constexpr int mostRestarts = 40;
 
 // A sound table's rows are at most twice as long here as in the file, where texts may be packed,

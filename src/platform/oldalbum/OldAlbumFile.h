@@ -3,7 +3,7 @@
 
 #include "platform/oldalbum/OldAlbumStream.h"
 
-#include <QByteArrayView>
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 

@@ -13,9 +13,13 @@
 namespace {
 
 constexpr int finishMilliseconds = 5000; // for a reader that has nothing left to do
+// Where all patience was used up, so that the tables behind one that hangs have a chance.
+constexpr int leastPatience = 250;
 constexpr quint32 largestFrame = OldAlbumStream::largestRow + 64 * 1024;
 
-QString ReaderPath()
+} // namespace
+
+QString ReaderProcess::ReaderPath()
 {
 #ifdef Q_OS_WIN
     return ProgramFile(QStringLiteral("lumenark-import.exe"));
@@ -24,19 +28,17 @@ QString ReaderPath()
 #endif
 }
 
-} // namespace
-
-ReaderProcess::ReaderProcess(const QStringList& arguments)
+ReaderProcess::ReaderProcess(const QStringList& arguments, const QString& program)
 {
     process_.setStandardErrorFile(QProcess::nullDevice());
-    process_.start(ReaderPath(), arguments);
+    process_.start(program, arguments);
     if (!process_.waitForStarted())
         throw DatabaseError(
             DatabaseError::CannotOpen,
             QCoreApplication::translate("DatabaseError",
                                         "The part of the program that reads former albums cannot "
                                         "be started: %1: %2")
-                .arg(ReaderPath(), process_.errorString()));
+                .arg(program, process_.errorString()));
 }
 
 ReaderProcess::~ReaderProcess()
@@ -55,7 +57,8 @@ bool ReaderProcess::FetchMore(int& patience)
     }
     QElapsedTimer silence;
     silence.start();
-    if (process_.bytesAvailable() == 0 && !process_.waitForReadyRead(patience)) {
+    if (process_.bytesAvailable() == 0 &&
+        !process_.waitForReadyRead(std::max(patience, leastPatience))) {
         if (process_.state() != QProcess::NotRunning) {
             process_.kill();
             process_.waitForFinished(finishMilliseconds);
@@ -95,7 +98,8 @@ int ReaderProcess::Finish(const QByteArray& input)
 {
     process_.write(input);
     process_.closeWriteChannel();
-    if (!process_.waitForFinished(finishMilliseconds))
+    // Waiting for a process that has ended already counts as failed.
+    if (process_.state() != QProcess::NotRunning && !process_.waitForFinished(finishMilliseconds))
         return -1;
     return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
 }

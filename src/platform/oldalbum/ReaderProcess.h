@@ -21,8 +21,11 @@ public:
         QByteArrayView contents; // valid until the next frame is asked for
     };
 
+    // The reader that lies in the program's folder.
+    static QString ReaderPath();
+
     // Throws DatabaseError CannotOpen when the reader is not there or cannot be started.
-    explicit ReaderProcess(const QStringList& arguments);
+    explicit ReaderProcess(const QStringList& arguments, const QString& program = ReaderPath());
     ~ReaderProcess();
 
     // The next frame; nothing at the end of the stream, when the reader has been silent for

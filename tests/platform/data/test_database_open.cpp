@@ -100,6 +100,9 @@ void TestDatabaseOpen::RefusesWhatIsNoAlbum_data()
     QTest::newRow("zeros") << "zeros.alb" << QByteArray(4096, 0) << 3343;
     QTest::newRow("picture") << "picture.alb" << jpeg << 3343;
     QTest::newRow("former format, only its head") << "old.alb" << oldAlbum << 3049;
+    QTest::newRow("a later version of that format")
+        << "late.alb" << QByteArray("\0\1\0\0Standard ACE DB\0\2", 21) + QByteArray(4075, 0)
+        << 3343;
     QTest::newRow("random, odd size") << "random.alb" << RandomBytes(5000) << 3343;
     QTest::newRow("only the header") << "header.alb" << QByteArray("SQLite format 3\0", 16) << 3343;
 }

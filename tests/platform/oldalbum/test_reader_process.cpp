@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "platform/data/DatabaseError.h"
+#include "platform/oldalbum/ReaderProcess.h"
+
+#include <QElapsedTimer>
+#include <QtTest>
+
+// Readers that fail as no sound file makes them fail: scripts of the shell stand in for them.
+class TestReaderProcess : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void TakesFramesInPieces();
+    void EndsAReaderThatHangs();
+    void NoticesACrash();
+    void RefusesNonsense();
+    void IsNotThere();
+};
+
+namespace {
+
+// A page's frame with that number, as the shell's printf writes it.
+QString PageFrame(int page)
+{
+    return QStringLiteral("printf 'P\\004\\000\\000\\000\\%1\\000\\000\\000';")
+        .arg(page, 3, 8, QLatin1Char('0'));
+}
+
+ReaderProcess Start(const QString& script)
+{
+    return ReaderProcess({"-c", script}, "/bin/sh");
+}
+
+quint32 PageOf(const std::optional<ReaderProcess::Frame>& frame)
+{
+    return frame ? FrameContents(frame->contents).Number() : 0;
+}
+
+} // namespace
+
+void TestReaderProcess::TakesFramesInPieces()
+{
+    ReaderProcess reader = Start("printf 'P\\004\\000'; sleep 0.1; printf '\\000\\000\\007\\000';"
+                                 "sleep 0.1; printf '\\000\\000';" +
+                                 PageFrame(8));
+    int patience = 20000;
+    QCOMPARE(PageOf(reader.Next(patience)), 7U);
+    QCOMPARE(PageOf(reader.Next(patience)), 8U);
+    QVERIFY(!reader.Next(patience));
+    QCOMPARE(reader.GetVolume(), 18);
+    QCOMPARE(patience, 20000);
+    QCOMPARE(reader.Finish(), 0);
+}
+
+void TestReaderProcess::EndsAReaderThatHangs()
+{
+    ReaderProcess reader = Start(PageFrame(3) + "exec sleep 100");
+    int patience = 20000;
+    QCOMPARE(PageOf(reader.Next(patience)), 3U);
+    patience = 300;
+    QElapsedTimer time;
+    time.start();
+    QVERIFY(!reader.Next(patience));
+    QVERIFY(time.elapsed() >= 300 && time.elapsed() < 20000);
+    QCOMPARE(patience, 0);
+    QVERIFY(!reader.Next(patience));
+    QCOMPARE(reader.Finish(), -1);
+}
+
+void TestReaderProcess::NoticesACrash()
+{
+    ReaderProcess reader = Start(PageFrame(3) + "sleep 0.5; kill -SEGV $$");
+    int patience = 20000;
+    QCOMPARE(PageOf(reader.Next(patience)), 3U);
+    QVERIFY(!reader.Next(patience));
+    QVERIFY(patience > 0 && patience < 20000);
+    QCOMPARE(reader.Finish(), -1);
+}
+
+void TestReaderProcess::RefusesNonsense()
+{
+    ReaderProcess reader = Start("exec yes");
+    int patience = 20000;
+    QVERIFY(!reader.Next(patience));
+    QVERIFY(patience > 0);
+}
+
+void TestReaderProcess::IsNotThere()
+{
+    QVERIFY_THROWS_EXCEPTION(DatabaseError, ReaderProcess({}, "/nowhere/reader"));
+}
+
+QTEST_GUILESS_MAIN(TestReaderProcess)
+#include "test_reader_process.moc"
