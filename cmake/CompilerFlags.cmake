@@ -23,3 +23,6 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(SQLCIPHER REQUIRED IMPORTED_TARGET sqlcipher>=3.4)
 # The package's own flags leave this out; without it the header hides the password functions.
 target_compile_definitions(PkgConfig::SQLCIPHER INTERFACE SQLITE_HAS_CODEC)
+
+# The reader of albums in the former file format. Its header is C, and warns by our standards.
+pkg_check_modules(LIBMDB REQUIRED IMPORTED_TARGET libmdb)

@@ -6,7 +6,7 @@ say() { printf '%s\n' "$*" >&2; }
 packages=(
     g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-svg-dev qt6-image-formats-plugins
-    libsqlcipher-dev libjpeg62-turbo-dev
+    libsqlcipher-dev libjpeg62-turbo-dev mdbtools-dev
     fonts-dejavu-core xvfb xauth
 )
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Application.h"
+#include "Convert.h"
 #include "Tour.h"
 
+#include "core/StartUp.h"
+#include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/QtDialogs.h"
 #include "ui/main/frmOpenChapter.h"
 
@@ -28,6 +31,7 @@ Arguments ReadArguments(const QApplication& application)
         QApplication::tr("Go through the windows, write a picture of each into FOLDER, and end."),
         QStringLiteral("FOLDER"));
     parser.addOption(tour);
+    AddConversionOptions(parser);
     parser.addPositionalArgument(
         QStringLiteral("album"),
         QApplication::tr("The album to open; the last one when not given."),
@@ -61,9 +65,13 @@ public:
 
 int main(int argc, char** argv)
 {
+    // Before anything that needs a display.
+    if (IsConversion(argc, argv))
+        return RunConversion(argc, argv);
     Application application(argc, argv);
     QtDialogs dialogs;
     Dialogs::Install(&dialogs);
+    InstallHelpKey(GeneralModule::HelpFile());
     const Arguments arguments = ReadArguments(application);
     frmOpenChapter mainWindow(arguments.album);
     mainWindow.show();

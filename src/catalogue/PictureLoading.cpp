@@ -3,13 +3,14 @@
 
 #include "catalogue/CharacteristicModel.h"
 #include "core/Album.h"
-#include "core/TextRoutines.h"
+#include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/files/FolderListing.h"
 
 #include <QCoreApplication>
 #include <QDir>
 
+#include <array>
 #include <stdexcept>
 
 namespace {
@@ -32,28 +33,37 @@ class Loader
 {
 public:
     // A record set of its own: while the windows are kept alive, others move the shared one.
-    Loader() : images_(AlbumDatabase, QStringLiteral("Image"))
+    Loader()
+        : images_(AlbumDatabase, QStringLiteral("Image")),
+          find_(AlbumDatabase->GetEngine(), "SELECT 1 FROM \"Image\" WHERE \"File\"=?1")
     {
-        for (int column = 0; column < columnCount; ++column)
-            columns_.append(QStringLiteral("Car%1").arg(column));
+        for (std::size_t column = 0; column < columns_.size(); ++column)
+            columns_[column] = images_.FieldNumber(QStringLiteral("Car%1").arg(column));
     }
 
     void AddUnlessHeld(const QString& path)
     {
-        images_.FindFirst(QStringLiteral("[File] = ") + GeneralModule::Quoted(path));
-        if (!images_.NoMatch())
+        find_.Bind(1, path);
+        const bool isHeld = find_.Step();
+        find_.Reset();
+        if (isHeld)
             return;
         images_.AddNew();
-        images_.Set(u"File", path);
-        for (const QString& column : std::as_const(columns_))
+        images_.Set(file_, path);
+        for (const int column : columns_)
             images_.Set(column, noValue);
-        images_.Set(u"Legend", QString());
+        images_.Set(legend_, QString());
         images_.Update();
     }
 
 private:
     RecordSet images_;
-    QStringList columns_;
+    // The look-up by path as a statement: reading a filter for each file would take longer than
+    // everything else.
+    Statement find_;
+    int file_ = images_.FieldNumber(u"File");
+    int legend_ = images_.FieldNumber(u"Legend");
+    std::array<int, columnCount> columns_{};
 };
 
 } // namespace

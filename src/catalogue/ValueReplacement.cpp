@@ -14,7 +14,10 @@ class Replacement
 {
 public:
     Replacement(const QString& old, const QString& replacement, const ReplacementProgress& progress)
-        : old_(old), replacement_(replacement), progress_(progress), batch_(AlbumDatabase)
+        : old_(old),
+          replacement_(replacement),
+          progress_(progress),
+          batch_(AlbumDatabase, WriteBatch::Commits::AtItsEnd)
     {
     }
 
@@ -27,10 +30,11 @@ public:
         const QString field = QStringLiteral("Car%1").arg(column);
         const QString filter =
             QLatin1Char('[') + field + QStringLiteral("]=") + GeneralModule::Quoted(old_);
+        const int number = table.FieldNumber(field);
         const RecordSet::Walk walk(table);
         for (table.FindFirst(filter); !table.NoMatch(); table.FindNext(filter)) {
             table.Edit();
-            table.Set(field, replacement_);
+            table.Set(number, replacement_);
             table.Update();
             batch_.RowDone();
             progress_(++changed_);
@@ -40,13 +44,8 @@ public:
 
     void ReplaceInValueTable(int column)
     {
-        const bool isSame = old_.compare(replacement_, Qt::CaseInsensitive) == 0;
-        // Added first where both may be in the table, so that no error leaves it without either.
-        if (!isSame)
-            AddValueToTable(column, replacement_);
         RemoveValueFromTable(column, old_);
-        if (isSame)
-            AddValueToTable(column, replacement_);
+        AddValueToTable(column, replacement_);
         batch_.Finish();
     }
 

@@ -14,8 +14,8 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPointer>
 #include <QStringListModel>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -28,10 +28,8 @@ constexpr QSize proposedSize(1020, 780);
 // Of the entry that is the value, else of one that differs from it in letter case only; -1 for
 // none. Faster than the toolkit's own search, which matters with thousands of entries in twelve
 // lists.
-int IndexOf(const QComboBox& combo, const QString& value)
+int IndexOf(const QStringList& values, const QString& value)
 {
-    const auto* model = qobject_cast<const QStringListModel*>(combo.model());
-    const QStringList values = model ? model->stringList() : QStringList();
     const qsizetype exact = values.indexOf(value);
     if (exact >= 0)
         return int(exact);
@@ -54,9 +52,15 @@ frmEditImage::frmEditImage(QWidget* parent)
     ui_->setupUi(this);
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
     KeepWindowSize(this, proposedSize);
-    for (int column = 0; column < columnCount; ++column)
-        cboCategory_[std::size_t(column)] =
-            findChild<QComboBox*>(QStringLiteral("cboCategory_%1").arg(column));
+    // Twins offer the same values, held once.
+    for (int column = 0; column < columnCount; ++column) {
+        auto* combo = findChild<QComboBox*>(QStringLiteral("cboCategory_%1").arg(column));
+        cboCategory_[std::size_t(column)] = combo;
+        if (LabelledColumnOf(column) == column)
+            combo->setModel(new QStringListModel(this));
+        else
+            combo->setModel(ValuesModel(LabelledColumnOf(column)));
+    }
     ConnectControls();
 }
 
@@ -76,9 +80,12 @@ void frmEditImage::ConnectControls()
     connect(ui_->cmdEditTables, &QPushButton::clicked, this,
             Guarded(this, &frmEditImage::cmdEditTables_Click));
     connect(ui_->cmdExit, &QPushButton::clicked, this, &QDialog::close);
-    for (int column = 0; column < columnCount; ++column)
-        connect(cboCategory_[std::size_t(column)]->lineEdit(), &QLineEdit::textEdited, this,
+    for (int column = 0; column < columnCount; ++column) {
+        QComboBox* combo = cboCategory_[std::size_t(column)];
+        connect(combo->lineEdit(), &QLineEdit::textEdited, this,
                 [this, column] { cboCategory_Change(column); });
+        combo->installEventFilter(this);
+    }
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
 }
 
@@ -89,6 +96,17 @@ void frmEditImage::showEvent(QShowEvent* event)
         return;
     isLoaded_ = true;
     RunGuarded([this] { Form_Load(); });
+}
+
+// What is typed takes the place of the value that was there, also after a click: behind a "-"
+// nothing could be typed.
+bool frmEditImage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn) {
+        if (const auto* combo = qobject_cast<QComboBox*>(watched))
+            QTimer::singleShot(0, combo->lineEdit(), &QLineEdit::selectAll);
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void frmEditImage::Form_Load()
@@ -108,31 +126,24 @@ void frmEditImage::DisplayCaracteristicNames()
     for (int group = 0; group < groupCount; ++group)
         LabelOf(QStringLiteral("lblCaract_%1").arg(group))->setText(CaractLabel(group));
     for (const int column : labelledColumns) {
-        const QString label = ColumnLabel(column);
-        LabelOf(QStringLiteral("lblCar_%1").arg(column))->setText(label);
-        // Twins offer the same values, read once and held once.
-        auto* values = new QStringListModel(ValuesOf(column), this);
-        std::vector<int> columns{column};
-        if (const auto twin = TwinColumnOf(column))
-            columns.push_back(*twin);
-        // A list's own first model goes by itself.
-        const QPointer<QAbstractItemModel> former = cboCategory_[std::size_t(column)]->model();
-        for (const int user : columns) {
-            QComboBox* combo = cboCategory_[std::size_t(user)];
-            combo->setModel(values);
-            combo->setAccessibleName(CaractLabel(GroupOf(user)) + QLatin1Char(' ') + label);
-            SetValue(user, {});
-        }
-        if (former && former->parent() == this)
-            delete former;
+        LabelOf(QStringLiteral("lblCar_%1").arg(column))->setText(ColumnLabel(column));
+        ValuesModel(column)->setStringList(ValuesOf(column));
     }
+    for (int column = 0; column < columnCount; ++column)
+        cboCategory_[std::size_t(column)]->setAccessibleName(CaractLabel(GroupOf(column)) +
+                                                             QLatin1Char(' ') +
+                                                             ColumnLabel(LabelledColumnOf(column)));
+}
+
+QStringListModel* frmEditImage::ValuesModel(int column) const
+{
+    return static_cast<QStringListModel*>(cboCategory_[std::size_t(column)]->model());
 }
 
 void frmEditImage::ShowPicture()
 {
     ui_->stage->ShowPicture(CurrentImage, ResolvePictureFile(CurrentImage));
     ui_->lblFileName->setText(CurrentImage);
-    ui_->lblFileName->setToolTip(CurrentImage.toHtmlEscaped());
     ui_->cmdNextImage->setVisible(HasNextPicture && HasNextPicture());
     const std::optional<PictureRecord> record = ReadPictureRecord(CurrentImage);
     isKnown_ = record.has_value();
@@ -157,7 +168,7 @@ void frmEditImage::ShowRecord()
 void frmEditImage::SetValue(int column, const QString& value)
 {
     QComboBox* combo = cboCategory_[std::size_t(column)];
-    combo->setCurrentIndex(IndexOf(*combo, value));
+    combo->setCurrentIndex(IndexOf(ValuesModel(column)->stringList(), value));
     combo->setEditText(value);
 }
 
@@ -184,7 +195,7 @@ void frmEditImage::SavePicture()
         QComboBox* combo = cboCategory_[std::size_t(column)];
         const QString& value = saved.values[std::size_t(column)];
         const bool isNew = value != shown_.values[std::size_t(column)];
-        if (isNew && IndexOf(*combo, value) < 0)
+        if (isNew && IndexOf(ValuesModel(column)->stringList(), value) < 0)
             combo->addItem(value);
     }
     shown_ = saved;
@@ -242,7 +253,14 @@ void frmEditImage::cmdEditTables_Click()
 bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
 {
     const bool isPlain = !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (key.key() != Qt::Key_Q || !isPlain || IsTyping(focusWidget()))
+    const bool isTyping = IsTyping(focusWidget());
+    const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (isEnter && isTyping && ui_->cmdNextImage->isVisible()) {
+        // The first Enter would only confirm the completed part of a value.
+        cmdNextImage_Click();
+        return true;
+    }
+    if (key.key() != Qt::Key_Q || !isPlain || isTyping)
         return false;
     close();
     return true;

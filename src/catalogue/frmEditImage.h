@@ -13,6 +13,7 @@
 class QComboBox;
 class QKeyEvent;
 class QLabel;
+class QStringListModel;
 
 namespace Ui {
 class frmEditImage;
@@ -44,6 +45,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Form_Load();
@@ -61,6 +63,7 @@ private:
     void GoToNextPicture();
     bool SaveBeforeLeaving();
     void SetValue(int column, const QString& value);
+    QStringListModel* ValuesModel(int column) const;
     QLabel* LabelOf(const QString& name) const;
 
     std::unique_ptr<Ui::frmEditImage> ui_;

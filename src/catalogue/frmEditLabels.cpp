@@ -14,7 +14,7 @@ using namespace GeneralModule;
 
 namespace {
 
-constexpr QSize proposedSize(760, 250);
+constexpr QSize proposedSize(760, 210);
 
 } // namespace
 

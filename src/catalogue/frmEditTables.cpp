@@ -47,6 +47,7 @@ frmEditTables::frmEditTables(const QString& picture, QWidget* parent)
 {
     ui_->setupUi(this);
     KeepWindowSize(this, proposedSize);
+    ui_->lblProgress->hide();
     RunGuarded([&] { Form_Load(picture); });
     ConnectControls();
 }
@@ -193,10 +194,11 @@ void frmEditTables::cmdReplace_Click()
 void frmEditTables::RunReplacement(const QString& old, const QString& replacement)
 {
     const BusyPointer busy;
+    ui_->lblProgress->show();
     ui_->progress->Begin(0, false);
     const auto end = qScopeGuard([this] {
         ui_->progress->End();
-        ui_->lblProgress->clear();
+        ui_->lblProgress->hide();
     });
     ReplaceValue(column_, old, replacement, [this](int changed) {
         ui_->progress->Advance(changed);

@@ -41,6 +41,7 @@ frmReloadPictures::~frmReloadPictures() = default;
 
 void frmReloadPictures::Form_Load()
 {
+    const BusyPointer busy;
     const QString folder = UsersPictureFolder();
     ui_->drvNewReferences->ShowVolumeOf(folder);
     ui_->dirNewReferences->SetPath(folder);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 
+#include "core/OldAlbum.h"
 #include "core/Settings.h"
+#include "platform/data/DatabaseFile.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/shell/ProgramFolder.h"
@@ -106,20 +108,9 @@ void TellWhyNot(const DatabaseError& error)
          Dialogs::Icon::Warning);
 }
 
-} // namespace
-
-namespace GeneralModule {
-
-std::shared_ptr<Database> AlbumDatabase;
-std::unique_ptr<RecordSet> ParamsSet;
-std::unique_ptr<RecordSet> ParagraphSet;
-std::unique_ptr<RecordSet> ImageSet;
-std::unique_ptr<RecordSet> ChapterSet;
-std::unique_ptr<RecordSet> LinkedImagesSet;
-
-bool OpenAlbum(const QString& path)
+// Tries the given password first, and then asks.
+bool OpenWithPassword(const QString& path, QString password)
 {
-    QString password;
     while (true) {
         ReleaseAlbum();
         try {
@@ -139,6 +130,41 @@ bool OpenAlbum(const QString& path)
         if (password.isEmpty())
             return false;
     }
+}
+
+// Opens a new album that is made of the old one. Released first: the new one may take its place.
+bool OpenOldAlbum(const QString& path)
+{
+    ReleaseAlbum();
+    try {
+        const std::optional<NewAlbum> made = OfferConversion(path);
+        if (!made)
+            return false;
+        const bool isOpen = OpenWithPassword(made->path, made->password);
+        Tell(made->report, made->isWhole ? Dialogs::Icon::Information : Dialogs::Icon::Warning);
+        return isOpen;
+    } catch (const DatabaseError& error) {
+        TellWhyNot(error);
+        return false;
+    }
+}
+
+} // namespace
+
+namespace GeneralModule {
+
+std::shared_ptr<Database> AlbumDatabase;
+std::unique_ptr<RecordSet> ParamsSet;
+std::unique_ptr<RecordSet> ParagraphSet;
+std::unique_ptr<RecordSet> ImageSet;
+std::unique_ptr<RecordSet> ChapterSet;
+std::unique_ptr<RecordSet> LinkedImagesSet;
+
+bool OpenAlbum(const QString& path, const QString& password)
+{
+    if (KindOfDatabaseFile(path) == DatabaseFileKind::OldAlbum)
+        return OpenOldAlbum(path);
+    return OpenWithPassword(path, password);
 }
 
 void ReleaseAlbum()

@@ -5,14 +5,16 @@
 #include "core/Parameters.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ClickLabel.h"
+#include "story/ParagraphMarkers.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 
 namespace {
 
 constexpr int tokenRole = Qt::UserRole;
-constexpr int labelPadding = 5; // logical pixels
+constexpr int labelPadding = 3; // logical pixels; texts of both cells begin at one place
 
 // Each group is a column of the grid; a characteristic takes two cells, its label above its values.
 int LabelRow(int column)
@@ -25,12 +27,19 @@ bool IsChoosingKey(int key)
     return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-QString FullName(int column)
+// Keeps its whole text, whatever of it there is room for.
+class CarLabel : public ClickLabel
 {
-    const QString label = GeneralModule::ColumnLabel(LabelledColumnOf(column));
-    const QString group = GeneralModule::CaractLabel(GroupOf(column));
-    return group.isEmpty() ? label : label + QStringLiteral(" (") + group + QLatin1Char(')');
-}
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(palette().color(foregroundRole()));
+        const QRect room = contentsRect();
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                         fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+    }
+};
 
 } // namespace
 
@@ -60,7 +69,7 @@ void FilterPanel::CreateGrid()
     grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     grid.horizontalHeader()->setSectionsClickable(false);
     for (int column = 0; column < columnCount; ++column) {
-        auto* label = new ClickLabel;
+        auto* label = new CarLabel;
         label->setObjectName(QStringLiteral("lblCar_%1").arg(column));
         label->setToolTip(tr("Click to select filter"));
         label->setWordWrap(false);
@@ -81,17 +90,18 @@ void FilterPanel::CreateGrid()
     FitGridHeight();
 }
 
-// The grid shows all of itself, without scrolling, in whatever font the desktop has.
+// The grid shows all of itself, without scrolling, in whatever font the desktop has; in a high
+// window its rows are a little higher and the list beside it is longer.
 void FilterPanel::FitGridHeight()
 {
     QTableWidget& grid = *ui_->grdCar;
     const int line = grid.fontMetrics().height() + 6;
     grid.verticalHeader()->setMinimumSectionSize(line);
-    grid.verticalHeader()->setDefaultSectionSize(line);
+    grid.verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     const int height = grid.horizontalHeader()->sizeHint().height() + grid.rowCount() * line +
                        2 * grid.frameWidth();
-    grid.setFixedHeight(height);
-    ui_->lstCar->setMaximumHeight(height - ui_->lblOpenCar->sizeHint().height() - 4);
+    grid.setMinimumHeight(height);
+    setMaximumHeight(2 * height);
 }
 
 void FilterPanel::changeEvent(QEvent* event)
@@ -107,10 +117,12 @@ void FilterPanel::ShowLabels()
     for (int group = 0; group < groupCount; ++group)
         groups += GeneralModule::CaractLabel(group);
     ui_->grdCar->setHorizontalHeaderLabels(groups);
+    const std::vector<TextMarker> markers = ReadTextMarkers();
     for (int column = 0; column < columnCount; ++column) {
+        names_[std::size_t(column)] = markers[std::size_t(column) + 1].title;
         ClickLabel* label = lblCar_[std::size_t(column)];
         label->setText(GeneralModule::ColumnLabel(LabelledColumnOf(column)));
-        label->setAccessibleName(FullName(column));
+        label->setAccessibleName(names_[std::size_t(column)]);
     }
     CloseList();
 }
@@ -137,7 +149,7 @@ void FilterPanel::ShowFilter(int column)
     QTableWidgetItem* item = ui_->grdCar->item(LabelRow(column) + 1, GroupOf(column));
     const QString description = DescribeFilter(value);
     item->setText(description);
-    item->setToolTip(restricts ? FullName(column) + QStringLiteral(": ") + description : QString());
+    item->setToolTip(names_[std::size_t(column)] + QStringLiteral(": ") + description);
 }
 
 void FilterPanel::lblCar_Click(int column)
@@ -168,7 +180,7 @@ void FilterPanel::OpenList(int column)
             item->setToolTip(tr("Pictures that have none of the chosen values"));
     }
     ui_->lstCar->setEnabled(true);
-    ui_->lblOpenCar->setText(FullName(column));
+    ui_->lblOpenCar->setText(names_[std::size_t(column)]);
     ui_->grdCar->setCurrentCell(LabelRow(column) + 1, GroupOf(column));
     ui_->lstCar->setCurrentRow(0);
     ui_->lstCar->setFocus();

@@ -51,6 +51,7 @@ private:
 
     std::unique_ptr<Ui::FilterPanel> ui_;
     std::array<ClickLabel*, columnCount> lblCar_{};
+    std::array<QString, columnCount> names_; // with their groups
     CarValues values_;
     int openColumn_ = -1; // whose values lstCar shows, -1 for none
 };

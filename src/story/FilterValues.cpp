@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "story/FilterValues.h"
 
-#include "core/Album.h"
 #include "story/PictureFilter.h"
 
 #include <algorithm>
@@ -26,14 +25,8 @@ bool CanBeChosen(const QString& value)
 
 QStringList TableValues(int column)
 {
-    QStringList values;
-    RecordSet table(GeneralModule::AlbumDatabase, ValueTableOf(column));
-    const RecordSet::Walk walk(table);
-    const int name = table.FieldNumber(u"Name");
-    for (table.MoveFirst(); !table.AtEnd(); table.MoveNext()) {
-        if (const QString value = table.TextOrEmpty(name); CanBeChosen(value))
-            values += value;
-    }
+    QStringList values = ValuesOf(column);
+    values.removeIf([](const QString& value) { return !CanBeChosen(value); });
     std::sort(values.begin(), values.end(), [](const QString& left, const QString& right) {
         const bool leftIsOrdinary = !IsSpecialMarker(left);
         const bool rightIsOrdinary = !IsSpecialMarker(right);

@@ -40,12 +40,17 @@ bool CanNameMarker(const QString& label)
     return !label.contains(bad);
 }
 
-// What a person reads in a list: a column without any label goes by its number.
+// A column without a label goes by its number.
 QString TitleOf(const QString& label, const QString& group, int column)
 {
-    if (label.isEmpty() && group.isEmpty())
-        return QStringLiteral("Caracteristic %1").arg(column);
-    return label + QStringLiteral(" (") + group + QLatin1Char(')');
+    const QString name = label.isEmpty() ? QStringLiteral("Caracteristic %1").arg(column) : label;
+    return group.isEmpty() ? name : name + QStringLiteral(" (") + group + QLatin1Char(')');
+}
+
+bool IsTaken(const std::vector<TextMarker>& markers, QString TextMarker::*part, const QString& text)
+{
+    return std::any_of(markers.begin(), markers.end(),
+                       [&](const TextMarker& marker) { return marker.*part == text; });
 }
 
 QString Replaced(const QString& text, const std::vector<TextMarker>& markers,
@@ -81,11 +86,12 @@ std::vector<TextMarker> ReadTextMarkers()
         const QString group = GeneralModule::CaractLabel(GroupOf(column));
         const QString stored = opening + QString::number(column) + closing;
         const QString display = "<<" + label + " (" + group + ")>>";
-        const bool isTaken =
-            std::any_of(markers.begin(), markers.end(),
-                        [&](const TextMarker& marker) { return marker.display == display; });
-        const bool isPlain = !isTaken && CanNameMarker(label) && CanNameMarker(group);
-        markers.push_back({stored, isPlain ? display : stored, TitleOf(label, group, column)});
+        const bool isPlain = CanNameMarker(label) && CanNameMarker(group) &&
+                             !IsTaken(markers, &TextMarker::display, display);
+        QString title = TitleOf(label, group, column);
+        if (IsTaken(markers, &TextMarker::title, title))
+            title += QLatin1Char(' ') + stored;
+        markers.push_back({stored, isPlain ? display : stored, title});
     }
     return markers;
 }

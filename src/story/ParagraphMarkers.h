@@ -14,7 +14,7 @@ struct TextMarker
 {
     QString stored;  // "<[4]>"
     QString display; // "<<Place (People)>>"
-    QString title;   // for a list to choose from
+    QString title;   // of what it stands for: "Place (People)"; each is different
 };
 
 // The thirteen markers as the open album's labels name them now, the legend's first.

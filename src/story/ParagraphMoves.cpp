@@ -12,6 +12,7 @@ using GeneralModule::ParagraphSet;
 
 namespace {
 
+constexpr int longestLine = 1000; // characters; no screen shows more of a line
 const QString emptyParagraph = QStringLiteral("<<Empty Paragraph>>");
 
 // The paragraph that another one leads to, 0 for none. One that leads to itself leads nowhere.
@@ -163,6 +164,7 @@ std::vector<ParagraphLine> ListParagraphs(qint32 chapter)
         FindById(*ParagraphSet, paragraph);
         QString text = ParagraphSet->TextOrEmpty(u"Text");
         text = text.isEmpty() ? emptyParagraph : ToDisplayMarkers(text, markers);
+        text.truncate(longestLine);
         lines.push_back({paragraph, text.replace(u'\r', u' ').replace(u'\n', u' ')});
     }
     return lines;

@@ -19,7 +19,7 @@ bool MoveParagraphUp(ParagraphPlace& place);
 struct ParagraphLine
 {
     qint32 paragraph;
-    QString text; // in display form and in one line
+    QString text; // in display form and in one line, which may be cut off
 };
 
 // The chapter's paragraphs in their order.

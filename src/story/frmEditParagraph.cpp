@@ -2,17 +2,23 @@
 #include "story/frmEditParagraph.h"
 #include "ui_frmEditParagraph.h"
 
+#include "catalogue/frmEditImage.h"
 #include "core/Album.h"
+#include "core/PictureFile.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/KeyPreview.h"
+#include "platform/widgets/PictureBox.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "story/ParagraphLinks.h"
 #include "story/ParagraphMoves.h"
 #include "story/PictureFilter.h"
 #include "story/frmOrganizeParagraphs.h"
+
+#include <QKeyEvent>
+#include <QTimer>
 
 using GeneralModule::FindById;
 using GeneralModule::ParagraphSet;
@@ -37,9 +43,14 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
     ui_->txtParagraphPreview->setFont(ui_->txtParagraph->font());
     ui_->txtParagraphPreview->document()->setDocumentMargin(
         ui_->txtParagraph->document()->documentMargin());
-    ui_->pictureFrame->SetHint(tr("Preview shows the pictures of this paragraph here"));
+    imgImage_ = ui_->stage->findChild<PictureBox*>();
+    imgImage_->setToolTip(tr("Click to edit image"));
     KeepWindowSize(this, proposedSize);
     ConnectControls();
+    // Both columns begin at one height, with and without drawings on their buttons.
+    for (QWidget* heading :
+         std::initializer_list<QWidget*>{ui_->lblText, ui_->cmdInsertCar, ui_->cmdCancelInsert})
+        heading->setMinimumHeight(ui_->cmdPreview->sizeHint().height());
     ShowInsertList(false);
     SetPreviewMode(false);
     ShowPicture({});
@@ -83,16 +94,13 @@ void frmEditParagraph::ConnectControls()
             Guarded(this, &frmEditParagraph::lstInsertCar_Click));
     connect(ui_->chkLinkedImage, &QCheckBox::toggled, this,
             Guarded(this, &frmEditParagraph::chkLinkedImage_Click));
-    connect(ui_->pictureFrame, &PictureFrame::Pressed, this,
+    connect(imgImage_, &PictureBox::Pressed, this,
             Guarded(this, &frmEditParagraph::imgImage_MouseDown));
     connect(ui_->filterPanel, &FilterPanel::ValuesChanged, this,
             Guarded(this, &frmEditParagraph::filterPanel_Change));
     connect(ui_->lblText, &ClickLabel::Clicked, this,
             Guarded(this, &frmEditParagraph::lblText_Click));
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (now == ui_->txtParagraphPreview)
-            RunGuarded([this] { lblText_Click(); });
-    });
+    ui_->txtParagraphPreview->installEventFilter(this);
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
 }
 
@@ -100,12 +108,13 @@ void frmEditParagraph::ConnectControls()
 bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
 {
     const bool isShortcut = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    const bool isLetter = key.key() == Qt::Key_Q && !isShortcut && !ui_->txtParagraph->hasFocus();
+    const bool isLetter =
+        key.key() == Qt::Key_Q && !isShortcut && focusWidget() != ui_->txtParagraph;
     if (key.key() == Qt::Key_Escape || isLetter) {
         cmdExit_Click();
         return true;
     }
-    if (ui_->lstInsertCar->hasFocus() && IsChoosingKey(key.key())) {
+    if (focusWidget() == ui_->lstInsertCar && IsChoosingKey(key.key())) {
         lstInsertCar_Click();
         return true;
     }
@@ -121,18 +130,40 @@ void frmEditParagraph::showEvent(QShowEvent* event)
     ui_->txtParagraph->setFocus();
 }
 
+// Whoever clicks into the preview of the text wants to write.
+bool frmEditParagraph::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn)
+        txtParagraphPreview_GotFocus();
+    return QDialog::eventFilter(watched, event);
+}
+
+// Later, when the click that brought the focus is done with the preview.
+void frmEditParagraph::txtParagraphPreview_GotFocus()
+{
+    QTimer::singleShot(0, this, Guarded(this, &frmEditParagraph::lblText_Click));
+}
+
 void frmEditParagraph::ShowParagraph()
+{
+    SetPreviewMode(false);
+    ShowPicture({});
+    pictures_.clear();
+    ui_->txtParagraph->SetText({});
+    FillFromAlbum();
+}
+
+// The text box keeps caret and history where it holds the text already.
+void frmEditParagraph::FillFromAlbum()
 {
     setWindowTitle(QStringLiteral("Edit Paragraph from Chapter '") + ChapterNameOf(CurrentChapter) +
                    QLatin1Char('\''));
     markers_ = ReadTextMarkers();
     ui_->filterPanel->ShowLabels();
-    ShowInsertList(false);
-    SetPreviewMode(false);
-    ShowPicture({});
-    pictures_.clear();
     const ParagraphContent content = LoadParagraph(CurrentParagraph);
-    ui_->txtParagraph->SetText(ToDisplayMarkers(content.text, markers_));
+    const QString text = ToDisplayMarkers(content.text, markers_);
+    if (ui_->txtParagraph->GetText() != text)
+        ui_->txtParagraph->SetText(text);
     ui_->filterPanel->SetValues(content.values);
 }
 
@@ -248,7 +279,8 @@ void frmEditParagraph::ShowInsertList(bool shown)
 {
     ui_->lstInsertCar->setVisible(shown);
     ui_->cmdCancelInsert->setVisible(shown);
-    ui_->cmdInsertCar->setVisible(!shown && !isPreview_);
+    ui_->cmdInsertCar->setVisible(!shown);
+    ui_->cmdInsertCar->setEnabled(!isPreview_);
 }
 
 void frmEditParagraph::cmdInsertCar_Click()
@@ -338,12 +370,14 @@ void frmEditParagraph::lblText_Click()
 void frmEditParagraph::FillPreviewText()
 {
     ui_->txtParagraphPreview->setPlainText(
-        FillPictureMarkers(GetContent().text, ui_->pictureFrame->GetFile()));
+        FillPictureMarkers(GetContent().text, imgImage_->GetTag()));
 }
 
 void frmEditParagraph::ShowPicture(const QString& file)
 {
-    ui_->pictureFrame->Show(file);
+    ui_->stage->setVisible(!file.isEmpty());
+    ui_->lblNoPicture->setVisible(file.isEmpty());
+    ui_->stage->ShowPicture(file, file.isEmpty() ? file : GeneralModule::ResolvePictureFile(file));
     const QSignalBlocker quiet(ui_->chkLinkedImage);
     ui_->chkLinkedImage->setEnabled(!file.isEmpty());
     ui_->chkLinkedImage->setChecked(!file.isEmpty() && IsLinked(CurrentParagraph, file));
@@ -351,17 +385,31 @@ void frmEditParagraph::ShowPicture(const QString& file)
 
 void frmEditParagraph::chkLinkedImage_Click()
 {
-    const QString& file = ui_->pictureFrame->GetFile();
+    const QString& file = imgImage_->GetTag();
     if (!file.isEmpty())
         SetLinked(CurrentParagraph, file, ui_->chkLinkedImage->isChecked());
 }
 
 void frmEditParagraph::imgImage_MouseDown()
 {
+    const QString file = imgImage_->GetTag();
     SaveParagraph();
-    EditPicture(ui_->pictureFrame->GetFile());
+    EditPicture(file);
 }
 
-// The picture's legend and characteristics are edited in a window of the catalogue, which is to be
-// opened here. Labels may change in it: the text box must then be filled anew from the album.
-void frmEditParagraph::EditPicture(const QString&) {}
+// Everything may have changed there: the picture, labels, values, and the paragraph with them.
+void frmEditParagraph::EditPicture(const QString& file)
+{
+    frmEditImage window(this);
+    window.CurrentImage = file;
+    window.IsSinglePicture = true;
+    window.exec();
+    FillFromAlbum();
+    if (!window.TakenOut.contains(file))
+        ShowPicture(file);
+    else if (isPreview_)
+        return cmdNextImage_Click();
+    else
+        ShowPicture({});
+    FillPreviewText();
+}

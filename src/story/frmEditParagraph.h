@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+class PictureBox;
 class QKeyEvent;
 
 namespace Ui {
@@ -36,12 +37,14 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void ConnectControls();
     bool Form_KeyDown(QKeyEvent& key);
 
     void ShowParagraph();
+    void FillFromAlbum();
     ParagraphPlace GetPlace() const { return {CurrentChapter, CurrentParagraph}; }
     void GoTo(const ParagraphPlace& place);
     ParagraphContent GetContent() const;
@@ -69,6 +72,7 @@ private:
     void RefreshPictureList();
     void filterPanel_Change();
     void lblText_Click();
+    void txtParagraphPreview_GotFocus();
     void ShowPicture(const QString& file);
     void FillPreviewText();
     void chkLinkedImage_Click();
@@ -76,6 +80,7 @@ private:
     void EditPicture(const QString& file);
 
     std::unique_ptr<Ui::frmEditParagraph> ui_;
+    PictureBox* imgImage_;
     std::vector<TextMarker> markers_;
     QStringList pictures_; // still to be shown in the preview
     bool isPreview_ = false;

@@ -4,10 +4,11 @@
 
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
-#include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "story/ParagraphMoves.h"
+
+#include <QKeyEvent>
 
 #include <algorithm>
 
@@ -57,9 +58,7 @@ void frmOrganizeParagraphs::ConnectControls()
             Guarded(this, &frmOrganizeParagraphs::lstParagraph_Click));
     connect(ui_->lstParagraph, &QListWidget::itemDoubleClicked, this,
             Guarded(this, &frmOrganizeParagraphs::lstParagraph_DblClick));
-    new KeyPreview(this, [this](QKeyEvent& key) {
-        return ui_->lstParagraph->hasFocus() && lstParagraph_KeyDown(key);
-    });
+    ui_->lstParagraph->installEventFilter(this);
 }
 
 void frmOrganizeParagraphs::showEvent(QShowEvent* event)
@@ -69,6 +68,14 @@ void frmOrganizeParagraphs::showEvent(QShowEvent* event)
         return;
     RunGuarded([this] { RefreshParagraphList(); });
     ui_->lstParagraph->setFocus();
+}
+
+bool frmOrganizeParagraphs::eventFilter(QObject* watched, QEvent* event)
+{
+    bool used = false;
+    if (event->type() == QEvent::KeyPress)
+        RunGuarded([&] { used = lstParagraph_KeyDown(*static_cast<QKeyEvent*>(event)); });
+    return used || QDialog::eventFilter(watched, event);
 }
 
 bool frmOrganizeParagraphs::lstParagraph_KeyDown(QKeyEvent& key)

@@ -18,6 +18,12 @@ QString DescribeInput(const QString& prompt, const QString& proposal)
     return QStringLiteral("input, proposing '%1': %2").arg(proposal, prompt);
 }
 
+QString DescribeSave(const QString& title, const QString& proposal)
+{
+    return proposal.isEmpty() ? "save file: " + title
+                              : "save file, proposing '" + proposal + "': " + title;
+}
+
 } // namespace
 
 ScriptedDialogs::ScriptedDialogs()
@@ -53,9 +59,10 @@ void ScriptedDialogs::ExpectOpenFile(const QString& title, const QString& path)
     script_.push_back({"open file: " + title, false, Answer::Ok, path});
 }
 
-void ScriptedDialogs::ExpectSaveFile(const QString& title, const QString& path)
+void ScriptedDialogs::ExpectSaveFile(const QString& title, const QString& path,
+                                     const QString& proposal)
 {
-    script_.push_back({"save file: " + title, false, Answer::Ok, path});
+    script_.push_back({DescribeSave(title, proposal), false, Answer::Ok, path});
 }
 
 ScriptedDialogs::Step ScriptedDialogs::Take(const QString& shown)
@@ -92,5 +99,5 @@ QString ScriptedDialogs::AskOpenFile(const FileChoice& choice)
 
 QString ScriptedDialogs::AskSaveFile(const FileChoice& choice)
 {
-    return Take("save file: " + choice.title).text;
+    return Take(DescribeSave(choice.title, choice.name)).text;
 }

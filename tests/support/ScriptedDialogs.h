@@ -23,7 +23,7 @@ public:
     void ExpectBoxBeginning(const QString& beginning, Icon icon);
     void ExpectInput(const QString& prompt, const QString& answer, const QString& proposal = {});
     void ExpectOpenFile(const QString& title, const QString& path);
-    void ExpectSaveFile(const QString& title, const QString& path);
+    void ExpectSaveFile(const QString& title, const QString& path, const QString& proposal = {});
 
     bool IsDone() const { return script_.empty(); }
 

@@ -110,6 +110,7 @@ void TestMainWindow::HasItsMenusInOrder()
              "from Folder; mnuSep1; mnuAllPictures=Display Pictures at Random; "
              "mnuSelectedPictures=Display Pictures from Folder; mnuTools=Tools; "
              "mnuSetCDBuffer=Set CD-ROM Buffer; mnuSep5; mnuRepair=Repair Album; "
+             "mnuPassword=Set Album Password; "
              "mnuOptions=Options; mnuHelp=Help; mnuPhotoAlbumHelp=Lumenark Help (F1); mnuSep4; "
              "mnuAbout=About Lumenark");
 }
@@ -131,12 +132,16 @@ void TestMainWindow::GuidesFromNothingToTheFirstChapter()
     QCOMPARE(window_->windowTitle(), "Choose the chapter you want to read");
     QCOMPARE(Warning(), "Please LOAD and INDEX Pictures\nPress F1 for Help");
     QVERIFY(!Find<QAction>("mnuAllPictures")->isEnabled());
+    QVERIFY(Find<QPushButton>("cmdLoadPictures")->isEnabled());
+    QVERIFY(Find<QAction>("mnuLoadPictures")->isEnabled());
+    QVERIFY(!Find<QAction>("mnuReloadPictures")->isEnabled());
 
     album_->AddImageRow("/a.jpg");
     dialogs_->ExpectOpenFile("Open Album", path);
     Click("cmdOpenAlbum");
     QCOMPARE(Warning(), "Please Create the first Chapter of your Album");
     QVERIFY(Find<QAction>("mnuAllPictures")->isEnabled());
+    QVERIFY(Find<QAction>("mnuReloadPictures")->isEnabled());
     QVERIFY(!Find<QPushButton>("cmdReadChapter")->isEnabled());
 
     // The viewer opens on the new chapter, which offers to create its first paragraph.

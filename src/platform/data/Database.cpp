@@ -111,6 +111,7 @@ void Database::Connect()
 void Database::Unlock(const QString& password)
 {
     const QByteArray key = password.toUtf8();
+    password_ = password;
     if (!key.isEmpty() && TryKey(key, 0))
         return;
     // Albums of the library's third generation open in the fourth under its rules of then.

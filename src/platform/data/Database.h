@@ -23,6 +23,8 @@ public:
     Database& operator=(const Database&) = delete;
 
     const QString& GetPath() const { return path_; }
+    // What opened the file; empty for one without a password.
+    const QString& GetPassword() const { return password_; }
     sqlite3* GetEngine() const { return engine_; }
 
     // Goes up with every row that this program changes in the album; a row read under an earlier
@@ -45,6 +47,7 @@ private:
     void Prepare();
 
     QString path_;
+    QString password_;
     sqlite3* engine_ = nullptr;
     int openBatches_ = 0;
 };

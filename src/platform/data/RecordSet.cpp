@@ -279,6 +279,8 @@ qint32 RecordSet::Number(int field)
 
 bool RecordSet::IsNull(int field)
 {
+    if (ReadsFromStatement(field))
+        return query_->statement.IsNull(query_->columns[std::size_t(field)]);
     return std::holds_alternative<std::monostate>(Value(field));
 }
 

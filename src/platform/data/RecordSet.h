@@ -76,8 +76,10 @@ public:
     void Edit();
     // A new row has its identifier at once; fields not set get the table's defaults.
     void AddNew();
-    void Set(QStringView field, const QString& text); // throws UpdateWithoutEdit, TypeMismatch
-    void Set(QStringView field, qint64 number);
+    // Throw UpdateWithoutEdit, TypeMismatch.
+    void Set(int field, const QString& text) { SetBuffered(field, text); }
+    void Set(QStringView field, const QString& text) { SetBuffered(FieldNumber(field), text); }
+    void Set(QStringView field, qint64 number) { SetBuffered(FieldNumber(field), number); }
     // Throws DuplicateKey, ReadOnly, DiskFull and the like; the buffer then stays. After a row was
     // added the current row is the one before AddNew.
     void Update();
@@ -121,11 +123,14 @@ private:
     void RequireRow() const;
     const FieldValue* Buffered(int field) const;
 
-    void SetBuffered(QStringView field, FieldValue value);
+    void SetBuffered(int field, FieldValue value);
     qint64 NextIdentifier();
     void UpdateEdited();
     void UpdateAdded();
-    Statement& WriteStatement(const QByteArray& sql);
+    QByteArray UpdateSql() const;
+    QByteArray InsertSql() const;
+    // The statement that writes the buffer's fields, of which kind says what else makes it up.
+    Statement& WriteStatement(char kind, QByteArray (RecordSet::*sql)() const);
 
     std::shared_ptr<Database> database_;
     TableLayout layout_;

@@ -48,21 +48,10 @@ qint64 RecordSet::NextIdentifier()
     return next;
 }
 
-void RecordSet::Set(QStringView field, const QString& text)
-{
-    SetBuffered(field, text);
-}
-
-void RecordSet::Set(QStringView field, qint64 number)
-{
-    SetBuffered(field, number);
-}
-
-void RecordSet::SetBuffered(QStringView field, FieldValue value)
+void RecordSet::SetBuffered(int number, FieldValue value)
 {
     if (!buffer_)
         Fail(DatabaseError::UpdateWithoutEdit, "A record was changed without editing it.");
-    const int number = FieldNumber(field);
     if (layout_.At(number).isNumber != std::holds_alternative<qint64>(value))
         Fail(DatabaseError::TypeMismatch, "A field was given a value of another type.");
     auto& values = buffer_->values;
@@ -89,14 +78,7 @@ void RecordSet::UpdateEdited()
 {
     if (buffer_->values.empty())
         return;
-    QByteArray assignments;
-    for (std::size_t i = 0; i < buffer_->values.size(); ++i) {
-        assignments += i > 0 ? "," : "";
-        assignments += QuotedName(layout_.At(buffer_->values[i].first).name) + "=?" +
-                       QByteArray::number(qsizetype(i) + 2);
-    }
-    Statement& update =
-        WriteStatement("UPDATE " + table_ + " SET " + assignments + " WHERE rowid=?1");
+    Statement& update = WriteStatement('u', &RecordSet::UpdateSql);
     update.Bind(1, row_);
     for (std::size_t i = 0; i < buffer_->values.size(); ++i)
         update.Bind(int(i) + 2, buffer_->values[i].second);
@@ -107,18 +89,34 @@ void RecordSet::UpdateEdited()
 
 void RecordSet::UpdateAdded()
 {
+    Statement& insert = WriteStatement('i', &RecordSet::InsertSql);
+    for (std::size_t i = 0; i < buffer_->values.size(); ++i)
+        insert.Bind(int(i) + 1, buffer_->values[i].second);
+    insert.Run();
+}
+
+QByteArray RecordSet::UpdateSql() const
+{
+    QByteArray assignments;
+    for (std::size_t i = 0; i < buffer_->values.size(); ++i) {
+        assignments += i > 0 ? "," : "";
+        assignments += QuotedName(layout_.At(buffer_->values[i].first).name) + "=?" +
+                       QByteArray::number(qsizetype(i) + 2);
+    }
+    return "UPDATE " + table_ + " SET " + assignments + " WHERE rowid=?1";
+}
+
+QByteArray RecordSet::InsertSql() const
+{
     QByteArray names;
     QByteArray parameters;
     for (std::size_t i = 0; i < buffer_->values.size(); ++i) {
         names += (i > 0 ? "," : "") + QuotedName(layout_.At(buffer_->values[i].first).name);
         parameters += (i > 0 ? ",?" : "?") + QByteArray::number(qsizetype(i) + 1);
     }
-    Statement& insert = WriteStatement(names.isEmpty() ? "INSERT INTO " + table_ + " DEFAULT VALUES"
-                                                       : "INSERT INTO " + table_ + " (" + names +
-                                                             ") VALUES (" + parameters + ')');
-    for (std::size_t i = 0; i < buffer_->values.size(); ++i)
-        insert.Bind(int(i) + 1, buffer_->values[i].second);
-    insert.Run();
+    return names.isEmpty()
+               ? "INSERT INTO " + table_ + " DEFAULT VALUES"
+               : "INSERT INTO " + table_ + " (" + names + ") VALUES (" + parameters + ')';
 }
 
 void RecordSet::CancelUpdate()
@@ -130,18 +128,23 @@ void RecordSet::Delete()
 {
     buffer_.reset();
     RequireRow();
-    Statement& remove = WriteStatement("DELETE FROM " + table_ + " WHERE rowid=?1");
+    Statement remove(database_->GetEngine(), "DELETE FROM " + table_ + " WHERE rowid=?1");
     remove.Bind(1, row_);
     remove.Run();
     place_ = Place::DeletedRow;
 }
 
-Statement& RecordSet::WriteStatement(const QByteArray& sql)
+// Kept by the fields that it writes: putting the statement's text together takes longer than
+// running it.
+Statement& RecordSet::WriteStatement(char kind, QByteArray (RecordSet::*sql)() const)
 {
-    if (writes_.size() >= mostKept && !writes_.contains(sql))
+    QByteArray key(1, kind);
+    for (const auto& [field, value] : buffer_->values)
+        key += char(field);
+    if (writes_.size() >= mostKept && !writes_.contains(key))
         writes_.clear();
-    std::shared_ptr<Statement>& statement = writes_[sql];
+    std::shared_ptr<Statement>& statement = writes_[key];
     if (!statement)
-        statement = std::make_shared<Statement>(database_->GetEngine(), sql);
+        statement = std::make_shared<Statement>(database_->GetEngine(), (this->*sql)());
     return *statement;
 }

@@ -27,7 +27,7 @@ void ThrowEngineError(sqlite3* engine, int code)
         throw DatabaseError(DatabaseError::DuplicateKey,
                             Say("The album holds such an entry already."));
     case SQLITE_FULL:
-        throw DatabaseError(DatabaseError::DiskFull, Say("The disk is full; nothing was changed."));
+        throw DatabaseError(DatabaseError::DiskFull, Say("The disk is full; the last change was not made."));
     case SQLITE_READONLY:
     case SQLITE_PERM:
         throw DatabaseError(

@@ -13,7 +13,8 @@ constexpr qint64 millisecondsPerCommit = 500;
 
 } // namespace
 
-WriteBatch::WriteBatch(std::shared_ptr<Database> database) : database_(std::move(database))
+WriteBatch::WriteBatch(std::shared_ptr<Database> database, Commits commits)
+    : database_(std::move(database)), commits_(commits)
 {
     if (database_->openBatches_ == 0)
         Begin();
@@ -24,6 +25,10 @@ WriteBatch::~WriteBatch()
 {
     if (finished_)
         return;
+    if (commits_ == Commits::AtItsEnd) {
+        RollBack();
+        return;
+    }
     try {
         Finish();
     } catch (const DatabaseError&) {
@@ -60,7 +65,8 @@ void WriteBatch::Commit()
 void WriteBatch::RowDone()
 {
     ++rows_;
-    if (!IsOutermost() || (rows_ < rowsPerCommit && sinceCommit_.elapsed() < millisecondsPerCommit))
+    if (!IsOutermost() || commits_ == Commits::AtItsEnd ||
+        (rows_ < rowsPerCommit && sinceCommit_.elapsed() < millisecondsPerCommit))
         return;
     Commit();
     Begin();
@@ -75,4 +81,12 @@ void WriteBatch::Finish()
     --database_->openBatches_;
     if (outermost)
         Commit();
+}
+
+void WriteBatch::RollBack() noexcept
+{
+    const bool outermost = IsOutermost();
+    --database_->openBatches_;
+    if (outermost && !sqlite3_get_autocommit(database_->GetEngine()))
+        sqlite3_exec(database_->GetEngine(), "ROLLBACK", nullptr, nullptr, nullptr);
 }

@@ -12,7 +12,14 @@ class Database;
 class WriteBatch
 {
 public:
-    explicit WriteBatch(std::shared_ptr<Database> database); // throws DatabaseError InUse
+    enum class Commits {
+        OnItsWay,
+        // All rows or none: without Finish nothing is changed. Other programs must wait until then.
+        AtItsEnd
+    };
+
+    // Throws DatabaseError InUse. Inside another batch commits counts for nothing.
+    explicit WriteBatch(std::shared_ptr<Database> database, Commits commits = Commits::OnItsWay);
     ~WriteBatch();
     WriteBatch(const WriteBatch&) = delete;
     WriteBatch& operator=(const WriteBatch&) = delete;
@@ -21,15 +28,18 @@ public:
     // another program waits for ever. Throws DatabaseError.
     void RowDone();
 
-    // Commits what is left and reports failure; the destructor commits too, but in silence.
+    // Commits what is left and reports failure; the destructor of a batch that commits on its way
+    // does so too, but in silence.
     void Finish();
 
 private:
     bool IsOutermost() const;
     void Begin();
     void Commit();
+    void RollBack() noexcept;
 
     std::shared_ptr<Database> database_;
+    Commits commits_;
     QElapsedTimer sinceCommit_;
     int rows_ = 0;
     bool finished_ = false;

@@ -34,8 +34,9 @@ public:
     struct FileChoice
     {
         QString title;
-        QString filter; // "Album|*.alb": a name, a bar, patterns separated by ";"
-        QString folder; // where to begin; the current folder when empty
+        QString filter;    // "Album|*.alb": a name, a bar, patterns separated by ";"
+        QString folder;    // where to begin; the current folder when empty
+        QString name = {}; // proposed for a file to save, without its folder
     };
 
     virtual ~Dialogs() = default;

@@ -30,7 +30,6 @@ FolderList::FolderList(QWidget* parent) : QTreeWidget(parent)
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setRootIsDecorated(false);
-    setItemsExpandable(false);
     setExpandsOnDoubleClick(false);
     setIndentation(14);
     header()->setStretchLastSection(false);

@@ -3,24 +3,129 @@
 
 #include "platform/widgets/WindowSize.h"
 
+#include <QApplication>
 #include <QFile>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QSplitter>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
-HelpWindow::HelpWindow(const QString& file, QWidget* parent) : QDialog(parent)
+namespace {
+
+constexpr int anchorRole = Qt::UserRole;
+
+class HelpKey : public QObject
+{
+public:
+    HelpKey(QObject* parent, const QString& file) : QObject(parent), file_(file) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress || !watched->isWidgetType() ||
+            static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1)
+            return false;
+        QWidget* window = static_cast<QWidget*>(watched)->window();
+        if (!window->inherits("HelpWindow")) {
+            HelpWindow help(file_, window);
+            help.GoTo(window->objectName());
+            help.exec();
+        }
+        return true;
+    }
+
+private:
+    QString file_;
+};
+
+} // namespace
+
+HelpWindow::HelpWindow(const QString& file, QWidget* parent)
+    : QDialog(parent), lstContents_(new QListWidget), txtSearch_(new QLineEdit),
+      txtHelp_(new QTextBrowser)
 {
     setObjectName(QStringLiteral("frmHelp"));
     setWindowTitle(tr("Lumenark Help"));
-    auto* text = new QTextBrowser(this);
-    text->setObjectName(QStringLiteral("txtHelp"));
-    text->document()->setDocumentMargin(16);
+    Layout();
+    Read(file);
+    connect(lstContents_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
+        if (item)
+            txtHelp_->scrollToAnchor(item->data(anchorRole).toString());
+    });
+    connect(txtSearch_, &QLineEdit::returnPressed, this, &HelpWindow::Search);
+    connect(txtSearch_, &QLineEdit::textEdited, this, [this] {
+        txtHelp_->moveCursor(QTextCursor::Start);
+        Search();
+    });
+    KeepWindowSize(this, {980, 720});
+}
+
+void HelpWindow::Layout()
+{
+    txtHelp_->setObjectName(QStringLiteral("txtHelp"));
+    txtHelp_->document()->setDocumentMargin(18);
+    lstContents_->setObjectName(QStringLiteral("lstContents"));
+    lstContents_->setAccessibleName(tr("Contents"));
+    txtSearch_->setObjectName(QStringLiteral("txtSearch"));
+    txtSearch_->setPlaceholderText(tr("Search"));
+    txtSearch_->setClearButtonEnabled(true);
+    txtSearch_->setMinimumHeight(32);
+    auto* panes = new QSplitter;
+    panes->addWidget(lstContents_);
+    panes->addWidget(txtHelp_);
+    panes->setStretchFactor(1, 1);
+    panes->setSizes({240, 740});
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(text);
+    layout->addWidget(txtSearch_);
+    layout->addWidget(panes, 1);
+}
+
+void HelpWindow::Read(const QString& file)
+{
     QFile help(file);
-    if (help.open(QIODevice::ReadOnly))
-        text->setHtml(QString::fromUtf8(help.readAll()));
-    else
-        text->setPlainText(tr("The help file '%1' cannot be read.").arg(file));
-    KeepWindowSize(this, {760, 640});
+    if (!help.open(QIODevice::ReadOnly)) {
+        txtHelp_->setPlainText(tr("The help file '%1' cannot be read.").arg(file));
+        return;
+    }
+    const QString html = QString::fromUtf8(help.readAll());
+    txtHelp_->setSearchPaths({QFileInfo(file).absolutePath()});
+    txtHelp_->setHtml(html);
+    static const QRegularExpression heading(
+        QStringLiteral("<h2><a name=\"([^\"]+)\"></a>([^<]+)</h2>"));
+    auto headings = heading.globalMatch(html);
+    while (headings.hasNext()) {
+        const QRegularExpressionMatch match = headings.next();
+        auto* item = new QListWidgetItem(match.captured(2), lstContents_);
+        item->setData(anchorRole, match.captured(1));
+    }
+}
+
+void HelpWindow::GoTo(const QString& chapter)
+{
+    for (int row = 0; row < lstContents_->count(); ++row) {
+        if (lstContents_->item(row)->data(anchorRole) == chapter)
+            lstContents_->setCurrentRow(row);
+    }
+    txtHelp_->setFocus();
+    // The text is laid out for the window's size first.
+    QMetaObject::invokeMethod(
+        this, [this, chapter] { txtHelp_->scrollToAnchor(chapter); }, Qt::QueuedConnection);
+}
+
+// From the place found last on, and behind the end from the beginning.
+void HelpWindow::Search()
+{
+    const QString text = txtSearch_->text();
+    if (text.isEmpty() || txtHelp_->find(text))
+        return;
+    txtHelp_->moveCursor(QTextCursor::Start);
+    txtHelp_->find(text);
+}
+
+void InstallHelpKey(const QString& file)
+{
+    qApp->installEventFilter(new HelpKey(qApp, file));
 }

@@ -98,6 +98,8 @@ QString Choose(const Dialogs::FileChoice& choice, QFileDialog::AcceptMode mode)
                                                        : QFileDialog::AnyFile);
     if (mode == QFileDialog::AcceptSave)
         dialog.setDefaultSuffix(FirstExtension(choice.filter));
+    if (!choice.name.isEmpty())
+        dialog.selectFile(choice.name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
     return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());

@@ -12,10 +12,10 @@
 #include "core/ViewerFlags.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
-#include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/MainWindowState.h"
+#include "ui/main/PasswordQuestions.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmRepairAlbum.h"
 #include "viewer/frmReelvane.h"
@@ -68,6 +68,7 @@ void frmOpenChapter::ConnectControls()
     Connect(nullptr, ui_->mnuAllPictures, &frmOpenChapter::mnuAllPictures_Click, "");
     Connect(nullptr, ui_->mnuSelectedPictures, &frmOpenChapter::mnuSelectedPictures_Click, "");
     Connect(nullptr, ui_->mnuRepair, &frmOpenChapter::mnuRepair_Click, "repair");
+    Connect(nullptr, ui_->mnuPassword, &frmOpenChapter::mnuPassword_Click, "");
     Connect(nullptr, ui_->mnuPhotoAlbumHelp, &frmOpenChapter::mnuPhotoAlbumHelp_Click, "help");
     Connect(nullptr, ui_->mnuAbout, &frmOpenChapter::mnuAbout_Click, "about");
     for (QAction* separator :
@@ -83,8 +84,6 @@ void frmOpenChapter::ConnectControls()
     ui_->lstChapter->installEventFilter(this);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
             &frmOpenChapter::mnuExit_Click);
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            &frmOpenChapter::mnuPhotoAlbumHelp_Click);
 }
 
 // Each button does what its menu entry does.
@@ -169,6 +168,7 @@ void frmOpenChapter::RefreshState()
     ui_->cmdMoveUp->setEnabled(state.canMoveUp);
     ui_->cmdMoveDown->setEnabled(state.canMoveDown);
     ui_->mnuRepair->setEnabled(state.offersAlbumCommands);
+    ui_->mnuPassword->setEnabled(state.offersAlbumCommands);
     if (ui_->lstChapter->isVisible())
         ui_->lstChapter->setFocus();
 }
@@ -393,6 +393,13 @@ void frmOpenChapter::mnuRepair_Click()
     RefreshState();
 }
 
+void frmOpenChapter::mnuPassword_Click()
+{
+    AskForNewPassword();
+    AlbumOpen = AlbumDatabase != nullptr;
+    RefreshState();
+}
+
 void frmOpenChapter::mnuAbout_Click()
 {
     frmAbout(this).exec();
@@ -400,5 +407,5 @@ void frmOpenChapter::mnuAbout_Click()
 
 void frmOpenChapter::mnuPhotoAlbumHelp_Click()
 {
-    HelpWindow(HelpFile(), this).exec();
+    QApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
 }

@@ -50,6 +50,7 @@ private:
     void mnuAllPictures_Click();
     void mnuSelectedPictures_Click();
     void mnuRepair_Click();
+    void mnuPassword_Click();
     void mnuAbout_Click();
     void mnuPhotoAlbumHelp_Click();
 

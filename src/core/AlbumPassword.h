@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace GeneralModule {
+
+// Whether the open album is locked with a password.
+bool AlbumHasPassword();
+
+// Gives the open album that password, or takes it away when it is empty. The album is written anew,
+// checked, and then takes the place of the old file in one step; it stays open. Throws
+// DatabaseError when that fails; the album is then as it was.
+void SetAlbumPassword(const QString& password);
+
+} // namespace GeneralModule

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "core/OldAlbum.h"
+
+#include "core/OldAlbumConversion.h"
+#include "platform/dialogs/Dialogs.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+using namespace GeneralModule;
+
+QString Say(const char* text)
+{
+    return QCoreApplication::translate("OldAlbum", text);
+}
+
+// The password that fits, empty where there is none; nothing when the user gave up.
+std::optional<QString> AskPassword(const OldAlbumFile& old, const QString& path)
+{
+    QString password;
+    while (old.HasPassword() && !old.PasswordFits(password)) {
+        password = Dialogs::Door().AskText(
+            {.prompt = QStringLiteral("Please give the password for : ") + path,
+             .isPassword = true});
+        if (password.isEmpty())
+            return std::nullopt;
+    }
+    return password;
+}
+
+// "Holiday.alb" becomes "Holiday (new).alb", or the first "Holiday (new 2).alb" that is free.
+QString ProposedName(const QFileInfo& old)
+{
+    const QString base = old.completeBaseName();
+    QString name = Say("%1 (new).alb").arg(base);
+    for (int number = 2; QFileInfo::exists(old.absoluteDir().filePath(name)); ++number)
+        name = Say("%1 (new %2).alb").arg(base).arg(number);
+    return name;
+}
+
+QString AskTarget(const QString& path)
+{
+    const QFileInfo old(path);
+    const auto answer = Dialogs::Door().Ask(
+        {Say("'%1' is an album of the former file format. Shall a new album be made of it? The old "
+             "one stays as it is.")
+             .arg(QDir::toNativeSeparators(path)),
+         Dialogs::Icon::Question, Dialogs::Buttons::YesNo});
+    if (answer != Dialogs::Answer::Yes)
+        return {};
+    return Dialogs::Door().AskSaveFile({Say("Save the new Album"), QStringLiteral("Album|*.alb"),
+                                        QDir::toNativeSeparators(old.absolutePath()),
+                                        ProposedName(old)});
+}
+
+QString Compose(const OldAlbumReport& report, const QString& target)
+{
+    QStringList text{Say("The new album is '%1'.").arg(QDir::toNativeSeparators(target)),
+                     report.Summary()};
+    if (!report.IsWhole()) {
+        text += QString();
+        text += Say("Not everything is as it was:");
+        text += report.Problems();
+    }
+    const QStringList hint = report.FolderHint();
+    if (!hint.isEmpty()) {
+        text += QString();
+        text += hint;
+    }
+    return text.join(u'\n');
+}
+
+} // namespace
+
+namespace GeneralModule {
+
+std::optional<NewAlbum> OfferConversion(const QString& path)
+{
+    OldAlbumFile old(path);
+    const std::optional<QString> password = AskPassword(old, path);
+    if (!password)
+        return std::nullopt;
+    const QString target = AskTarget(path);
+    if (target.isEmpty())
+        return std::nullopt;
+    // The dialog has asked before it gave a name that is taken.
+    const OldAlbumReport report =
+        ConvertOldAlbum(old, {.target = target, .password = *password, .replaces = true});
+    return NewAlbum{target, *password, Compose(report, target), report.IsWhole()};
+}
+
+} // namespace GeneralModule

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/OldAlbumReport.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace GeneralModule {
+
+struct NewAlbum
+{
+    QString path;
+    QString password;
+    QString report; // for the user to read
+    bool isWhole;   // everything came over
+};
+
+// Offers to make a new album of one in the former file format: asks for its password where it has
+// one, whether to, and where to. Nothing when the user gave up. Throws DatabaseError.
+std::optional<NewAlbum> OfferConversion(const QString& path);
+
+} // namespace GeneralModule

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "core/OldAlbumConversion.h"
+
+#include "core/OldAlbumTable.h"
+#include "platform/data/EncryptedCopy.h"
+#include "platform/shell/ProgramFolder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
+namespace {
+
+using namespace GeneralModule;
+
+constexpr std::array tableNames{"Params", "Chapter", "Paragraph", "Image", "LinkedImages",
+                                "Car0",   "Car1",    "Car2",      "Car3",  "Car4",
+                                "Car5",   "Car9",    "Car10",     "Car11"};
+constexpr int checkMilliseconds = 100;
+
+QString Say(const char* text)
+{
+    return QCoreApplication::translate("OldAlbum", text);
+}
+
+[[noreturn]] void Refuse(const QString& description)
+{
+    throw DatabaseError(DatabaseError::CannotOpen, description);
+}
+
+void WriteTemplate(const QString& path)
+{
+    QFile source(ProgramFile(QStringLiteral("Album.tpl")));
+    if (!source.open(QIODevice::ReadOnly))
+        Refuse(Say("The template '%1' cannot be read: %2")
+                   .arg(source.fileName(), source.errorString()));
+    const QByteArray contents = source.readAll();
+    QFile target(path);
+    if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly) ||
+        target.write(contents) != contents.size() || !target.flush())
+        Refuse(Say("The album '%1' cannot be created: %2")
+                   .arg(QDir::toNativeSeparators(path), target.errorString()));
+}
+
+// An album with a password never lies on the disk without it, not even while it is made.
+void MakeEmptyAlbum(const QString& path, const QString& password)
+{
+    if (password.isEmpty())
+        return WriteTemplate(path);
+    const QString plain = path + QStringLiteral(".tpl");
+    WriteTemplate(plain);
+    CopyEncrypted(plain, path, password);
+    QFile::remove(plain);
+}
+
+const OldAlbumFile::Table* FindTable(const OldAlbumFile& old, const QString& name)
+{
+    const auto& tables = old.GetTables();
+    const auto found = std::find_if(tables.begin(), tables.end(), [&name](const auto& table) {
+        return table.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == tables.end() ? nullptr : &*found;
+}
+
+// Tells the order's owner that work goes on.
+class CheckedTable : public OldAlbumTable
+{
+public:
+    CheckedTable(std::shared_ptr<Database> database, const QString& table, OldAlbumReport& report,
+                 const std::function<void()>& check)
+        : OldAlbumTable(std::move(database), table, report), check_(check)
+    {
+        sinceCheck_.start();
+    }
+
+    void TakeRow(const std::vector<OldValue>& values) override
+    {
+        OldAlbumTable::TakeRow(values);
+        if (check_ && sinceCheck_.elapsed() >= checkMilliseconds) {
+            sinceCheck_.start();
+            check_();
+        }
+    }
+
+private:
+    const std::function<void()>& check_;
+    QElapsedTimer sinceCheck_;
+};
+
+void ReportOutcome(const QString& name, const OldAlbumFile::Outcome& outcome,
+                   OldAlbumReport& report)
+{
+    if (!outcome.hasFields) {
+        report.AddProblem(Say("Table %1 cannot be read.").arg(name));
+        return;
+    }
+    // Rows on pages that are not there any more, or not reached, can only be counted.
+    const qint64 missing = std::max(outcome.statedRows - outcome.rows, qint64(outcome.lostRows));
+    if (!outcome.isWhole)
+        report.AddProblem(Say("Table %1 is damaged and came over in part: %2 of %3 rows.")
+                              .arg(name)
+                              .arg(outcome.rows)
+                              .arg(std::max(outcome.statedRows, outcome.rows)));
+    else if (missing > 0)
+        report.AddProblem(Say("Table %1: %2 of %3 rows cannot be read.")
+                              .arg(name)
+                              .arg(missing)
+                              .arg(outcome.rows + missing));
+    if (outcome.isWhole && outcome.mapIsDamaged)
+        report.AddProblem(Say("Table %1: its list of pages is damaged; its rows were looked for in "
+                              "the whole file.")
+                              .arg(name));
+}
+
+void CopyTables(OldAlbumFile& old, const std::shared_ptr<Database>& database,
+                const ConversionOrder& order, OldAlbumReport& report)
+{
+    for (const char* table : tableNames) {
+        const QString name = QString::fromLatin1(table);
+        const OldAlbumFile::Table* source = FindTable(old, name);
+        if (!source) {
+            report.AddProblem(Say("Table %1 is missing.").arg(name));
+            continue;
+        }
+        if (order.check)
+            order.check();
+        CheckedTable target(database, name, report, order.check);
+        const OldAlbumFile::Outcome outcome = old.ReadTable(*source, target);
+        const qint64 rows = target.Finish();
+        ReportOutcome(name, outcome, report);
+        if (name == u"Chapter")
+            report.chapters = rows;
+        else if (name == u"Paragraph")
+            report.paragraphs = rows;
+        else if (name == u"Image")
+            report.pictures = rows;
+    }
+}
+
+void ReportOtherTables(const OldAlbumFile& old, OldAlbumReport& report)
+{
+    if (old.ListIsDamaged())
+        report.AddProblem(Say("The list of tables is damaged; some may be missing."));
+    for (const OldAlbumFile::Table& table : old.GetTables()) {
+        // The former engine's own, such as what is left of tables that were deleted.
+        if (table.name.startsWith(u'~') || table.name.startsWith(QLatin1String("MSys")))
+            continue;
+        const bool isKnown =
+            std::any_of(tableNames.begin(), tableNames.end(), [&table](const char* name) {
+                return table.name.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+            });
+        if (!isKnown)
+            report.AddProblem(
+                Say("Table %1 is no part of an album and was left out.").arg(table.name));
+    }
+}
+
+void RequireAlbum(const OldAlbumFile& old)
+{
+    for (const char* name : {"Chapter", "Paragraph", "Image"}) {
+        if (FindTable(old, QString::fromLatin1(name)))
+            return;
+    }
+    throw DatabaseError(DatabaseError::NotADatabase,
+                        Say("'%1' is a database of the former kind, but holds no album.")
+                            .arg(QDir::toNativeSeparators(old.GetPath())));
+}
+
+void RequireFreeTarget(const OldAlbumFile& old, const ConversionOrder& order)
+{
+    const QFileInfo target(order.target);
+    const QString shown = QDir::toNativeSeparators(order.target);
+    if (target.exists() &&
+        target.canonicalFilePath() == QFileInfo(old.GetPath()).canonicalFilePath())
+        Refuse(Say("'%1' is the old album itself, which is never written to.").arg(shown));
+    if (target.exists() && !target.isFile())
+        Refuse(Say("'%1' is not a file that can be replaced.").arg(shown));
+    if (target.exists() && !order.replaces)
+        Refuse(Say("'%1' exists already.").arg(shown));
+}
+
+void WriteThrough(const QString& path)
+{
+#ifdef Q_OS_UNIX
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite) || fsync(file.handle()) != 0)
+        throw DatabaseError(DatabaseError::DiskError,
+                            Say("The album '%1' cannot be written to the disk.")
+                                .arg(QDir::toNativeSeparators(path)));
+#else
+    Q_UNUSED(path);
+#endif
+}
+
+bool Rename(const QString& from, const QString& to, bool replaces)
+{
+    if (!replaces)
+        return QFile::rename(from, to); // refuses where a file is
+#ifdef Q_OS_UNIX
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+#else
+    QFile::remove(to);
+    return QFile::rename(from, to);
+#endif
+}
+
+void PutInPlace(const QString& made, const ConversionOrder& order)
+{
+    WriteThrough(made);
+    // A journal left by the file that is replaced would be played back into the new album.
+    for (const char* ending : {"-journal", "-wal", "-shm"})
+        QFile::remove(order.target + QLatin1String(ending));
+    if (!Rename(made, order.target, order.replaces))
+        Refuse(Say("The new album cannot take the name '%1'.")
+                   .arg(QDir::toNativeSeparators(order.target)));
+}
+
+OldAlbumReport Fill(const QString& path, OldAlbumFile& old, const ConversionOrder& order)
+{
+    OldAlbumReport report;
+    const std::shared_ptr<Database> database = Database::Open(path, order.password);
+    // Nothing of it is kept when the power goes: it has no name yet.
+    database->Execute("PRAGMA synchronous=OFF");
+    CopyTables(old, database, order, report);
+    ReportOtherTables(old, report);
+    report.keepsPassword = !order.password.isEmpty();
+    return report;
+}
+
+} // namespace
+
+namespace GeneralModule {
+
+OldAlbumReport ConvertOldAlbum(OldAlbumFile& old, const ConversionOrder& order)
+{
+    RequireAlbum(old);
+    RequireFreeTarget(old, order);
+    const QFileInfo target(order.target);
+    const QTemporaryDir workshop(target.absolutePath() + QStringLiteral("/.lumenark-XXXXXX"));
+    if (!workshop.isValid())
+        Refuse(Say("The folder '%1' cannot be written to: %2")
+                   .arg(QDir::toNativeSeparators(target.absolutePath()), workshop.errorString()));
+    const QString made = workshop.filePath(QStringLiteral("new.alb"));
+    MakeEmptyAlbum(made, order.password);
+    const OldAlbumReport report = Fill(made, old, order);
+    Database::Open(made, order.password); // throws when it does not open
+    PutInPlace(made, order);
+    return report;
+}
+
+} // namespace GeneralModule

@@ -1,0 +1,277 @@
+// SPDX-License-Identifier: MIT
+#include "core/OldAlbumTable.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr std::size_t mostSetAside = 1000; // rows; only damage makes any
+// A last number further than this above the highest identifier is taken for damage: believing it
+// could leave no identifiers for new rows.
+constexpr qint64 mostNumbersUnused = 10'000'000;
+
+QString Say(const char* text)
+{
+    return QCoreApplication::translate("OldAlbum", text);
+}
+
+bool IsValueTable(const QString& table)
+{
+    return table.startsWith(QLatin1String("Car"));
+}
+
+QString NameField(const QString& table)
+{
+    if (table == u"Params")
+        return QStringLiteral("Param");
+    if (table == u"Chapter" || IsValueTable(table))
+        return QStringLiteral("Name");
+    return {};
+}
+
+} // namespace
+
+namespace GeneralModule {
+
+OldAlbumTable::OldAlbumTable(std::shared_ptr<Database> database, const QString& table,
+                             OldAlbumReport& report)
+    : database_(std::move(database)),
+      table_(table),
+      report_(report),
+      layout_(database_->GetEngine(), table),
+      sources_(std::size_t(layout_.Count()), -1)
+{
+    const QString name = NameField(table_);
+    uniqueName_ = name.isEmpty() ? -1 : layout_.Find(name);
+    pictureFile_ = table_ == u"Image" ? layout_.Find(u"File") : -1;
+}
+
+void OldAlbumTable::BeginTable(const QStringList& fields, qint64 lastNumber)
+{
+    lastNumber_ = lastNumber;
+    for (qsizetype i = 0; i < fields.size(); ++i) {
+        const int field = layout_.Find(fields[i]);
+        if (field >= 0 && sources_[std::size_t(field)] < 0)
+            sources_[std::size_t(field)] = int(i);
+    }
+    ReportFields(fields);
+    batch_.emplace(database_);
+    database_->Execute("DELETE FROM " + QuotedName(layout_.GetTable()));
+    PrepareInsert();
+}
+
+void OldAlbumTable::ReportFields(const QStringList& fields)
+{
+    for (const QString& field : fields) {
+        if (layout_.Find(field) < 0)
+            report_.AddProblem(
+                Say("Table %1: the new album has no place for the field %2.").arg(table_, field));
+    }
+    for (int field = 0; field < layout_.Count(); ++field) {
+        if (sources_[std::size_t(field)] < 0)
+            report_.AddProblem(Say("Table %1: the field %2 is missing.")
+                                   .arg(table_, QString::fromUtf8(layout_.At(field).name)));
+    }
+}
+
+// Fields that the old table lacks get the new table's defaults. The identifier is always named, so
+// that there is a statement even where nothing else is.
+void OldAlbumTable::PrepareInsert()
+{
+    QByteArrayList names;
+    QByteArrayList parameters;
+    for (int field = 0; field < layout_.Count(); ++field) {
+        if (sources_[std::size_t(field)] < 0 && field != layout_.GetIdentity())
+            continue;
+        inserted_.push_back(field);
+        names += QuotedName(layout_.At(field).name);
+        parameters += '?' + QByteArray::number(qsizetype(inserted_.size()));
+    }
+    if (names.isEmpty())
+        return;
+    insert_ = Statement(database_->GetEngine(), "INSERT INTO " + QuotedName(layout_.GetTable()) +
+                                                    " (" + names.join(',') + ") VALUES (" +
+                                                    parameters.join(',') + ')');
+}
+
+FieldValue OldAlbumTable::Convert(int field, const OldValue& value)
+{
+    if (layout_.At(field).isNumber)
+        return ToNumber(field, value);
+    if (value.state == OldValue::State::Null || value.state == OldValue::State::Unreadable)
+        return {};
+    return QString::fromUtf8(value.utf8);
+}
+
+// A link without a value leads nowhere, which is what 0 says.
+FieldValue OldAlbumTable::ToNumber(int field, const OldValue& value)
+{
+    bool isNumber = false;
+    const qint64 number = value.utf8.toByteArray().toLongLong(&isNumber);
+    const bool fits = isNumber && number >= std::numeric_limits<qint32>::min() &&
+                      number <= std::numeric_limits<qint32>::max();
+    if (fits)
+        return number;
+    return layout_.At(field).isIdentity ? FieldValue() : FieldValue(qint64(0));
+}
+
+// What a person can find the row by.
+QString OldAlbumTable::NameOfRow(const std::vector<OldValue>& values) const
+{
+    for (const char16_t* field : {u"Id", u"File", u"Param", u"Name", u"ParagraphId"}) {
+        const int number = layout_.Find(field);
+        const int source = number < 0 ? -1 : sources_[std::size_t(number)];
+        if (source < 0)
+            continue;
+        const QByteArrayView text = values[std::size_t(source)].utf8;
+        if (!text.isEmpty())
+            return QStringLiteral("%1 %2").arg(table_, QString::fromUtf8(text));
+    }
+    return Say("%1, row %2").arg(table_).arg(rows_);
+}
+
+void OldAlbumTable::ReportValues(const std::vector<OldValue>& values)
+{
+    for (const int field : inserted_) {
+        const int source = sources_[std::size_t(field)];
+        const auto state = source < 0 ? OldValue::State::Whole : values[std::size_t(source)].state;
+        if (state != OldValue::State::Cut && state != OldValue::State::Unreadable)
+            continue;
+        const char* text = state == OldValue::State::Cut
+                               ? "%1: the end of the field %2 cannot be read."
+                               : "%1: the field %2 cannot be read.";
+        report_.AddProblem(
+            Say(text).arg(NameOfRow(values), QString::fromUtf8(layout_.At(field).name)));
+    }
+}
+
+void OldAlbumTable::TakeRow(const std::vector<OldValue>& values)
+{
+    ++rows_;
+    ReportValues(values);
+    if (!insert_.IsPrepared())
+        return;
+    Row row;
+    for (const int field : inserted_) {
+        const int source = sources_[std::size_t(field)];
+        row.push_back(Convert(field, source < 0 ? OldValue() : values[std::size_t(source)]));
+        if (field == pictureFile_ && std::holds_alternative<QString>(row.back()))
+            report_.AddPicturePath(std::get<QString>(row.back()));
+    }
+    Insert(row);
+    batch_->RowDone();
+}
+
+bool OldAlbumTable::TryInsert(const Row& row)
+{
+    for (std::size_t i = 0; i < row.size(); ++i)
+        insert_.Bind(int(i) + 1, row[i]);
+    try {
+        insert_.Run();
+        return true;
+    } catch (const DatabaseError& error) {
+        if (error.GetNumber() != DatabaseError::DuplicateKey)
+            throw;
+        return false;
+    }
+}
+
+bool OldAlbumTable::IdentifierIsTaken(const FieldValue& identifier)
+{
+    if (!find_.IsPrepared())
+        find_ = Statement(database_->GetEngine(),
+                          "SELECT 1 FROM " + QuotedName(layout_.GetTable()) + " WHERE rowid=?1");
+    find_.Bind(1, identifier);
+    const bool isTaken = find_.Step();
+    find_.Reset();
+    return isTaken;
+}
+
+void OldAlbumTable::Insert(const Row& row)
+{
+    const auto identity = std::find(inserted_.begin(), inserted_.end(), layout_.GetIdentity());
+    if (identity != inserted_.end()) {
+        const FieldValue& value = row[std::size_t(identity - inserted_.begin())];
+        const auto* number = std::get_if<qint64>(&value);
+        if (!number || IdentifierIsTaken(value)) {
+            if (setAside_.size() < mostSetAside)
+                setAside_.push_back(row);
+            else
+                report_.AddProblem(
+                    Say("%1, row %2: left out, it has no identifier.").arg(table_).arg(rows_));
+            return;
+        }
+        highest_ = std::max(highest_, *number);
+    }
+    if (!TryInsert(row))
+        InsertUnderAnotherName(row);
+}
+
+void OldAlbumTable::InsertUnderAnotherName(Row row)
+{
+    const auto place = std::find(inserted_.begin(), inserted_.end(), uniqueName_);
+    if (place == inserted_.end()) {
+        report_.AddProblem(Say("%1, row %2: the new album refuses it.").arg(table_).arg(rows_));
+        return;
+    }
+    FieldValue& value = row[std::size_t(place - inserted_.begin())];
+    const QString name = std::get<QString>(value);
+    if (IsValueTable(table_)) {
+        report_.AddProblem(
+            Say("Table %1: the value '%2' is there twice and came over once.").arg(table_, name));
+        return;
+    }
+    do {
+        value = QStringLiteral("%1 (%2)").arg(name).arg(++suffix_);
+    } while (!TryInsert(row));
+    report_.AddProblem(Say("Table %1: the name '%2' is there twice; the second became '%3'.")
+                           .arg(table_, name, std::get<QString>(value)));
+}
+
+// Rows without an identifier of their own come last, when all others are known.
+void OldAlbumTable::InsertSetAside()
+{
+    const auto place = std::find(inserted_.begin(), inserted_.end(), layout_.GetIdentity());
+    for (Row& row : setAside_) {
+        row[std::size_t(place - inserted_.begin())] = ++highest_;
+        if (!TryInsert(row))
+            InsertUnderAnotherName(row);
+        report_.AddProblem(Say("Table %1: a row without an identifier of its own became number %2.")
+                               .arg(table_)
+                               .arg(highest_));
+    }
+}
+
+// The next new row gets an identifier that no row of the old album ever had, so far as it tells.
+void OldAlbumTable::SetLastNumber()
+{
+    Statement remove(database_->GetEngine(), "DELETE FROM sqlite_sequence WHERE name=?1");
+    remove.Bind(1, table_);
+    remove.Run();
+    Statement add(database_->GetEngine(), "INSERT INTO sqlite_sequence (name,seq) VALUES (?1,?2)");
+    add.Bind(1, table_);
+    add.Bind(2, highest_);
+    add.Run();
+}
+
+qint64 OldAlbumTable::Finish()
+{
+    if (batch_) {
+        if (layout_.GetIdentity() >= 0) {
+            if (lastNumber_ <= highest_ + mostNumbersUnused)
+                highest_ = std::max(highest_, lastNumber_);
+            InsertSetAside();
+            SetLastNumber();
+        }
+        batch_->Finish();
+        batch_.reset();
+    }
+    Statement count(database_->GetEngine(),
+                    "SELECT count(*) FROM " + QuotedName(layout_.GetTable()));
+    return count.Step() ? count.GetInteger(0) : 0;
+}
+
+} // namespace GeneralModule

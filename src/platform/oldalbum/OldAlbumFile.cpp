@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: MIT
+#include "platform/oldalbum/OldAlbumFile.h"
+
+#include "platform/data/DatabaseError.h"
+#include "platform/oldalbum/ReaderProcess.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+// Of one file altogether: milliseconds that failing readers may keep silent, and how often one is
+// started again. A sound file needs neither.
+constexpr int patienceOfFile = 8000;
+constexpr int mostRestarts = 40;
+
+// A sound table's rows are at most twice as long here as in the file, where texts may be packed,
+// with some bytes for each value. Rows that all claim the same piece of the file can be far more.
+constexpr qint64 volumeFactor = 8;
+constexpr qint64 volumeBase = 4 * 1024 * 1024;
+
+constexpr qsizetype mostTables = 10000;
+
+QString Say(const char* text)
+{
+    return QCoreApplication::translate("DatabaseError", text);
+}
+
+OldValue TakeValue(FrameContents& contents)
+{
+    using namespace OldAlbumStream;
+    const quint32 size = contents.Number();
+    if (size == nullValue)
+        return {OldValue::State::Null, {}};
+    if (size == unreadableValue)
+        return {OldValue::State::Unreadable, {}};
+    return {size & cutMark ? OldValue::State::Cut : OldValue::State::Whole,
+            contents.Bytes(size & ~cutMark)};
+}
+
+} // namespace
+
+// How far the reading of a table has come, over all runs of the reader.
+struct OldAlbumFile::Progress
+{
+    Outcome outcome;
+    qsizetype fields = 0;
+    quint32 nextPage = 0;
+    quint32 nextRow = 0;
+    bool isTrying = false; // the next row was announced and did not come yet
+    bool careful = false;
+    bool isRest = false; // rows on pages that the table's map leaves out
+    qint64 volume = 0;
+    std::vector<OldValue> values;
+
+    void MoveBehind(quint32 page, quint32 row)
+    {
+        nextPage = page;
+        nextRow = row + 1;
+        isTrying = false;
+    }
+};
+
+OldAlbumFile::OldAlbumFile(const QString& path)
+    : path_(QFileInfo(path).absoluteFilePath()),
+      size_(QFileInfo(path).size()),
+      patience_(patienceOfFile)
+{
+    if (ReadList(false))
+        return;
+    listIsDamaged_ = true;
+    tables_.clear();
+    if (!ReadList(true) && tables_.empty())
+        throw DatabaseError(DatabaseError::Damaged,
+                            Say("The album '%1' cannot be read: its list of tables is damaged.")
+                                .arg(QDir::toNativeSeparators(path)));
+}
+
+// False when the list broke off.
+bool OldAlbumFile::ReadList(bool wholeFile)
+{
+    QStringList arguments{QStringLiteral("tables"), path_};
+    if (wholeFile)
+        arguments += QStringLiteral("file");
+    ReaderProcess reader(arguments);
+    while (const auto frame = reader.Next(patience_)) {
+        FrameContents contents(frame->contents);
+        if (frame->kind == OldAlbumStream::Header)
+            hasPassword_ = contents.Number() != 0;
+        else if (frame->kind == OldAlbumStream::Table && tables_.size() < mostTables) {
+            const quint32 page = contents.Number();
+            tables_.push_back({page, contents.Text()});
+        } else if (frame->kind == OldAlbumStream::End) {
+            return true;
+        }
+    }
+    if (reader.Finish() == OldAlbumStream::NotReadable)
+        throw DatabaseError(
+            DatabaseError::NotADatabase,
+            Say("'%1' looks like an album of the former file format, but is damaged or was written "
+                "by a version that is not known.")
+                .arg(QDir::toNativeSeparators(path_)));
+    return false;
+}
+
+bool OldAlbumFile::PasswordFits(const QString& password) const
+{
+    ReaderProcess reader({QStringLiteral("password"), path_});
+    return reader.Finish(password.toUtf8()) == OldAlbumStream::Done;
+}
+
+OldAlbumFile::Outcome OldAlbumFile::ReadTable(const Table& table, OldTableVisitor& visitor)
+{
+    Progress progress;
+    Outcome& outcome = progress.outcome;
+    outcome.isWhole = ReadToEnd(table, progress, visitor);
+    const qint64 rows = outcome.rows;
+    if (!outcome.isWhole || outcome.mapIsDamaged || rows + outcome.lostRows >= outcome.statedRows)
+        return outcome;
+    // Some rows did not come: perhaps the map lacks their pages.
+    progress.isRest = true;
+    progress.nextPage = progress.nextRow = 0;
+    ReadToEnd(table, progress, visitor);
+    outcome.mapIsDamaged = outcome.rows > rows;
+    return outcome;
+}
+
+bool OldAlbumFile::ReadToEnd(const Table& table, Progress& progress, OldTableVisitor& visitor)
+{
+    while (!RunReader(table, progress, visitor)) {
+        if (!PlanNextRun(progress))
+            return false;
+    }
+    return true;
+}
+
+// False when the reader broke off.
+bool OldAlbumFile::RunReader(const Table& table, Progress& progress, OldTableVisitor& visitor)
+{
+    QStringList arguments{QStringLiteral("rows"), path_, QString::number(table.page),
+                          QString::number(progress.nextPage), QString::number(progress.nextRow)};
+    if (progress.careful)
+        arguments += QStringLiteral("careful");
+    if (progress.outcome.mapIsDamaged)
+        arguments += QStringLiteral("file");
+    if (progress.isRest)
+        arguments += QStringLiteral("rest");
+    ReaderProcess reader(arguments);
+    const qint64 earlier = progress.volume;
+    while (const auto frame = reader.Next(patience_)) {
+        progress.volume = earlier + reader.GetVolume();
+        if (progress.volume > volumeBase + volumeFactor * size_) {
+            restarts_ = mostRestarts;
+            return false;
+        }
+        if (TakeFrame(frame->kind, frame->contents, progress, visitor))
+            return true;
+    }
+    if (reader.Finish() == OldAlbumStream::TableUnreadable)
+        progress.outcome.mapIsDamaged = progress.careful = true; // nothing else is worth a try
+    return false;
+}
+
+// True at the end of the table.
+bool OldAlbumFile::TakeFrame(OldAlbumStream::Frame kind, QByteArrayView bytes, Progress& progress,
+                             OldTableVisitor& visitor)
+{
+    FrameContents contents(bytes);
+    if (kind == OldAlbumStream::End)
+        return true;
+    if (kind == OldAlbumStream::Columns) {
+        const qint64 rows = contents.Number();
+        const qint64 lastNumber = contents.Number();
+        if (progress.outcome.hasFields)
+            return false;
+        QStringList fields;
+        while (!contents.IsAtEnd())
+            fields += contents.Text();
+        progress.outcome.hasFields = true;
+        progress.outcome.statedRows = rows;
+        progress.fields = fields.size();
+        visitor.BeginTable(fields, lastNumber);
+        return false;
+    }
+    const quint32 page = contents.Number();
+    if (kind == OldAlbumStream::Page) {
+        if (page != progress.nextPage)
+            progress.nextRow = 0;
+        progress.nextPage = page;
+        return false;
+    }
+    const quint32 row = contents.Number();
+    if (kind == OldAlbumStream::Attempt) {
+        progress.nextPage = page;
+        progress.nextRow = row;
+        progress.isTrying = true;
+        return false;
+    }
+    // A page that the map leaves out may be one that was given up: no more than the stated rows.
+    const bool isSurplus = progress.isRest && progress.outcome.rows >= progress.outcome.statedRows;
+    if (kind == OldAlbumStream::Row && progress.outcome.hasFields && !isSurplus) {
+        progress.values.clear();
+        while (qsizetype(progress.values.size()) < progress.fields)
+            progress.values.push_back(TakeValue(contents));
+        ++progress.outcome.rows;
+        visitor.TakeRow(progress.values);
+    } else if (kind == OldAlbumStream::LostRow && !isSurplus) {
+        ++progress.outcome.lostRows;
+    }
+    progress.MoveBehind(page, row);
+    return false;
+}
+
+// A reader that broke off is first started again from the last row that came, announcing each row
+// that it tries; then behind the row that it broke off at; then, where it broke off between rows,
+// without the table's map. False when nothing is left to try.
+bool OldAlbumFile::PlanNextRun(Progress& progress)
+{
+    if (patience_ <= 0 || restarts_ >= mostRestarts)
+        return false;
+    ++restarts_;
+    if (!progress.careful) {
+        progress.careful = true;
+    } else if (progress.isTrying) {
+        ++progress.outcome.lostRows;
+        progress.MoveBehind(progress.nextPage, progress.nextRow);
+    } else if (!progress.outcome.mapIsDamaged && !progress.isRest) {
+        progress.outcome.mapIsDamaged = true;
+    } else {
+        return false;
+    }
+    return true;
+}

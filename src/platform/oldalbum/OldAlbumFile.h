@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/oldalbum/OldAlbumStream.h"
+
+#include <QByteArrayView>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+class ReaderProcess;
+
+// A field's value in a former album.
+struct OldValue
+{
+    enum class State { Null, Whole, Cut, Unreadable };
+
+    State state = State::Null;
+    QByteArrayView utf8; // valid until the next row
+};
+
+// Takes the rows of a table as they are read.
+class OldTableVisitor
+{
+public:
+    virtual ~OldTableVisitor() = default;
+    // Once, before all rows. lastNumber is the last one that was given to a row of the table by
+    // the engine of then, 0 when none was.
+    virtual void BeginTable(const QStringList& fields, qint64 lastNumber) = 0;
+    virtual void TakeRow(const std::vector<OldValue>& values) = 0;
+};
+
+// An album in the former file format. Nothing of it is read in this process: the reader that is
+// started for each table may crash or hang on a damaged file, is started again behind the place
+// where that happened, and is given up when it fails too often. The file is never written.
+class OldAlbumFile
+{
+public:
+    struct Table
+    {
+        quint32 page;
+        QString name;
+    };
+
+    // What became of a table.
+    struct Outcome
+    {
+        bool isWhole = false;      // read to its end
+        bool hasFields = false;    // BeginTable was called
+        bool mapIsDamaged = false; // rows were looked for in the whole file
+        qint64 statedRows = 0;     // 0 also where the file was not closed properly
+        qint64 rows = 0;
+        qint64 lostRows = 0;
+    };
+
+    // Reads the list of tables. Throws DatabaseError: NotADatabase for a version that is not read
+    // or a damaged first page, Damaged, CannotOpen.
+    explicit OldAlbumFile(const QString& path);
+
+    const QString& GetPath() const { return path_; }
+    bool HasPassword() const { return hasPassword_; }
+    bool PasswordFits(const QString& password) const;
+    // The list itself was damaged, so that tables may be missing in it.
+    bool ListIsDamaged() const { return listIsDamaged_; }
+    const std::vector<Table>& GetTables() const { return tables_; }
+
+    // What the visitor throws passes through.
+    Outcome ReadTable(const Table& table, OldTableVisitor& visitor);
+
+private:
+    struct Progress;
+
+    bool ReadList(bool wholeFile);
+    bool ReadToEnd(const Table& table, Progress& progress, OldTableVisitor& visitor);
+    bool RunReader(const Table& table, Progress& progress, OldTableVisitor& visitor);
+    bool TakeFrame(OldAlbumStream::Frame kind, QByteArrayView contents, Progress& progress,
+                   OldTableVisitor& visitor);
+    bool PlanNextRun(Progress& progress);
+
+    QString path_;
+    qint64 size_;
+    bool hasPassword_ = false;
+    bool listIsDamaged_ = false;
+    std::vector<Table> tables_;
+    int patience_;
+    int restarts_ = 0;
+};

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "platform/oldalbum/ReaderProcess.h"
+
+#include "platform/data/DatabaseError.h"
+#include "platform/shell/ProgramFolder.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int finishMilliseconds = 5000; // for a reader that has nothing left to do
+constexpr quint32 largestFrame = OldAlbumStream::largestRow + 64 * 1024;
+
+QString ReaderPath()
+{
+#ifdef Q_OS_WIN
+    return ProgramFile(QStringLiteral("lumenark-import.exe"));
+#else
+    return ProgramFile(QStringLiteral("lumenark-import"));
+#endif
+}
+
+} // namespace
+
+ReaderProcess::ReaderProcess(const QStringList& arguments)
+{
+    process_.setStandardErrorFile(QProcess::nullDevice());
+    process_.start(ReaderPath(), arguments);
+    if (!process_.waitForStarted())
+        throw DatabaseError(
+            DatabaseError::CannotOpen,
+            QCoreApplication::translate("DatabaseError",
+                                        "The part of the program that reads former albums cannot "
+                                        "be started: %1: %2")
+                .arg(ReaderPath(), process_.errorString()));
+}
+
+ReaderProcess::~ReaderProcess()
+{
+    if (process_.state() == QProcess::NotRunning)
+        return;
+    process_.kill();
+    process_.waitForFinished(finishMilliseconds);
+}
+
+bool ReaderProcess::FetchMore(int& patience)
+{
+    if (used_ > 0) {
+        buffer_.remove(0, used_);
+        used_ = 0;
+    }
+    QElapsedTimer silence;
+    silence.start();
+    if (process_.bytesAvailable() == 0 && !process_.waitForReadyRead(patience)) {
+        if (process_.state() != QProcess::NotRunning) {
+            process_.kill();
+            process_.waitForFinished(finishMilliseconds);
+            patience = 0;
+            return false;
+        }
+        if (process_.exitStatus() == QProcess::CrashExit)
+            patience = std::max(0, patience - int(silence.elapsed()));
+    }
+    const QByteArray more = process_.readAllStandardOutput();
+    volume_ += more.size();
+    buffer_ += more;
+    return !more.isEmpty();
+}
+
+std::optional<ReaderProcess::Frame> ReaderProcess::Next(int& patience)
+{
+    while (true) {
+        const qsizetype have = buffer_.size() - used_;
+        if (have >= qsizetype(OldAlbumStream::frameHead)) {
+            const char* head = buffer_.constData() + used_;
+            const auto size = qFromLittleEndian<quint32>(head + 1);
+            if (size > largestFrame)
+                return std::nullopt;
+            if (have >= qsizetype(OldAlbumStream::frameHead + size)) {
+                used_ += qsizetype(OldAlbumStream::frameHead + size);
+                return Frame{OldAlbumStream::Frame(static_cast<unsigned char>(*head)),
+                             {head + OldAlbumStream::frameHead, qsizetype(size)}};
+            }
+        }
+        if (!FetchMore(patience))
+            return std::nullopt;
+    }
+}
+
+int ReaderProcess::Finish(const QByteArray& input)
+{
+    process_.write(input);
+    process_.closeWriteChannel();
+    if (!process_.waitForFinished(finishMilliseconds))
+        return -1;
+    return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
+}
+
+quint32 FrameContents::Number()
+{
+    const QByteArrayView bytes = Bytes(4);
+    return bytes.size() == 4 ? qFromLittleEndian<quint32>(bytes.data()) : 0;
+}
+
+QByteArrayView FrameContents::Bytes(quint32 size)
+{
+    const qsizetype taken = std::min(qsizetype(size), left_.size());
+    const QByteArrayView bytes = left_.first(taken);
+    left_ = left_.sliced(taken);
+    return bytes;
+}

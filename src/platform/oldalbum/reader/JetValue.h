@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "JetFile.h"
+
+#include <string>
+
+// The value of one field, as text.
+struct JetValue
+{
+    enum class State {
+        Null,
+        Whole,
+        Cut,        // the end of a long text is lost
+        Unreadable, // damaged, too long, or of a kind that has no text
+    };
+
+    State state = State::Null;
+    std::string text;
+};
+
+// Reads a field of the row that lies at rowStart in the file's current page. No value is longer
+// than mostBytes, and no chain of pieces is followed further than the value's own size says.
+JetValue ReadValue(const JetFile& file, const MdbColumn& column, const MdbField& field,
+                   int rowStart, int rowSize, std::size_t mostBytes);

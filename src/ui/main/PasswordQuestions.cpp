@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main/PasswordQuestions.h"
+
+#include "core/AlbumPassword.h"
+#include "platform/dialogs/Dialogs.h"
+
+#include <QCoreApplication>
+
+using namespace GeneralModule;
+
+namespace {
+
+QString Say(const char* text)
+{
+    return QCoreApplication::translate("AlbumPassword", text);
+}
+
+// Empty when the user gave up.
+QString AskTwice()
+{
+    while (true) {
+        const QString first = Dialogs::Door().AskText(
+            {.prompt = Say("Please enter the new password"), .isPassword = true});
+        if (first.isEmpty())
+            return {};
+        const QString second = Dialogs::Door().AskText(
+            {.prompt = Say("Please enter the new password once more"), .isPassword = true});
+        if (second == first)
+            return first;
+        if (second.isEmpty())
+            return {};
+        Tell(Say("The two passwords differ"), Dialogs::Icon::Warning);
+    }
+}
+
+} // namespace
+
+void AskForNewPassword()
+{
+    using Answer = Dialogs::Answer;
+    Answer answer = Answer::No;
+    if (AlbumHasPassword())
+        answer = Dialogs::Door().Ask({Say("This album has a password. Do you want to remove it ?\n"
+                                          "Choose No to change it."),
+                                      Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
+                                      Answer::Cancel});
+    if (answer == Answer::Cancel)
+        return;
+    const QString password = answer == Answer::Yes ? QString() : AskTwice();
+    if (password.isEmpty() && answer != Answer::Yes)
+        return;
+    SetAlbumPassword(password);
+    Tell(password.isEmpty() ? Say("The album has no password any more.")
+                            : Say("The album has its new password. Without it nobody can open the "
+                                  "album, so keep it well."));
+}

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+// Rows after moving paragraphs within a chapter and across its ends.
+#include "core/Parameters.h"
+#include "story/ParagraphMoves.h"
+#include "support/AlbumFixture.h"
+
+#include <QtTest>
+
+namespace {
+
+// Three chapters: 1 with paragraphs 1 2 3, 2 with 4, 3 with none.
+class Story : public AlbumFixture
+{
+public:
+    Story()
+    {
+        for (const char* name : {"One", "Two", "Three"})
+            AddChapter(name);
+        for (const char* text : {"a", "b", "c"})
+            AddParagraph(1, text);
+        AddParagraph(2, "d");
+    }
+
+    // Both directions of every chapter: "1: 1 2 3 | 3 2 1".
+    QStringList Chains() const
+    {
+        QStringList chains;
+        for (const QString& row : Rows("SELECT Id,FirstParagraph FROM Chapter ORDER BY Id")) {
+            const QString chapter = row.section(u'|', 0, 0);
+            QStringList forward;
+            QStringList owners; // other than this chapter
+            for (QString id = row.section(u'|', 1, 1); id != "0"; id = Field(id, "NextParagraph")) {
+                forward += id;
+                owners += Field(id, "Chapter");
+            }
+            owners.removeAll(chapter);
+            QStringList backward;
+            for (QString id = forward.isEmpty() ? "0" : forward.last(); id != "0";
+                 id = Field(id, "PreviousParagraph"))
+                backward += id;
+            chains += chapter + ": " + forward.join(u' ') + " | " + backward.join(u' ') +
+                      owners.join(u'?');
+        }
+        return chains;
+    }
+
+private:
+    QString Field(const QString& id, const QString& field) const
+    {
+        return Rows("SELECT " + field + " FROM Paragraph WHERE Id=" + id).value(0, "0");
+    }
+};
+
+} // namespace
+
+class TestParagraphMoves : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void Moves_data()
+    {
+        QTest::addColumn<int>("chapter");
+        QTest::addColumn<int>("paragraph");
+        QTest::addColumn<bool>("down");
+        QTest::addColumn<int>("chapterAfter"); // 0: nothing moves
+        QTest::addColumn<QStringList>("chains");
+        const QString two = "2: 4 | 4";
+        const QString three = "3:  | ";
+        QTest::newRow("first down")
+            << 1 << 1 << true << 1 << QStringList{"1: 2 1 3 | 3 1 2", two, three};
+        QTest::newRow("middle down")
+            << 1 << 2 << true << 1 << QStringList{"1: 1 3 2 | 2 3 1", two, three};
+        QTest::newRow("last down")
+            << 1 << 3 << true << 2 << QStringList{"1: 1 2 | 2 1", "2: 3 4 | 4 3", three};
+        QTest::newRow("only one down, into an empty chapter")
+            << 2 << 4 << true << 3 << QStringList{"1: 1 2 3 | 3 2 1", "2:  | ", "3: 4 | 4"};
+        QTest::newRow("second up")
+            << 1 << 2 << false << 1 << QStringList{"1: 2 1 3 | 3 1 2", two, three};
+        QTest::newRow("last up") << 1 << 3 << false << 1
+                                 << QStringList{"1: 1 3 2 | 2 3 1", two, three};
+        QTest::newRow("only one up")
+            << 2 << 4 << false << 1 << QStringList{"1: 1 2 3 4 | 4 3 2 1", "2:  | ", three};
+        QTest::newRow("first of the first chapter up")
+            << 1 << 1 << false << 0 << QStringList{"1: 1 2 3 | 3 2 1", two, three};
+    }
+
+    void Moves()
+    {
+        QFETCH(int, chapter);
+        QFETCH(int, paragraph);
+        QFETCH(bool, down);
+        QFETCH(int, chapterAfter);
+        QFETCH(QStringList, chains);
+        Story story;
+        ParagraphPlace place{chapter, paragraph};
+        QCOMPARE(down ? MoveParagraphDown(place) : MoveParagraphUp(place), chapterAfter > 0);
+        QCOMPARE(place, (ParagraphPlace{chapterAfter > 0 ? chapterAfter : chapter, paragraph}));
+        QCOMPARE(story.Chains(), chains);
+    }
+
+    void ThereAndBackThroughAllChapters()
+    {
+        Story story;
+        const QStringList before = story.Chains();
+        ParagraphPlace place{1, 3};
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(MoveParagraphDown(place));
+        QCOMPARE(story.Chains(), QStringList({"1: 1 2 | 2 1", "2: 4 | 4", "3: 3 | 3"}));
+        QVERIFY(!MoveParagraphDown(place)); // the last of the last chapter
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(MoveParagraphUp(place));
+        QCOMPARE(place, (ParagraphPlace{1, 3}));
+        QCOMPARE(story.Chains(), before);
+    }
+
+    void BrokenLinks()
+    {
+        Story story;
+        // A cycle in the chapter before, and a next chapter whose head is gone.
+        story.Execute("UPDATE Paragraph SET NextParagraph=1 WHERE Id=3");
+        story.Execute("UPDATE Chapter SET FirstParagraph=88 WHERE Id=3");
+        ParagraphPlace place{2, 4};
+        QVERIFY(MoveParagraphUp(place));
+        QCOMPARE(story.Chains().first(), QString("1: 1 2 3 4 | 4 3 2 1"));
+        place = {1, 4};
+        QVERIFY(MoveParagraphDown(place));
+        QVERIFY(MoveParagraphDown(place));
+        QCOMPARE(story.Chains().last(), QString("3: 4 | 4"));
+    }
+
+    void Lines()
+    {
+        Story story;
+        GeneralModule::SetColumnLabel(3, "Who");
+        GeneralModule::SetCaractLabel(2, "Other");
+        story.Execute("UPDATE Paragraph SET Text='' WHERE Id=1");
+        story.Execute("UPDATE Paragraph SET Text='x <[6]>' || char(10) || 'y' WHERE Id=2");
+        QStringList lines;
+        for (const ParagraphLine& line : ListParagraphs(1))
+            lines += QString::number(line.paragraph) + ' ' + line.text;
+        QCOMPARE(lines, QStringList({"1 <<Empty Paragraph>>", "2 x <<Who (Other)>> y", "3 c"}));
+        QVERIFY(ListParagraphs(3).empty());
+        QCOMPARE(NextChapterOf(1), 2);
+        QCOMPARE(PreviousChapterOf(1), 0);
+        QCOMPARE(ChapterNameOf(3), QString("Three"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestParagraphMoves)
+#include "test_paragraph_moves.moc"
