@@ -2,6 +2,8 @@
 #include "platform/shell/StayAwake.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDBusServer>
 #include <QtTest>
 
@@ -119,7 +121,12 @@ void TestStayAwake::LetsGoAtTheEnd()
 void TestStayAwake::DesktopsThatDoNotKnowIt()
 {
     StayAwake awake(line_);
-    awake.Set(true); // refused
+    awake.Set(true);
+    // Answers come in the order of the calls: behind this one's the refusal is known.
+    const QDBusPendingCallWatcher round(QDBusConnection(line_).asyncCall(
+        QDBusMessage::createMethodCall({}, "/", "org.freedesktop.DBus.Peer", "Ping")));
+    QSignalSpy answered(&round, &QDBusPendingCallWatcher::finished);
+    QTRY_COMPARE(answered.count(), 1);
     awake.Set(false);
     OfferDesktop();
     awake.Set(true);
