@@ -259,13 +259,15 @@ void TestOldAlbum::FindsPagesThatTheMapLacks()
     }
     const auto place = qFromLittleEndian<quint32>(contents.constData() + table * 4096 + 55);
     const qsizetype page = qsizetype(place >> 8) * 4096;
-    const auto row =
-        qFromLittleEndian<quint16>(contents.constData() + page + 14 + (place & 0xFF) * 2);
-    QCOMPARE(contents[page + row], '\0'); // a map of bits, behind the number of its first page
+    const auto offset = [&contents, page](quint32 row) {
+        return qFromLittleEndian<quint16>(contents.constData() + page + 14 + row * 2) & 0x1FFF;
+    };
+    const quint32 row = place & 0xFF;
+    const int end = row == 0 ? 4096 : offset(row - 1); // rows lie from the page's end to its head
     int lost = 0;
-    for (int byte = 5; byte < 69; ++byte) {
-        lost += contents[page + row + byte] != 0;
-        contents[page + row + byte] = 0;
+    for (int at = offset(row) + 1; at < end; ++at) { // behind the kind of map
+        lost += contents[page + at] != 0;
+        contents[page + at] = 0;
     }
     QVERIFY(lost > 0);
     CopyTo(world, "old.alb", contents);
