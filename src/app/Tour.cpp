@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Tour.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPixmap>
@@ -19,6 +20,8 @@ Tour::Tour(const QString& folder, QWidget* mainWindow)
     : QObject(mainWindow), folder_(folder), mainWindow_(mainWindow)
 {
     PlanReading();
+    PlanWriting();
+    PlanOtherWindows();
     QTimer::singleShot(stepPause, this, &Tour::Continue);
 }
 
@@ -48,6 +51,52 @@ void Tour::PlanReading()
     Shoot("viewer-empty-chapter");
     Press(Qt::Key_Escape);
     Await("frmOpenChapter");
+}
+
+void Tour::PlanWriting()
+{
+    Click("cmdReadChapter");
+    Await("frmReelvane");
+    Press(Qt::Key_Right);
+    Click("cmdEditParagraph");
+    Await("frmEditParagraph");
+    Resize(1280, 860);
+    Shoot("paragraph-editor");
+    Click("cmdPreview");
+    Shoot("paragraph-preview");
+    Click("cmdOrganize");
+    Await("frmOrganizeParagraphs");
+    Shoot("paragraph-organiser");
+    Click("cmdExit");
+    Await("frmEditParagraph");
+    Click("cmdExit");
+    Await("frmReelvane");
+    Press(Qt::Key_Escape);
+    Await("frmOpenChapter");
+}
+
+void Tour::PlanOtherWindows()
+{
+    struct Window
+    {
+        const char* entry;
+        const char* window;
+        const char* picture;
+    };
+    for (const Window& window : {
+             Window{"mnuLoadPictures", "frmLoadFiles", "loading"},
+             Window{"mnuReloadPictures", "frmReloadPictures", "moved-pictures"},
+             Window{"mnuSelectedPictures", "frmSelectImages", "browsing"},
+             Window{"mnuRepair", "frmRepairAlbum", "repair"},
+             Window{"mnuAbout", "frmAbout", "about"},
+             Window{"mnuPhotoAlbumHelp", "frmHelp", "help"},
+         }) {
+        Choose(window.entry);
+        Await(window.window);
+        Shoot(window.picture);
+        Press(Qt::Key_Escape);
+        Await("frmOpenChapter");
+    }
 }
 
 QWidget* Tour::Front() const
@@ -87,6 +136,16 @@ void Tour::Click(const QString& button)
         if (!control)
             return Fail(QStringLiteral("there is no button %1").arg(button));
         QTimer::singleShot(0, control, &QPushButton::click);
+    });
+}
+
+void Tour::Choose(const QString& entry)
+{
+    Act([this, entry] {
+        auto* action = Front()->findChild<QAction*>(entry);
+        if (!action)
+            return Fail(QStringLiteral("there is no entry %1").arg(entry));
+        QTimer::singleShot(0, action, &QAction::trigger);
     });
 }
 

@@ -22,11 +22,14 @@ public:
 private:
     void Continue();
     void PlanReading();
+    void PlanWriting();
+    void PlanOtherWindows();
     void Act(std::function<void()> action);
     void Await(const QString& window);
     void Shoot(const QString& name);
     void Press(int key);
     void Click(const QString& button);
+    void Choose(const QString& entry);
     void Resize(int width, int height);
     QWidget* Front() const;
     void Fail(const QString& text);
