@@ -60,7 +60,13 @@ void FittedPicture::Decode()
 void FittedPicture::resizeEvent(QResizeEvent*)
 {
     Place();
-    if (imgImage_->isVisibleTo(this))
+    if (!imgImage_->isVisibleTo(this))
+        return;
+    // A picture that was decoded before the window had its size would show as a blur.
+    const double wanted = imgImage_->width() * devicePixelRatioF();
+    if (imgImage_->GetPicture().width() * 2 < wanted)
+        Decode();
+    else
         decodeDelay_.start(decodePause);
 }
 
