@@ -36,7 +36,7 @@ foreach(source IN LISTS sources)
         string(APPEND faults "${source}: includes ${CMAKE_MATCH_1}, which opens windows\n")
       endif()
     elseif(NOT has_windows AND line MATCHES
-           "<(Q(Widget|Application|Dialog|Label|.*Button|.*Box|.*Layout|MainWindow|.*View|Menu))>")
+           "<(Q(Widget|Application|Dialog|Label|.*Button|.*Box|.*Layout|MainWindow|(List|Tree|Table|Column|Graphics|AbstractItem)View|Menu))>")
       string(APPEND faults "${source}: includes ${CMAKE_MATCH_1}, which opens windows\n")
     endif()
   endforeach()
