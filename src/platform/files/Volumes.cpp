@@ -22,12 +22,13 @@ bool IsPseudo(const QStorageInfo& volume)
 
 QStringList MountedVolumes()
 {
-    QStringList roots;
+    // Always there, also where the system does not tell of it, as in a changed root.
+    QStringList roots{QDir::toNativeSeparators(QDir::rootPath())};
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         const QString root = QDir::toNativeSeparators(volume.rootPath());
         // Containers mount single files.
         const bool isFolder = QFileInfo(root).isDir();
-        const bool isUsed = volume.isRoot() || (volume.isReady() && !IsPseudo(volume));
+        const bool isUsed = volume.isReady() && !IsPseudo(volume);
         if (isUsed && isFolder && !roots.contains(root))
             roots.append(root);
     }
