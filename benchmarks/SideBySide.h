@@ -51,3 +51,11 @@ private:
 
     std::map<std::string, std::vector<double>> seconds_;
 };
+
+// Runs what is registered, as the command line asks for it, and prints the ratios.
+inline void RunSideBySide(int& argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    SideBySideReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+}

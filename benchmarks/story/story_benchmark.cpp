@@ -209,9 +209,7 @@ void RegisterAll()
 
 int main(int argc, char** argv)
 {
-    benchmark::Initialize(&argc, argv);
     RegisterAll();
-    SideBySideReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
+    RunSideBySide(argc, argv);
     return EXIT_SUCCESS;
 }
