@@ -2,6 +2,7 @@
 #include "core/Album.h"
 
 #include "core/OldAlbum.h"
+#include "core/RecentAlbums.h"
 #include "core/Settings.h"
 #include "platform/data/DatabaseFile.h"
 #include "platform/data/WriteBatch.h"
@@ -116,6 +117,7 @@ bool OpenWithPassword(const QString& path, QString password)
         try {
             TryToOpen(path, password);
             SaveLastAlbum(path);
+            RememberRecentAlbum(path);
             return true;
         } catch (const DatabaseError& error) {
             ReleaseAlbum();

@@ -98,10 +98,12 @@ void TestMainWindow::HasItsMenusInOrder()
     for (const QAction* top : window_->menuBar()->actions()) {
         entries += top->menu()->objectName() + '=' + top->text();
         for (const QAction* entry : top->menu()->actions())
-            entries += entry->objectName() + (entry->isSeparator() ? "" : '=' + entry->text());
+            entries += (entry->menu() ? entry->menu()->objectName() : entry->objectName()) +
+                       (entry->isSeparator() ? "" : '=' + entry->text());
     }
     QCOMPARE(entries.join("; "),
-             "mnuFile=Album; mnuOpenScript=Open Album; mnuCreateScript=Create New Album; mnuSep3; "
+             "mnuFile=Album; mnuOpenScript=Open Album; mnuCreateScript=Create New Album; "
+             "mnuRecent=Recent Albums; mnuSep3; "
              "mnuExit=Exit (ESC); mnuChapter=Chapter; mnuReadChapter=Read Chapter; "
              "mnuCreateChapter=Create New Chapter; mnuRename=Rename Chapter; "
              "mnuDeleteChapter=Delete Chapter; mnuImages=Pictures; mnuLoadPictures=Load Picture "

@@ -24,6 +24,8 @@ bool IsUserAction(QEvent::Type type)
     case QEvent::ShortcutOverride:
     case QEvent::Shortcut:
     case QEvent::Close:
+    case QEvent::DragEnter:
+    case QEvent::Drop:
         return true;
     default:
         return false;

@@ -2,24 +2,20 @@
 #include "ui/main/frmOpenChapter.h"
 #include "ui_frmOpenChapter.h"
 
-#include "catalogue/frmLoadFiles.h"
-#include "catalogue/frmReloadPictures.h"
 #include "core/Album.h"
 #include "core/ChapterChain.h"
 #include "core/PathRoutines.h"
 #include "core/Settings.h"
 #include "core/StartUp.h"
-#include "core/ViewerFlags.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/MainWindowState.h"
 #include "ui/main/PasswordQuestions.h"
+#include "ui/main/RecentMenu.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmRepairAlbum.h"
-#include "viewer/frmReelvane.h"
-#include "viewer/frmSelectImages.h"
 
 #include <QKeyEvent>
 #include <QShortcut>
@@ -121,6 +117,7 @@ void frmOpenChapter::Form_Load(const QString& album)
     InitModule();
     const QString path = album.isEmpty() ? GetLastAlbum() : album;
     AlbumOpen = !path.isEmpty() && OpenAlbum(path);
+    FillRecentAlbums();
 }
 
 void frmOpenChapter::resizeEvent(QResizeEvent* event)
@@ -188,18 +185,30 @@ bool frmOpenChapter::eventFilter(QObject* watched, QEvent* event)
 void frmOpenChapter::OpenChosen(const QString& path)
 {
     AlbumOpen = OpenAlbum(path);
+    FillRecentAlbums();
     if (AlbumOpen)
         FillChapterList();
+}
+
+void frmOpenChapter::OpenNamed(const QString& path)
+{
+    ui_->lstChapter->clear();
+    OpenChosen(path);
+    RefreshState();
+}
+
+void frmOpenChapter::FillRecentAlbums()
+{
+    FillRecentMenu(*ui_->mnuRecent,
+                   [this](const QString& path) { RunGuarded([this, &path] { OpenNamed(path); }); });
 }
 
 void frmOpenChapter::mnuOpenScript_Click()
 {
     const QString path = Dialogs::Door().AskOpenFile(
         {QStringLiteral("Open Album"), albumFilter, FolderOf(GetLastAlbum())});
-    if (!path.isEmpty()) {
-        ui_->lstChapter->clear();
-        OpenChosen(path);
-    }
+    if (!path.isEmpty())
+        OpenNamed(path);
     RefreshState();
 }
 
@@ -207,68 +216,14 @@ void frmOpenChapter::mnuCreateScript_Click()
 {
     const QString path = Dialogs::Door().AskSaveFile(
         {QStringLiteral("Create a new Album"), albumFilter, FolderOf(GetLastAlbum())});
-    if (!path.isEmpty() && CreateAlbumFile(path)) {
-        ui_->lstChapter->clear();
-        OpenChosen(path);
-    }
+    if (!path.isEmpty() && CreateAlbumFile(path))
+        OpenNamed(path);
     RefreshState();
 }
 
 void frmOpenChapter::mnuExit_Click()
 {
     close();
-}
-
-void frmOpenChapter::mnuLoadPictures_Click()
-{
-    frmLoadFiles(this).exec();
-    RefreshState();
-}
-
-void frmOpenChapter::mnuReloadPictures_Click()
-{
-    frmReloadPictures(this).exec();
-    RefreshState();
-}
-
-void frmOpenChapter::ShowPictures(const QString& imageSelection, const QString& fileSelection)
-{
-    AutoviewOn = false;
-    frmReelvane viewer(this);
-    viewer.FileSelection = fileSelection;
-    viewer.ImageSelection = imageSelection;
-    viewer.exec();
-    RefreshState();
-}
-
-void frmOpenChapter::ShowChosenFolder(const QString& imageSelection)
-{
-    frmSelectImages chooser(this);
-    chooser.exec(); // also chooses the order
-    if (!chooser.FileSelection.isEmpty())
-        ShowPictures(imageSelection, chooser.FileSelection);
-}
-
-void frmOpenChapter::mnuUndefined_Click()
-{
-    PictureAtRandom = true;
-    ShowPictures(QStringLiteral("-"), {});
-}
-
-void frmOpenChapter::mnuSelectedUndefined_Click()
-{
-    ShowChosenFolder(QStringLiteral("-"));
-}
-
-void frmOpenChapter::mnuAllPictures_Click()
-{
-    PictureAtRandom = true;
-    ShowPictures(QStringLiteral("*"), {});
-}
-
-void frmOpenChapter::mnuSelectedPictures_Click()
-{
-    ShowChosenFolder(QStringLiteral("*"));
 }
 
 void frmOpenChapter::mnuRepair_Click()

@@ -7,6 +7,7 @@
 
 class QAction;
 class QPushButton;
+struct DroppedFiles;
 
 namespace Ui {
 class frmOpenChapter;
@@ -28,6 +29,8 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void Form_Load(const QString& album);
@@ -59,6 +62,11 @@ private:
                  const char* icon);
     void DecorateWarning();
     void OpenChosen(const QString& path);
+    // The list of albums opened lately leads here, and so does a dropped album.
+    void OpenNamed(const QString& path);
+    void FillRecentAlbums();
+    void TakeDropped(const DroppedFiles& files);
+    void LoadDropped(const DroppedFiles& files);
     // Both take what is shown of each characteristic: "*" for any value, "-" for none.
     void ShowPictures(const QString& imageSelection, const QString& fileSelection);
     void ShowChosenFolder(const QString& imageSelection);

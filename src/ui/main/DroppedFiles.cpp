@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main/DroppedFiles.h"
+
+#include "platform/files/FilePatterns.h"
+#include "platform/files/FolderListing.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+const QString albumPatterns = QStringLiteral("*.alb;*.mdb");
+// Everything that the picture reader knows.
+const QString picturePatterns =
+    QStringLiteral("*.jpg;*.jpeg;*.gif;*.bmp;*.png;*.tif;*.tiff;*.webp");
+
+class Sorter
+{
+public:
+    void Add(const QString& path)
+    {
+        const QFileInfo info(path);
+        if (info.isDir())
+            AddFolder(QDir::toNativeSeparators(info.absoluteFilePath()));
+        else if (!info.isFile())
+            ++files_.others;
+        else
+            AddFile(info);
+    }
+
+    DroppedFiles Take() { return std::move(files_); }
+
+private:
+    void AddFolder(const QString& folder)
+    {
+        for (const QString& name : ListFiles(folder).names) {
+            if (isPicture_.Match(name))
+                AddPicture(folder, name);
+        }
+    }
+
+    void AddFile(const QFileInfo& info)
+    {
+        const QString name = info.fileName();
+        if (isAlbum_.Match(name))
+            files_.albums += QDir::toNativeSeparators(info.absoluteFilePath());
+        else if (isPicture_.Match(name))
+            AddPicture(QDir::toNativeSeparators(info.absolutePath()), name);
+        else
+            ++files_.others;
+    }
+
+    void AddPicture(const QString& folder, const QString& name)
+    {
+        files_.pictures[folder] += name;
+        ++files_.pictureCount;
+    }
+
+    FilePatterns isAlbum_{albumPatterns};
+    FilePatterns isPicture_{picturePatterns};
+    DroppedFiles files_;
+};
+
+} // namespace
+
+DroppedFiles SortDroppedFiles(const QList<QUrl>& urls)
+{
+    Sorter sorter;
+    for (const QUrl& url : urls)
+        sorter.Add(url.toLocalFile()); // empty, and so no file, for one that is elsewhere
+    return sorter.Take();
+}

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+// Files that were dragged onto the main window, told apart by their names.
+struct DroppedFiles
+{
+    QStringList albums;                  // full paths
+    QMap<QString, QStringList> pictures; // names by folder
+    int pictureCount = 0;
+    int others = 0; // neither, or not on this computer
+
+    bool IsEmpty() const { return albums.isEmpty() && pictures.isEmpty() && others == 0; }
+};
+
+// A dropped folder stands for the picture files that lie directly in it.
+DroppedFiles SortDroppedFiles(const QList<QUrl>& urls);
