@@ -13,7 +13,7 @@ endfunction()
 
 lumenark_precompiled(lumenark_pch_core Qt6::Core)
 target_precompile_headers(lumenark_pch_core PRIVATE
-  <QByteArray> <QDir> <QFile> <QFileInfo> <QHash> <QString> <QStringList> <QVariant>
+  <QByteArray> <QCoreApplication> <QDir> <QFile> <QFileInfo> <QHash> <QString> <QStringList> <QVariant>
   <functional> <memory> <optional> <string> <vector>)
 
 lumenark_precompiled(lumenark_pch_widgets Qt6::Widgets)

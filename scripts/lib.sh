@@ -5,7 +5,8 @@ say() { printf '%s\n' "$*" >&2; }
 # What building and running take, by Debian's package names.
 packages=(
     g++ cmake ninja-build ccache pkg-config
-    qt6-base-dev qt6-svg-dev qt6-image-formats-plugins
+    qt6-base-dev qt6-svg-dev qt6-l10n-tools qt6-translations-l10n
+    qt6-image-formats-plugins
     libsqlcipher-dev libjpeg62-turbo-dev mdbtools-dev
     fonts-dejavu-core xvfb xauth
 )

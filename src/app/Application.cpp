@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Application.h"
 
+#include "Translations.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ThemedIcon.h"
 
@@ -11,6 +12,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
     setApplicationVersion(QStringLiteral(LUMENARK_VERSION));
     setDesktopFileName(QStringLiteral("lumenark"));
     setWindowIcon(ProgramIcon());
+    InstallTranslations(*this);
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Convert.h"
 
+#include "Translations.h"
 #include "core/OldAlbumConversion.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/data/DatabaseFile.h"
@@ -24,10 +25,10 @@ constexpr const char* convertOption = "convert";
 constexpr const char* passwordOption = "password-file";
 constexpr const char* forceOption = "force";
 
-QString Say(const char* text)
+struct ConvertTexts
 {
-    return QCoreApplication::translate("Convert", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Convert)
+};
 
 void Print(std::FILE* stream, const QString& line)
 {
@@ -92,10 +93,11 @@ QString FittingPassword(const OldAlbumFile& old, const QString& path,
     const QString option = QString::fromLatin1(passwordOption);
     if (!parser.isSet(option))
         throw Trouble{path,
-                      Say("It has a password; give the file that holds it with --%1.").arg(option)};
+                      ConvertTexts::tr("It has a password; give the file that holds it with --%1.")
+                          .arg(option)};
     const QString password = ReadPassword(parser.value(option));
     if (!old.PasswordFits(password))
-        throw Trouble{path, Say("The password is wrong.")};
+        throw Trouble{path, ConvertTexts::tr("The password is wrong.")};
     return password;
 }
 
@@ -103,11 +105,11 @@ int Convert(const QString& path, const QString& target, const QCommandLineParser
 {
     const DatabaseFileKind kind = KindOfDatabaseFile(path);
     if (kind == DatabaseFileKind::Missing)
-        throw Trouble{path, Say("There is no such file.")};
+        throw Trouble{path, ConvertTexts::tr("There is no such file.")};
     if (kind == DatabaseFileKind::Unopenable)
-        throw Trouble{path, Say("It is not a file that can be opened.")};
+        throw Trouble{path, ConvertTexts::tr("It is not a file that can be opened.")};
     if (kind != DatabaseFileKind::OldAlbum)
-        throw Trouble{path, Say("It is not an album of the former file format.")};
+        throw Trouble{path, ConvertTexts::tr("It is not an album of the former file format.")};
     OldAlbumFile old(path);
     const OldAlbumReport report =
         ConvertOldAlbum(old, {.target = target,
@@ -135,34 +137,40 @@ bool IsConversion(int argc, char** argv)
 
 void AddConversionOptions(QCommandLineParser& parser)
 {
-    parser.addOption({QString::fromLatin1(convertOption),
-                      Say("Make the new album NEW of the album OLD of the former file format, "
+    parser.addOption(
+        {QString::fromLatin1(convertOption),
+         ConvertTexts::tr("Make the new album NEW of the album OLD of the former file format, "
                           "without windows. The exit status is 0 when everything came over, 3 when "
                           "the new album lacks something, 1 when none was made.")});
-    parser.addOption({QString::fromLatin1(passwordOption),
-                      Say("With --convert: the first line of FILE is the old album's password. The "
-                          "new one gets it too."),
-                      QStringLiteral("FILE")});
     parser.addOption(
-        {QString::fromLatin1(forceOption), Say("With --convert: replace NEW where it exists.")});
+        {QString::fromLatin1(passwordOption),
+         ConvertTexts::tr("With --convert: the first line of FILE is the old album's password. The "
+                          "new one gets it too."),
+         QStringLiteral("FILE")});
+    parser.addOption({QString::fromLatin1(forceOption),
+                      ConvertTexts::tr("With --convert: replace NEW where it exists.")});
 }
 
 int RunConversion(int& argc, char** argv)
 {
-    const QCoreApplication application(argc, argv);
+    QCoreApplication application(argc, argv);
+    InstallTranslations(application);
     QCommandLineParser parser;
     AddConversionOptions(parser);
     const QCommandLineOption help = parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("OLD"), Say("The old album; it stays as it is."));
-    parser.addPositionalArgument(QStringLiteral("NEW"), Say("The new album."));
+    parser.addPositionalArgument(QStringLiteral("OLD"),
+                                 ConvertTexts::tr("The old album; it stays as it is."));
+    parser.addPositionalArgument(QStringLiteral("NEW"), ConvertTexts::tr("The new album."));
     const bool understood = parser.parse(QCoreApplication::arguments());
     if (understood && parser.isSet(help))
         parser.showHelp(Whole);
     const QStringList paths = parser.positionalArguments();
     if (!understood || paths.size() != 2) {
-        Print(stderr, understood ? Say("lumenark: --convert takes the old album and the new one")
+        Print(stderr, understood ? ConvertTexts::tr(
+                                       "lumenark: --convert takes the old album and the new one")
                                  : QStringLiteral("lumenark: ") + parser.errorText());
-        Print(stderr, Say("usage: lumenark --convert OLD NEW [--password-file FILE] [--force]"));
+        Print(stderr, ConvertTexts::tr(
+                          "usage: lumenark --convert OLD NEW [--password-file FILE] [--force]"));
         return BadUse;
     }
     CatchSignals();

@@ -4,6 +4,8 @@
 #include "catalogue/CharacteristicModel.h"
 #include "platform/dialogs/Dialogs.h"
 
+#include <QCoreApplication>
+
 QString AskForValue(const QString& prompt, const QString& proposal)
 {
     QString answer = Dialogs::Door().AskText({.prompt = prompt, .proposal = proposal});
@@ -13,7 +15,8 @@ QString AskForValue(const QString& prompt, const QString& proposal)
         if (!IsSpecialMarker(cleaned))
             return CleanValue(cleaned);
         answer = Dialogs::Door().AskText(
-            {.prompt = QStringLiteral("Caracteristics must begin with a letter or a figure")});
+            {.prompt = QCoreApplication::translate(
+                 "ValueEntry", "Caracteristics must begin with a letter or a figure")});
     }
     return {};
 }

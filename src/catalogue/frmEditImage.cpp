@@ -150,8 +150,7 @@ void frmEditImage::ShowPicture()
     shown_ = record.value_or(PictureRecord());
     ShowRecord();
     if (!isKnown_)
-        Tell(QStringLiteral("Internal Error : Image File ") + CurrentImage +
-                 QStringLiteral(" not found"),
+        Tell(tr("Internal Error : Image File ") + CurrentImage + tr(" not found"),
              Dialogs::Icon::Critical);
 }
 
@@ -223,12 +222,11 @@ void frmEditImage::GoToNextPicture()
 
 void frmEditImage::cmdDelete_Click()
 {
-    const Dialogs::Answer answer =
-        Dialogs::Door().Ask({.text = QStringLiteral("Do you also want to delete the file ") +
-                                     CurrentImage + QStringLiteral(" ?"),
-                             .icon = Dialogs::Icon::Question,
-                             .buttons = Dialogs::Buttons::YesNoCancel,
-                             .defaultAnswer = Dialogs::Answer::Cancel});
+    const Dialogs::Answer answer = Dialogs::Door().Ask(
+        {.text = tr("Do you also want to delete the file ") + CurrentImage + QStringLiteral(" ?"),
+         .icon = Dialogs::Icon::Question,
+         .buttons = Dialogs::Buttons::YesNoCancel,
+         .defaultAnswer = Dialogs::Answer::Cancel});
     if (answer == Dialogs::Answer::Cancel ||
         !TakeOutPicture(CurrentImage, answer == Dialogs::Answer::Yes))
         return;

@@ -107,12 +107,12 @@ void frmEditTables::ShowCaptions()
     const std::array columns{ui_->optColumn_1, ui_->optColumn_2, ui_->optColumn_3};
     for (int i = 0; i < columnsPerGroup; ++i) {
         const auto at = std::size_t(i);
-        groups[at]->setText(AsCaption(labels[at], QStringLiteral("Caracteristic%1").arg(i + 1)));
+        groups[at]->setText(AsCaption(labels[at], tr("Caracteristic%1").arg(i + 1)));
         if (!groups[at]->isChecked())
             continue;
         for (int j = 0; j < columnsPerGroup; ++j)
-            columns[std::size_t(j)]->setText(AsCaption(ColumnLabel(firstColumns[at] + j),
-                                                       QStringLiteral("Column %1").arg(j + 1)));
+            columns[std::size_t(j)]->setText(
+                AsCaption(ColumnLabel(firstColumns[at] + j), tr("Column %1").arg(j + 1)));
     }
 }
 
@@ -149,7 +149,7 @@ void frmEditTables::cmdAddNew_Click()
 {
     if (column_ < 0)
         return;
-    const QString value = AskForValue(QStringLiteral("Please Enter Parameter's Name"), {});
+    const QString value = AskForValue(tr("Please Enter Parameter's Name"), {});
     if (value.isEmpty())
         return;
     const QString added = AddValueToTable(column_, value);
@@ -165,8 +165,7 @@ void frmEditTables::cmdDelete_Click()
     if (value.isEmpty())
         return;
     if (IsSpecialMarker(value))
-        return Tell(QStringLiteral("Sorry, you can't delete the special markers"),
-                    Dialogs::Icon::Warning);
+        return Tell(tr("Sorry, you can't delete the special markers"), Dialogs::Icon::Warning);
     RemoveValueFromTable(column_, value);
     delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
 }
@@ -177,10 +176,9 @@ void frmEditTables::cmdReplace_Click()
     if (old.isEmpty())
         return;
     if (IsSpecialMarker(old))
-        return Tell(QStringLiteral("Sorry, you can't modify the special markers"),
-                    Dialogs::Icon::Warning);
-    const QString replacement = AskForValue(
-        QStringLiteral("Replace all occurences of ") + old + QStringLiteral(" by :"), old);
+        return Tell(tr("Sorry, you can't modify the special markers"), Dialogs::Icon::Warning);
+    const QString replacement =
+        AskForValue(tr("Replace all occurences of ") + old + tr(" by :"), old);
     if (replacement.isEmpty() || replacement == old)
         return;
     RunReplacement(old, replacement);

@@ -47,7 +47,7 @@ void frmLoadFiles::Form_Load()
 void frmLoadFiles::ShowCount()
 {
     ui_->lblFeedback->setText(QString::number(ui_->filPicturesToLoad->Count()) +
-                              QStringLiteral(" picture(s) selected"));
+                              tr(" picture(s) selected"));
 }
 
 void frmLoadFiles::drvPicturesToLoad_Change()
@@ -74,7 +74,7 @@ void frmLoadFiles::txtPictureTypes_Change()
 void frmLoadFiles::cmdLoad_Click()
 {
     const BusyPointer busy;
-    ui_->lblFeedback->setText(QStringLiteral("Loading pictures..."));
+    ui_->lblFeedback->setText(tr("Loading pictures..."));
     const QStringList names = ui_->filPicturesToLoad->GetNames();
     ui_->progress->Begin(int(names.size()), true);
     int loaded = 0;
@@ -88,5 +88,5 @@ void frmLoadFiles::cmdLoad_Click()
         });
     }
     ui_->filPicturesToLoad->SelectRow(loaded - 1);
-    ui_->lblFeedback->setText(QString::number(loaded) + QStringLiteral(" picture(s) loaded"));
+    ui_->lblFeedback->setText(QString::number(loaded) + tr(" picture(s) loaded"));
 }

@@ -72,8 +72,7 @@ void frmReloadPictures::dirNewReferences_Change()
 
 void frmReloadPictures::ShowUpdated(int count)
 {
-    ui_->lblFeedback->setText(QString::number(count) +
-                              QStringLiteral(" picture references updated"));
+    ui_->lblFeedback->setText(QString::number(count) + tr(" picture references updated"));
     ui_->lblFeedback->repaint();
 }
 

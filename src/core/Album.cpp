@@ -21,10 +21,10 @@ namespace {
 
 using namespace GeneralModule;
 
-QString Say(const char* text)
+struct AlbumTexts
 {
-    return QCoreApplication::translate("Album", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Album)
+};
 
 void RequireFields(const RecordSet& set, std::initializer_list<const char*> fields)
 {
@@ -85,7 +85,7 @@ void CleanUpParagraphs()
     try {
         FillEmptySelections();
     } catch (const DatabaseError& error) {
-        Tell(QStringLiteral("Unexpected Error : %1 %2")
+        Tell(AlbumTexts::tr("Unexpected Error : %1 %2")
                  .arg(error.GetNumber())
                  .arg(error.GetDescription()),
              Dialogs::Icon::Warning);
@@ -101,10 +101,11 @@ void TryToOpen(const QString& path, const QString& password)
 
 void TellWhyNot(const DatabaseError& error)
 {
-    Tell(QStringLiteral("Error %1 %2\n%3")
+    Tell(AlbumTexts::tr("Error %1 %2\n%3")
              .arg(error.GetNumber())
              .arg(error.GetDescription(),
-                  Say("If no album can be opened any more, please install the program's run-time "
+                  AlbumTexts::tr(
+                      "If no album can be opened any more, please install the program's run-time "
                       "support files again.")),
          Dialogs::Icon::Warning);
 }
@@ -127,7 +128,7 @@ bool OpenWithPassword(const QString& path, QString password)
             }
         }
         password = Dialogs::Door().AskText(
-            {.prompt = QStringLiteral("Please give the password for : ") + path,
+            {.prompt = AlbumTexts::tr("Please give the password for : ") + path,
              .isPassword = true});
         if (password.isEmpty())
             return false;
@@ -181,7 +182,7 @@ bool CreateAlbumFile(const QString& path)
 {
     QFile source(ProgramFile(QStringLiteral("Album.tpl")));
     if (!source.open(QIODevice::ReadOnly)) {
-        Tell(Say("The template '%1' cannot be read: %2")
+        Tell(AlbumTexts::tr("The template '%1' cannot be read: %2")
                  .arg(source.fileName(), source.errorString()),
              Dialogs::Icon::Warning);
         return false;
@@ -190,7 +191,7 @@ bool CreateAlbumFile(const QString& path)
     const QByteArray contents = source.readAll();
     if (!target.open(QIODevice::WriteOnly) || target.write(contents) != contents.size() ||
         !target.commit()) {
-        Tell(Say("The album '%1' cannot be created: %2")
+        Tell(AlbumTexts::tr("The album '%1' cannot be created: %2")
                  .arg(QDir::toNativeSeparators(path), target.errorString()),
              Dialogs::Icon::Warning);
         return false;

@@ -43,7 +43,7 @@ class Repair
 public:
     RepairReport Run()
     {
-        report_.copy = CopyAlbumBeside(QCoreApplication::translate("AlbumRepair", "before repair"));
+        report_.copy = CopyAlbumBeside(RepairReport::tr("before repair"));
         WriteBatch batch(AlbumDatabase);
         batch_ = &batch;
         RepairChapters();
@@ -131,7 +131,7 @@ private:
 
     qint32 CreateChapterForFound()
     {
-        const QString base = QCoreApplication::translate("AlbumRepair", "Found again");
+        const QString base = RepairReport::tr("Found again");
         QString name = base;
         for (int number = 2; FindChapter(name); ++number)
             name = QStringLiteral("%1 %2").arg(base).arg(number);
@@ -207,21 +207,20 @@ RepairReport RepairAlbum()
 
 QString DescribeRepair(const RepairReport& report)
 {
-    const auto say = [](const char* text, int count) {
-        return QCoreApplication::translate("AlbumRepair", text, nullptr, count);
-    };
     QStringList lines;
     if (report.IsEmpty())
-        lines += say("The links of the album are in order; nothing was changed.", 0);
+        lines += RepairReport::tr("The links of the album are in order; nothing was changed.");
     if (report.chapterLinks > 0)
-        lines += say("Chapters linked anew: %n", report.chapterLinks);
+        lines += RepairReport::tr("Chapters linked anew: %1").arg(report.chapterLinks);
     if (report.firstParagraphs > 0)
-        lines += say("Chapters given their right first paragraph: %n", report.firstParagraphs);
+        lines += RepairReport::tr("Chapters given their right first paragraph: %1")
+                     .arg(report.firstParagraphs);
     if (report.adopted > 0)
-        lines += say("Paragraphs without a chapter that have one now: %n", report.adopted);
+        lines += RepairReport::tr("Paragraphs without a chapter that have one now: %1")
+                     .arg(report.adopted);
     if (report.paragraphLinks > 0)
-        lines += say("Paragraphs linked anew: %n", report.paragraphLinks);
-    lines += say("The album as it was before is kept in '%1'.", 0)
+        lines += RepairReport::tr("Paragraphs linked anew: %1").arg(report.paragraphLinks);
+    lines += RepairReport::tr("The album as it was before is kept in '%1'.")
                  .arg(QDir::toNativeSeparators(report.copy));
     return lines.join(u'\n');
 }

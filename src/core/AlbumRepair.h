@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace GeneralModule {
@@ -8,6 +9,9 @@ namespace GeneralModule {
 // What a repair has changed.
 struct RepairReport
 {
+    Q_DECLARE_TR_FUNCTIONS(RepairReport)
+
+public:
     QString copy;            // path of the album's copy as it was before
     int chapterLinks = 0;    // chapters whose links were wrong
     int firstParagraphs = 0; // chapters that named a wrong first paragraph

@@ -12,18 +12,13 @@ namespace {
 
 using namespace GeneralModule;
 
-QString Say(const char* text)
-{
-    return QCoreApplication::translate("OldAlbum", text);
-}
-
 // The password that fits, empty where there is none; nothing when the user gave up.
 std::optional<QString> AskPassword(const OldAlbumFile& old, const QString& path)
 {
     QString password;
     while (old.HasPassword() && !old.PasswordFits(password)) {
         password = Dialogs::Door().AskText(
-            {.prompt = QStringLiteral("Please give the password for : ") + path,
+            {.prompt = OldAlbumReport::tr("Please give the password for : ") + path,
              .isPassword = true});
         if (password.isEmpty())
             return std::nullopt;
@@ -35,9 +30,9 @@ std::optional<QString> AskPassword(const OldAlbumFile& old, const QString& path)
 QString ProposedName(const QFileInfo& old)
 {
     const QString base = old.completeBaseName();
-    QString name = Say("%1 (new).alb").arg(base);
+    QString name = OldAlbumReport::tr("%1 (new).alb").arg(base);
     for (int number = 2; QFileInfo::exists(old.absoluteDir().filePath(name)); ++number)
-        name = Say("%1 (new %2).alb").arg(base).arg(number);
+        name = OldAlbumReport::tr("%1 (new %2).alb").arg(base).arg(number);
     return name;
 }
 
@@ -45,24 +40,26 @@ QString AskTarget(const QString& path)
 {
     const QFileInfo old(path);
     const auto answer = Dialogs::Door().Ask(
-        {Say("'%1' is an album of the former file format. Shall a new album be made of it? The old "
+        {OldAlbumReport::tr(
+             "'%1' is an album of the former file format. Shall a new album be made of it? The old "
              "one stays as it is.")
              .arg(QDir::toNativeSeparators(path)),
          Dialogs::Icon::Question, Dialogs::Buttons::YesNo});
     if (answer != Dialogs::Answer::Yes)
         return {};
-    return Dialogs::Door().AskSaveFile({Say("Save the new Album"), QStringLiteral("Album|*.alb"),
-                                        QDir::toNativeSeparators(old.absolutePath()),
-                                        ProposedName(old)});
+    return Dialogs::Door().AskSaveFile(
+        {OldAlbumReport::tr("Save the new Album"), OldAlbumReport::tr("Album|*.alb"),
+         QDir::toNativeSeparators(old.absolutePath()), ProposedName(old)});
 }
 
 QString Compose(const OldAlbumReport& report, const QString& target)
 {
-    QStringList text{Say("The new album is '%1'.").arg(QDir::toNativeSeparators(target)),
-                     report.Summary()};
+    QStringList text{
+        OldAlbumReport::tr("The new album is '%1'.").arg(QDir::toNativeSeparators(target)),
+        report.Summary()};
     if (!report.IsWhole()) {
         text += QString();
-        text += Say("Not everything is as it was:");
+        text += OldAlbumReport::tr("Not everything is as it was:");
         text += report.Problems();
     }
     const QStringList hint = report.FolderHint();

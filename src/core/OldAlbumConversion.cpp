@@ -29,11 +29,6 @@ constexpr std::array tableNames{"Params", "Chapter", "Paragraph", "Image", "Link
                                 "Car5",   "Car9",    "Car10",     "Car11"};
 constexpr int checkMilliseconds = 100;
 
-QString Say(const char* text)
-{
-    return QCoreApplication::translate("OldAlbum", text);
-}
-
 [[noreturn]] void Refuse(const QString& description)
 {
     throw DatabaseError(DatabaseError::CannotOpen, description);
@@ -43,13 +38,13 @@ void WriteTemplate(const QString& path)
 {
     QFile source(ProgramFile(QStringLiteral("Album.tpl")));
     if (!source.open(QIODevice::ReadOnly))
-        Refuse(Say("The template '%1' cannot be read: %2")
+        Refuse(OldAlbumReport::tr("The template '%1' cannot be read: %2")
                    .arg(source.fileName(), source.errorString()));
     const QByteArray contents = source.readAll();
     QFile target(path);
     if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly) ||
         target.write(contents) != contents.size() || !target.flush())
-        Refuse(Say("The album '%1' cannot be created: %2")
+        Refuse(OldAlbumReport::tr("The album '%1' cannot be created: %2")
                    .arg(QDir::toNativeSeparators(path), target.errorString()));
 }
 
@@ -102,23 +97,25 @@ void ReportOutcome(const QString& name, const OldAlbumFile::Outcome& outcome,
                    OldAlbumReport& report)
 {
     if (!outcome.hasFields) {
-        report.AddProblem(Say("Table %1 cannot be read.").arg(name));
+        report.AddProblem(OldAlbumReport::tr("Table %1 cannot be read.").arg(name));
         return;
     }
     // Rows on pages that are not there any more, or not reached, can only be counted.
     const qint64 missing = std::max(outcome.statedRows - outcome.rows, qint64(outcome.lostRows));
     if (!outcome.isWhole)
-        report.AddProblem(Say("Table %1 is damaged and came over in part: %2 of %3 rows.")
-                              .arg(name)
-                              .arg(outcome.rows)
-                              .arg(std::max(outcome.statedRows, outcome.rows)));
+        report.AddProblem(
+            OldAlbumReport::tr("Table %1 is damaged and came over in part: %2 of %3 rows.")
+                .arg(name)
+                .arg(outcome.rows)
+                .arg(std::max(outcome.statedRows, outcome.rows)));
     else if (missing > 0)
-        report.AddProblem(Say("Table %1: %2 of %3 rows cannot be read.")
+        report.AddProblem(OldAlbumReport::tr("Table %1: %2 of %3 rows cannot be read.")
                               .arg(name)
                               .arg(missing)
                               .arg(outcome.rows + missing));
     if (outcome.isWhole && outcome.mapIsDamaged)
-        report.AddProblem(Say("Table %1: its list of pages is damaged; its rows were looked for in "
+        report.AddProblem(OldAlbumReport::tr(
+                              "Table %1: its list of pages is damaged; its rows were looked for in "
                               "the whole file.")
                               .arg(name));
 }
@@ -130,7 +127,7 @@ void CopyTables(OldAlbumFile& old, const std::shared_ptr<Database>& database,
         const QString name = QString::fromLatin1(table);
         const OldAlbumFile::Table* source = FindTable(old, name);
         if (!source) {
-            report.AddProblem(Say("Table %1 is missing.").arg(name));
+            report.AddProblem(OldAlbumReport::tr("Table %1 is missing.").arg(name));
             continue;
         }
         if (order.check)
@@ -151,7 +148,8 @@ void CopyTables(OldAlbumFile& old, const std::shared_ptr<Database>& database,
 void ReportOtherTables(const OldAlbumFile& old, OldAlbumReport& report)
 {
     if (old.ListIsDamaged())
-        report.AddProblem(Say("The list of tables is damaged; some may be missing."));
+        report.AddProblem(
+            OldAlbumReport::tr("The list of tables is damaged; some may be missing."));
     for (const OldAlbumFile::Table& table : old.GetTables()) {
         // The former engine's own, such as what is left of tables that were deleted.
         if (table.name.startsWith(u'~') || table.name.startsWith(QLatin1String("MSys")))
@@ -162,7 +160,8 @@ void ReportOtherTables(const OldAlbumFile& old, OldAlbumReport& report)
             });
         if (!isKnown)
             report.AddProblem(
-                Say("Table %1 is no part of an album and was left out.").arg(table.name));
+                OldAlbumReport::tr("Table %1 is no part of an album and was left out.")
+                    .arg(table.name));
     }
 }
 
@@ -172,9 +171,10 @@ void RequireAlbum(const OldAlbumFile& old)
         if (FindTable(old, QString::fromLatin1(name)))
             return;
     }
-    throw DatabaseError(DatabaseError::NotADatabase,
-                        Say("'%1' is a database of the former kind, but holds no album.")
-                            .arg(QDir::toNativeSeparators(old.GetPath())));
+    throw DatabaseError(
+        DatabaseError::NotADatabase,
+        OldAlbumReport::tr("'%1' is a database of the former kind, but holds no album.")
+            .arg(QDir::toNativeSeparators(old.GetPath())));
 }
 
 void RequireFreeTarget(const OldAlbumFile& old, const ConversionOrder& order)
@@ -183,11 +183,12 @@ void RequireFreeTarget(const OldAlbumFile& old, const ConversionOrder& order)
     const QString shown = QDir::toNativeSeparators(order.target);
     if (target.exists() &&
         target.canonicalFilePath() == QFileInfo(old.GetPath()).canonicalFilePath())
-        Refuse(Say("'%1' is the old album itself, which is never written to.").arg(shown));
+        Refuse(OldAlbumReport::tr("'%1' is the old album itself, which is never written to.")
+                   .arg(shown));
     if (target.exists() && !target.isFile())
-        Refuse(Say("'%1' is not a file that can be replaced.").arg(shown));
+        Refuse(OldAlbumReport::tr("'%1' is not a file that can be replaced.").arg(shown));
     if (target.exists() && !order.replaces)
-        Refuse(Say("'%1' exists already.").arg(shown));
+        Refuse(OldAlbumReport::tr("'%1' exists already.").arg(shown));
 }
 
 void WriteThrough(const QString& path)
@@ -196,7 +197,7 @@ void WriteThrough(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadWrite) || fsync(file.handle()) != 0)
         throw DatabaseError(DatabaseError::DiskError,
-                            Say("The album '%1' cannot be written to the disk.")
+                            OldAlbumReport::tr("The album '%1' cannot be written to the disk.")
                                 .arg(QDir::toNativeSeparators(path)));
 #else
     Q_UNUSED(path);
@@ -222,7 +223,7 @@ void PutInPlace(const QString& made, const ConversionOrder& order)
     for (const char* ending : {"-journal", "-wal", "-shm"})
         QFile::remove(order.target + QLatin1String(ending));
     if (!Rename(made, order.target, order.replaces))
-        Refuse(Say("The new album cannot take the name '%1'.")
+        Refuse(OldAlbumReport::tr("The new album cannot take the name '%1'.")
                    .arg(QDir::toNativeSeparators(order.target)));
 }
 
@@ -249,7 +250,7 @@ OldAlbumReport ConvertOldAlbum(OldAlbumFile& old, const ConversionOrder& order)
     const QFileInfo target(order.target);
     const QTemporaryDir workshop(target.absolutePath() + QStringLiteral("/.lumenark-XXXXXX"));
     if (!workshop.isValid())
-        Refuse(Say("The folder '%1' cannot be written to: %2")
+        Refuse(OldAlbumReport::tr("The folder '%1' cannot be written to: %2")
                    .arg(QDir::toNativeSeparators(target.absolutePath()), workshop.errorString()));
     const QString made = workshop.filePath(QStringLiteral("new.alb"));
     MakeEmptyAlbum(made, order.password);

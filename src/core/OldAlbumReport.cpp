@@ -12,20 +12,15 @@ constexpr qsizetype shownProblems = 15; // what a message box shows on a small s
 constexpr qsizetype shownFolders = 10;
 constexpr qsizetype countedFolders = 10000;
 
-QString Say(const char* text)
-{
-    return QCoreApplication::translate("OldAlbum", text);
-}
-
 // "C:\..." or "\\server\...", and this system has no such paths.
 bool IsOfAnotherSystem(const QString& path)
 {
     return path.contains(u'\\') && !QDir::isAbsolutePath(path);
 }
 
-QString Counted(qint64 count, const char* one, const char* many)
+QString Counted(qint64 count, const QString& one, const QString& many)
 {
-    return count == 1 ? Say(one) : Say(many).arg(count);
+    return count == 1 ? one : many.arg(count);
 }
 
 } // namespace
@@ -55,19 +50,18 @@ void OldAlbumReport::AddPicturePath(const QString& path)
 
 QString OldAlbumReport::Summary() const
 {
-    const QString counts = Say("%1, %2 and %3 came over.")
-                               .arg(Counted(chapters, "1 chapter", "%1 chapters"),
-                                    Counted(paragraphs, "1 paragraph", "%1 paragraphs"),
-                                    Counted(pictures, "1 picture", "%1 pictures"));
-    return keepsPassword ? counts + u' ' + Say("The new album has the old one's password.")
-                         : counts;
+    const QString counts = tr("%1, %2 and %3 came over.")
+                               .arg(Counted(chapters, tr("1 chapter"), tr("%1 chapters")),
+                                    Counted(paragraphs, tr("1 paragraph"), tr("%1 paragraphs")),
+                                    Counted(pictures, tr("1 picture"), tr("%1 pictures")));
+    return keepsPassword ? counts + u' ' + tr("The new album has the old one's password.") : counts;
 }
 
 QStringList OldAlbumReport::Problems() const
 {
     QStringList problems = problems_;
     if (furtherProblems_ > 0)
-        problems += Say("%1 more of this kind.").arg(furtherProblems_);
+        problems += tr("%1 more of this kind.").arg(furtherProblems_);
     return problems;
 }
 
@@ -78,11 +72,11 @@ QStringList OldAlbumReport::FolderHint() const
     QStringList hint = shownFolders_;
     const qsizetype further = folders_.size() - shownFolders_.size();
     if (hasManyFolders_)
-        hint += Say("and many more.");
+        hint += tr("and many more.");
     else if (further > 0)
-        hint += Say("and %1 more.").arg(further);
-    hint.prepend(Say("Pictures lie at places of another system, which were kept as they are. "
-                     "\"Reload Moved Pictures\" points them to where they are now. The folders:"));
+        hint += tr("and %1 more.").arg(further);
+    hint.prepend(tr("Pictures lie at places of another system, which were kept as they are. "
+                    "\"Reload Moved Pictures\" points them to where they are now. The folders:"));
     return hint;
 }
 

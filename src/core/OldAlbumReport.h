@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -10,6 +11,8 @@ namespace GeneralModule {
 // What came over from an album in the former file format, and what did not.
 class OldAlbumReport
 {
+    Q_DECLARE_TR_FUNCTIONS(OldAlbumReport)
+
 public:
     qint64 chapters = 0;
     qint64 paragraphs = 0;

@@ -13,11 +13,6 @@ constexpr std::size_t mostSetAside = 1000; // rows; only damage makes any
 // could leave no identifiers for new rows.
 constexpr qint64 mostNumbersUnused = 10'000'000;
 
-QString Say(const char* text)
-{
-    return QCoreApplication::translate("OldAlbum", text);
-}
-
 bool IsValueTable(const QString& table)
 {
     return table.startsWith(QLatin1String("Car"));
@@ -73,11 +68,12 @@ void OldAlbumTable::ReportFields(const QStringList& fields)
     for (const QString& field : fields) {
         if (layout_.Find(field) < 0)
             report_.AddProblem(
-                Say("Table %1: the new album has no place for the field %2.").arg(table_, field));
+                OldAlbumReport::tr("Table %1: the new album has no place for the field %2.")
+                    .arg(table_, field));
     }
     for (int field = 0; field < layout_.Count(); ++field) {
         if (sources_[std::size_t(field)] < 0)
-            report_.AddProblem(Say("Table %1: the field %2 is missing.")
+            report_.AddProblem(OldAlbumReport::tr("Table %1: the field %2 is missing.")
                                    .arg(table_, QString::fromUtf8(layout_.At(field).name)));
     }
 }
@@ -146,7 +142,7 @@ QString OldAlbumTable::NameOfRow(const std::vector<OldValue>& values) const
         if (!text.isEmpty())
             return QStringLiteral("%1 %2").arg(table_, QString::fromUtf8(text));
     }
-    return Say("%1, row %2").arg(table_).arg(rows_);
+    return OldAlbumReport::tr("%1, row %2").arg(table_).arg(rows_);
 }
 
 void OldAlbumTable::ReportValues(const std::vector<OldValue>& values)
@@ -155,11 +151,10 @@ void OldAlbumTable::ReportValues(const std::vector<OldValue>& values)
         const OldValue::State state = ValueOf(field, values).state;
         if (state != OldValue::State::Cut && state != OldValue::State::Unreadable)
             continue;
-        const char* text = state == OldValue::State::Cut
-                               ? "%1: the end of the field %2 cannot be read."
-                               : "%1: the field %2 cannot be read.";
-        report_.AddProblem(
-            Say(text).arg(NameOfRow(values), QString::fromUtf8(layout_.At(field).name)));
+        const QString text = state == OldValue::State::Cut
+                                 ? OldAlbumReport::tr("%1: the end of the field %2 cannot be read.")
+                                 : OldAlbumReport::tr("%1: the field %2 cannot be read.");
+        report_.AddProblem(text.arg(NameOfRow(values), QString::fromUtf8(layout_.At(field).name)));
     }
 }
 
@@ -248,8 +243,9 @@ void OldAlbumTable::InsertNumbered(const Row& row)
     } else if (setAside_.size() < mostSetAside) {
         setAside_.push_back(row);
     } else {
-        report_.AddProblem(
-            Say("%1, row %2: left out, it has no identifier.").arg(table_).arg(rows_));
+        report_.AddProblem(OldAlbumReport::tr("%1, row %2: left out, it has no identifier.")
+                               .arg(table_)
+                               .arg(rows_));
     }
 }
 
@@ -257,21 +253,24 @@ void OldAlbumTable::InsertUnderAnotherName(Row row)
 {
     const auto place = std::find(inserted_.begin(), inserted_.end(), uniqueName_);
     if (place == inserted_.end()) {
-        report_.AddProblem(Say("%1, row %2: the new album refuses it.").arg(table_).arg(rows_));
+        report_.AddProblem(
+            OldAlbumReport::tr("%1, row %2: the new album refuses it.").arg(table_).arg(rows_));
         return;
     }
     FieldValue& value = row[std::size_t(place - inserted_.begin())];
     const QString name = std::get<QString>(value);
     if (IsValueTable(table_)) {
         report_.AddProblem(
-            Say("Table %1: the value '%2' is there twice and came over once.").arg(table_, name));
+            OldAlbumReport::tr("Table %1: the value '%2' is there twice and came over once.")
+                .arg(table_, name));
         return;
     }
     do {
         value = QStringLiteral("%1 (%2)").arg(name).arg(++suffix_);
     } while (!TryInsert(row));
-    report_.AddProblem(Say("Table %1: the name '%2' is there twice; the second became '%3'.")
-                           .arg(table_, name, std::get<QString>(value)));
+    report_.AddProblem(
+        OldAlbumReport::tr("Table %1: the name '%2' is there twice; the second became '%3'.")
+            .arg(table_, name, std::get<QString>(value)));
 }
 
 // Rows without an identifier of their own come last, when all others are known.
@@ -282,9 +281,10 @@ void OldAlbumTable::InsertSetAside()
         row[std::size_t(place - inserted_.begin())] = ++highest_;
         if (!TryInsert(row))
             InsertUnderAnotherName(row);
-        report_.AddProblem(Say("Table %1: a row without an identifier of its own became number %2.")
-                               .arg(table_)
-                               .arg(highest_));
+        report_.AddProblem(
+            OldAlbumReport::tr("Table %1: a row without an identifier of its own became number %2.")
+                .arg(table_)
+                .arg(highest_));
     }
 }
 

@@ -3,6 +3,8 @@
 
 #include "story/PictureFilter.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace {
@@ -95,7 +97,7 @@ QString DescribeFilter(const QString& filter)
     QString prefix;
     for (const QString& token : FilterTokens(StorableFilter(filter))) {
         if (token == negation) {
-            prefix = QStringLiteral("not ");
+            prefix = QCoreApplication::translate("FilterValues", "not ");
             continue;
         }
         parts += prefix + token;
@@ -106,8 +108,8 @@ QString DescribeFilter(const QString& filter)
 
 std::vector<FilterChoice> FilterChoices(int column, const QString& filter)
 {
-    std::vector<FilterChoice> choices{{QStringLiteral("* (Reset)"), anyValue},
-                                      {negation, negation}};
+    std::vector<FilterChoice> choices{
+        {QCoreApplication::translate("FilterValues", "* (Reset)"), anyValue}, {negation, negation}};
     const QStringList known = TableValues(column);
     for (const QString& value : known)
         choices.push_back({value, value});

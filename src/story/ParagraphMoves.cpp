@@ -5,6 +5,8 @@
 #include "platform/data/WriteBatch.h"
 #include "story/ParagraphMarkers.h"
 
+#include <QCoreApplication>
+
 using GeneralModule::AlbumDatabase;
 using GeneralModule::ChapterSet;
 using GeneralModule::FindById;
@@ -13,7 +15,6 @@ using GeneralModule::ParagraphSet;
 namespace {
 
 constexpr int longestLine = 1000; // characters; no screen shows more of a line
-const QString emptyParagraph = QStringLiteral("<<Empty Paragraph>>");
 
 // The paragraph that another one leads to, 0 for none. One that leads to itself leads nowhere.
 qint32 LinkOf(qint32 paragraph, QStringView field)
@@ -163,7 +164,8 @@ std::vector<ParagraphLine> ListParagraphs(qint32 chapter)
     for (const qint32 paragraph : WalkParagraphs(FirstParagraphOf(chapter), u"NextParagraph")) {
         FindById(*ParagraphSet, paragraph);
         QString text = ParagraphSet->TextOrEmpty(u"Text");
-        text = text.isEmpty() ? emptyParagraph : ToDisplayMarkers(text, markers);
+        text = text.isEmpty() ? QCoreApplication::translate("ParagraphMoves", "<<Empty Paragraph>>")
+                              : ToDisplayMarkers(text, markers);
         text.truncate(longestLine);
         lines.push_back({paragraph, text.replace(u'\r', u' ').replace(u'\n', u' ')});
     }

@@ -146,7 +146,7 @@ void frmEditParagraph::ShowParagraph()
 // The text box keeps caret and history where it holds the text already.
 void frmEditParagraph::FillFromAlbum()
 {
-    setWindowTitle(QStringLiteral("Edit Paragraph from Chapter '") + ChapterNameOf(CurrentChapter) +
+    setWindowTitle(tr("Edit Paragraph from Chapter '") + ChapterNameOf(CurrentChapter) +
                    QLatin1Char('\''));
     markers_ = ReadTextMarkers();
     ui_->filterPanel->ShowLabels();
@@ -217,7 +217,7 @@ void frmEditParagraph::cmdCreateNext_Click()
 void frmEditParagraph::cmdDelete_Click()
 {
     const Dialogs::Answer answer =
-        Dialogs::Door().Ask({QStringLiteral("Are you sure you want to DELETE current paragraph ?"),
+        Dialogs::Door().Ask({tr("Are you sure you want to DELETE current paragraph ?"),
                              Dialogs::Icon::Question, Dialogs::Buttons::OkCancel});
     if (answer != Dialogs::Answer::Ok)
         return;

@@ -49,7 +49,7 @@ void frmEditParagraph::RefreshPictureList()
     FindById(*ParagraphSet, CurrentParagraph);
     PictureList found;
     BuildPictureList(*ParagraphSet, found, mostPreviewed, [this](int count) {
-        ui_->lblFeedback->setText(QString::number(count) + QStringLiteral(" images found"));
+        ui_->lblFeedback->setText(QString::number(count) + tr(" images found"));
         ui_->lblFeedback->repaint();
     });
     pictures_ = found.GetFiles();
@@ -63,7 +63,7 @@ void frmEditParagraph::cmdNextImage_Click()
         return lblText_Click();
     ShowPicture(pictures_.takeFirst());
     FillPreviewText();
-    ui_->lblFeedback->setText(QString::number(pictures_.size()) + QStringLiteral(" images left"));
+    ui_->lblFeedback->setText(QString::number(pictures_.size()) + tr(" images left"));
 }
 
 // A preview shows at once what a changed filter finds.

@@ -6,6 +6,7 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QRegularExpression>
 
@@ -60,10 +61,10 @@ void Autoview::Switch()
 {
     const auto pause = Pause();
     if (!AutoviewOn) {
-        const QString answer =
-            Dialogs::Door().AskText({.prompt = QStringLiteral("Please enter delay in seconds : "),
-                                     .proposal = ProposedDelay(),
-                                     .title = QStringLiteral("Autoview Mode")});
+        const QString answer = Dialogs::Door().AskText(
+            {.prompt = QCoreApplication::translate("Autoview", "Please enter delay in seconds : "),
+             .proposal = ProposedDelay(),
+             .title = QCoreApplication::translate("Autoview", "Autoview Mode")});
         GeneralModule::SaveTimerDelay(DelayFromAnswer(answer));
         delay_ = GeneralModule::GetTimerDelay();
     }

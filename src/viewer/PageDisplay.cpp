@@ -7,13 +7,16 @@
 #include "story/PictureFilter.h"
 #include "viewer/StoryPage.h"
 
+#include <QCoreApplication>
+
 void PageDisplay::FindPictures(RecordSet& paragraph, int most)
 {
     const BusyPointer busy;
     displayed_.clear();
     RunGuarded([&] {
         BuildPictureList(paragraph, list_, most, [this](int count) {
-            page_->ShowFeedback(QString::number(count) + QStringLiteral(" images found"));
+            page_->ShowFeedback(QString::number(count) +
+                                QCoreApplication::translate("PageDisplay", " images found"));
         });
     });
 }
@@ -45,7 +48,8 @@ void PageDisplay::ShowText()
 
 void PageDisplay::ShowCountLeft()
 {
-    page_->SetLegend(QString::number(list_.Count()) + QStringLiteral(" images left"));
+    page_->SetLegend(QString::number(list_.Count()) +
+                     QCoreApplication::translate("PageDisplay", " images left"));
 }
 
 void PageDisplay::ShowLarge(const ShownPicture& picture, bool hasText)

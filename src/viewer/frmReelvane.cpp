@@ -133,8 +133,7 @@ void frmReelvane::ShowText(bool isBrowsing)
 void frmReelvane::cmdTimer_Click()
 {
     autoview_.Switch();
-    DisplayForm->SetLegend(GeneralModule::AutoviewOn ? QStringLiteral("Timer On")
-                                                     : QStringLiteral("Timer Off"));
+    DisplayForm->SetLegend(GeneralModule::AutoviewOn ? tr("Timer On") : tr("Timer Off"));
 }
 
 void frmReelvane::ShowAutoviewState(bool isOn)

@@ -40,8 +40,8 @@ void frmReelvane::DisplayEmptyChapter()
     const QString name = isKnown ? ChapterSet->TextOrEmpty(u"Name") : QString();
     DisplayForm->window()->setWindowTitle(name);
     DisplayUndefined(QStringLiteral("*"), mostListed);
-    display_.SetText(QStringLiteral("Click HERE to create first paragraph of the new chapter '") +
-                     name + QLatin1Char('\''));
+    display_.SetText(tr("Click HERE to create first paragraph of the new chapter '") + name +
+                     QLatin1Char('\''));
     display_.ShowText();
     DisplayForm->SetLegendAlignment(Qt::AlignHCenter);
 }

@@ -20,11 +20,6 @@ namespace {
 constexpr int busyMilliseconds = 3000; // longer than any commit of another program should take
 constexpr int largestValue = 64 * 1024 * 1024; // bytes; a memo of a life's story has about one
 
-QString Say(const char* text)
-{
-    return QCoreApplication::translate("DatabaseError", text);
-}
-
 // Returns whether the file has a password; throws for what no password opens.
 bool NeedsPassword(const QString& path)
 {
@@ -32,22 +27,25 @@ bool NeedsPassword(const QString& path)
     switch (KindOfDatabaseFile(path)) {
     case DatabaseFileKind::Missing:
         throw DatabaseError(DatabaseError::NoSuchFile,
-                            Say("The file '%1' does not exist.").arg(shown));
+                            DatabaseError::tr("The file '%1' does not exist.").arg(shown));
     case DatabaseFileKind::Unopenable:
         throw DatabaseError(DatabaseError::CannotOpen,
-                            Say("'%1' is not a file that can be opened.").arg(shown));
+                            DatabaseError::tr("'%1' is not a file that can be opened.").arg(shown));
     case DatabaseFileKind::ReadOnly:
         throw DatabaseError(
             DatabaseError::ReadOnly,
-            Say("'%1' cannot be changed: the file or its folder is read-only.").arg(shown));
+            DatabaseError::tr("'%1' cannot be changed: the file or its folder is read-only.")
+                .arg(shown));
     case DatabaseFileKind::Empty:
-        throw DatabaseError(DatabaseError::NotADatabase, Say("'%1' is an empty file.").arg(shown));
-    case DatabaseFileKind::OldAlbum:
         throw DatabaseError(DatabaseError::NotADatabase,
-                            Say("'%1' is an album of the former file format.").arg(shown));
+                            DatabaseError::tr("'%1' is an empty file.").arg(shown));
+    case DatabaseFileKind::OldAlbum:
+        throw DatabaseError(
+            DatabaseError::NotADatabase,
+            DatabaseError::tr("'%1' is an album of the former file format.").arg(shown));
     case DatabaseFileKind::NotADatabase:
         throw DatabaseError(DatabaseError::NotADatabase,
-                            Say("'%1' is damaged or not an album.").arg(shown));
+                            DatabaseError::tr("'%1' is damaged or not an album.").arg(shown));
     case DatabaseFileKind::Plain:
         return false;
     case DatabaseFileKind::Encrypted:
@@ -120,7 +118,8 @@ void Database::Unlock(const QString& password)
         if (TryKey(key, 3))
             return;
     }
-    throw DatabaseError(DatabaseError::WrongPassword, Say("The password is wrong or missing."));
+    throw DatabaseError(DatabaseError::WrongPassword,
+                        DatabaseError::tr("The password is wrong or missing."));
 }
 
 bool Database::TryKey(const QByteArray& key, int compatibility)
@@ -155,7 +154,7 @@ void Database::CheckSize()
 {
     if (QFileInfo(path_).size() < GetPragma("page_count") * GetPragma("page_size"))
         throw DatabaseError(DatabaseError::Damaged,
-                            Say("The album file is damaged: its end is missing."));
+                            DatabaseError::tr("The album file is damaged: its end is missing."));
 }
 
 void Database::Prepare()

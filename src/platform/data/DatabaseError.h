@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <exception>
@@ -9,6 +10,8 @@
 // What the album's engine reports: a number that code and users know it by, and a sentence.
 class DatabaseError : public std::exception
 {
+    Q_DECLARE_TR_FUNCTIONS(DatabaseError)
+
 public:
     enum Number {
         Overflow = 6,

@@ -79,9 +79,8 @@ void ExportDatabase(Database& database, const QString& target, const QString& pa
     CopyInto(database, target, password);
     const std::shared_ptr<Database> copy = Database::Open(target, password);
     if (!IsSound(*copy) || CountRows(*copy) != CountRows(database)) {
-        throw DatabaseError(
-            DatabaseError::DiskError,
-            QCoreApplication::translate("DatabaseError", "The album could not be written anew."));
+        throw DatabaseError(DatabaseError::DiskError,
+                            DatabaseError::tr("The album could not be written anew."));
     }
     removeTarget.dismiss();
 }

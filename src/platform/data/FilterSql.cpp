@@ -73,10 +73,8 @@ private:
             FailMismatch(node.field);
         const QByteArray pattern = std::get<QString>(node.value).toUtf8();
         if (!LikePattern(pattern.toStdString(), LikePattern::Case::Insensitive).IsValid()) {
-            throw DatabaseError(
-                DatabaseError::InvalidPattern,
-                QCoreApplication::translate("DatabaseError", "Invalid pattern in filter '%1'.")
-                    .arg(text_));
+            throw DatabaseError(DatabaseError::InvalidPattern,
+                                DatabaseError::tr("Invalid pattern in filter '%1'.").arg(text_));
         }
         result_.condition += QByteArray(likeFunction) + '(' + AddValue(node.value) + ',' +
                              QuotedName(field.name) + ')';
@@ -94,8 +92,7 @@ private:
         if (field < 0) {
             throw DatabaseError(
                 DatabaseError::UnknownFieldInFilter,
-                QCoreApplication::translate("DatabaseError", "Unknown field '%1' in filter '%2'.")
-                    .arg(name, text_));
+                DatabaseError::tr("Unknown field '%1' in filter '%2'.").arg(name, text_));
         }
         return table_.At(field);
     }
@@ -104,8 +101,7 @@ private:
     {
         throw DatabaseError(
             DatabaseError::TypeMismatch,
-            QCoreApplication::translate(
-                "DatabaseError", "Field '%1' is compared with a value of another type in '%2'.")
+            DatabaseError::tr("Field '%1' is compared with a value of another type in '%2'.")
                 .arg(field, text_));
     }
 

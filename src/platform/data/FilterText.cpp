@@ -183,16 +183,14 @@ void FilterParser::Fail() const
 {
     throw DatabaseError(
         DatabaseError::BadFilter,
-        QCoreApplication::translate("DatabaseError", "Syntax error in filter '%1' at '%2'.")
-            .arg(whole_, rest_));
+        DatabaseError::tr("Syntax error in filter '%1' at '%2'.").arg(whole_, rest_));
 }
 
 void FilterParser::FailTooComplex() const
 {
-    throw DatabaseError(
-        DatabaseError::TooComplex,
-        QCoreApplication::translate("DatabaseError", "The filter is too long: '%1...'")
-            .arg(whole_.first(std::min<qsizetype>(80, whole_.size()))));
+    throw DatabaseError(DatabaseError::TooComplex,
+                        DatabaseError::tr("The filter is too long: '%1...'")
+                            .arg(whole_.first(std::min<qsizetype>(80, whole_.size()))));
 }
 
 } // namespace

@@ -26,9 +26,9 @@ QByteArray SelectedNames(const TableLayout& layout, quint64 fields)
     return names;
 }
 
-[[noreturn]] void Fail(DatabaseError::Number number, const char* text)
+[[noreturn]] void Fail(DatabaseError::Number number, const QString& text)
 {
-    throw DatabaseError(number, QCoreApplication::translate("DatabaseError", text));
+    throw DatabaseError(number, text);
 }
 
 } // namespace
@@ -61,7 +61,7 @@ void RecordSet::MoveFirst()
 void RecordSet::MoveNext()
 {
     if (place_ == Place::End)
-        Fail(DatabaseError::NoCurrentRecord, "There is no current record.");
+        Fail(DatabaseError::NoCurrentRecord, DatabaseError::tr("There is no current record."));
     if (!Advance({}, row_))
         place_ = Place::End;
 }
@@ -181,9 +181,8 @@ int RecordSet::FieldNumber(QStringView field) const
 {
     const int number = layout_.Find(field);
     if (number < 0) {
-        throw DatabaseError(
-            DatabaseError::NoSuchField,
-            QCoreApplication::translate("DatabaseError", "There is no field '%1'.").arg(field));
+        throw DatabaseError(DatabaseError::NoSuchField,
+                            DatabaseError::tr("There is no field '%1'.").arg(field));
     }
     return number;
 }
@@ -191,9 +190,9 @@ int RecordSet::FieldNumber(QStringView field) const
 void RecordSet::RequireRow() const
 {
     if (place_ == Place::End)
-        Fail(DatabaseError::NoCurrentRecord, "There is no current record.");
+        Fail(DatabaseError::NoCurrentRecord, DatabaseError::tr("There is no current record."));
     if (place_ == Place::DeletedRow)
-        Fail(DatabaseError::RecordDeleted, "The record has been deleted.");
+        Fail(DatabaseError::RecordDeleted, DatabaseError::tr("The record has been deleted."));
 }
 
 const FieldValue* RecordSet::Buffered(int field) const
@@ -237,7 +236,7 @@ void RecordSet::LoadFields(quint64 fields)
     }
     load->Bind(1, row_);
     if (!load->Step())
-        Fail(DatabaseError::RecordDeleted, "The record has been deleted.");
+        Fail(DatabaseError::RecordDeleted, DatabaseError::tr("The record has been deleted."));
     int column = 0;
     for (int field = 0; field < layout_.Count(); ++field) {
         if (fields & BitOf(field))
@@ -261,19 +260,23 @@ QString RecordSet::Text(int field)
         return *text;
     if (const auto* number = std::get_if<qint64>(&value))
         return QString::number(*number);
-    Fail(DatabaseError::InvalidUseOfNull, "A field that holds nothing was read as a text.");
+    Fail(DatabaseError::InvalidUseOfNull,
+         DatabaseError::tr("A field that holds nothing was read as a text."));
 }
 
 qint32 RecordSet::Number(int field)
 {
     const FieldValue& value = Value(field);
     if (std::holds_alternative<std::monostate>(value))
-        Fail(DatabaseError::InvalidUseOfNull, "A field that holds nothing was read as a number.");
+        Fail(DatabaseError::InvalidUseOfNull,
+             DatabaseError::tr("A field that holds nothing was read as a number."));
     const auto* number = std::get_if<qint64>(&value);
     if (!number)
-        Fail(DatabaseError::TypeMismatch, "A field that holds a text was read as a number.");
+        Fail(DatabaseError::TypeMismatch,
+             DatabaseError::tr("A field that holds a text was read as a number."));
     if (*number != qint64(qint32(*number)))
-        Fail(DatabaseError::Overflow, "The album holds a number that is too large.");
+        Fail(DatabaseError::Overflow,
+             DatabaseError::tr("The album holds a number that is too large."));
     return qint32(*number);
 }
 

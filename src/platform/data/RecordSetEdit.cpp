@@ -13,9 +13,9 @@ namespace {
 
 constexpr qsizetype mostKept = 64;
 
-[[noreturn]] void Fail(DatabaseError::Number number, const char* text)
+[[noreturn]] void Fail(DatabaseError::Number number, const QString& text)
 {
-    throw DatabaseError(number, QCoreApplication::translate("DatabaseError", text));
+    throw DatabaseError(number, text);
 }
 
 } // namespace
@@ -44,16 +44,18 @@ qint64 RecordSet::NextIdentifier()
     highest.Bind(1, QString::fromUtf8(layout_.GetTable()));
     const qint64 next = highest.Step() ? highest.GetInteger(0) + 1 : 1;
     if (next > std::numeric_limits<qint32>::max())
-        Fail(DatabaseError::Overflow, "The album has used up its identifiers.");
+        Fail(DatabaseError::Overflow, DatabaseError::tr("The album has used up its identifiers."));
     return next;
 }
 
 void RecordSet::SetBuffered(int number, FieldValue value)
 {
     if (!buffer_)
-        Fail(DatabaseError::UpdateWithoutEdit, "A record was changed without editing it.");
+        Fail(DatabaseError::UpdateWithoutEdit,
+             DatabaseError::tr("A record was changed without editing it."));
     if (layout_.At(number).isNumber != std::holds_alternative<qint64>(value))
-        Fail(DatabaseError::TypeMismatch, "A field was given a value of another type.");
+        Fail(DatabaseError::TypeMismatch,
+             DatabaseError::tr("A field was given a value of another type."));
     auto& values = buffer_->values;
     const auto known = std::find_if(values.begin(), values.end(),
                                     [number](const auto& entry) { return entry.first == number; });
@@ -66,7 +68,8 @@ void RecordSet::SetBuffered(int number, FieldValue value)
 void RecordSet::Update()
 {
     if (!buffer_)
-        Fail(DatabaseError::UpdateWithoutEdit, "A record was changed without editing it.");
+        Fail(DatabaseError::UpdateWithoutEdit,
+             DatabaseError::tr("A record was changed without editing it."));
     if (buffer_->adding)
         UpdateAdded();
     else
@@ -84,7 +87,7 @@ void RecordSet::UpdateEdited()
         update.Bind(int(i) + 2, buffer_->values[i].second);
     update.Run();
     if (sqlite3_changes(database_->GetEngine()) == 0)
-        Fail(DatabaseError::RecordDeleted, "The record has been deleted.");
+        Fail(DatabaseError::RecordDeleted, DatabaseError::tr("The record has been deleted."));
 }
 
 void RecordSet::UpdateAdded()

@@ -47,8 +47,7 @@ bool UsesKnownCollations(const QString& sql)
 {
     throw DatabaseError(
         DatabaseError::NotADatabase,
-        QCoreApplication::translate("DatabaseError",
-                                    "This file is not an album: it holds '%1', which no album has.")
+        DatabaseError::tr("This file is not an album: it holds '%1', which no album has.")
             .arg(name));
 }
 
@@ -78,9 +77,8 @@ void CheckSchema(sqlite3* engine)
         if (!plain || !UsesKnownCollations(sql) || roots.size() >= mostObjects)
             Refuse(name);
         if (root < 1 || root > pages || roots.contains(root)) {
-            throw DatabaseError(
-                DatabaseError::Damaged,
-                QCoreApplication::translate("DatabaseError", "The album file is damaged."));
+            throw DatabaseError(DatabaseError::Damaged,
+                                DatabaseError::tr("The album file is damaged."));
         }
         roots.insert(root);
     }

@@ -7,47 +7,43 @@
 
 #include <utility>
 
-namespace {
-
-QString Say(const char* text)
-{
-    return QCoreApplication::translate("DatabaseError", text);
-}
-
-} // namespace
-
 void ThrowEngineError(sqlite3* engine, int code)
 {
     switch (code & 0xFF) {
     case SQLITE_NOTADB:
-        throw DatabaseError(DatabaseError::NotADatabase, Say("This file is not an album."));
+        throw DatabaseError(DatabaseError::NotADatabase,
+                            DatabaseError::tr("This file is not an album."));
     case SQLITE_CORRUPT:
-        throw DatabaseError(DatabaseError::Damaged, Say("The album file is damaged."));
+        throw DatabaseError(DatabaseError::Damaged,
+                            DatabaseError::tr("The album file is damaged."));
     case SQLITE_CONSTRAINT:
         throw DatabaseError(DatabaseError::DuplicateKey,
-                            Say("The album holds such an entry already."));
+                            DatabaseError::tr("The album holds such an entry already."));
     case SQLITE_FULL:
-        throw DatabaseError(DatabaseError::DiskFull, Say("The disk is full; the last change was not made."));
+        throw DatabaseError(DatabaseError::DiskFull,
+                            DatabaseError::tr("The disk is full; the last change was not made."));
     case SQLITE_READONLY:
     case SQLITE_PERM:
         throw DatabaseError(
             DatabaseError::ReadOnly,
-            Say("The album cannot be changed: its file or its folder is read-only."));
+            DatabaseError::tr("The album cannot be changed: its file or its folder is read-only."));
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
         throw DatabaseError(
             DatabaseError::InUse,
-            Say("The album is being changed by another program. Please try again."));
+            DatabaseError::tr("The album is being changed by another program. Please try again."));
     case SQLITE_CANTOPEN:
-        throw DatabaseError(DatabaseError::CannotOpen,
-                            Say("The album file or a file beside it cannot be opened."));
+        throw DatabaseError(
+            DatabaseError::CannotOpen,
+            DatabaseError::tr("The album file or a file beside it cannot be opened."));
     case SQLITE_IOERR:
         throw DatabaseError(
             DatabaseError::DiskError,
-            Say("The album file cannot be read or written: disk or network error."));
+            DatabaseError::tr("The album file cannot be read or written: disk or network error."));
     case SQLITE_TOOBIG:
     case SQLITE_NOMEM:
-        throw DatabaseError(DatabaseError::TooComplex, Say("A value or a query is too large."));
+        throw DatabaseError(DatabaseError::TooComplex,
+                            DatabaseError::tr("A value or a query is too large."));
     default:
         throw DatabaseError(DatabaseError::Damaged, QString::fromUtf8(sqlite3_errmsg(engine)));
     }
@@ -156,7 +152,7 @@ FieldValue Statement::GetValue(int column) const
         return GetInteger(column);
     case SQLITE_BLOB:
         throw DatabaseError(DatabaseError::TypeMismatch,
-                            Say("The album holds a value of a wrong type."));
+                            DatabaseError::tr("The album holds a value of a wrong type."));
     default: {
         const std::string_view text = GetUtf8(column);
         return QString::fromUtf8(text.data(), qsizetype(text.size()));

@@ -38,16 +38,12 @@ TableLayout::TableLayout(sqlite3* engine, const QString& table) : table_(table.t
             identity_ = Count() - 1;
     }
     if (fields_.empty()) {
-        throw DatabaseError(
-            DatabaseError::NoSuchTable,
-            QCoreApplication::translate("DatabaseError", "The album has no table '%1'.")
-                .arg(table));
+        throw DatabaseError(DatabaseError::NoSuchTable,
+                            DatabaseError::tr("The album has no table '%1'.").arg(table));
     }
     if (fields_.size() > mostFields) {
-        throw DatabaseError(
-            DatabaseError::TooComplex,
-            QCoreApplication::translate("DatabaseError", "Table '%1' has too many fields.")
-                .arg(table));
+        throw DatabaseError(DatabaseError::TooComplex,
+                            DatabaseError::tr("Table '%1' has too many fields.").arg(table));
     }
 }
 

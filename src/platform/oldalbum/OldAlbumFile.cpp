@@ -25,11 +25,6 @@ constexpr qint64 volumeBase = 4 * 1024 * 1024;
 
 constexpr qsizetype mostTables = 10000;
 
-QString Say(const char* text)
-{
-    return QCoreApplication::translate("DatabaseError", text);
-}
-
 OldValue TakeValue(FrameContents& contents)
 {
     using namespace OldAlbumStream;
@@ -75,9 +70,10 @@ OldAlbumFile::OldAlbumFile(const QString& path)
     listIsDamaged_ = true;
     tables_.clear();
     if (!ReadList(true) && tables_.empty())
-        throw DatabaseError(DatabaseError::Damaged,
-                            Say("The album '%1' cannot be read: its list of tables is damaged.")
-                                .arg(QDir::toNativeSeparators(path)));
+        throw DatabaseError(
+            DatabaseError::Damaged,
+            DatabaseError::tr("The album '%1' cannot be read: its list of tables is damaged.")
+                .arg(QDir::toNativeSeparators(path)));
 }
 
 // False when the list broke off.
@@ -101,7 +97,8 @@ bool OldAlbumFile::ReadList(bool wholeFile)
     if (reader.Finish() == OldAlbumStream::NotReadable)
         throw DatabaseError(
             DatabaseError::NotADatabase,
-            Say("'%1' looks like an album of the former file format, but is damaged or was written "
+            DatabaseError::tr(
+                "'%1' looks like an album of the former file format, but is damaged or was written "
                 "by a version that is not known.")
                 .arg(QDir::toNativeSeparators(path_)));
     return false;

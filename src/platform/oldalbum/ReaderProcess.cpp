@@ -35,9 +35,8 @@ ReaderProcess::ReaderProcess(const QStringList& arguments, const QString& progra
     if (!process_.waitForStarted())
         throw DatabaseError(
             DatabaseError::CannotOpen,
-            QCoreApplication::translate("DatabaseError",
-                                        "The part of the program that reads former albums cannot "
-                                        "be started: %1: %2")
+            DatabaseError::tr("The part of the program that reads former albums cannot "
+                              "be started: %1: %2")
                 .arg(program, process_.errorString()));
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/dialogs/Dialogs.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -84,6 +85,7 @@ void StartSysInfo()
     if (!command)
         command = CommandOfDesktop();
     if (!command || !QProcess::startDetached(command->program, command->arguments))
-        Tell(QStringLiteral("System Information Is Unavailable At This Time"),
+        Tell(QCoreApplication::translate("SystemInfo",
+                                         "System Information Is Unavailable At This Time"),
              Dialogs::Icon::Warning);
 }

@@ -6,11 +6,11 @@ namespace {
 QString WarningFor(const AlbumFacts& facts)
 {
     if (!facts.isOpen)
-        return QStringLiteral("Please OPEN or CREATE an ALBUM\nPress F1 for Help");
+        return MainWindowState::tr("Please OPEN or CREATE an ALBUM\nPress F1 for Help");
     if (!facts.hasPictures)
-        return QStringLiteral("Please LOAD and INDEX Pictures\nPress F1 for Help");
+        return MainWindowState::tr("Please LOAD and INDEX Pictures\nPress F1 for Help");
     if (facts.chapters == 0)
-        return QStringLiteral("Please Create the first Chapter of your Album");
+        return MainWindowState::tr("Please Create the first Chapter of your Album");
     return {};
 }
 
@@ -19,8 +19,8 @@ QString WarningFor(const AlbumFacts& facts)
 MainWindowState DescribeMainWindow(const AlbumFacts& facts)
 {
     MainWindowState state;
-    state.caption = facts.isOpen ? QStringLiteral("Choose the chapter you want to read")
-                                 : QStringLiteral("First Open or Create an Album");
+    state.caption = facts.isOpen ? MainWindowState::tr("Choose the chapter you want to read")
+                                 : MainWindowState::tr("First Open or Create an Album");
     state.warning = WarningFor(facts);
     state.offersAlbumCommands = facts.isOpen;
     state.offersPictureCommands = facts.isOpen && facts.hasPictures;

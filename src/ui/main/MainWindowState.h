@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 // What the main window offers, told from what is open.
@@ -15,6 +16,9 @@ struct AlbumFacts
 
 struct MainWindowState
 {
+    Q_DECLARE_TR_FUNCTIONS(MainWindowState)
+
+public:
     QString caption;
     QString warning; // two lines at most; empty when there is nothing to say
     bool offersAlbumCommands = false;

@@ -10,26 +10,27 @@ using namespace GeneralModule;
 
 namespace {
 
-QString Say(const char* text)
+struct PasswordTexts
 {
-    return QCoreApplication::translate("AlbumPassword", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(AlbumPassword)
+};
 
 // Empty when the user gave up.
 QString AskTwice()
 {
     while (true) {
         const QString first = Dialogs::Door().AskText(
-            {.prompt = Say("Please enter the new password"), .isPassword = true});
+            {.prompt = PasswordTexts::tr("Please enter the new password"), .isPassword = true});
         if (first.isEmpty())
             return {};
         const QString second = Dialogs::Door().AskText(
-            {.prompt = Say("Please enter the new password once more"), .isPassword = true});
+            {.prompt = PasswordTexts::tr("Please enter the new password once more"),
+             .isPassword = true});
         if (second == first)
             return first;
         if (second.isEmpty())
             return {};
-        Tell(Say("The two passwords differ"), Dialogs::Icon::Warning);
+        Tell(PasswordTexts::tr("The two passwords differ"), Dialogs::Icon::Warning);
     }
 }
 
@@ -40,17 +41,18 @@ void AskForNewPassword()
     using Answer = Dialogs::Answer;
     Answer answer = Answer::No;
     if (AlbumHasPassword())
-        answer = Dialogs::Door().Ask({Say("This album has a password. Do you want to remove it ?\n"
-                                          "Choose No to change it."),
-                                      Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
-                                      Answer::Cancel});
+        answer = Dialogs::Door().Ask(
+            {PasswordTexts::tr("This album has a password. Do you want to remove it ?\n"
+                               "Choose No to change it."),
+             Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, Answer::Cancel});
     if (answer == Answer::Cancel)
         return;
     const QString password = answer == Answer::Yes ? QString() : AskTwice();
     if (password.isEmpty() && answer != Answer::Yes)
         return;
     SetAlbumPassword(password);
-    Tell(password.isEmpty() ? Say("The album has no password any more.")
-                            : Say("The album has its new password. Without it nobody can open the "
-                                  "album, so keep it well."));
+    Tell(password.isEmpty()
+             ? PasswordTexts::tr("The album has no password any more.")
+             : PasswordTexts::tr("The album has its new password. Without it nobody can open the "
+                                 "album, so keep it well."));
 }

@@ -25,7 +25,6 @@ using namespace GeneralModule;
 namespace {
 
 constexpr QSize proposedSize(860, 600);
-const QString albumFilter = QStringLiteral("Album|*.alb");
 
 } // namespace
 
@@ -206,7 +205,7 @@ void frmOpenChapter::FillRecentAlbums()
 void frmOpenChapter::mnuOpenScript_Click()
 {
     const QString path = Dialogs::Door().AskOpenFile(
-        {QStringLiteral("Open Album"), albumFilter, FolderOf(GetLastAlbum())});
+        {tr("Open Album"), tr("Album|*.alb"), FolderOf(GetLastAlbum())});
     if (!path.isEmpty())
         OpenNamed(path);
     RefreshState();
@@ -215,7 +214,7 @@ void frmOpenChapter::mnuOpenScript_Click()
 void frmOpenChapter::mnuCreateScript_Click()
 {
     const QString path = Dialogs::Door().AskSaveFile(
-        {QStringLiteral("Create a new Album"), albumFilter, FolderOf(GetLastAlbum())});
+        {tr("Create a new Album"), tr("Album|*.alb"), FolderOf(GetLastAlbum())});
     if (!path.isEmpty() && CreateAlbumFile(path))
         OpenNamed(path);
     RefreshState();

@@ -47,10 +47,9 @@ QString frmOpenChapter::AskChapterName(const QString& prompt, const QString& own
             return {};
         const bool isOwn = name.compare(ownName, Qt::CaseInsensitive) == 0;
         if (!IsChapterName(name))
-            Tell(QStringLiteral("Chapter Names must begin with a letter or a figure"),
-                 Dialogs::Icon::Warning);
+            Tell(tr("Chapter Names must begin with a letter or a figure"), Dialogs::Icon::Warning);
         else if (IsListed(name) && !isOwn)
-            Tell(QStringLiteral("This chapter exists already"), Dialogs::Icon::Warning);
+            Tell(tr("This chapter exists already"), Dialogs::Icon::Warning);
         else
             return name;
     }
@@ -60,7 +59,7 @@ void frmOpenChapter::cmdCreateChapter_Click()
 {
     if (!AlbumOpen)
         return;
-    const QString name = AskChapterName(QStringLiteral("Please Enter Chapter Name"), {});
+    const QString name = AskChapterName(tr("Please Enter Chapter Name"), {});
     if (name.isEmpty())
         return;
     CreateChapter(name, SelectedChapter());
@@ -76,8 +75,8 @@ void frmOpenChapter::mnuRename_Click()
     const QString name = SelectedChapter();
     if (name.isEmpty())
         return;
-    const QString newName = AskChapterName(
-        QStringLiteral("Enter new name for chapter '") + name + QLatin1Char('\''), name);
+    const QString newName =
+        AskChapterName(tr("Enter new name for chapter '") + name + QLatin1Char('\''), name);
     if (newName.isEmpty())
         return;
     RenameChapter(name, newName);
@@ -92,8 +91,7 @@ void frmOpenChapter::mnuDeleteChapter_Click()
         return;
     switch (DeleteChapter(name)) {
     case ChapterDeletion::HasParagraphs:
-        Tell(QStringLiteral("This chapter contains paragraphs and can't be deleted"),
-             Dialogs::Icon::Critical);
+        Tell(tr("This chapter contains paragraphs and can't be deleted"), Dialogs::Icon::Critical);
         break;
     case ChapterDeletion::Deleted:
         delete ui_->lstChapter->takeItem(ui_->lstChapter->currentRow());

@@ -1,0 +1,1764 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>Album</name>
+    <message>
+        <source>Unexpected Error : %1 %2</source>
+        <translation>Erreur inattendue : %1 %2</translation>
+    </message>
+    <message>
+        <source>Error %1 %2
+%3</source>
+        <translation>Erreur %1 %2
+%3</translation>
+    </message>
+    <message>
+        <source>If no album can be opened any more, please install the program&apos;s run-time support files again.</source>
+        <translation>Si plus aucun album ne s&apos;ouvre, réinstallez les fichiers d&apos;exécution du programme.</translation>
+    </message>
+    <message>
+        <source>Please give the password for : </source>
+        <translation>Mot de passe de l&apos;album : </translation>
+    </message>
+    <message>
+        <source>The template &apos;%1&apos; cannot be read: %2</source>
+        <translation>Impossible de lire le modèle « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The album &apos;%1&apos; cannot be created: %2</source>
+        <translation>Impossible de créer l&apos;album « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The album cannot be copied to &apos;%1&apos;.</source>
+        <translation>Impossible de copier l&apos;album dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>The album&apos;s file could not be replaced.</source>
+        <translation>Impossible de remplacer le fichier de l&apos;album.</translation>
+    </message>
+</context>
+<context>
+    <name>AlbumPassword</name>
+    <message>
+        <source>Please enter the new password</source>
+        <translation>Saisissez le nouveau mot de passe</translation>
+    </message>
+    <message>
+        <source>Please enter the new password once more</source>
+        <translation>Saisissez de nouveau le nouveau mot de passe</translation>
+    </message>
+    <message>
+        <source>The two passwords differ</source>
+        <translation>Les deux mots de passe sont différents</translation>
+    </message>
+    <message>
+        <source>This album has a password. Do you want to remove it ?
+Choose No to change it.</source>
+        <translation>Cet album a un mot de passe. Voulez-vous le supprimer ?
+Choisissez Non pour le changer.</translation>
+    </message>
+    <message>
+        <source>The album has no password any more.</source>
+        <translation>L&apos;album n&apos;a plus de mot de passe.</translation>
+    </message>
+    <message>
+        <source>The album has its new password. Without it nobody can open the album, so keep it well.</source>
+        <translation>L&apos;album a son nouveau mot de passe. Sans lui, personne ne peut ouvrir l&apos;album : gardez-le bien.</translation>
+    </message>
+</context>
+<context>
+    <name>Autoview</name>
+    <message>
+        <source>Please enter delay in seconds : </source>
+        <translation>Durée d&apos;affichage en secondes : </translation>
+    </message>
+    <message>
+        <source>Autoview Mode</source>
+        <translation>Défilement automatique</translation>
+    </message>
+</context>
+<context>
+    <name>Convert</name>
+    <message>
+        <source>It has a password; give the file that holds it with --%1.</source>
+        <translation>Il a un mot de passe ; indiquez avec --%1 le fichier qui le contient.</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Le mot de passe est faux.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Ce fichier n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>It is not a file that can be opened.</source>
+        <translation>Ce n&apos;est pas un fichier qui puisse être ouvert.</translation>
+    </message>
+    <message>
+        <source>It is not an album of the former file format.</source>
+        <translation>Ce n&apos;est pas un album à l&apos;ancien format de fichier.</translation>
+    </message>
+    <message>
+        <source>Make the new album NEW of the album OLD of the former file format, without windows. The exit status is 0 when everything came over, 3 when the new album lacks something, 1 when none was made.</source>
+        <translation>Faire de l&apos;album OLD, à l&apos;ancien format de fichier, le nouvel album NEW, sans fenêtre. Le code de sortie est 0 quand tout a été repris, 3 quand il manque quelque chose au nouvel album, 1 quand aucun n&apos;a été fait.</translation>
+    </message>
+    <message>
+        <source>With --convert: the first line of FILE is the old album&apos;s password. The new one gets it too.</source>
+        <translation>Avec --convert : la première ligne de FILE est le mot de passe de l&apos;ancien album. Le nouveau le reçoit aussi.</translation>
+    </message>
+    <message>
+        <source>With --convert: replace NEW where it exists.</source>
+        <translation>Avec --convert : remplacer NEW s&apos;il existe.</translation>
+    </message>
+    <message>
+        <source>The old album; it stays as it is.</source>
+        <translation>L&apos;ancien album ; il reste tel quel.</translation>
+    </message>
+    <message>
+        <source>The new album.</source>
+        <translation>Le nouvel album.</translation>
+    </message>
+    <message>
+        <source>lumenark: --convert takes the old album and the new one</source>
+        <translation>lumenark : --convert demande l&apos;ancien album et le nouveau</translation>
+    </message>
+    <message>
+        <source>usage: lumenark --convert OLD NEW [--password-file FILE] [--force]</source>
+        <translation>utilisation : lumenark --convert OLD NEW [--password-file FILE] [--force]</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseError</name>
+    <message>
+        <source>The file &apos;%1&apos; does not exist.</source>
+        <translation>Le fichier « %1 » n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a file that can be opened.</source>
+        <translation>« %1 » n&apos;est pas un fichier qui puisse être ouvert.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be changed: the file or its folder is read-only.</source>
+        <translation>« %1 » ne peut pas être modifié : le fichier ou son dossier est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is an empty file.</source>
+        <translation>« %1 » est un fichier vide.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is an album of the former file format.</source>
+        <translation>« %1 » est un album à l&apos;ancien format de fichier.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is damaged or not an album.</source>
+        <translation>« %1 » est endommagé ou n&apos;est pas un album.</translation>
+    </message>
+    <message>
+        <source>The password is wrong or missing.</source>
+        <translation>Le mot de passe est faux ou manque.</translation>
+    </message>
+    <message>
+        <source>The album file is damaged: its end is missing.</source>
+        <translation>Le fichier de l&apos;album est endommagé : la fin manque.</translation>
+    </message>
+    <message>
+        <source>The album could not be written anew.</source>
+        <translation>L&apos;album n&apos;a pas pu être réécrit.</translation>
+    </message>
+    <message>
+        <source>Invalid pattern in filter &apos;%1&apos;.</source>
+        <translation>Modèle incorrect dans le filtre « %1 ».</translation>
+    </message>
+    <message>
+        <source>Unknown field &apos;%1&apos; in filter &apos;%2&apos;.</source>
+        <translation>Champ « %1 » inconnu dans le filtre « %2 ».</translation>
+    </message>
+    <message>
+        <source>Field &apos;%1&apos; is compared with a value of another type in &apos;%2&apos;.</source>
+        <translation>Le champ « %1 » est comparé à une valeur d&apos;un autre type dans « %2 ».</translation>
+    </message>
+    <message>
+        <source>Syntax error in filter &apos;%1&apos; at &apos;%2&apos;.</source>
+        <translation>Erreur de syntaxe dans le filtre « %1 », à « %2 ».</translation>
+    </message>
+    <message>
+        <source>The filter is too long: &apos;%1...&apos;</source>
+        <translation>Le filtre est trop long : « %1... »</translation>
+    </message>
+    <message>
+        <source>There is no current record.</source>
+        <translation>Il n&apos;y a pas d&apos;enregistrement courant.</translation>
+    </message>
+    <message>
+        <source>There is no field &apos;%1&apos;.</source>
+        <translation>Il n&apos;y a pas de champ « %1 ».</translation>
+    </message>
+    <message>
+        <source>The record has been deleted.</source>
+        <translation>L&apos;enregistrement a été supprimé.</translation>
+    </message>
+    <message>
+        <source>A field that holds nothing was read as a text.</source>
+        <translation>Un champ vide a été lu comme un texte.</translation>
+    </message>
+    <message>
+        <source>A field that holds nothing was read as a number.</source>
+        <translation>Un champ vide a été lu comme un nombre.</translation>
+    </message>
+    <message>
+        <source>A field that holds a text was read as a number.</source>
+        <translation>Un champ de texte a été lu comme un nombre.</translation>
+    </message>
+    <message>
+        <source>The album holds a number that is too large.</source>
+        <translation>L&apos;album contient un nombre trop grand.</translation>
+    </message>
+    <message>
+        <source>The album has used up its identifiers.</source>
+        <translation>L&apos;album n&apos;a plus d&apos;identifiant libre.</translation>
+    </message>
+    <message>
+        <source>A record was changed without editing it.</source>
+        <translation>Un enregistrement a été modifié hors édition.</translation>
+    </message>
+    <message>
+        <source>A field was given a value of another type.</source>
+        <translation>Un champ a reçu une valeur d&apos;un autre type.</translation>
+    </message>
+    <message>
+        <source>This file is not an album: it holds &apos;%1&apos;, which no album has.</source>
+        <translation>Ce fichier n&apos;est pas un album : il contient « %1 », qu&apos;aucun album ne contient.</translation>
+    </message>
+    <message>
+        <source>The album file is damaged.</source>
+        <translation>Le fichier de l&apos;album est endommagé.</translation>
+    </message>
+    <message>
+        <source>This file is not an album.</source>
+        <translation>Ce fichier n&apos;est pas un album.</translation>
+    </message>
+    <message>
+        <source>The album holds such an entry already.</source>
+        <translation>L&apos;album contient déjà cette entrée.</translation>
+    </message>
+    <message>
+        <source>The disk is full; the last change was not made.</source>
+        <translation>Le disque est plein ; la dernière modification n&apos;a pas été faite.</translation>
+    </message>
+    <message>
+        <source>The album cannot be changed: its file or its folder is read-only.</source>
+        <translation>L&apos;album ne peut pas être modifié : son fichier ou son dossier est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>The album is being changed by another program. Please try again.</source>
+        <translation>Un autre programme est en train de modifier l&apos;album. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>The album file or a file beside it cannot be opened.</source>
+        <translation>Le fichier de l&apos;album, ou un fichier voisin, ne peut pas être ouvert.</translation>
+    </message>
+    <message>
+        <source>The album file cannot be read or written: disk or network error.</source>
+        <translation>Le fichier de l&apos;album ne peut être ni lu ni écrit : erreur du disque ou du réseau.</translation>
+    </message>
+    <message>
+        <source>A value or a query is too large.</source>
+        <translation>Une valeur ou une requête est trop grande.</translation>
+    </message>
+    <message>
+        <source>The album holds a value of a wrong type.</source>
+        <translation>L&apos;album contient une valeur d&apos;un type inattendu.</translation>
+    </message>
+    <message>
+        <source>The album has no table &apos;%1&apos;.</source>
+        <translation>L&apos;album n&apos;a pas de table « %1 ».</translation>
+    </message>
+    <message>
+        <source>Table &apos;%1&apos; has too many fields.</source>
+        <translation>La table « %1 » a trop de champs.</translation>
+    </message>
+    <message>
+        <source>The album &apos;%1&apos; cannot be read: its list of tables is damaged.</source>
+        <translation>L&apos;album « %1 » ne peut pas être lu : sa liste de tables est endommagée.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; looks like an album of the former file format, but is damaged or was written by a version that is not known.</source>
+        <translation>« %1 » ressemble à un album à l&apos;ancien format de fichier, mais il est endommagé ou vient d&apos;une version inconnue.</translation>
+    </message>
+    <message>
+        <source>The part of the program that reads former albums cannot be started: %1: %2</source>
+        <translation>La partie du programme qui lit les anciens albums ne démarre pas : %1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>FilterPanel</name>
+    <message>
+        <source>Picture filter</source>
+        <translation>Filtre des photos</translation>
+    </message>
+    <message>
+        <source>Click to add or remove filter value</source>
+        <translation>Cliquez pour ajouter ou retirer une valeur du filtre</translation>
+    </message>
+    <message>
+        <source>Filter values</source>
+        <translation>Valeurs du filtre</translation>
+    </message>
+    <message>
+        <source>Click to select filter</source>
+        <translation>Cliquez pour choisir le filtre</translation>
+    </message>
+    <message>
+        <source>No longer among the values of this caracteristic</source>
+        <translation>Ne figure plus parmi les valeurs de cette caractéristique</translation>
+    </message>
+    <message>
+        <source>Pictures that have none of the chosen values</source>
+        <translation>Photos qui n&apos;ont aucune des valeurs choisies</translation>
+    </message>
+    <message>
+        <source>Click a caracteristic to filter pictures</source>
+        <translation>Cliquez une caractéristique pour filtrer les photos</translation>
+    </message>
+</context>
+<context>
+    <name>FilterValues</name>
+    <message>
+        <source>not </source>
+        <translation>sauf </translation>
+    </message>
+    <message>
+        <source>* (Reset)</source>
+        <translation>* (Effacer)</translation>
+    </message>
+</context>
+<context>
+    <name>FolderListing</name>
+    <message>
+        <source>The folder &apos;%1&apos; cannot be read: %2</source>
+        <translation>Impossible de lire le dossier « %1 » : %2</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Lumenark Help</source>
+        <translation>Aide de Lumenark</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>The help file &apos;%1&apos; cannot be read.</source>
+        <translation>Impossible de lire le fichier d&apos;aide « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindowState</name>
+    <message>
+        <source>Please OPEN or CREATE an ALBUM
+Press F1 for Help</source>
+        <translation>Veuillez OUVRIR ou CRÉER un ALBUM
+Appuyez sur F1 pour l&apos;aide</translation>
+    </message>
+    <message>
+        <source>Please LOAD and INDEX Pictures
+Press F1 for Help</source>
+        <translation>Veuillez CHARGER et INDEXER des photos
+Appuyez sur F1 pour l&apos;aide</translation>
+    </message>
+    <message>
+        <source>Please Create the first Chapter of your Album</source>
+        <translation>Veuillez créer le premier chapitre de votre album</translation>
+    </message>
+    <message>
+        <source>Choose the chapter you want to read</source>
+        <translation>Choisissez le chapitre à lire</translation>
+    </message>
+    <message>
+        <source>First Open or Create an Album</source>
+        <translation>Ouvrez ou créez d&apos;abord un album</translation>
+    </message>
+</context>
+<context>
+    <name>OldAlbumReport</name>
+    <message>
+        <source>Please give the password for : </source>
+        <translation>Mot de passe de l&apos;album : </translation>
+    </message>
+    <message>
+        <source>%1 (new).alb</source>
+        <translation>%1 (nouveau).alb</translation>
+    </message>
+    <message>
+        <source>%1 (new %2).alb</source>
+        <translation>%1 (nouveau %2).alb</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is an album of the former file format. Shall a new album be made of it? The old one stays as it is.</source>
+        <translation>« %1 » est un album à l&apos;ancien format de fichier. Voulez-vous en faire un nouvel album ? L&apos;ancien reste tel quel.</translation>
+    </message>
+    <message>
+        <source>Save the new Album</source>
+        <translation>Enregistrer le nouvel album</translation>
+    </message>
+    <message>
+        <source>Album|*.alb</source>
+        <translation>Album|*.alb</translation>
+    </message>
+    <message>
+        <source>The new album is &apos;%1&apos;.</source>
+        <translation>Le nouvel album est « %1 ».</translation>
+    </message>
+    <message>
+        <source>Not everything is as it was:</source>
+        <translation>Tout n&apos;est pas comme avant :</translation>
+    </message>
+    <message>
+        <source>The template &apos;%1&apos; cannot be read: %2</source>
+        <translation>Impossible de lire le modèle « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The album &apos;%1&apos; cannot be created: %2</source>
+        <translation>Impossible de créer l&apos;album « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>Table %1 cannot be read.</source>
+        <translation>La table %1 ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>Table %1 is damaged and came over in part: %2 of %3 rows.</source>
+        <translation>La table %1 est endommagée et n&apos;a été reprise qu&apos;en partie : %2 lignes sur %3.</translation>
+    </message>
+    <message>
+        <source>Table %1: %2 of %3 rows cannot be read.</source>
+        <translation>Table %1 : %2 lignes sur %3 ne peuvent pas être lues.</translation>
+    </message>
+    <message>
+        <source>Table %1: its list of pages is damaged; its rows were looked for in the whole file.</source>
+        <translation>Table %1 : sa liste de pages est endommagée ; ses lignes ont été cherchées dans tout le fichier.</translation>
+    </message>
+    <message>
+        <source>Table %1 is missing.</source>
+        <translation>La table %1 manque.</translation>
+    </message>
+    <message>
+        <source>The list of tables is damaged; some may be missing.</source>
+        <translation>La liste des tables est endommagée ; il peut en manquer.</translation>
+    </message>
+    <message>
+        <source>Table %1 is no part of an album and was left out.</source>
+        <translation>La table %1 n&apos;appartient pas à un album et a été laissée de côté.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a database of the former kind, but holds no album.</source>
+        <translation>« %1 » est une base de données de l&apos;ancien genre, mais ne contient pas d&apos;album.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is the old album itself, which is never written to.</source>
+        <translation>« %1 » est l&apos;ancien album lui-même, qui n&apos;est jamais modifié.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a file that can be replaced.</source>
+        <translation>« %1 » n&apos;est pas un fichier qui puisse être remplacé.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists already.</source>
+        <translation>« %1 » existe déjà.</translation>
+    </message>
+    <message>
+        <source>The album &apos;%1&apos; cannot be written to the disk.</source>
+        <translation>L&apos;album « %1 » ne peut pas être écrit sur le disque.</translation>
+    </message>
+    <message>
+        <source>The new album cannot take the name &apos;%1&apos;.</source>
+        <translation>Le nouvel album ne peut pas prendre le nom « %1 ».</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; cannot be written to: %2</source>
+        <translation>Impossible d&apos;écrire dans le dossier « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 and %3 came over.</source>
+        <translation>%1, %2 et %3 ont été repris.</translation>
+    </message>
+    <message>
+        <source>1 chapter</source>
+        <translation>1 chapitre</translation>
+    </message>
+    <message>
+        <source>%1 chapters</source>
+        <translation>%1 chapitres</translation>
+    </message>
+    <message>
+        <source>1 paragraph</source>
+        <translation>1 paragraphe</translation>
+    </message>
+    <message>
+        <source>%1 paragraphs</source>
+        <translation>%1 paragraphes</translation>
+    </message>
+    <message>
+        <source>1 picture</source>
+        <translation>1 photo</translation>
+    </message>
+    <message>
+        <source>%1 pictures</source>
+        <translation>%1 photos</translation>
+    </message>
+    <message>
+        <source>The new album has the old one&apos;s password.</source>
+        <translation>Le nouvel album a le mot de passe de l&apos;ancien.</translation>
+    </message>
+    <message>
+        <source>%1 more of this kind.</source>
+        <translation>%1 autres du même genre.</translation>
+    </message>
+    <message>
+        <source>and many more.</source>
+        <translation>et beaucoup d&apos;autres.</translation>
+    </message>
+    <message>
+        <source>and %1 more.</source>
+        <translation>et %1 autres.</translation>
+    </message>
+    <message>
+        <source>Pictures lie at places of another system, which were kept as they are. &quot;Reload Moved Pictures&quot; points them to where they are now. The folders:</source>
+        <translation>Des photos se trouvent à des emplacements d&apos;un autre système, qui ont été gardés tels quels. « Retrouver les photos déplacées » les rattache à leur emplacement actuel. Les dossiers :</translation>
+    </message>
+    <message>
+        <source>Table %1: the new album has no place for the field %2.</source>
+        <translation>Table %1 : le nouvel album n&apos;a pas de place pour le champ %2.</translation>
+    </message>
+    <message>
+        <source>Table %1: the field %2 is missing.</source>
+        <translation>Table %1 : le champ %2 manque.</translation>
+    </message>
+    <message>
+        <source>%1, row %2</source>
+        <translation>%1, ligne %2</translation>
+    </message>
+    <message>
+        <source>%1: the end of the field %2 cannot be read.</source>
+        <translation>%1 : la fin du champ %2 ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>%1: the field %2 cannot be read.</source>
+        <translation>%1 : le champ %2 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>%1, row %2: left out, it has no identifier.</source>
+        <translation>%1, ligne %2 : laissée de côté, elle n&apos;a pas d&apos;identifiant.</translation>
+    </message>
+    <message>
+        <source>%1, row %2: the new album refuses it.</source>
+        <translation>%1, ligne %2 : le nouvel album la refuse.</translation>
+    </message>
+    <message>
+        <source>Table %1: the value &apos;%2&apos; is there twice and came over once.</source>
+        <translation>Table %1 : la valeur « %2 » s&apos;y trouve deux fois et a été reprise une fois.</translation>
+    </message>
+    <message>
+        <source>Table %1: the name &apos;%2&apos; is there twice; the second became &apos;%3&apos;.</source>
+        <translation>Table %1 : le nom « %2 » s&apos;y trouve deux fois ; le second est devenu « %3 ».</translation>
+    </message>
+    <message>
+        <source>Table %1: a row without an identifier of its own became number %2.</source>
+        <translation>Table %1 : une ligne sans identifiant propre est devenue le numéro %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PageDisplay</name>
+    <message>
+        <source> images found</source>
+        <translation> photos trouvées</translation>
+    </message>
+    <message>
+        <source> images left</source>
+        <translation> photos restantes</translation>
+    </message>
+</context>
+<context>
+    <name>ParagraphChain</name>
+    <message>
+        <source>This paragraph is no longer in the album.</source>
+        <translation>Ce paragraphe n&apos;est plus dans l&apos;album.</translation>
+    </message>
+</context>
+<context>
+    <name>ParagraphMoves</name>
+    <message>
+        <source>&lt;&lt;Empty Paragraph&gt;&gt;</source>
+        <translation>&lt;&lt;Paragraphe vide&gt;&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>PictureLoading</name>
+    <message>
+        <source>The folder &apos;%1&apos; is no longer there.</source>
+        <translation>Le dossier « %1 » n&apos;est plus là.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureRecord</name>
+    <message>
+        <source>The file &apos;%1&apos; cannot be deleted: %2</source>
+        <translation>Impossible de supprimer le fichier « %1 » : %2</translation>
+    </message>
+</context>
+<context>
+    <name>QApplication</name>
+    <message>
+        <source>Tells stories with photographs.</source>
+        <translation>Raconte des histoires avec des photographies.</translation>
+    </message>
+    <message>
+        <source>Go through the windows, write a picture of each into FOLDER, and end.</source>
+        <translation>Parcourir les fenêtres, écrire une image de chacune dans FOLDER, et finir.</translation>
+    </message>
+    <message>
+        <source>The album to open; the last one when not given.</source>
+        <translation>L&apos;album à ouvrir ; le dernier quand il n&apos;est pas indiqué.</translation>
+    </message>
+</context>
+<context>
+    <name>RepairReport</name>
+    <message>
+        <source>before repair</source>
+        <translation>avant réparation</translation>
+    </message>
+    <message>
+        <source>Found again</source>
+        <translation>Retrouvé</translation>
+    </message>
+    <message>
+        <source>The links of the album are in order; nothing was changed.</source>
+        <translation>Les liens de l&apos;album sont en ordre ; rien n&apos;a été changé.</translation>
+    </message>
+    <message>
+        <source>Chapters linked anew: %1</source>
+        <translation>Chapitres reliés de nouveau : %1</translation>
+    </message>
+    <message>
+        <source>Chapters given their right first paragraph: %1</source>
+        <translation>Chapitres ayant retrouvé leur premier paragraphe : %1</translation>
+    </message>
+    <message>
+        <source>Paragraphs without a chapter that have one now: %1</source>
+        <translation>Paragraphes sans chapitre qui en ont un maintenant : %1</translation>
+    </message>
+    <message>
+        <source>Paragraphs linked anew: %1</source>
+        <translation>Paragraphes reliés de nouveau : %1</translation>
+    </message>
+    <message>
+        <source>The album as it was before is kept in &apos;%1&apos;.</source>
+        <translation>L&apos;album tel qu&apos;il était est gardé dans « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>StayAwake</name>
+    <message>
+        <source>A story is on show</source>
+        <translation>Une histoire est à l&apos;écran</translation>
+    </message>
+</context>
+<context>
+    <name>SystemInfo</name>
+    <message>
+        <source>System Information Is Unavailable At This Time</source>
+        <translation>Les informations système ne sont pas disponibles pour le moment</translation>
+    </message>
+</context>
+<context>
+    <name>ValueEntry</name>
+    <message>
+        <source>Caracteristics must begin with a letter or a figure</source>
+        <translation>Les caractéristiques doivent commencer par une lettre ou un chiffre</translation>
+    </message>
+</context>
+<context>
+    <name>WorkProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+</context>
+<context>
+    <name>frmAbout</name>
+    <message>
+        <source>Tells stories with photographs: an album of pictures that lie anywhere on your disk, and the chapters and paragraphs that you write about them.</source>
+        <translation>Raconte des histoires avec des photographies : un album de photos qui se trouvent n&apos;importe où sur votre disque, et les chapitres et paragraphes que vous écrivez sur elles.</translation>
+    </message>
+    <message>
+        <source>Free software under the MIT licence. It comes without any warranty; keep copies of the albums and pictures that you love.</source>
+        <translation>Logiciel libre sous licence MIT, fourni sans aucune garantie ; gardez des copies des albums et des photos que vous aimez.</translation>
+    </message>
+    <message>
+        <source>&amp;System Info...</source>
+        <translation>Infos &amp;système...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>About </source>
+        <translation>À propos de </translation>
+    </message>
+    <message>
+        <source>Version </source>
+        <translation>Version </translation>
+    </message>
+</context>
+<context>
+    <name>frmCDBuffer</name>
+    <message>
+        <source>Set CD-ROM Buffer</source>
+        <translation>Régler le tampon CD-ROM</translation>
+    </message>
+    <message>
+        <source>Ckeck this option if you want Lumenark to copy on hard disk all pictures showed from CD-ROMS. Lumenark will keep those pictures on the hard disk as long as there is enough free space on it. Using this feature lets you see pictures from different CD-ROMS without having to play disk-jokey.</source>
+        <translation>Cochez cette option si vous voulez que Lumenark copie sur le disque dur toutes les photos affichées depuis des CD-ROM. Lumenark garde ces photos sur le disque dur tant qu&apos;il y reste assez de place. Vous pouvez ainsi voir des photos de plusieurs CD-ROM sans jouer au disc-jockey.</translation>
+    </message>
+    <message>
+        <source>Bufferize CD-ROM pictures</source>
+        <translation>Mettre en tampon les photos des CD-ROM</translation>
+    </message>
+    <message>
+        <source>CD-ROM reader is on drive :</source>
+        <translation>Le lecteur de CD-ROM est l&apos;unité :</translation>
+    </message>
+    <message>
+        <source>Drive of the CD-ROM reader</source>
+        <translation>Unité du lecteur de CD-ROM</translation>
+    </message>
+    <message>
+        <source>Pictures are kept in folder :</source>
+        <translation>Les photos sont gardées dans le dossier :</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Dossiers</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+</context>
+<context>
+    <name>frmEditImage</name>
+    <message>
+        <source>Edit and Index Picture</source>
+        <translation>Modifier et indexer la photo</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>Type here the legend of the picture</source>
+        <translation>Saisissez ici la légende de la photo</translation>
+    </message>
+    <message>
+        <source>Delete Picture</source>
+        <translation>Supprimer la photo</translation>
+    </message>
+    <message>
+        <source>Click to add values to the caracteristics</source>
+        <translation>Cliquez pour ajouter des valeurs aux caractéristiques</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Tables</source>
+        <translation>Modifier les &amp;tables</translation>
+    </message>
+    <message>
+        <source>Edit next image in selection</source>
+        <translation>Modifier la photo suivante de la sélection</translation>
+    </message>
+    <message>
+        <source>Next Picture</source>
+        <translation>Photo suivante</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Internal Error : Image File </source>
+        <translation>Erreur interne : fichier image </translation>
+    </message>
+    <message>
+        <source> not found</source>
+        <translation> introuvable</translation>
+    </message>
+    <message>
+        <source>Do you also want to delete the file </source>
+        <translation>Voulez-vous aussi supprimer le fichier </translation>
+    </message>
+    <message>
+        <source>The picture could not be saved. Leave without saving ?</source>
+        <translation>La photo n&apos;a pas pu être enregistrée. Quitter sans enregistrer ?</translation>
+    </message>
+</context>
+<context>
+    <name>frmEditLabels</name>
+    <message>
+        <source>Edit Labels</source>
+        <translation>Modifier les libellés</translation>
+    </message>
+    <message>
+        <source>Names of the groups</source>
+        <translation>Noms des groupes</translation>
+    </message>
+    <message>
+        <source>Names of the columns</source>
+        <translation>Noms des colonnes</translation>
+    </message>
+    <message>
+        <source>Name of group 1</source>
+        <translation>Nom du groupe 1</translation>
+    </message>
+    <message>
+        <source>Name of group 2</source>
+        <translation>Nom du groupe 2</translation>
+    </message>
+    <message>
+        <source>Name of group 3</source>
+        <translation>Nom du groupe 3</translation>
+    </message>
+    <message>
+        <source>Name of group 4</source>
+        <translation>Nom du groupe 4</translation>
+    </message>
+    <message>
+        <source>Name of column 1</source>
+        <translation>Nom de la colonne 1</translation>
+    </message>
+    <message>
+        <source>Name of column 4</source>
+        <translation>Nom de la colonne 4</translation>
+    </message>
+    <message>
+        <source>Name of column 10</source>
+        <translation>Nom de la colonne 10</translation>
+    </message>
+    <message>
+        <source>Name of column 2</source>
+        <translation>Nom de la colonne 2</translation>
+    </message>
+    <message>
+        <source>Name of column 5</source>
+        <translation>Nom de la colonne 5</translation>
+    </message>
+    <message>
+        <source>Name of column 11</source>
+        <translation>Nom de la colonne 11</translation>
+    </message>
+    <message>
+        <source>Name of column 3</source>
+        <translation>Nom de la colonne 3</translation>
+    </message>
+    <message>
+        <source>Name of column 6</source>
+        <translation>Nom de la colonne 6</translation>
+    </message>
+    <message>
+        <source>Name of column 12</source>
+        <translation>Nom de la colonne 12</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>frmEditParagraph</name>
+    <message>
+        <source>Edit Paragraph</source>
+        <translation>Modifier le paragraphe</translation>
+    </message>
+    <message>
+        <source>Click to edit paragraph text</source>
+        <translation>Cliquez pour modifier le texte du paragraphe</translation>
+    </message>
+    <message>
+        <source>Paragraph Text</source>
+        <translation>Texte du paragraphe</translation>
+    </message>
+    <message>
+        <source>Insert caracteristic name into the paragraph text</source>
+        <translation>Insérer le nom d&apos;une caractéristique dans le texte du paragraphe</translation>
+    </message>
+    <message>
+        <source>Insert Caracteristic</source>
+        <translation>Insérer une caractéristique</translation>
+    </message>
+    <message>
+        <source>Cancel Insert</source>
+        <translation>Annuler l&apos;insertion</translation>
+    </message>
+    <message>
+        <source>Paragraph text</source>
+        <translation>Texte du paragraphe</translation>
+    </message>
+    <message>
+        <source>Preview of the paragraph text</source>
+        <translation>Aperçu du texte du paragraphe</translation>
+    </message>
+    <message>
+        <source>Click on caracteristic to insert it</source>
+        <translation>Cliquez une caractéristique pour l&apos;insérer</translation>
+    </message>
+    <message>
+        <source>Markers to insert</source>
+        <translation>Marques à insérer</translation>
+    </message>
+    <message>
+        <source>Select and preview pictures associated to this paragraph</source>
+        <translation>Choisir et voir les photos associées à ce paragraphe</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Show next image</source>
+        <translation>Montrer la photo suivante</translation>
+    </message>
+    <message>
+        <source>Next Picture</source>
+        <translation>Photo suivante</translation>
+    </message>
+    <message>
+        <source>Preview shows the pictures of this paragraph here</source>
+        <translation>L&apos;aperçu montre ici les photos de ce paragraphe</translation>
+    </message>
+    <message>
+        <source>Link Picture to Paragraph</source>
+        <translation>Lier la photo au paragraphe</translation>
+    </message>
+    <message>
+        <source>Go to first paragraph of chapter</source>
+        <translation>Aller au premier paragraphe du chapitre</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Premier</translation>
+    </message>
+    <message>
+        <source>Go to previous paragraph</source>
+        <translation>Aller au paragraphe précédent</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Go to next paragraph</source>
+        <translation>Aller au paragraphe suivant</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Go to last paragraph of chapter</source>
+        <translation>Aller au dernier paragraphe du chapitre</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Dernier</translation>
+    </message>
+    <message>
+        <source>Create a new paragraph after the current one</source>
+        <translation>Créer un nouveau paragraphe après celui-ci</translation>
+    </message>
+    <message>
+        <source>Create Next</source>
+        <translation>Créer le suivant</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Organize</source>
+        <translation>Organiser</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Click to edit image</source>
+        <translation>Cliquez pour modifier la photo</translation>
+    </message>
+    <message>
+        <source>Edit Paragraph from Chapter &apos;</source>
+        <translation>Modifier un paragraphe du chapitre &apos;</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to DELETE current paragraph ?</source>
+        <translation>Voulez-vous vraiment SUPPRIMER ce paragraphe ?</translation>
+    </message>
+    <message>
+        <source>The paragraph cannot be saved: %1
+
+Leave without saving?</source>
+        <translation>Le paragraphe ne peut pas être enregistré : %1
+
+Quitter sans enregistrer ?</translation>
+    </message>
+    <message>
+        <source> images found</source>
+        <translation> photos trouvées</translation>
+    </message>
+    <message>
+        <source> images left</source>
+        <translation> photos restantes</translation>
+    </message>
+</context>
+<context>
+    <name>frmEditTables</name>
+    <message>
+        <source>Edit Tables</source>
+        <translation>Modifier les tables</translation>
+    </message>
+    <message>
+        <source>Choose the table you want to update</source>
+        <translation>Choisissez la table à mettre à jour</translation>
+    </message>
+    <message>
+        <source>Click to select table to edit</source>
+        <translation>Cliquez pour choisir la table à modifier</translation>
+    </message>
+    <message>
+        <source>Caracteristic1</source>
+        <translation>Caractéristique1</translation>
+    </message>
+    <message>
+        <source>Caracteristic2</source>
+        <translation>Caractéristique2</translation>
+    </message>
+    <message>
+        <source>Caracteristic3</source>
+        <translation>Caractéristique3</translation>
+    </message>
+    <message>
+        <source>Column 1</source>
+        <translation>Colonne 1</translation>
+    </message>
+    <message>
+        <source>Column 2</source>
+        <translation>Colonne 2</translation>
+    </message>
+    <message>
+        <source>Column 3</source>
+        <translation>Colonne 3</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
+    </message>
+    <message>
+        <source>Add a new value to the table</source>
+        <translation>Ajouter une valeur à la table</translation>
+    </message>
+    <message>
+        <source>Add New</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Edit the selected value</source>
+        <translation>Modifier la valeur choisie</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Delete the selected value from the table</source>
+        <translation>Supprimer de la table la valeur choisie</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Edit the filter labels</source>
+        <translation>Modifier les libellés du filtre</translation>
+    </message>
+    <message>
+        <source>Edit Labels</source>
+        <translation>Modifier les libellés</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Caracteristic%1</source>
+        <translation>Caractéristique%1</translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation>Colonne %1</translation>
+    </message>
+    <message>
+        <source>Please Enter Parameter&apos;s Name</source>
+        <translation>Saisissez le nom de la valeur</translation>
+    </message>
+    <message>
+        <source>Sorry, you can&apos;t delete the special markers</source>
+        <translation>Désolé, les marques spéciales ne peuvent pas être supprimées</translation>
+    </message>
+    <message>
+        <source>Sorry, you can&apos;t modify the special markers</source>
+        <translation>Désolé, les marques spéciales ne peuvent pas être modifiées</translation>
+    </message>
+    <message>
+        <source>Replace all occurences of </source>
+        <translation>Remplacer partout </translation>
+    </message>
+    <message>
+        <source> by :</source>
+        <translation> par :</translation>
+    </message>
+    <message>
+        <source>%1 pictures and paragraphs changed</source>
+        <translation>%1 photos et paragraphes modifiés</translation>
+    </message>
+</context>
+<context>
+    <name>frmFullScreen</name>
+    <message>
+        <source>Lumenark</source>
+        <translation>Lumenark</translation>
+    </message>
+</context>
+<context>
+    <name>frmLoadFiles</name>
+    <message>
+        <source>Load Picture Files</source>
+        <translation>Charger des fichiers de photos</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Indicates here the picture file types you want to load</source>
+        <translation>Indiquez ici les types de fichiers de photos à charger</translation>
+    </message>
+    <message>
+        <source>File types</source>
+        <translation>Types de fichiers</translation>
+    </message>
+    <message>
+        <source>Choose the directory containing the pictures to load</source>
+        <translation>Choisissez le dossier qui contient les photos à charger</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Feedback</source>
+        <translation>Suivi</translation>
+    </message>
+    <message>
+        <source>Load the selected pictures in the database</source>
+        <translation>Charger les photos choisies dans la base de données</translation>
+    </message>
+    <message>
+        <source>Load Pictures</source>
+        <translation>Charger des photos</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source> picture(s) selected</source>
+        <translation> photo(s) choisie(s)</translation>
+    </message>
+    <message>
+        <source>Loading pictures...</source>
+        <translation>Chargement des photos...</translation>
+    </message>
+    <message>
+        <source> picture(s) loaded</source>
+        <translation> photo(s) chargée(s)</translation>
+    </message>
+</context>
+<context>
+    <name>frmOpenChapter</name>
+    <message>
+        <source>Choose the chapter you want to read</source>
+        <translation>Choisissez le chapitre à lire</translation>
+    </message>
+    <message>
+        <source>Click to create a new photo-album</source>
+        <translation>Cliquez pour créer un nouvel album de photos</translation>
+    </message>
+    <message>
+        <source>Create Album</source>
+        <translation>Créer un album</translation>
+    </message>
+    <message>
+        <source>Click to open a photo-album</source>
+        <translation>Cliquez pour ouvrir un album de photos</translation>
+    </message>
+    <message>
+        <source>Open Album</source>
+        <translation>Ouvrir un album</translation>
+    </message>
+    <message>
+        <source>Click to glue new pictures into your album</source>
+        <translation>Cliquez pour coller de nouvelles photos dans votre album</translation>
+    </message>
+    <message>
+        <source>Load Pictures</source>
+        <translation>Charger des photos</translation>
+    </message>
+    <message>
+        <source>Click to index the pictures</source>
+        <translation>Cliquez pour indexer les photos</translation>
+    </message>
+    <message>
+        <source>Index Pictures</source>
+        <translation>Indexer les photos</translation>
+    </message>
+    <message>
+        <source>Please first OPEN or CREATE an Album</source>
+        <translation>Veuillez d&apos;abord OUVRIR ou CRÉER un album</translation>
+    </message>
+    <message>
+        <source>Double click to read chapter</source>
+        <translation>Double-cliquez pour lire le chapitre</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Chapitres</translation>
+    </message>
+    <message>
+        <source>Click to read selected chapter</source>
+        <translation>Cliquez pour lire le chapitre choisi</translation>
+    </message>
+    <message>
+        <source>Read Chapter</source>
+        <translation>Lire le chapitre</translation>
+    </message>
+    <message>
+        <source>Click to create a new chapter</source>
+        <translation>Cliquez pour créer un nouveau chapitre</translation>
+    </message>
+    <message>
+        <source>Create New Chapter</source>
+        <translation>Créer un nouveau chapitre</translation>
+    </message>
+    <message>
+        <source>Click to move selected chapter one line up</source>
+        <translation>Cliquez pour monter d&apos;une ligne le chapitre choisi</translation>
+    </message>
+    <message>
+        <source>MoveUp</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Click to move selected chapter one line down</source>
+        <translation>Cliquez pour descendre d&apos;une ligne le chapitre choisi</translation>
+    </message>
+    <message>
+        <source>MoveDown</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Recent Albums</source>
+        <translation>Albums récents</translation>
+    </message>
+    <message>
+        <source>Chapter</source>
+        <translation>Chapitre</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Create New Album</source>
+        <translation>Créer un nouvel album</translation>
+    </message>
+    <message>
+        <source>Exit (ESC)</source>
+        <translation>Quitter (Échap)</translation>
+    </message>
+    <message>
+        <source>Rename Chapter</source>
+        <translation>Renommer le chapitre</translation>
+    </message>
+    <message>
+        <source>Delete Chapter</source>
+        <translation>Supprimer le chapitre</translation>
+    </message>
+    <message>
+        <source>Load Picture Files in Album</source>
+        <translation>Charger des fichiers de photos dans l&apos;album</translation>
+    </message>
+    <message>
+        <source>Reload Moved Pictures</source>
+        <translation>Retrouver les photos déplacées</translation>
+    </message>
+    <message>
+        <source>Index Undefined Pictures</source>
+        <translation>Indexer les photos non définies</translation>
+    </message>
+    <message>
+        <source>Index Undefined Pictures from Folder</source>
+        <translation>Indexer les photos non définies d&apos;un dossier</translation>
+    </message>
+    <message>
+        <source>Display Pictures at Random</source>
+        <translation>Afficher des photos au hasard</translation>
+    </message>
+    <message>
+        <source>Display Pictures from Folder</source>
+        <translation>Afficher les photos d&apos;un dossier</translation>
+    </message>
+    <message>
+        <source>Set CD-ROM Buffer</source>
+        <translation>Régler le tampon CD-ROM</translation>
+    </message>
+    <message>
+        <source>Repair Album</source>
+        <translation>Réparer l&apos;album</translation>
+    </message>
+    <message>
+        <source>Set Album Password</source>
+        <translation>Mot de passe de l&apos;album</translation>
+    </message>
+    <message>
+        <source>Lumenark Help (F1)</source>
+        <translation>Aide de Lumenark (F1)</translation>
+    </message>
+    <message>
+        <source>About Lumenark</source>
+        <translation>À propos de Lumenark</translation>
+    </message>
+    <message>
+        <source>Album|*.alb</source>
+        <translation>Album|*.alb</translation>
+    </message>
+    <message>
+        <source>Create a new Album</source>
+        <translation>Créer un nouvel album</translation>
+    </message>
+    <message>
+        <source>Chapter Names must begin with a letter or a figure</source>
+        <translation>Le nom d&apos;un chapitre doit commencer par une lettre ou un chiffre</translation>
+    </message>
+    <message>
+        <source>This chapter exists already</source>
+        <translation>Ce chapitre existe déjà</translation>
+    </message>
+    <message>
+        <source>Please Enter Chapter Name</source>
+        <translation>Saisissez le nom du chapitre</translation>
+    </message>
+    <message>
+        <source>Enter new name for chapter &apos;</source>
+        <translation>Saisissez le nouveau nom du chapitre &apos;</translation>
+    </message>
+    <message>
+        <source>This chapter contains paragraphs and can&apos;t be deleted</source>
+        <translation>Ce chapitre contient des paragraphes et ne peut pas être supprimé</translation>
+    </message>
+    <message>
+        <source>Please drop one album at a time.</source>
+        <translation>Veuillez déposer un seul album à la fois.</translation>
+    </message>
+    <message>
+        <source>Please drop either an album, to open it, or pictures, to load them.</source>
+        <translation>Veuillez déposer soit un album, pour l&apos;ouvrir, soit des photos, pour les charger.</translation>
+    </message>
+    <message>
+        <source>There is neither an album nor a picture among these files.</source>
+        <translation>Il n&apos;y a ni album ni photo parmi ces fichiers.</translation>
+    </message>
+    <message>
+        <source>Please open or create an album first, then drop the pictures.</source>
+        <translation>Veuillez d&apos;abord ouvrir ou créer un album, puis déposer les photos.</translation>
+    </message>
+    <message>
+        <source> picture(s) loaded</source>
+        <translation> photo(s) chargée(s)</translation>
+    </message>
+    <message>
+        <source>%1 picture(s) were in the album already</source>
+        <translation>%1 photo(s) déjà dans l&apos;album</translation>
+    </message>
+    <message>
+        <source>%1 picture(s) left out, because you stopped</source>
+        <translation>%1 photo(s) laissée(s) de côté, parce que vous avez arrêté</translation>
+    </message>
+    <message>
+        <source>%1 file(s) left out: no pictures</source>
+        <translation>%1 fichier(s) laissé(s) de côté : pas des photos</translation>
+    </message>
+</context>
+<context>
+    <name>frmOrganizeParagraphs</name>
+    <message>
+        <source>Organize Paragraphs</source>
+        <translation>Organiser les paragraphes</translation>
+    </message>
+    <message>
+        <source>Paragraphs</source>
+        <translation>Paragraphes</translation>
+    </message>
+    <message>
+        <source>Go to previous paragraph</source>
+        <translation>Aller au paragraphe précédent</translation>
+    </message>
+    <message>
+        <source>Previous paragraph</source>
+        <translation>Paragraphe précédent</translation>
+    </message>
+    <message>
+        <source>Go to next paragraph</source>
+        <translation>Aller au paragraphe suivant</translation>
+    </message>
+    <message>
+        <source>Next paragraph</source>
+        <translation>Paragraphe suivant</translation>
+    </message>
+    <message>
+        <source>Move selected paragraph one line up</source>
+        <translation>Monter d&apos;une ligne le paragraphe choisi</translation>
+    </message>
+    <message>
+        <source>MoveUp</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move selected paragraph one line down</source>
+        <translation>Descendre d&apos;une ligne le paragraphe choisi</translation>
+    </message>
+    <message>
+        <source>MoveDown</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Go to previous chapter</source>
+        <translation>Aller au chapitre précédent</translation>
+    </message>
+    <message>
+        <source>Previous Chapter</source>
+        <translation>Chapitre précédent</translation>
+    </message>
+    <message>
+        <source>Go to next chapter</source>
+        <translation>Aller au chapitre suivant</translation>
+    </message>
+    <message>
+        <source>Next Chapter</source>
+        <translation>Chapitre suivant</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Organize Paragraphs from Chapter &apos;%1&apos;</source>
+        <translation>Organiser les paragraphes du chapitre « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>frmReelvane</name>
+    <message>
+        <source>Lumenark</source>
+        <translation>Lumenark</translation>
+    </message>
+    <message>
+        <source>Click to go back to previous chapter</source>
+        <translation>Cliquez pour revenir au chapitre précédent</translation>
+    </message>
+    <message>
+        <source>Previous chapter</source>
+        <translation>Chapitre précédent</translation>
+    </message>
+    <message>
+        <source>Click to go back to previous paragraph</source>
+        <translation>Cliquez pour revenir au paragraphe précédent</translation>
+    </message>
+    <message>
+        <source>Previous paragraph</source>
+        <translation>Paragraphe précédent</translation>
+    </message>
+    <message>
+        <source>Click to go to next paragraph</source>
+        <translation>Cliquez pour aller au paragraphe suivant</translation>
+    </message>
+    <message>
+        <source>Next paragraph</source>
+        <translation>Paragraphe suivant</translation>
+    </message>
+    <message>
+        <source>Click to go to next chapter</source>
+        <translation>Cliquez pour aller au chapitre suivant</translation>
+    </message>
+    <message>
+        <source>Next chapter</source>
+        <translation>Chapitre suivant</translation>
+    </message>
+    <message>
+        <source>Click to see the next pictures</source>
+        <translation>Cliquez pour voir les photos suivantes</translation>
+    </message>
+    <message>
+        <source>Next Pictures</source>
+        <translation>Photos suivantes</translation>
+    </message>
+    <message>
+        <source>Click to view less (but bigger) images on one screen</source>
+        <translation>Cliquez pour voir moins de photos (mais plus grandes) à l&apos;écran</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Click to see more pictures on each screen</source>
+        <translation>Cliquez pour voir plus de photos à l&apos;écran</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Click to start autoview</source>
+        <translation>Cliquez pour démarrer le défilement automatique</translation>
+    </message>
+    <message>
+        <source>Start Autoview</source>
+        <translation>Démarrer le défilement</translation>
+    </message>
+    <message>
+        <source>Click to edit paragraph text and to filter pictures</source>
+        <translation>Cliquez pour modifier le texte du paragraphe et filtrer les photos</translation>
+    </message>
+    <message>
+        <source>Edit Paragraph</source>
+        <translation>Modifier le paragraphe</translation>
+    </message>
+    <message>
+        <source>Refresh Selection</source>
+        <translation>Actualiser la sélection</translation>
+    </message>
+    <message>
+        <source>Click to hide the buttons (ESC=Exit)</source>
+        <translation>Cliquez pour cacher les boutons (Échap = quitter)</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Cacher</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Timer On</source>
+        <translation>Minuterie en marche</translation>
+    </message>
+    <message>
+        <source>Timer Off</source>
+        <translation>Minuterie arrêtée</translation>
+    </message>
+    <message>
+        <source>Stop Autoview</source>
+        <translation>Arrêter le défilement</translation>
+    </message>
+    <message>
+        <source>Click to stop autoview</source>
+        <translation>Cliquez pour arrêter le défilement automatique</translation>
+    </message>
+    <message>
+        <source>Click HERE to create first paragraph of the new chapter &apos;</source>
+        <translation>Cliquez ICI pour créer le premier paragraphe du nouveau chapitre &apos;</translation>
+    </message>
+    <message>
+        <source>Click to index picture</source>
+        <translation>Cliquez pour indexer la photo</translation>
+    </message>
+    <message>
+        <source>Click to edit image</source>
+        <translation>Cliquez pour modifier la photo</translation>
+    </message>
+</context>
+<context>
+    <name>frmReloadPictures</name>
+    <message>
+        <source>Reload Moved Pictures</source>
+        <translation>Retrouver les photos déplacées</translation>
+    </message>
+    <message>
+        <source>Picture files were moved from :</source>
+        <translation>Les photos se trouvaient dans :</translation>
+    </message>
+    <message>
+        <source>To new folder :</source>
+        <translation>Nouveau dossier :</translation>
+    </message>
+    <message>
+        <source>Old folder</source>
+        <translation>Ancien dossier</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Choose the directory containing the pictures to load</source>
+        <translation>Choisissez le dossier qui contient les photos à charger</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>Old Reference</source>
+        <translation>Ancienne référence</translation>
+    </message>
+    <message>
+        <source>New reference</source>
+        <translation>Nouvelle référence</translation>
+    </message>
+    <message>
+        <source>Load the selected pictures in the database</source>
+        <translation>Charger les photos choisies dans la base de données</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source> picture references updated</source>
+        <translation> références de photos mises à jour</translation>
+    </message>
+    <message>
+        <source>Please choose the new folder first: double click on it.</source>
+        <translation>Veuillez d&apos;abord choisir le nouveau dossier : double-cliquez dessus.</translation>
+    </message>
+</context>
+<context>
+    <name>frmRepairAlbum</name>
+    <message>
+        <source>Check and Repair Album</source>
+        <translation>Vérifier et réparer l&apos;album</translation>
+    </message>
+    <message>
+        <source>Do you want to check and repair the links between Chapters and Paragraphs ?</source>
+        <translation>Voulez-vous vérifier et réparer les liens entre les chapitres et les paragraphes ?</translation>
+    </message>
+    <message>
+        <source>Proceed</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>frmSelectImages</name>
+    <message>
+        <source>Select Image Files</source>
+        <translation>Choisir des fichiers image</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Choose the directory containing the pictures to load</source>
+        <translation>Choisissez le dossier qui contient les photos à charger</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Indicates here the picture file types you want to load</source>
+        <translation>Indiquez ici les types de fichiers de photos à charger</translation>
+    </message>
+    <message>
+        <source>File types</source>
+        <translation>Types de fichiers</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>*.*</source>
+        <translation>*.*</translation>
+    </message>
+    <message>
+        <source>At Random</source>
+        <translation>Au hasard</translation>
+    </message>
+    <message>
+        <source>Load the selected pictures in the database</source>
+        <translation>Charger les photos choisies dans la base de données</translation>
+    </message>
+    <message>
+        <source>Select </source>
+        <translation>Choisir </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+</TS>

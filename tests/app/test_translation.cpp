@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+// The French translation against the texts that the sources hold today.
+class TestTranslation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void IsWholeAndFitting();
+};
+
+namespace {
+
+struct Message
+{
+    QString source = {};
+    QString translation = {};
+    bool isUnfinished = false;
+};
+
+std::vector<Message> ReadMessages(const QString& path)
+{
+    std::vector<Message> messages;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return messages;
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("source")) {
+            messages.push_back({xml.readElementText()});
+        } else if (xml.name() == QLatin1String("translation")) {
+            messages.back().isUnfinished = xml.attributes().hasAttribute("type");
+            messages.back().translation = xml.readElementText();
+        }
+    }
+    return messages;
+}
+
+// What the code puts together with other texts must stay: %1, %2, blanks at the ends, the colon or
+// apostrophe before what follows, the bar and patterns of a file dialog.
+QStringList Fixtures(const QString& text)
+{
+    static const QRegularExpression fixed(R"(%\d|^\s|\s$|\s'$|\|.*)");
+    QStringList found;
+    for (auto match = fixed.globalMatch(text); match.hasNext();)
+        found += match.next().captured();
+    found.sort();
+    return found;
+}
+
+} // namespace
+
+void TestTranslation::IsWholeAndFitting()
+{
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath("lumenark_fr.ts");
+    QVERIFY(QFile::copy(TRANSLATION, copy));
+    QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    QProcess lupdate;
+    lupdate.start(LUPDATE, {"-no-obsolete", "-locations", "none", SOURCES, "-ts", copy});
+    QVERIFY(lupdate.waitForFinished(120000));
+    QCOMPARE(lupdate.exitCode(), 0);
+
+    const std::vector<Message> messages = ReadMessages(copy);
+    QVERIFY(messages.size() > 300);
+    QStringList faults;
+    for (const Message& message : messages) {
+        if (message.isUnfinished || message.translation.isEmpty() ||
+            Fixtures(message.source) != Fixtures(message.translation))
+            faults += message.source;
+    }
+    QCOMPARE(faults.join("\n"), "");
+    // No text has gone from the sources and stayed here.
+    QCOMPARE(ReadMessages(TRANSLATION).size(), messages.size());
+
+    QTranslator translator;
+    QVERIFY(translator.load(COMPILED_TRANSLATION));
+    QCOMPARE(translator.translate("frmOpenChapter", "Read Chapter"), "Lire le chapitre");
+}
+
+QTEST_GUILESS_MAIN(TestTranslation)
+#include "test_translation.moc"
