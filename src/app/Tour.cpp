@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Tour.h"
 
+#include "core/Album.h"
+#include "platform/widgets/FolderList.h"
+
 #include <QAction>
 #include <QApplication>
+#include <QFileInfo>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTextStream>
@@ -21,6 +26,7 @@ Tour::Tour(const QString& folder, QWidget* mainWindow)
 {
     PlanReading();
     PlanWriting();
+    PlanIndexing();
     PlanOtherWindows();
     QTimer::singleShot(stepPause, this, &Tour::Continue);
 }
@@ -75,6 +81,29 @@ void Tour::PlanWriting()
     Await("frmOpenChapter");
 }
 
+void Tour::PlanIndexing()
+{
+    Click("cmdReadChapter");
+    Await("frmReelvane");
+    RightClick("imgImage_0");
+    Await("frmEditImage");
+    Shoot("indexing");
+    Click("cmdEditTables");
+    Await("frmEditTables");
+    Shoot("tables");
+    Click("cmdEditLabels");
+    Await("frmEditLabels");
+    Shoot("labels");
+    Press(Qt::Key_Escape);
+    Await("frmEditTables");
+    Press(Qt::Key_Escape);
+    Await("frmEditImage");
+    Press(Qt::Key_Escape);
+    Await("frmReelvane");
+    Press(Qt::Key_Escape);
+    Await("frmOpenChapter");
+}
+
 void Tour::PlanOtherWindows()
 {
     struct Window
@@ -82,17 +111,20 @@ void Tour::PlanOtherWindows()
         const char* entry;
         const char* window;
         const char* picture;
+        const char* folder = nullptr; // the list that is led to the pictures
     };
     for (const Window& window : {
-             Window{"mnuLoadPictures", "frmLoadFiles", "loading"},
-             Window{"mnuReloadPictures", "frmReloadPictures", "moved-pictures"},
-             Window{"mnuSelectedPictures", "frmSelectImages", "browsing"},
+             Window{"mnuLoadPictures", "frmLoadFiles", "loading", "dirPicturesToLoad"},
+             Window{"mnuReloadPictures", "frmReloadPictures", "moved-pictures", "dirNewReferences"},
+             Window{"mnuSelectedPictures", "frmSelectImages", "browsing", "dirPicturesToSelect"},
              Window{"mnuRepair", "frmRepairAlbum", "repair"},
              Window{"mnuAbout", "frmAbout", "about"},
              Window{"mnuPhotoAlbumHelp", "frmHelp", "help"},
          }) {
         Choose(window.entry);
         Await(window.window);
+        if (window.folder)
+            ShowFolder(window.folder);
         Shoot(window.picture);
         Press(Qt::Key_Escape);
         Await("frmOpenChapter");
@@ -155,6 +187,32 @@ void Tour::Press(int key)
         QWidget* window = Front();
         QWidget* target = window->focusWidget() ? window->focusWidget() : window;
         QApplication::postEvent(target, new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
+    });
+}
+
+void Tour::RightClick(const QString& control)
+{
+    Act([this, control] {
+        auto* target = Front()->findChild<QWidget*>(control);
+        if (!target)
+            return Fail(QStringLiteral("there is no control %1").arg(control));
+        const QPointF place = target->rect().center();
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+            QApplication::postEvent(target, new QMouseEvent(type, place, target->mapToGlobal(place),
+                                                            Qt::RightButton, Qt::RightButton,
+                                                            Qt::NoModifier));
+    });
+}
+
+void Tour::ShowFolder(const QString& list)
+{
+    Act([this, list] {
+        auto* folders = Front()->findChild<FolderList*>(list);
+        if (!folders)
+            return Fail(QStringLiteral("there is no list %1").arg(list));
+        GeneralModule::ImageSet->MoveFirst();
+        const QString picture = GeneralModule::ImageSet->TextOrEmpty(u"File");
+        folders->SetPath(QFileInfo(picture).absolutePath());
     });
 }
 

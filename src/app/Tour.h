@@ -23,6 +23,7 @@ private:
     void Continue();
     void PlanReading();
     void PlanWriting();
+    void PlanIndexing();
     void PlanOtherWindows();
     void Act(std::function<void()> action);
     void Await(const QString& window);
@@ -30,6 +31,8 @@ private:
     void Press(int key);
     void Click(const QString& button);
     void Choose(const QString& entry);
+    void RightClick(const QString& control);
+    void ShowFolder(const QString& list);
     void Resize(int width, int height);
     QWidget* Front() const;
     void Fail(const QString& text);
