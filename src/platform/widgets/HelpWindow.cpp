@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
@@ -28,8 +29,8 @@ public:
         if (event->type() != QEvent::KeyPress || !watched->isWidgetType() ||
             static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1)
             return false;
-        QWidget* window = static_cast<QWidget*>(watched)->window();
-        if (!window->inherits("HelpWindow")) {
+        QWidget* window = WindowOf(static_cast<QWidget*>(watched));
+        if (window && !window->inherits("HelpWindow")) {
             HelpWindow help(file_, window);
             help.GoTo(window->objectName());
             help.exec();
@@ -38,13 +39,26 @@ public:
     }
 
 private:
+    // An open menu or list goes away first: it would keep the keyboard to itself.
+    static QWidget* WindowOf(QWidget* widget)
+    {
+        if (!QApplication::activePopupWidget())
+            return widget->window();
+        while (QWidget* popup = QApplication::activePopupWidget())
+            popup->close();
+        return QApplication::activeWindow();
+    }
+
     QString file_;
 };
 
 } // namespace
 
 HelpWindow::HelpWindow(const QString& file, QWidget* parent)
-    : QDialog(parent), lstContents_(new QListWidget), txtSearch_(new QLineEdit),
+    : QDialog(parent),
+      lstContents_(new QListWidget),
+      txtSearch_(new QLineEdit),
+      lblNotFound_(new QLabel(tr("Not found"))),
       txtHelp_(new QTextBrowser)
 {
     setObjectName(QStringLiteral("frmHelp"));
@@ -56,7 +70,7 @@ HelpWindow::HelpWindow(const QString& file, QWidget* parent)
             txtHelp_->scrollToAnchor(item->data(anchorRole).toString());
     });
     connect(txtSearch_, &QLineEdit::returnPressed, this, &HelpWindow::Search);
-    connect(txtSearch_, &QLineEdit::textEdited, this, [this] {
+    connect(txtSearch_, &QLineEdit::textChanged, this, [this] {
         txtHelp_->moveCursor(QTextCursor::Start);
         Search();
     });
@@ -67,10 +81,12 @@ void HelpWindow::Layout()
 {
     txtHelp_->setObjectName(QStringLiteral("txtHelp"));
     txtHelp_->document()->setDocumentMargin(18);
+    txtHelp_->setAccessibleName(tr("Help text"));
     lstContents_->setObjectName(QStringLiteral("lstContents"));
     lstContents_->setAccessibleName(tr("Contents"));
     txtSearch_->setObjectName(QStringLiteral("txtSearch"));
     txtSearch_->setPlaceholderText(tr("Search"));
+    txtSearch_->setAccessibleName(tr("Search"));
     txtSearch_->setClearButtonEnabled(true);
     txtSearch_->setMinimumHeight(32);
     auto* panes = new QSplitter;
@@ -78,8 +94,13 @@ void HelpWindow::Layout()
     panes->addWidget(txtHelp_);
     panes->setStretchFactor(1, 1);
     panes->setSizes({240, 740});
+    lblNotFound_->setObjectName(QStringLiteral("lblNotFound"));
+    lblNotFound_->hide();
+    auto* searchRow = new QHBoxLayout;
+    searchRow->addWidget(txtSearch_, 1);
+    searchRow->addWidget(lblNotFound_);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(txtSearch_);
+    layout->addLayout(searchRow);
     layout->addWidget(panes, 1);
 }
 
@@ -119,10 +140,12 @@ void HelpWindow::GoTo(const QString& chapter)
 void HelpWindow::Search()
 {
     const QString text = txtSearch_->text();
-    if (text.isEmpty() || txtHelp_->find(text))
-        return;
-    txtHelp_->moveCursor(QTextCursor::Start);
-    txtHelp_->find(text);
+    bool isFound = text.isEmpty() || txtHelp_->find(text);
+    if (!isFound) {
+        txtHelp_->moveCursor(QTextCursor::Start);
+        isFound = txtHelp_->find(text);
+    }
+    lblNotFound_->setVisible(!isFound);
 }
 
 void InstallHelpKey(const QString& file)

@@ -3,6 +3,7 @@
 
 #include <QDialog>
 
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QTextBrowser;
@@ -26,6 +27,7 @@ private:
 
     QListWidget* lstContents_;
     QLineEdit* txtSearch_;
+    QLabel* lblNotFound_;
     QTextBrowser* txtHelp_;
 };
 

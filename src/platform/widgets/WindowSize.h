@@ -7,5 +7,6 @@ class QWidget;
 
 // Gives the window the size it had when it was last closed, else the proposed one, at most what the
 // screen has room for; and remembers the size when it closes. Sizes are kept in the user's settings
-// under the window's name, in logical pixels.
+// under the window's name, in logical pixels. The window never gets so small that its captions are
+// cut off.
 void KeepWindowSize(QWidget* window, QSize proposed);
