@@ -359,6 +359,14 @@ Choisissez Non pour le changer.</translation>
         <source>The help file &apos;%1&apos; cannot be read.</source>
         <translation>Impossible de lire le fichier d&apos;aide « %1 ».</translation>
     </message>
+    <message>
+        <source>Not found</source>
+        <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>Help text</source>
+        <translation>Texte de l&apos;aide</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowState</name>

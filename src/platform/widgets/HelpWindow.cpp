@@ -11,13 +11,28 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QSplitter>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int anchorRole = Qt::UserRole;
+constexpr int placeRole = Qt::UserRole + 1; // of the chapter's heading in the text, in characters
+
+int PlaceOfAnchor(const QTextDocument& text, const QString& anchor)
+{
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            if (part.fragment().charFormat().anchorNames().contains(anchor))
+                return part.fragment().position();
+        }
+    }
+    return 0;
+}
 
 class HelpKey : public QObject
 {
@@ -67,8 +82,10 @@ HelpWindow::HelpWindow(const QString& file, QWidget* parent)
     Read(file);
     connect(lstContents_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
         if (item)
-            txtHelp_->scrollToAnchor(item->data(anchorRole).toString());
+            ScrollTo(item->data(anchorRole).toString());
     });
+    connect(txtHelp_->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &HelpWindow::FollowText);
     connect(txtSearch_, &QLineEdit::returnPressed, this, &HelpWindow::Search);
     connect(txtSearch_, &QLineEdit::textChanged, this, [this] {
         txtHelp_->moveCursor(QTextCursor::Start);
@@ -121,7 +138,29 @@ void HelpWindow::Read(const QString& file)
         const QRegularExpressionMatch match = headings.next();
         auto* item = new QListWidgetItem(match.captured(2), lstContents_);
         item->setData(anchorRole, match.captured(1));
+        item->setData(placeRole, PlaceOfAnchor(*txtHelp_->document(), match.captured(1)));
     }
+}
+
+// The last chapters are too short to come to the upper edge; the one chosen stays marked all the
+// same.
+void HelpWindow::ScrollTo(const QString& chapter)
+{
+    const QScopedValueRollback<bool> guided(isGuided_, true);
+    txtHelp_->scrollToAnchor(chapter);
+}
+
+void HelpWindow::FollowText()
+{
+    if (isGuided_)
+        return;
+    const int top = txtHelp_->cursorForPosition({txtHelp_->width() / 2, 40}).position();
+    int chapter = -1;
+    while (chapter + 1 < lstContents_->count() &&
+           lstContents_->item(chapter + 1)->data(placeRole).toInt() <= top)
+        ++chapter;
+    const QSignalBlocker quiet(lstContents_); // the text is where it shall be
+    lstContents_->setCurrentRow(chapter);
 }
 
 void HelpWindow::GoTo(const QString& chapter)
@@ -133,7 +172,7 @@ void HelpWindow::GoTo(const QString& chapter)
     txtHelp_->setFocus();
     // The text is laid out for the window's size first.
     QMetaObject::invokeMethod(
-        this, [this, chapter] { txtHelp_->scrollToAnchor(chapter); }, Qt::QueuedConnection);
+        this, [this, chapter] { ScrollTo(chapter); }, Qt::QueuedConnection);
 }
 
 // From the place found last on, and behind the end from the beginning.

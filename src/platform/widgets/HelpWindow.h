@@ -24,11 +24,15 @@ private:
     void Layout();
     void Read(const QString& file);
     void Search();
+    void ScrollTo(const QString& chapter);
+    // Marks the chapter in the contents that the upper edge of the text lies in.
+    void FollowText();
 
     QListWidget* lstContents_;
     QLineEdit* txtSearch_;
     QLabel* lblNotFound_;
     QTextBrowser* txtHelp_;
+    bool isGuided_ = false; // the text moves because a chapter was chosen
 };
 
 // From now on F1 shows the help file at the chapter of the window in front.
