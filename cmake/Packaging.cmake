@@ -27,8 +27,21 @@ install(FILES ${desktop}/lumenark.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/a
 install(FILES ${desktop}/lumenark.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
 install(FILES ${made}/io.github.lumenark.Lumenark.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${made}/lumenark.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${desktop}/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/lumenark)
+
+# Debian wants the manual page and the list of changes compressed, without a date in them.
+find_program(GZIP gzip REQUIRED)
+foreach(page ${made}/lumenark.1 ${desktop}/changelog)
+  get_filename_component(name ${page} NAME)
+  add_custom_command(OUTPUT ${made}/${name}.gz
+    COMMAND ${GZIP} -9 -n -c ${page} > ${made}/${name}.gz
+    DEPENDS ${page}
+    VERBATIM)
+  list(APPEND compressed_pages ${made}/${name}.gz)
+endforeach()
+add_custom_target(compressed_pages ALL DEPENDS ${compressed_pages})
+install(FILES ${made}/lumenark.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${made}/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/lumenark)
 
 set(drawing ${CMAKE_SOURCE_DIR}/resources/icons/lumenark.svg)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
