@@ -85,6 +85,21 @@ void AddMatchingPictures(const QString& filter, PictureList& pictures, int most,
     }
 }
 
+// "([File] LIKE 'folder/*.jpg')". A file list takes several patterns of names, with ";" between
+// them, and what it lists is what a person expects to see; of one pattern this makes the usual
+// filter.
+QString BuildFileFilter(const QString& selection)
+{
+    const QString folder = GeneralModule::FolderOf(selection);
+    QStringList parts;
+    for (const QString& pattern :
+         GeneralModule::FileNameOf(selection).split(u';', Qt::SkipEmptyParts))
+        parts += QStringLiteral("[File] LIKE ") + GeneralModule::Quoted(folder + pattern.trimmed());
+    if (parts.isEmpty())
+        parts += QStringLiteral("[File] LIKE ") + GeneralModule::Quoted(selection);
+    return QLatin1Char('(') + parts.join(QLatin1String(" OR ")) + QLatin1Char(')');
+}
+
 } // namespace
 
 QString NextToken(QString& values)
@@ -136,8 +151,7 @@ QString BuildPictureFilter(RecordSet& paragraph)
     const QString selection = paragraph.TextOrEmpty(u"FileSelection");
     if (selection.isEmpty())
         return carFilter;
-    const QString fileFilter =
-        QStringLiteral("([File] LIKE ") + GeneralModule::Quoted(selection) + QLatin1Char(')');
+    const QString fileFilter = BuildFileFilter(selection);
     return carFilter.isEmpty()
                ? fileFilter
                : fileFilter + QLatin1String(" AND (") + carFilter + QLatin1Char(')');
