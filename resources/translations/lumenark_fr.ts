@@ -37,6 +37,10 @@
         <source>The album&apos;s file could not be replaced.</source>
         <translation>Impossible de remplacer le fichier de l&apos;album.</translation>
     </message>
+    <message>
+        <source>The album is being written anew...</source>
+        <translation>L&apos;album est en cours de réécriture...</translation>
+    </message>
 </context>
 <context>
     <name>AlbumPassword</name>
@@ -369,6 +373,13 @@ Choisissez Non pour le changer.</translation>
     </message>
 </context>
 <context>
+    <name>LongWorkDialog</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+</context>
+<context>
     <name>MainWindowState</name>
     <message>
         <source>Please OPEN or CREATE an ALBUM
@@ -580,6 +591,10 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source>Table %1: a row without an identifier of its own became number %2.</source>
         <translation>Table %1 : une ligne sans identifiant propre est devenue le numéro %2.</translation>
+    </message>
+    <message>
+        <source>The new album is being made...</source>
+        <translation>Le nouvel album est en cours de création...</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 
 #include "core/Album.h"
 #include "platform/data/DatabaseExport.h"
+#include "platform/dialogs/Dialogs.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -35,7 +36,9 @@ void SetAlbumPassword(const QString& password)
     const QString album = AlbumDatabase->GetPath();
     const QString oldPassword = AlbumDatabase->GetPassword();
     const QString written = album + QStringLiteral(".new");
-    ExportDatabase(*AlbumDatabase, written, password);
+    Dialogs::Door().RunLong(
+        QCoreApplication::translate("Album", "The album is being written anew..."), false,
+        [&](const auto&) { ExportDatabase(*AlbumDatabase, written, password); });
     QFile::setPermissions(written, QFile::permissions(album));
 
     ReleaseAlbum();

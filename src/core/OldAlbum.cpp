@@ -52,6 +52,33 @@ QString AskTarget(const QString& path)
          QDir::toNativeSeparators(old.absolutePath()), ProposedName(old)});
 }
 
+struct Stopped
+{
+};
+
+// Nothing when the user has stopped it, and then there is no new album.
+std::optional<OldAlbumReport> Convert(OldAlbumFile& old, const QString& target,
+                                      const QString& password)
+{
+    OldAlbumReport report;
+    try {
+        Dialogs::Door().RunLong(
+            OldAlbumReport::tr("The new album is being made..."), true, [&](const auto& isStopped) {
+                const auto check = [&isStopped] {
+                    if (isStopped())
+                        throw Stopped();
+                };
+                // The dialog has asked before it gave a name that is taken.
+                report = ConvertOldAlbum(
+                    old,
+                    {.target = target, .password = password, .replaces = true, .check = check});
+            });
+    } catch (const Stopped&) {
+        return std::nullopt;
+    }
+    return report;
+}
+
 QString Compose(const OldAlbumReport& report, const QString& target)
 {
     QStringList text{
@@ -83,10 +110,10 @@ std::optional<NewAlbum> OfferConversion(const QString& path)
     const QString target = AskTarget(path);
     if (target.isEmpty())
         return std::nullopt;
-    // The dialog has asked before it gave a name that is taken.
-    const OldAlbumReport report =
-        ConvertOldAlbum(old, {.target = target, .password = *password, .replaces = true});
-    return NewAlbum{target, *password, Compose(report, target), report.IsWhole()};
+    const std::optional<OldAlbumReport> report = Convert(old, target, *password);
+    if (!report)
+        return std::nullopt;
+    return NewAlbum{target, *password, Compose(*report, target), report->IsWhole()};
 }
 
 } // namespace GeneralModule

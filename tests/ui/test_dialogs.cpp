@@ -6,10 +6,12 @@
 #include <QAbstractButton>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QtTest>
 
 #include <stdexcept>
@@ -25,6 +27,7 @@ private slots:
     void AsksForText();
     void ChoosesFiles();
     void ReportsWhatAnActionThrows();
+    void LongWorkKeepsTheWindowsAlive();
 
 private:
     QtDialogs dialogs_;
@@ -92,6 +95,46 @@ void TestDialogs::ReportsWhatAnActionThrows()
     });
     QVERIFY(!RunGuarded([] { throw std::runtime_error("42 went wrong"); }));
     QVERIFY(RunGuarded([] {}));
+}
+
+void TestDialogs::LongWorkKeepsTheWindowsAlive()
+{
+    const QThread* const own = QThread::currentThread();
+    int beats = 0;
+    QTimer heart;
+    connect(&heart, &QTimer::timeout, [&beats] { ++beats; });
+    heart.start(1);
+    WhenModal(
+        "frmLongWork",
+        [&](QWidget& window) {
+            QCOMPARE(Find<QLabel>(window, "lblWork").text(), "Working...");
+            QTest::keyClick(&window, Qt::Key_Escape);
+            QVERIFY(window.isVisible()); // until the work has noticed
+        },
+        false);
+    bool isElsewhere = false;
+    dialogs_.RunLong("Working...", true, [&](const auto& isStopped) {
+        isElsewhere = QThread::currentThread() != own;
+        while (!isStopped())
+            QThread::msleep(5);
+    });
+    QVERIFY(isElsewhere);
+    QVERIFY(beats > 0);
+    QVERIFY(!QApplication::activeModalWidget());
+
+    const auto fail = [](const auto&) { throw std::runtime_error("in vain"); };
+    QVERIFY_THROWS_EXCEPTION(std::runtime_error, dialogs_.RunLong("Working...", false, fail));
+    // What cannot be stopped is not stopped by closing its window either.
+    QTimer::singleShot(0, [] {
+        QTRY_VERIFY(QApplication::activeModalWidget());
+        QApplication::activeModalWidget()->close();
+    });
+    bool isDone = false;
+    dialogs_.RunLong("Working...", false, [&](const auto& isStopped) {
+        QThread::msleep(600);
+        isDone = !isStopped();
+    });
+    QVERIFY(isDone);
 }
 
 QTEST_MAIN(TestDialogs)

@@ -15,6 +15,11 @@ Dialogs& Dialogs::Door()
     return *installed;
 }
 
+void Dialogs::RunLong(const QString&, bool, const Work& work)
+{
+    work([] { return false; });
+}
+
 void Dialogs::Install(Dialogs* dialogs)
 {
     installed = dialogs;

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 // The one door to message boxes, input boxes and file dialogs. Whoever asks needs to know no
@@ -39,6 +40,9 @@ public:
         QString name = {}; // proposed for a file to save, without its folder
     };
 
+    // Long work; isStopped tells whether the user wants it to end early.
+    using Work = std::function<void(const std::function<bool()>& isStopped)>;
+
     virtual ~Dialogs() = default;
 
     // Closing the box without a button counts as Cancel, or as No or Ok where there is no Cancel.
@@ -49,6 +53,12 @@ public:
     // file, and has added the filter's extension to a name without one.
     virtual QString AskOpenFile(const FileChoice& choice) = 0;
     virtual QString AskSaveFile(const FileChoice& choice) = 0;
+
+    // Does the work and returns when it is done; throws what the work throws. The text tells what is
+    // going on. Windows stay alive meanwhile, but take no keys or clicks. The work runs in a thread
+    // of its own: it asks and tells nothing, and touches nothing that a window shows. Without a
+    // screen it simply runs.
+    virtual void RunLong(const QString& text, bool canStop, const Work& work);
 
     // The dialogs in use. Install before the first use; the caller keeps them alive.
     static Dialogs& Door();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/widgets/QtDialogs.h"
 
+#include "platform/widgets/LongWorkDialog.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -139,4 +141,9 @@ QString QtDialogs::AskOpenFile(const FileChoice& choice)
 QString QtDialogs::AskSaveFile(const FileChoice& choice)
 {
     return Choose(choice, QFileDialog::AcceptSave);
+}
+
+void QtDialogs::RunLong(const QString& text, bool canStop, const Work& work)
+{
+    LongWorkDialog(text, canStop, QApplication::activeWindow()).Run(work);
 }
