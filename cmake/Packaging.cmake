@@ -9,6 +9,7 @@ install(TARGETS lumenark lumenark-import RUNTIME DESTINATION ${program_folder})
 install(FILES
   ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Album.tpl
   ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lumenark.hlp
+  ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lumenark_fr.hlp
   DESTINATION ${program_folder})
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/help/ DESTINATION ${program_folder}/help
         FILES_MATCHING PATTERN *.jpg)

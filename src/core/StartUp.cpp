@@ -4,6 +4,8 @@
 #include "platform/shell/ProgramFolder.h"
 
 #include <QDir>
+#include <QFile>
+#include <QLocale>
 
 #include <chrono>
 #include <random>
@@ -28,7 +30,9 @@ void InitModule()
 
 QString HelpFile()
 {
-    return ProgramFile(QStringLiteral("lumenark.hlp"));
+    const QString language = QLocale().name().section(u'_', 0, 0);
+    const QString translated = ProgramFile(QStringLiteral("lumenark_%1.hlp").arg(language));
+    return QFile::exists(translated) ? translated : ProgramFile(QStringLiteral("lumenark.hlp"));
 }
 
 int RandomBelow(int below)

@@ -11,7 +11,8 @@ namespace GeneralModule {
 // program's folder the current one.
 void InitModule();
 
-// Path of the help file, in the program's folder.
+// Path of the help file, in the program's folder; the one in the user's language where there is
+// one.
 QString HelpFile();
 
 // A random whole number from 0 to below - 1; 0 when below is less than 1.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
@@ -14,6 +15,7 @@ class TestTranslation : public QObject
 
 private slots:
     void IsWholeAndFitting();
+    void ManualsHoldTheSameChapters();
 };
 
 namespace {
@@ -57,6 +59,21 @@ QStringList Fixtures(const QString& text)
     return found;
 }
 
+QStringList Captures(const QString& text, const char* pattern)
+{
+    QStringList found;
+    const QRegularExpression expression(QString::fromLatin1(pattern));
+    for (auto match = expression.globalMatch(text); match.hasNext();)
+        found += match.next().captured(1);
+    return found;
+}
+
+QString ReadText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 } // namespace
 
 void TestTranslation::IsWholeAndFitting()
@@ -85,6 +102,20 @@ void TestTranslation::IsWholeAndFitting()
     QTranslator translator;
     QVERIFY(translator.load(COMPILED_TRANSLATION));
     QCOMPARE(translator.translate("frmOpenChapter", "Read Chapter"), "Lire le chapitre");
+}
+
+void TestTranslation::ManualsHoldTheSameChapters()
+{
+    const QDir folder(QCoreApplication::applicationDirPath());
+    const QString english = ReadText(folder.filePath("lumenark.hlp"));
+    const QString french = ReadText(folder.filePath("lumenark_fr.hlp"));
+    const char* const anchor = "<a name=\"(\\w+)\">";
+    QVERIFY(Captures(english, anchor).size() > 10);
+    QCOMPARE(Captures(french, anchor), Captures(english, anchor));
+    const QStringList pictures = Captures(english + french, "<img src=\"([^\"]+)\"");
+    QVERIFY(pictures.size() > 20);
+    for (const QString& picture : pictures)
+        QVERIFY2(folder.exists(picture), qPrintable(picture));
 }
 
 QTEST_GUILESS_MAIN(TestTranslation)
