@@ -104,11 +104,34 @@ void frmOpenChapter::DecorateWarning()
     font.setPointSizeF(font.pointSizeF() * 1.35);
     ui_->lblWarning->setFont(font);
     ui_->lblWarning->setAutoFillBackground(true);
-    ui_->lblWarning->setBackgroundRole(QPalette::ToolTipBase);
-    ui_->lblWarning->setForegroundRole(QPalette::ToolTipText);
+    TintWarning();
     QFont listFont = ui_->lstChapter->font();
     listFont.setPointSizeF(listFont.pointSizeF() * 1.2);
     ui_->lstChapter->setFont(listFont);
+}
+
+// Between the window's own colour and that of selections, so that it stands out in any theme and
+// glares in none.
+void frmOpenChapter::TintWarning()
+{
+    constexpr double share = 0.22; // of the selections' colour
+    const QColor ground = palette().color(QPalette::Window);
+    const QColor accent = palette().color(QPalette::Highlight);
+    const auto mix = [](int first, int second) {
+        return int(first * (1 - share) + second * share);
+    };
+    QPalette tinted = palette();
+    tinted.setColor(QPalette::Window,
+                    QColor(mix(ground.red(), accent.red()), mix(ground.green(), accent.green()),
+                           mix(ground.blue(), accent.blue())));
+    ui_->lblWarning->setPalette(tinted);
+}
+
+void frmOpenChapter::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        TintWarning();
 }
 
 void frmOpenChapter::Form_Load(const QString& album)

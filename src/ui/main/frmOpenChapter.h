@@ -27,6 +27,7 @@ public:
     bool AlbumOpen = false;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -61,6 +62,7 @@ private:
     void Connect(QPushButton* button, QAction* entry, void (frmOpenChapter::*handler)(),
                  const char* icon);
     void DecorateWarning();
+    void TintWarning();
     void OpenChosen(const QString& path);
     // The list of albums opened lately leads here, and so does a dropped album.
     void OpenNamed(const QString& path);
