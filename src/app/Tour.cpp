@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -24,6 +25,7 @@ constexpr int patience = 20000; // milliseconds until a window that does not com
 Tour::Tour(const QString& folder, QWidget* mainWindow)
     : QObject(mainWindow), folder_(folder), mainWindow_(mainWindow)
 {
+    QDir().mkpath(folder_); // where that fails, the first picture tells
     PlanReading();
     PlanWriting();
     PlanIndexing();
