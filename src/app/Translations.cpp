@@ -1,25 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "Translations.h"
 
+#include "platform/shell/UserLanguages.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
-#include <QLocale>
 #include <QTranslator>
 
 namespace {
 
-void Install(QCoreApplication& application, const QString& name, const QString& folder)
+bool Install(QCoreApplication& application, const QString& name, const QString& folder)
 {
     auto* translator = new QTranslator(&application);
-    if (translator->load(QLocale(), name, QStringLiteral("_"), folder))
-        QCoreApplication::installTranslator(translator);
+    return translator->load(name, folder) && QCoreApplication::installTranslator(translator);
 }
 
 } // namespace
 
 void InstallTranslations(QCoreApplication& application)
 {
-    Install(application, QStringLiteral("qtbase"),
-            QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    Install(application, QStringLiteral("lumenark"), QStringLiteral(":/translations"));
+    for (const QString& language : LanguagesBeforeEnglish()) {
+        if (!Install(application, QStringLiteral("lumenark_") + language,
+                     QStringLiteral(":/translations")))
+            continue;
+        // Of the same language, so that no box speaks two.
+        Install(application, QStringLiteral("qtbase_") + language,
+                QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        return;
+    }
 }

@@ -2,10 +2,10 @@
 #include "core/StartUp.h"
 
 #include "platform/shell/ProgramFolder.h"
+#include "platform/shell/UserLanguages.h"
 
 #include <QDir>
 #include <QFile>
-#include <QLocale>
 
 #include <chrono>
 #include <random>
@@ -30,9 +30,12 @@ void InitModule()
 
 QString HelpFile()
 {
-    const QString language = QLocale().name().section(u'_', 0, 0);
-    const QString translated = ProgramFile(QStringLiteral("lumenark_%1.hlp").arg(language));
-    return QFile::exists(translated) ? translated : ProgramFile(QStringLiteral("lumenark.hlp"));
+    for (const QString& language : LanguagesBeforeEnglish()) {
+        const QString translated = ProgramFile(QStringLiteral("lumenark_%1.hlp").arg(language));
+        if (QFile::exists(translated))
+            return translated;
+    }
+    return ProgramFile(QStringLiteral("lumenark.hlp"));
 }
 
 int RandomBelow(int below)
