@@ -124,6 +124,32 @@ void AlbumFixture::Execute(const QString& sql) const
     Rows(sql);
 }
 
+int ErrorOf(const std::function<void()>& action, QString* description)
+{
+    try {
+        action();
+    } catch (const DatabaseError& error) {
+        if (description)
+            *description = error.GetDescription();
+        return error.GetNumber();
+    }
+    return 0;
+}
+
+QByteArray ReadFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WriteFile(const QString& path, const QByteArray& contents)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        QTest::qFail(qPrintable("cannot write " + path), __FILE__, __LINE__);
+}
+
 void PaintPicture(const QString& path, QSize size, const QColor& color)
 {
     QImage image(size, QImage::Format_RGB32);

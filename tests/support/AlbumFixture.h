@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QColor>
 #include <QMap>
 #include <QSize>
@@ -8,7 +9,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include <vector>
+#include <functional>
 
 // A fresh world for one test: a folder that goes with it, settings of its own, a fixed random seed,
 // and a new album that is open. Everything is released at the end.
@@ -46,5 +47,11 @@ private:
     QString album_;
 };
 
+// The number of the error that an action ends with, and what it says; 0 when there is none.
+int ErrorOf(const std::function<void()>& action, QString* description = nullptr);
+
+QByteArray ReadFile(const QString& path);
+// Makes the folder too.
+void WriteFile(const QString& path, const QByteArray& contents = {});
 // Writes a one-coloured picture file; the kind follows from the name.
 void PaintPicture(const QString& path, QSize size, const QColor& color);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QListWidget>
 #include <QString>
 #include <QWidget>
 
@@ -22,3 +23,10 @@ Widget& Find(QWidget& window, const QString& name)
         qFatal("there is no control %s", qPrintable(name));
     return *found;
 }
+
+// A left click on the control of that name, whatever it is.
+void Click(QWidget& window, const QString& control);
+// A left click on a line, or a double click.
+void ClickLine(QListWidget& list, int row, bool twice = false);
+// What stands in a list, a "*" before the line that is current.
+QStringList Lines(const QListWidget& list);

@@ -10,24 +10,7 @@
 
 using namespace GeneralModule;
 
-class TestAlbumPassword : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void SetsChangesAndRemoves();
-    void KeepsEverything();
-    void FailureLeavesTheAlbumAsItWas();
-    void AsksTwice();
-};
-
 namespace {
-
-QByteArray BytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QStringList FilesBeside(const AlbumFixture& album)
 {
@@ -43,93 +26,105 @@ QString Legend()
 
 } // namespace
 
-void TestAlbumPassword::SetsChangesAndRemoves()
+class TestAlbumPassword : public QObject
 {
-    AlbumFixture album;
-    album.AddImageRow("/a.jpg", {{"Legend", "a secret place"}});
-    QVERIFY(!AlbumHasPassword());
-    for (const QString& password : {QString("it's \"odd\" é"), QString("second")}) {
-        SetAlbumPassword(password);
-        QVERIFY(AlbumHasPassword());
+    Q_OBJECT
+
+private slots:
+    void SetsChangesAndRemoves()
+    {
+        AlbumFixture album;
+        album.AddImageRow("/a.jpg", {{"Legend", "a secret place"}});
+        QVERIFY(!AlbumHasPassword());
+        for (const QString& password : {QString("it's \"odd\" é"), QString("second")}) {
+            SetAlbumPassword(password);
+            QVERIFY(AlbumHasPassword());
+            QCOMPARE(Legend(), "a secret place");
+            QCOMPARE(KindOfDatabaseFile(album.GetAlbum()), DatabaseFileKind::Encrypted);
+            QVERIFY(!ReadFile(album.GetAlbum()).contains("secret place"));
+            ScriptedDialogs dialogs;
+            const QString prompt = "Please give the password for : " + album.GetAlbum();
+            for (const QString& given : {QString("wrong; --"), password.toUpper(), password})
+                dialogs.ExpectInput(prompt, given);
+            QVERIFY(OpenAlbum(album.GetAlbum()));
+            dialogs.ExpectInput(prompt, "");
+            QVERIFY(!OpenAlbum(album.GetAlbum()));
+            dialogs.ExpectInput(prompt, password);
+            QVERIFY(OpenAlbum(album.GetAlbum()));
+        }
+        SetAlbumPassword({});
+        QVERIFY(!AlbumHasPassword());
+        QCOMPARE(KindOfDatabaseFile(album.GetAlbum()), DatabaseFileKind::Plain);
         QCOMPARE(Legend(), "a secret place");
-        QCOMPARE(KindOfDatabaseFile(album.GetAlbum()), DatabaseFileKind::Encrypted);
-        QVERIFY(!BytesOf(album.GetAlbum()).contains("secret place"));
-        ScriptedDialogs dialogs;
-        dialogs.ExpectInput("Please give the password for : " + album.GetAlbum(), password);
-        QVERIFY(OpenAlbum(album.GetAlbum()));
+        QCOMPARE(FilesBeside(album), QStringList("story.alb"));
     }
-    SetAlbumPassword({});
-    QVERIFY(!AlbumHasPassword());
-    QCOMPARE(KindOfDatabaseFile(album.GetAlbum()), DatabaseFileKind::Plain);
-    QCOMPARE(Legend(), "a secret place");
-    QCOMPARE(FilesBeside(album), QStringList("story.alb"));
-}
 
-void TestAlbumPassword::KeepsEverything()
-{
-    AlbumFixture album;
-    const qint32 chapter = album.AddChapter("One");
-    album.AddParagraph(chapter, QString(100000, u'é'));
-    FindById(*ParagraphSet, 1);
-    ParagraphSet->Delete();
-    album.AddParagraph(chapter, "kept");
-    const QStringList tables{"Chapter", "Paragraph", "sqlite_sequence"};
-    QStringList before;
-    for (const QString& table : tables)
-        before += album.Rows("SELECT * FROM " + table);
-    SetAlbumPassword("x");
-    SetAlbumPassword({});
-    QStringList after;
-    for (const QString& table : tables)
-        after += album.Rows("SELECT * FROM " + table);
-    QCOMPARE(after, before);
-    ParagraphSet->AddNew(); // identifiers go on where they were
-    QCOMPARE(ParagraphSet->Number(u"Id"), 3);
-}
+    void KeepsEverything()
+    {
+        AlbumFixture album;
+        const qint32 chapter = album.AddChapter("One");
+        album.AddParagraph(chapter, QString(100000, u'é'));
+        FindById(*ParagraphSet, 1);
+        ParagraphSet->Delete();
+        album.AddParagraph(chapter, "kept");
+        const auto everything = [&] {
+            QStringList rows;
+            for (const char* table : {"Chapter", "Paragraph", "sqlite_sequence"})
+                rows += album.Rows(QString("SELECT * FROM ") + table);
+            return rows;
+        };
+        const QStringList before = everything();
+        SetAlbumPassword("x");
+        SetAlbumPassword({});
+        QCOMPARE(everything(), before);
+        ParagraphSet->AddNew(); // identifiers go on where they were
+        QCOMPARE(ParagraphSet->Number(u"Id"), 3);
+    }
 
-void TestAlbumPassword::FailureLeavesTheAlbumAsItWas()
-{
-    AlbumFixture album;
-    album.AddImageRow("/a.jpg", {{"Legend", "here"}});
-    QDir(QFileInfo(album.GetAlbum()).path()).mkpath("story.alb.new/in the way");
-    const QByteArray before = BytesOf(album.GetAlbum());
-    QVERIFY_THROWS_EXCEPTION(DatabaseError, SetAlbumPassword("x"));
-    QCOMPARE(BytesOf(album.GetAlbum()), before);
-    QCOMPARE(Legend(), "here");
-    QVERIFY(!AlbumHasPassword());
-}
+    void FailureLeavesTheAlbumAsItWas()
+    {
+        AlbumFixture album;
+        album.AddImageRow("/a.jpg", {{"Legend", "here"}});
+        QDir(QFileInfo(album.GetAlbum()).path()).mkpath("story.alb.new/in the way");
+        const QByteArray before = ReadFile(album.GetAlbum());
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, SetAlbumPassword("x"));
+        QCOMPARE(ReadFile(album.GetAlbum()), before);
+        QCOMPARE(Legend(), "here");
+        QVERIFY(!AlbumHasPassword());
+    }
 
-void TestAlbumPassword::AsksTwice()
-{
-    AlbumFixture album;
-    const QString first = "Please enter the new password";
-    const QString second = "Please enter the new password once more";
-    ScriptedDialogs dialogs;
-    dialogs.ExpectInput(first, "");
-    AskForNewPassword();
-    QVERIFY(!AlbumHasPassword());
+    void AsksTwice()
+    {
+        AlbumFixture album;
+        const QString first = "Please enter the new password";
+        const QString second = "Please enter the new password once more";
+        ScriptedDialogs dialogs;
+        dialogs.ExpectInput(first, "");
+        AskForNewPassword();
+        QVERIFY(!AlbumHasPassword());
 
-    dialogs.ExpectInput(first, "a");
-    dialogs.ExpectInput(second, "b");
-    dialogs.ExpectBox("The two passwords differ", Dialogs::Icon::Warning);
-    dialogs.ExpectInput(first, "a");
-    dialogs.ExpectInput(second, "a");
-    dialogs.ExpectBoxBeginning("The album has its new password.", Dialogs::Icon::Information);
-    AskForNewPassword();
-    QVERIFY(AlbumHasPassword());
+        dialogs.ExpectInput(first, "a");
+        dialogs.ExpectInput(second, "b");
+        dialogs.ExpectBox("The two passwords differ", Dialogs::Icon::Warning);
+        dialogs.ExpectInput(first, "a");
+        dialogs.ExpectInput(second, "a");
+        dialogs.ExpectBoxBeginning("The album has its new password.", Dialogs::Icon::Information);
+        AskForNewPassword();
+        QVERIFY(AlbumHasPassword());
 
-    const QString question =
-        "This album has a password. Do you want to remove it ?\nChoose No to change it.";
-    dialogs.ExpectBox(question, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
-                      Dialogs::Answer::Cancel);
-    AskForNewPassword();
-    QVERIFY(AlbumHasPassword());
-    dialogs.ExpectBox(question, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
-                      Dialogs::Answer::Yes);
-    dialogs.ExpectBox("The album has no password any more.");
-    AskForNewPassword();
-    QVERIFY(!AlbumHasPassword());
-}
+        const QString question =
+            "This album has a password. Do you want to remove it ?\nChoose No to change it.";
+        dialogs.ExpectBox(question, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
+                          Dialogs::Answer::Cancel);
+        AskForNewPassword();
+        QVERIFY(AlbumHasPassword());
+        dialogs.ExpectBox(question, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
+                          Dialogs::Answer::Yes);
+        dialogs.ExpectBox("The album has no password any more.");
+        AskForNewPassword();
+        QVERIFY(!AlbumHasPassword());
+    }
+};
 
 QTEST_GUILESS_MAIN(TestAlbumPassword)
 #include "test_album_password.moc"

@@ -39,15 +39,22 @@ public:
         editor.show();
     }
 
-    void Click(const QString& button)
-    {
-        QTest::mouseClick(&Find<QAbstractButton>(editor, button), Qt::LeftButton);
-    }
+    void Click(const QString& control) { ::Click(editor, control); }
 
     QString Text() { return TextBox().toPlainText(); }
     QPlainTextEdit& TextBox() { return Find<QPlainTextEdit>(editor, "txtParagraph"); }
     QListWidget& Values() { return Find<QListWidget>(editor, "lstCar"); }
     QString Feedback() { return Find<QLabel>(editor, "lblFeedback").text(); }
+    QStringList Marks()
+    {
+        QStringList marks;
+        for (int row = 0; row < Values().count(); ++row) {
+            const QListWidgetItem* item = Values().item(row);
+            marks += item->text() + (item->checkState() == Qt::Checked ? "+" : "");
+        }
+        return marks;
+    }
+
     bool IsShown(const QString& control) { return Find<QWidget>(editor, control).isVisible(); }
 
     QString Stored(const QString& field, int paragraph) const
@@ -60,15 +67,6 @@ public:
     frmEditParagraph editor;
 };
 
-QStringList Lines(QWidget& organiser)
-{
-    auto& list = Find<QListWidget>(organiser, "lstParagraph");
-    QStringList lines;
-    for (int row = 0; row < list.count(); ++row)
-        lines += (row == list.currentRow() ? "*" : "") + list.item(row)->text();
-    return lines;
-}
-
 } // namespace
 
 class TestParagraphEditor : public QObject
@@ -76,32 +74,49 @@ class TestParagraphEditor : public QObject
     Q_OBJECT
 
 private slots:
-    void EveryWayOutSaves_data()
-    {
-        QTest::addColumn<QString>("way");
-        for (const char* way : {"Exit", "Esc in the text", "Q on a button", "the frame"})
-            QTest::newRow(way) << way;
-    }
-
     void EveryWayOutSaves()
     {
-        QFETCH(QString, way);
-        Writing writing;
-        QTest::keyClicks(&writing.TextBox(), "Qq ");
-        QVERIFY(writing.editor.isVisible());
-        if (way == "Exit")
-            writing.Click("cmdExit");
-        else if (way == "Esc in the text")
-            QTest::keyClick(&writing.TextBox(), Qt::Key_Escape);
-        else if (way == "the frame")
-            writing.editor.close();
-        else {
-            Find<QPushButton>(writing.editor, "cmdNextParagraph").setFocus();
-            QTest::keyClick(&Find<QPushButton>(writing.editor, "cmdNextParagraph"), Qt::Key_Q);
+        const std::function<void(Writing&)> ways[] = {
+            [](Writing& writing) { writing.Click("cmdExit"); },
+            [](Writing& writing) { QTest::keyClick(&writing.TextBox(), Qt::Key_Escape); },
+            [](Writing& writing) { writing.editor.close(); },
+            [](Writing& writing) {
+                auto& button = Find<QPushButton>(writing.editor, "cmdNextParagraph");
+                button.setFocus();
+                QTest::keyClick(&button, Qt::Key_Q);
+            }};
+        for (const auto& leave : ways) {
+            Writing writing;
+            QTest::keyClicks(&writing.TextBox(), "Qq ");
+            QVERIFY(writing.editor.isVisible());
+            leave(writing);
+            QVERIFY(!writing.editor.isVisible());
+            QCOMPARE(writing.Stored("Text", 1), QString("Qq first"));
+            QCOMPARE(writing.editor.CurrentParagraph, 1);
         }
-        QVERIFY(!writing.editor.isVisible());
-        QCOMPARE(writing.Stored("Text", 1), QString("Qq first"));
-        QCOMPARE(writing.editor.CurrentParagraph, 1);
+    }
+
+    void StepsAndCreation()
+    {
+        Writing writing;
+        const std::pair<const char*, const char*> steps[] = {{"cmdNextParagraph", "second"},
+                                                             {"cmdEndOfChapter", "third"},
+                                                             {"cmdPreviousParagraph", "second"},
+                                                             {"cmdFirstParagraph", "first"},
+                                                             {"cmdEndOfChapter", "third"}};
+        for (const auto& [button, text] : steps) {
+            writing.Click(button);
+            QCOMPARE(writing.Text(), QString(text));
+        }
+        QTest::keyClicks(&writing.TextBox(), "X");
+        writing.Click("cmdNextParagraph"); // stays, and saves
+        QCOMPARE(writing.Text(), QString("Xthird"));
+        QCOMPARE(writing.Stored("Text", 3), QString("Xthird"));
+        writing.Click("cmdFirstParagraph");
+        writing.Click("cmdCreateNext");
+        QCOMPARE(writing.Text(), QString());
+        QCOMPARE(writing.editor.CurrentParagraph, 4);
+        QCOMPARE(writing.Stored("Car4", 4), QString("Lake;Gone"));
     }
 
     void WhatCannotBeSavedIsNotThrownAway()
@@ -120,31 +135,6 @@ private slots:
                           Dialogs::Answer::Yes);
         writing.editor.close();
         QVERIFY(!writing.editor.isVisible());
-    }
-
-    void StepsAndCreation()
-    {
-        Writing writing;
-        QCOMPARE(writing.Text(), QString("first"));
-        writing.Click("cmdNextParagraph");
-        QCOMPARE(writing.Text(), QString("second"));
-        writing.Click("cmdEndOfChapter");
-        QCOMPARE(writing.Text(), QString("third"));
-        QTest::keyClicks(&writing.TextBox(), "X");
-        writing.Click("cmdNextParagraph"); // stays, and saves
-        QCOMPARE(writing.Text(), QString("Xthird"));
-        QCOMPARE(writing.Stored("Text", 3), QString("Xthird"));
-        writing.Click("cmdPreviousParagraph");
-        writing.Click("cmdFirstParagraph");
-        QCOMPARE(writing.Text(), QString("first"));
-        writing.Click("cmdCreateNext");
-        QCOMPARE(writing.Text(), QString());
-        QCOMPARE(writing.editor.CurrentParagraph, 4);
-        QCOMPARE(writing.Stored("Car4", 4), QString("Lake;Gone"));
-        QCOMPARE(writing.Stored("NextParagraph", 1), QString("2"));
-        writing.Click("cmdNextParagraph");
-        QCOMPARE(writing.Text(), QString("second"));
-        QCOMPARE(writing.Stored("NextParagraph", 1), QString("4"));
     }
 
     void DeleteAsksFirst()
@@ -185,19 +175,11 @@ private slots:
         QVERIFY(ground(where) != ground(doing));
         QCOMPARE(writing.Values().count(), 0);
 
-        QTest::mouseClick(&where, Qt::LeftButton);
-        QCOMPARE(Marks(writing.Values()),
-                 QStringList({"* (Reset)", "!", "-", "Lake+", "Town", "Gone+"}));
-        const auto choose = [&](int row) {
-            QListWidget& list = writing.Values();
-            QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
-                              list.visualItemRect(list.item(row)).center());
-        };
-        choose(5);
-        choose(4);
-        choose(1);
-        QCOMPARE(Marks(writing.Values()),
-                 QStringList({"* (Reset)", "!+", "-", "Lake+", "Town+", "Gone"}));
+        writing.Click("lblCar_4");
+        QCOMPARE(writing.Marks(), QStringList({"* (Reset)", "!", "-", "Lake+", "Town", "Gone+"}));
+        for (const int row : {5, 4, 1})
+            ClickLine(writing.Values(), row);
+        QCOMPARE(writing.Marks(), QStringList({"* (Reset)", "!+", "-", "Lake+", "Town+", "Gone"}));
         writing.Click("cmdNextParagraph");
         QCOMPARE(writing.Stored("Car4", 1), QString("!;Lake;Town"));
         QCOMPARE(writing.Stored("Car9", 1), QString("!;Big"));
@@ -209,7 +191,7 @@ private slots:
         QTest::keyClick(&grid, Qt::Key_Return);
         QTest::keyClick(&writing.Values(), Qt::Key_Down);
         QTest::keyClick(&writing.Values(), Qt::Key_Space);
-        QVERIFY(Marks(writing.Values()).contains("!+"));
+        QVERIFY(writing.Marks().contains("!+"));
         writing.Click("cmdPreviousParagraph");
         for (int column = 0; column < columnCount; ++column)
             QCOMPARE(writing.Stored(QStringLiteral("Car%1").arg(column), 2), QString("*"));
@@ -254,7 +236,7 @@ private slots:
         link.click();
         QVERIFY(writing.Rows("SELECT * FROM LinkedImages").isEmpty());
         // A changed filter shows at once what it finds.
-        QTest::mouseClick(&Find<QLabel>(writing.editor, "lblCar_4"), Qt::LeftButton);
+        writing.Click("lblCar_4");
         QTest::keyClick(&writing.Values(), Qt::Key_End);
         QTest::keyClick(&writing.Values(), Qt::Key_Return);
         QCOMPARE(writing.Feedback(), QString("0 images found"));
@@ -284,7 +266,7 @@ private slots:
             GeneralModule::SetColumnLabel(4, "Place");
             window.close();
         });
-        QTest::mouseClick(&Find<QWidget>(writing.editor, "imgImage"), Qt::LeftButton);
+        writing.Click("imgImage");
         QCOMPARE(Find<QPlainTextEdit>(writing.editor, "txtParagraphPreview").toPlainText(),
                  QString("A ship at Lake"));
         QCOMPARE(writing.Text(), QString("<<Picture Legend>> at <<Place (People)>>"));
@@ -299,27 +281,22 @@ private slots:
         QTest::keyClicks(&writing.TextBox(), "<<x ");
         WhenModal("frmOrganizeParagraphs", [](QWidget& organiser) {
             auto& list = Find<QListWidget>(organiser, "lstParagraph");
-            const auto click = [&](const char* button) {
-                QTest::mouseClick(&Find<QPushButton>(organiser, button), Qt::LeftButton);
-            };
-            QCOMPARE(Lines(organiser), QStringList({"first", "second", "*<<x third"}));
-            click("cmdMoveUp");
-            QCOMPARE(Lines(organiser), QStringList({"first", "*<<x third", "second"}));
+            QCOMPARE(Lines(list), QStringList({"first", "second", "*<<x third"}));
+            Click(organiser, "cmdMoveUp");
+            QCOMPARE(Lines(list), QStringList({"first", "*<<x third", "second"}));
             QTest::keyClick(&list, Qt::Key_Down);
-            click("cmdMoveDown");
-            QCOMPARE(Lines(organiser), QStringList("*second"));
+            Click(organiser, "cmdMoveDown");
+            QCOMPARE(Lines(list), QStringList("*second"));
             QCOMPARE(Find<QLabel>(organiser, "lblChapter").text(), QString("Two"));
-            click("cmdMoveDown"); // there is no chapter behind
-            QCOMPARE(Lines(organiser), QStringList("*second"));
+            Click(organiser, "cmdMoveDown"); // there is no chapter behind
+            QCOMPARE(Lines(list), QStringList("*second"));
             // In a chapter that was only paged to nothing is selected, so nothing moves.
             QTest::keyClick(&list, Qt::Key_PageUp);
-            QCOMPARE(Lines(organiser), QStringList({"first", "<<x third"}));
-            click("cmdMoveUp");
-            QCOMPARE(Lines(organiser), QStringList({"first", "<<x third"}));
+            QCOMPARE(Lines(list), QStringList({"first", "<<x third"}));
+            Click(organiser, "cmdMoveUp");
+            QCOMPARE(Lines(list), QStringList({"first", "<<x third"}));
             QTest::keyClick(&list, Qt::Key_PageDown);
-            const QPoint line = list.visualItemRect(list.item(0)).center();
-            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, line);
-            QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, line);
+            ClickLine(list, 0, true);
         });
         writing.Click("cmdOrganize");
         QCOMPARE(writing.Text(), QString("second"));
@@ -328,35 +305,6 @@ private slots:
         QCOMPARE(writing.editor.windowTitle(), QString("Edit Paragraph from Chapter 'Two'"));
         QCOMPARE(writing.Rows("SELECT Id,Chapter,PreviousParagraph,NextParagraph FROM Paragraph"),
                  QStringList({"1|1|0|3", "2|2|0|0", "3|1|1|0"}));
-    }
-
-    void TabGoesFromTopToBottom()
-    {
-        Writing writing;
-        QStringList order;
-        QWidget* const begin = &writing.TextBox();
-        for (QWidget* next = begin->nextInFocusChain(); next != begin;
-             next = next->nextInFocusChain()) {
-            if ((next->focusPolicy() & Qt::TabFocus) && next->isVisibleTo(&writing.editor) &&
-                !next->objectName().startsWith("qt_"))
-                order += next->objectName();
-        }
-        order.removeAll("frmEditParagraph");
-        QCOMPARE(
-            order.mid(0, order.indexOf("cmdExit") + 1),
-            QStringList({"cmdPreview", "chkLinkedImage", "grdCar", "lstCar", "cmdFirstParagraph",
-                         "cmdPreviousParagraph", "cmdNextParagraph", "cmdEndOfChapter",
-                         "cmdCreateNext", "cmdDelete", "cmdOrganize", "cmdExit"}));
-    }
-
-private:
-    static QStringList Marks(QListWidget& list)
-    {
-        QStringList marks;
-        for (int row = 0; row < list.count(); ++row)
-            marks +=
-                list.item(row)->text() + (list.item(row)->checkState() == Qt::Checked ? "+" : "");
-        return marks;
     }
 };
 

@@ -7,32 +7,18 @@
 #include "support/ScriptedDialogs.h"
 #include "ui/main/frmOpenChapter.h"
 
-#include <QCheckBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QtTest>
 
 namespace {
 
-void Click(QWidget& window, const QString& button)
-{
-    QTest::mouseClick(&Find<QPushButton>(window, button), Qt::LeftButton);
-}
-
-void ClickLine(QListWidget& list, const QString& text)
+void ClickText(QListWidget& list, const QString& text)
 {
     const QList<QListWidgetItem*> found = list.findItems(text, Qt::MatchExactly);
     QCOMPARE(found.size(), 1);
-    list.scrollToItem(found.first());
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
-                      list.visualItemRect(found.first()).center());
-}
-
-void ClickLabel(QWidget& window, const QString& label)
-{
-    QTest::mouseClick(&Find<QLabel>(window, label), Qt::LeftButton);
+    ClickLine(list, list.row(found.first()));
 }
 
 // Where the window would get it.
@@ -49,13 +35,13 @@ void Type(QWidget& editor, const QString& text)
 void InsertMarker(QWidget& editor, const QString& title)
 {
     Click(editor, "cmdInsertCar");
-    ClickLine(Find<QListWidget>(editor, "lstInsertCar"), title);
+    ClickText(Find<QListWidget>(editor, "lstInsertCar"), title);
 }
 
 void ChooseValue(QWidget& editor, int column, const QString& value)
 {
-    ClickLabel(editor, QStringLiteral("lblCar_%1").arg(column));
-    ClickLine(Find<QListWidget>(editor, "lstCar"), value);
+    Click(editor, QStringLiteral("lblCar_%1").arg(column));
+    ClickText(Find<QListWidget>(editor, "lstCar"), value);
 }
 
 QString Feedback(QWidget& editor)
@@ -151,7 +137,7 @@ private:
             ChooseValue(editor, 3, "Anna");
             Click(editor, "cmdExit");
         });
-        ClickLabel(viewer, "lblLegend");
+        Click(viewer, "lblLegend");
         // The viewer follows to where the user stopped writing.
         QCOMPARE(Screen(viewer), QStringList({"Then a hill", "hill.png"}));
         QTest::keyClick(&viewer, Qt::Key_Escape);
@@ -164,7 +150,7 @@ private:
             Type(editor, "The end");
             ChooseValue(editor, 3, "Anna");
             Click(editor, "cmdPreview");
-            QTest::mouseClick(&Find<QCheckBox>(editor, "chkLinkedImage"), Qt::LeftButton);
+            Click(editor, "chkLinkedImage");
             Click(editor, "cmdExit");
         });
         Press(viewer, 'e');
