@@ -3,25 +3,11 @@
 #include "core/AlbumRepair.h"
 #include "core/ChainMending.h"
 #include "support/AlbumFixture.h"
-
-#include <QtTest>
+#include "support/Rows.h"
 
 #include <random>
 
 using namespace GeneralModule;
-
-class TestAlbumRepair : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void MendsChains_data();
-    void MendsChains();
-    void MendsWhatIsBroken_data();
-    void MendsWhatIsBroken();
-    void SoundAlbumStaysAsItIs();
-    void AnyAlbumIsWholeAfterwards();
-};
 
 namespace {
 
@@ -78,6 +64,11 @@ void WriteStory(AlbumFixture& album)
         album.AddParagraph(i <= 3 ? one : two, QString::number(i));
 }
 
+QStringList Everything(const AlbumFixture& album)
+{
+    return album.Rows("SELECT * FROM Paragraph") + album.Rows("SELECT * FROM Chapter");
+}
+
 QString StoryOf(const AlbumFixture& album)
 {
     QStringList chapters;
@@ -100,128 +91,111 @@ QString StoryOf(const AlbumFixture& album)
 
 } // namespace
 
-void TestAlbumRepair::MendsChains_data()
+class TestAlbumRepair : public QObject
 {
-    using Chain = std::vector<ChainLink>;
-    QTest::addColumn<std::vector<ChainLink>>("rows");
-    QTest::addColumn<QString>("order");
-    QTest::newRow("none") << Chain() << "";
-    QTest::newRow("whole") << Chain{{1, 0, 2}, {2, 1, 3}, {3, 2, 0}} << "1 2 3";
-    QTest::newRow("a row put in but not linked back")
-        << Chain{{1, 0, 2}, {2, 1, 0}, {3, 1, 2}} << "1 3 2";
-    QTest::newRow("a piece that leads into the chain")
-        << Chain{{1, 0, 2}, {2, 1, 0}, {3, 9, 2}} << "1 3 2";
-    QTest::newRow("two heads") << Chain{{1, 0, 2}, {2, 1, 0}, {3, 0, 4}, {4, 3, 0}} << "1 2 3 4";
-    QTest::newRow("ring") << Chain{{1, 3, 2}, {2, 1, 3}, {3, 2, 1}} << "1 2 3";
-    QTest::newRow("chain and ring") << Chain{{1, 0, 0}, {2, 3, 3}, {3, 2, 2}} << "1 2 3";
-    QTest::newRow("self link") << Chain{{1, 0, 1}, {2, 2, 2}} << "1 2";
-}
+    Q_OBJECT
 
-void TestAlbumRepair::MendsChains()
-{
-    QFETCH(std::vector<ChainLink>, rows);
-    QString order;
-    qint32 previous = 0;
-    for (const ChainLink& link : MendChain(rows)) {
-        QCOMPARE(link.previous, previous);
-        previous = link.id;
-        order += ' ' + QString::number(link.id);
+private slots:
+    void MendsChains()
+    {
+        using Chain = std::vector<ChainLink>;
+        const std::pair<Chain, QString> chains[] = {
+            {{}, ""},
+            {{{1, 0, 2}, {2, 1, 3}, {3, 2, 0}}, " 1 2 3"},
+            {{{1, 0, 2}, {2, 1, 0}, {3, 1, 2}}, " 1 3 2"}, // put in but not linked back
+            {{{1, 0, 2}, {2, 1, 0}, {3, 9, 2}}, " 1 3 2"}, // a piece that leads into the chain
+            {{{1, 0, 2}, {2, 1, 0}, {3, 0, 4}, {4, 3, 0}}, " 1 2 3 4"}, // two heads
+            {{{1, 3, 2}, {2, 1, 3}, {3, 2, 1}}, " 1 2 3"},              // ring
+            {{{1, 0, 0}, {2, 3, 3}, {3, 2, 2}}, " 1 2 3"},              // chain and ring
+            {{{1, 0, 1}, {2, 2, 2}}, " 1 2"}};                          // self link
+        for (const auto& [rows, expected] : chains) {
+            QString order;
+            qint32 previous = 0;
+            for (const ChainLink& link : MendChain(rows)) {
+                QCOMPARE(link.previous, previous);
+                previous = link.id;
+                order += ' ' + QString::number(link.id);
+            }
+            QCOMPARE(order, expected);
+        }
     }
-    QTEST(order.trimmed(), "order");
-}
 
-void TestAlbumRepair::MendsWhatIsBroken_data()
-{
-    QTest::addColumn<QString>("damage");
-    QTest::addColumn<QString>("story");
-    QTest::newRow("no first chapter") << "UPDATE Chapter SET PreviousChapter=2 WHERE Id=1"
-                                      << "One:123 Two:45";
-    QTest::newRow("chapter unreachable") << "UPDATE Chapter SET NextChapter=0 WHERE Id=1"
-                                         << "One:123 Two:45";
-    QTest::newRow("dangling next") << "UPDATE Paragraph SET NextParagraph=99 WHERE Id=1"
-                                   << "One:123 Two:45";
-    QTest::newRow("dangling previous") << "UPDATE Paragraph SET PreviousParagraph=99 WHERE Id=2"
-                                       << "One:123 Two:45";
-    QTest::newRow("cycle") << "UPDATE Paragraph SET NextParagraph=1 WHERE Id=3"
-                           << "One:123 Two:45";
-    QTest::newRow("into the next chapter") << "UPDATE Paragraph SET NextParagraph=4 WHERE Id=3"
-                                           << "One:123 Two:45";
-    QTest::newRow("wrong first paragraph") << "UPDATE Chapter SET FirstParagraph=5 WHERE Id=1"
-                                           << "One:123 Two:45";
-    QTest::newRow("no first paragraph") << "UPDATE Chapter SET FirstParagraph=0"
-                                        << "One:123 Two:45";
-    QTest::newRow("wrong chapter, right links") << "UPDATE Paragraph SET Chapter=77 WHERE Id=2"
-                                                << "One:123 Two:45";
-    QTest::newRow("chapter lost")
-        << "DELETE FROM Chapter WHERE Id=1; UPDATE Chapter SET PreviousChapter=0"
-        << "Two:45 Found again:123";
-    QTest::newRow("no chapter at all") << "DELETE FROM Chapter"
-                                       << "Found again:12345";
-    QTest::newRow("links of a wrong kind") << "UPDATE Paragraph SET NextParagraph='x' WHERE Id=2"
-                                           << "One:123 Two:45";
-}
+    void MendsWhatIsBroken_data()
+    {
+        const QString whole = "One:123 Two:45";
+        AddRows<QString, QString>(
+            {"damage", "story"},
+            {{"no first chapter", "UPDATE Chapter SET PreviousChapter=2 WHERE Id=1", whole},
+             {"chapter unreachable", "UPDATE Chapter SET NextChapter=0 WHERE Id=1", whole},
+             {"dangling next", "UPDATE Paragraph SET NextParagraph=99 WHERE Id=1", whole},
+             {"dangling previous", "UPDATE Paragraph SET PreviousParagraph=99 WHERE Id=2", whole},
+             {"cycle", "UPDATE Paragraph SET NextParagraph=1 WHERE Id=3", whole},
+             {"into the next chapter", "UPDATE Paragraph SET NextParagraph=4 WHERE Id=3", whole},
+             {"wrong first", "UPDATE Chapter SET FirstParagraph=5 WHERE Id=1", whole},
+             {"no first paragraph", "UPDATE Chapter SET FirstParagraph=0", whole},
+             {"wrong chapter", "UPDATE Paragraph SET Chapter=77 WHERE Id=2", whole},
+             {"chapter lost",
+              "DELETE FROM Chapter WHERE Id=1; UPDATE Chapter SET PreviousChapter=0",
+              "Two:45 Found again:123"},
+             {"no chapter at all", "DELETE FROM Chapter", "Found again:12345"},
+             {"links of a wrong kind", "UPDATE Paragraph SET NextParagraph='x' WHERE Id=2",
+              whole}});
+    }
 
-void TestAlbumRepair::MendsWhatIsBroken()
-{
-    QFETCH(QString, damage);
-    AlbumFixture album;
-    WriteStory(album);
-    album.Execute(damage);
-    QVERIFY(!FaultsOf(album).isEmpty());
-    const QStringList before = album.Rows("SELECT Id,Text FROM Paragraph");
-    const RepairReport report = RepairAlbum();
-    QCOMPARE(FaultsOf(album), "");
-    QTEST(StoryOf(album), "story");
-    QCOMPARE(album.Rows("SELECT Id,Text FROM Paragraph"), before);
-    QVERIFY(!report.IsEmpty());
-    QCOMPARE(report.copy, album.PathOf("story (before repair).alb"));
-    QVERIFY(QFileInfo(report.copy).size() > 0);
-    QVERIFY(DescribeRepair(report).contains(report.copy));
-    QVERIFY(RepairAlbum().IsEmpty()); // and once is enough
-}
-
-void TestAlbumRepair::SoundAlbumStaysAsItIs()
-{
-    AlbumFixture album;
-    QVERIFY(RepairAlbum().IsEmpty());
-    WriteStory(album);
-    const QStringList before =
-        album.Rows("SELECT * FROM Paragraph") + album.Rows("SELECT * FROM Chapter");
-    QVERIFY(RepairAlbum().IsEmpty());
-    QCOMPARE(album.Rows("SELECT * FROM Paragraph") + album.Rows("SELECT * FROM Chapter"), before);
-}
-
-// Albums of random links: whatever they say, the result is whole and nothing is lost.
-void TestAlbumRepair::AnyAlbumIsWholeAfterwards()
-{
-    std::mt19937 random(17);
-    for (int round = 0; round < 60; ++round) {
+    void MendsWhatIsBroken()
+    {
+        QFETCH(QString, damage);
         AlbumFixture album;
-        const int chapters = int(random() % 5);
-        const int paragraphs = int(random() % 12);
-        const auto any = [&random](int most) { return int(random() % unsigned(most + 3)) - 1; };
-        QString sql = "BEGIN;";
-        for (int i = 1; i <= chapters; ++i)
-            sql += QStringLiteral("INSERT INTO Chapter VALUES (%1,%2,%3,%4,'C%1');")
-                       .arg(i)
-                       .arg(any(paragraphs))
-                       .arg(any(chapters))
-                       .arg(any(chapters));
-        for (int i = 1; i <= paragraphs; ++i)
-            sql += QStringLiteral("INSERT INTO Paragraph (Id,Chapter,PreviousParagraph,"
-                                  "NextParagraph,Text) VALUES (%1,%2,%3,%4,'t%1');")
-                       .arg(i)
-                       .arg(any(chapters))
-                       .arg(any(paragraphs))
-                       .arg(any(paragraphs));
-        album.Execute(sql + "COMMIT");
-        const QStringList texts = album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id");
-        RepairAlbum();
-        QVERIFY2(FaultsOf(album).isEmpty(),
-                 qPrintable(QStringLiteral("round %1: %2").arg(round).arg(FaultsOf(album))));
-        QCOMPARE(album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id"), texts);
+        WriteStory(album);
+        const QStringList sound = Everything(album);
+        QVERIFY(RepairAlbum().IsEmpty());
+        QCOMPARE(Everything(album), sound);
+        album.Execute(damage);
+        QVERIFY(!FaultsOf(album).isEmpty());
+        const QStringList before = album.Rows("SELECT Id,Text FROM Paragraph");
+        const RepairReport report = RepairAlbum();
+        QCOMPARE(FaultsOf(album), "");
+        QTEST(StoryOf(album), "story");
+        QCOMPARE(album.Rows("SELECT Id,Text FROM Paragraph"), before);
+        QVERIFY(!report.IsEmpty());
+        QCOMPARE(report.copy, album.PathOf("story (before repair 2).alb"));
+        QVERIFY(QFileInfo(report.copy).size() > 0);
+        QVERIFY(DescribeRepair(report).contains(report.copy));
+        QVERIFY(RepairAlbum().IsEmpty()); // and once is enough
     }
-}
+
+    // Albums of random links: whatever they say, the result is whole and nothing is lost.
+    void AnyAlbumIsWholeAfterwards()
+    {
+        std::mt19937 random(17);
+        for (int round = 0; round < 60; ++round) {
+            AlbumFixture album;
+            const int chapters = int(random() % 5);
+            const int paragraphs = int(random() % 12);
+            const auto any = [&random](int most) { return int(random() % unsigned(most + 3)) - 1; };
+            QString sql = "BEGIN;";
+            for (int i = 1; i <= chapters; ++i)
+                sql += QStringLiteral("INSERT INTO Chapter VALUES (%1,%2,%3,%4,'C%1');")
+                           .arg(i)
+                           .arg(any(paragraphs))
+                           .arg(any(chapters))
+                           .arg(any(chapters));
+            for (int i = 1; i <= paragraphs; ++i)
+                sql += QStringLiteral("INSERT INTO Paragraph (Id,Chapter,PreviousParagraph,"
+                                      "NextParagraph,Text) VALUES (%1,%2,%3,%4,'t%1');")
+                           .arg(i)
+                           .arg(any(chapters))
+                           .arg(any(paragraphs))
+                           .arg(any(paragraphs));
+            album.Execute(sql + "COMMIT");
+            const QStringList texts = album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id");
+            RepairAlbum();
+            QVERIFY2(FaultsOf(album).isEmpty(),
+                     qPrintable(QStringLiteral("round %1: %2").arg(round).arg(FaultsOf(album))));
+            QCOMPARE(album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id"), texts);
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(TestAlbumRepair)
 #include "test_album_repair.moc"

@@ -16,130 +16,82 @@ class TestGeneralModule : public QObject
     Q_OBJECT
 
 private slots:
-    void ReplacesText();
-    void CutsPaths_data();
-    void CutsPaths();
-    void KeepsParameters();
-    void RoundsTheTimerDelay_data();
-    void RoundsTheTimerDelay();
-    void PrefersTheLocalCopy();
-    void KeepsSettings();
+    void ReplacesText()
+    {
+        QCOMPARE(ReplaceText("aa", "a", "aa", 1), "aaaa");
+        QCOMPARE(ReplaceText("a.a.a", "a", "b", 2), "a.b.b");
+        QCOMPARE(ReplaceText("aA", "A", "", 1), "a");
+        QCOMPARE(ReplaceText("abc", "", "x", 1), "abc");
+        QCOMPARE(ReplaceText("abc", "c", "x", 9), "abc");
+        QCOMPARE(LikeSafe("Jane's trip"), "Jane?s trip");
+        QCOMPARE(Quoted("it's"), "'it''s'");
+    }
+
+    void CutsPaths()
+    {
+        const QStringList rows[] = {{"/a/b.jpg", "/a/", "b.jpg", ""},
+                                    {"C:\\Photos\\a.jpg", "C:\\Photos\\", "a.jpg", "C:"},
+                                    {"a.jpg", "", "a.jpg", "a.jpg"},
+                                    {"", "", "", ""},
+                                    {"/a/b/", "/a/b/", "", ""}};
+        for (const QStringList& row : rows) {
+            const QString& path = row.first();
+            QCOMPARE(QStringList({path, FolderOf(path), FileNameOf(path), DriveOf(path)}), row);
+        }
+    }
+
+    void KeepsParameters()
+    {
+        const AlbumFixture album;
+        QCOMPARE(GetParam("TimerDelay"), "");
+        QCOMPARE(GetLastFileSelection(), QCoreApplication::applicationDirPath() + "/*.*");
+        SetColumnLabel(4, "Person");
+        SetColumnLabel(4, "Who");
+        SetCaractLabel(1, "it's \"quoted\"");
+        SetLastFileSelection("/a/*.jpg");
+        QCOMPARE(ColumnLabel(4), "Who");
+        QCOMPARE(CaractLabel(1), "it's \"quoted\"");
+        QCOMPARE(GetLastFileSelection(), "/a/*.jpg");
+        QCOMPARE(
+            album.Rows("SELECT Param,Value FROM Params"),
+            QStringList({"Car4|Who", "Caract1|it's \"quoted\"", "LastFileSelection|/a/*.jpg"}));
+        SetParam("strange's", "kept");
+        QCOMPARE(GetParam("strange's"), "kept");
+        // Delays go to the nearest whole number, halves to the even one, within 16 bits.
+        const std::pair<const char*, int> delays[] = {{"2500.5", 2500}, {"2501.5", 2502},
+                                                      {"40000", 32767}, {"-1e9", -32768},
+                                                      {"soon", 0},      {"nan", 0}};
+        for (const auto& [stored, delay] : delays) {
+            SetParam("TimerDelay", stored);
+            QCOMPARE(int(GetTimerDelay()), delay);
+        }
+        SaveTimerDelay(10000);
+        QCOMPARE(GetParam("TimerDelay"), "10000");
+    }
+
+    void PrefersTheLocalCopy()
+    {
+        AlbumFixture album;
+        const QString copy = album.PathOf("copy.png");
+        PaintPicture(copy, {4, 4}, Qt::red);
+        album.AddImageRow("/cd/it's.jpg", {{"SourceFile", copy}});
+        QCOMPARE(ResolvePictureFile("/cd/it's.jpg"), copy);
+        QFile::remove(copy);
+        QCOMPARE(ResolvePictureFile("/cd/it's.jpg"), "/cd/it's.jpg");
+        QCOMPARE(album.Rows("SELECT SourceFile FROM Image"), QStringList(""));
+        QCOMPARE(ResolvePictureFile("/not/in/the/album.jpg"), "/not/in/the/album.jpg");
+    }
+
+    void KeepsSettings()
+    {
+        const AlbumFixture album;
+        const QString path = "C:\\Fotos\\été; \"x\" = 1.alb";
+        SaveLastAlbum(path);
+        QCOMPARE(GetLastAlbum(), path);
+        QVERIFY(QFileInfo::exists(album.PathOf("settings/QVRLumenark.ini")));
+        QCOMPARE(GetUserSetting("User", "Nothing"), "");
+    }
 };
-
-void TestGeneralModule::ReplacesText()
-{
-    QCOMPARE(ReplaceText("aa", "a", "aa", 1), "aaaa");
-    QCOMPARE(ReplaceText("a.a.a", "a", "b", 2), "a.b.b");
-    QCOMPARE(ReplaceText("aA", "A", "", 1), "a");
-    QCOMPARE(ReplaceText("abc", "", "x", 1), "abc");
-    QCOMPARE(ReplaceText("abc", "c", "x", 9), "abc");
-    QCOMPARE(LikeSafe("Jane's trip"), "Jane?s trip");
-    QCOMPARE(Quoted("it's"), "'it''s'");
-}
-
-void TestGeneralModule::CutsPaths_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("drive");
-    QTest::newRow("of this system") << "/a/b.jpg"
-                                    << "/a/"
-                                    << "b.jpg"
-                                    << "";
-    QTest::newRow("of another system") << "C:\\Photos\\a.jpg"
-                                       << "C:\\Photos\\"
-                                       << "a.jpg"
-                                       << "C:";
-    QTest::newRow("root") << "/a"
-                          << "/"
-                          << "a"
-                          << "";
-    QTest::newRow("no separator") << "a.jpg"
-                                  << ""
-                                  << "a.jpg"
-                                  << "a.jpg";
-    QTest::newRow("nothing") << ""
-                             << ""
-                             << ""
-                             << "";
-    QTest::newRow("folder only") << "/a/b/"
-                                 << "/a/b/"
-                                 << ""
-                                 << "";
-}
-
-void TestGeneralModule::CutsPaths()
-{
-    QFETCH(QString, path);
-    QTEST(FolderOf(path), "folder");
-    QTEST(FileNameOf(path), "file");
-    QTEST(DriveOf(path), "drive");
-}
-
-void TestGeneralModule::KeepsParameters()
-{
-    const AlbumFixture album;
-    QCOMPARE(GetParam("TimerDelay"), "");
-    QCOMPARE(GetLastFileSelection(), QCoreApplication::applicationDirPath() + "/*.*");
-    SetColumnLabel(4, "Person");
-    SetColumnLabel(4, "Who");
-    SetCaractLabel(1, "it's \"quoted\"");
-    SetLastFileSelection("/a/*.jpg");
-    QCOMPARE(ColumnLabel(4), "Who");
-    QCOMPARE(CaractLabel(1), "it's \"quoted\"");
-    QCOMPARE(GetLastFileSelection(), "/a/*.jpg");
-    QCOMPARE(album.Rows("SELECT Param,Value FROM Params"),
-             QStringList({"Car4|Who", "Caract1|it's \"quoted\"", "LastFileSelection|/a/*.jpg"}));
-    SetParam("strange's", "kept");
-    QCOMPARE(GetParam("strange's"), "kept");
-}
-
-void TestGeneralModule::RoundsTheTimerDelay_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<int>("delay");
-    QTest::newRow("halves to even, down") << "2500.5" << 2500;
-    QTest::newRow("halves to even, up") << "2501.5" << 2502;
-    QTest::newRow("largest") << "40000" << 32767;
-    QTest::newRow("smallest") << "-1e9" << -32768;
-    QTest::newRow("no number") << "soon" << 0;
-    QTest::newRow("not a number at all") << "nan" << 0;
-}
-
-void TestGeneralModule::RoundsTheTimerDelay()
-{
-    QFETCH(QString, stored);
-    QFETCH(int, delay);
-    const AlbumFixture album;
-    SetParam("TimerDelay", stored);
-    QCOMPARE(int(GetTimerDelay()), delay);
-    SaveTimerDelay(10000);
-    QCOMPARE(GetParam("TimerDelay"), "10000");
-}
-
-void TestGeneralModule::PrefersTheLocalCopy()
-{
-    AlbumFixture album;
-    const QString copy = album.PathOf("copy.png");
-    PaintPicture(copy, {4, 4}, Qt::red);
-    album.AddImageRow("/cd/it's.jpg", {{"SourceFile", copy}});
-    QCOMPARE(ResolvePictureFile("/cd/it's.jpg"), copy);
-    QFile::remove(copy);
-    QCOMPARE(ResolvePictureFile("/cd/it's.jpg"), "/cd/it's.jpg");
-    QCOMPARE(album.Rows("SELECT SourceFile FROM Image"), QStringList(""));
-    QCOMPARE(ResolvePictureFile("/not/in/the/album.jpg"), "/not/in/the/album.jpg");
-}
-
-void TestGeneralModule::KeepsSettings()
-{
-    const AlbumFixture album;
-    const QString path = "C:\\Fotos\\été; \"x\" = 1.alb";
-    SaveLastAlbum(path);
-    QCOMPARE(GetLastAlbum(), path);
-    QVERIFY(QFileInfo::exists(album.PathOf("settings/QVRLumenark.ini")));
-    QCOMPARE(GetUserSetting("User", "Nothing"), "");
-}
 
 QTEST_GUILESS_MAIN(TestGeneralModule)
 #include "test_general_module.moc"
