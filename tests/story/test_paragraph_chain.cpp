@@ -13,6 +13,20 @@ const QString chainSql = QStringLiteral(
     "SELECT Id,Chapter,PreviousParagraph,NextParagraph,Text FROM Paragraph ORDER BY Id");
 const QString headSql = QStringLiteral("SELECT FirstParagraph FROM Chapter");
 
+// One chapter with a paragraph of each text; the place is the first.
+class Story : public AlbumFixture
+{
+public:
+    explicit Story(const QStringList& texts)
+    {
+        AddChapter("One");
+        for (const QString& text : texts)
+            AddParagraph(1, text);
+    }
+
+    ParagraphPlace place{1, 1};
+};
+
 ParagraphContent Content(const QString& text, const QString& firstValue = anyValue)
 {
     ParagraphContent content;
@@ -47,54 +61,29 @@ private slots:
 
     void SaveWritesAndRepairsNeighbours()
     {
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        for (const char* text : {"a", "b", "c"})
-            album.AddParagraph(chapter, text);
+        Story album({"a", "b", "c"});
         // Neighbours that do not lead to the second one, and a chapter that does not lead to the
         // first.
         album.Execute("UPDATE Paragraph SET NextParagraph=3 WHERE Id=1");
         album.Execute("UPDATE Paragraph SET PreviousParagraph=1, Chapter=7 WHERE Id=3");
         album.Execute("UPDATE Paragraph SET Chapter=9 WHERE Id=2");
         album.Execute("UPDATE Chapter SET FirstParagraph=3");
-        SaveParagraph({chapter, 2}, Content("B", "Anna;Paul"));
+        SaveParagraph({1, 2}, Content("B", "Anna;Paul"));
         QCOMPARE(album.Rows(chainSql), QStringList({"1|1|0|2|a", "2|1|1|3|B", "3|7|2|0|c"}));
         QCOMPARE(album.Rows("SELECT Car0,Car11 FROM Paragraph WHERE Id=2"),
                  QStringList("Anna;Paul|*"));
         QCOMPARE(album.Rows(headSql), QStringList("3"));
-        SaveParagraph({chapter, 1}, Content("A"));
+        SaveParagraph({1, 1}, Content("A"));
         QCOMPARE(album.Rows(headSql), QStringList("1"));
-    }
-
-    void SavingWhatIsThereWritesNothing()
-    {
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        album.AddParagraph(chapter, "a");
-        album.AddParagraph(chapter, "b");
-        const int changes = GeneralModule::AlbumDatabase->ChangeCount();
-        SaveParagraph({chapter, 1}, LoadParagraph(1));
-        QCOMPARE(GeneralModule::AlbumDatabase->ChangeCount(), changes);
-    }
-
-    void ABrokenFilterIsNeverStored()
-    {
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        album.AddParagraph(chapter, "a");
-        SaveParagraph({chapter, 1}, Content("a", "!"));
-        QCOMPARE(album.Rows("SELECT Car0 FROM Paragraph"), QStringList("*"));
     }
 
     void CreateNextRelinksLazilyAndInheritsWhatIsStored()
     {
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        album.AddParagraph(chapter, "a", {{"Car0", "Stored"}, {"Car7", "x;y"}});
-        album.AddParagraph(chapter, "b");
-        ParagraphPlace place{chapter, 1};
+        Story album({"a", "b"});
+        album.Execute("UPDATE Paragraph SET Car0='Stored',Car7='x;y' WHERE Id=1");
+        ParagraphPlace& place = album.place;
         CreateNextParagraph(place, Content("A", "Unsaved"));
-        QCOMPARE(place, (ParagraphPlace{chapter, 3}));
+        QCOMPARE(place, (ParagraphPlace{1, 3}));
         // The old neighbours still lead to each other.
         QCOMPARE(album.Rows(chainSql), QStringList({"1|1|0|2|A", "2|1|1|0|b", "3|1|1|2|"}));
         QCOMPARE(album.Rows("SELECT Car0,Car7 FROM Paragraph ORDER BY Id"),
@@ -112,12 +101,14 @@ private slots:
 
     void Delete()
     {
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        for (const char* text : {"a", "b", "c"})
-            album.AddParagraph(chapter, text);
+        Story album({"a", "b", "c"});
         album.Link(1, "/p.jpg");
-        ParagraphPlace place{chapter, 1};
+        ParagraphPlace& place = album.place;
+        CreateNextParagraph(place, Content("a")); // goes before its neighbours lead to it
+        DeleteParagraph(place, Content("gone"));
+        QCOMPARE(place.paragraph, 2);
+        QCOMPARE(album.Rows(chainSql), QStringList({"1|1|0|2|a", "2|1|1|3|b", "3|1|2|0|c"}));
+        place.paragraph = 1;
         DeleteParagraph(place, Content("a"));
         QCOMPARE(place.paragraph, 2);
         QCOMPARE(album.Rows(chainSql), QStringList({"2|1|0|3|b", "3|1|2|0|c"}));
@@ -129,68 +120,51 @@ private slots:
         QCOMPARE(place.paragraph, 2);
         QCOMPARE(album.Rows(chainSql), QStringList("2|1|0|0|b"));
         DeleteParagraph(place, Content("b"));
-        QCOMPARE(place, (ParagraphPlace{chapter, 0}));
+        QCOMPARE(place, (ParagraphPlace{1, 0}));
         QCOMPARE(album.Rows(headSql), QStringList("0"));
 
         // An identifier that links still name is not given again.
         CreateFirstParagraph(place);
-        QCOMPARE(place.paragraph, 4);
-    }
-
-    void DeleteInTheMiddleOfAnUnsavedInsertion()
-    {
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        album.AddParagraph(chapter, "a");
-        album.AddParagraph(chapter, "b");
-        ParagraphPlace place{chapter, 1};
-        CreateNextParagraph(place, Content("a"));
-        DeleteParagraph(place, Content("gone"));
-        QCOMPARE(place.paragraph, 2);
-        QCOMPARE(album.Rows(chainSql), QStringList({"1|1|0|2|a", "2|1|1|0|b"}));
-    }
-
-    void StepsSaveFirst_data()
-    {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("step");
-        QTest::addColumn<int>("to");
-        QTest::newRow("first") << 3 << int(ChainStep::First) << 1;
-        QTest::newRow("previous") << 3 << int(ChainStep::Previous) << 2;
-        QTest::newRow("previous of the first") << 1 << int(ChainStep::Previous) << 1;
-        QTest::newRow("next") << 1 << int(ChainStep::Next) << 2;
-        QTest::newRow("next of the last") << 4 << int(ChainStep::Next) << 4;
-        QTest::newRow("last") << 2 << int(ChainStep::Last) << 4;
+        QCOMPARE(place.paragraph, 5);
     }
 
     void StepsSaveFirst()
     {
-        QFETCH(int, from);
-        QFETCH(int, step);
-        QFETCH(int, to);
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        for (const char* text : {"a", "b", "c", "d"})
-            album.AddParagraph(chapter, text);
-        ParagraphPlace place{chapter, from};
-        SaveAndStep(place, Content("typed"), ChainStep(step));
-        QCOMPARE(place, (ParagraphPlace{chapter, to}));
-        QCOMPARE(album.Rows(QStringLiteral("SELECT Text FROM Paragraph WHERE Id=%1").arg(from)),
-                 QStringList("typed"));
-        QCOMPARE(album.Rows("SELECT count(*) FROM Paragraph WHERE Text='typed'"), QStringList("1"));
+        const std::tuple<int, ChainStep, int> steps[] = {
+            {3, ChainStep::First, 1}, {3, ChainStep::Previous, 2}, {1, ChainStep::Previous, 1},
+            {1, ChainStep::Next, 2},  {4, ChainStep::Next, 4},     {2, ChainStep::Last, 4}};
+        for (const auto& [from, step, to] : steps) {
+            Story story({"a", "b", "c", "d"});
+            story.place.paragraph = from;
+            SaveAndStep(story.place, Content("typed"), step);
+            QCOMPARE(story.place, (ParagraphPlace{1, to}));
+            QCOMPARE(story.Rows("SELECT Id FROM Paragraph WHERE Text='typed'"),
+                     QStringList(QString::number(from)));
+        }
+    }
+
+    void WhatSavingRefuses()
+    {
+        Story story({"a"});
+        const auto& database = GeneralModule::AlbumDatabase;
+        const int changes = database->ChangeCount();
+        SaveParagraph(story.place, LoadParagraph(1));
+        QCOMPARE(database->ChangeCount(), changes); // what is there is not written again
+        SaveParagraph(story.place, Content("a", "!"));
+        QCOMPARE(story.Rows("SELECT Car0 FROM Paragraph"), QStringList("*"));
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, SaveParagraph({1, 5}, Content("b")));
+        SaveParagraph({1, 0}, Content("b"));
+        QCOMPARE(story.Rows(chainSql), QStringList("1|1|0|0|a"));
     }
 
     void BrokenLinksEndAWalk()
     {
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        for (const char* text : {"a", "b", "c"})
-            album.AddParagraph(chapter, text);
+        Story album({"a", "b", "c"});
         album.Execute("UPDATE Paragraph SET NextParagraph=1 WHERE Id=3");
         album.Execute("UPDATE Paragraph SET PreviousParagraph=77 WHERE Id=1");
         QCOMPARE(WalkParagraphs(2, u"NextParagraph"), (std::vector<qint32>{2, 3, 1}));
         QCOMPARE(WalkParagraphs(3, u"PreviousParagraph"), (std::vector<qint32>{3, 2, 1}));
-        ParagraphPlace place{chapter, 1};
+        ParagraphPlace& place = album.place;
         SaveAndStep(place, Content("a"), ChainStep::Previous);
         QCOMPARE(place.paragraph, 1);
         // The neighbour that is not there is not looked for elsewhere.
@@ -204,17 +178,6 @@ private slots:
         place.paragraph = 1;
         DeleteParagraph(place, Content("a"));
         QCOMPARE(album.Rows(headSql), QStringList("2"));
-    }
-
-    void AParagraphThatIsGoneIsReported()
-    {
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        album.AddParagraph(chapter, "a");
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, SaveParagraph({chapter, 5}, Content("b")));
-        QCOMPARE(album.Rows(chainSql), QStringList("1|1|0|0|a"));
-        SaveParagraph({chapter, 0}, Content("b"));
-        QCOMPARE(album.Rows(chainSql), QStringList("1|1|0|0|a"));
     }
 
     void PicturesAreLinkedOnce()

@@ -58,60 +58,45 @@ class TestParagraphMoves : public QObject
     Q_OBJECT
 
 private slots:
-    void Moves_data()
-    {
-        QTest::addColumn<int>("chapter");
-        QTest::addColumn<int>("paragraph");
-        QTest::addColumn<bool>("down");
-        QTest::addColumn<int>("chapterAfter"); // 0: nothing moves
-        QTest::addColumn<QStringList>("chains");
-        const QString two = "2: 4 | 4";
-        const QString three = "3:  | ";
-        QTest::newRow("first down")
-            << 1 << 1 << true << 1 << QStringList{"1: 2 1 3 | 3 1 2", two, three};
-        QTest::newRow("middle down")
-            << 1 << 2 << true << 1 << QStringList{"1: 1 3 2 | 2 3 1", two, three};
-        QTest::newRow("last down")
-            << 1 << 3 << true << 2 << QStringList{"1: 1 2 | 2 1", "2: 3 4 | 4 3", three};
-        QTest::newRow("only one down, into an empty chapter")
-            << 2 << 4 << true << 3 << QStringList{"1: 1 2 3 | 3 2 1", "2:  | ", "3: 4 | 4"};
-        QTest::newRow("second up")
-            << 1 << 2 << false << 1 << QStringList{"1: 2 1 3 | 3 1 2", two, three};
-        QTest::newRow("last up") << 1 << 3 << false << 1
-                                 << QStringList{"1: 1 3 2 | 2 3 1", two, three};
-        QTest::newRow("only one up")
-            << 2 << 4 << false << 1 << QStringList{"1: 1 2 3 4 | 4 3 2 1", "2:  | ", three};
-        QTest::newRow("first of the first chapter up")
-            << 1 << 1 << false << 0 << QStringList{"1: 1 2 3 | 3 2 1", two, three};
-    }
-
     void Moves()
     {
-        QFETCH(int, chapter);
-        QFETCH(int, paragraph);
-        QFETCH(bool, down);
-        QFETCH(int, chapterAfter);
-        QFETCH(QStringList, chains);
+        const QString one = "1: 1 2 3 | 3 2 1";
+        const QString two = "2: 4 | 4";
+        const QString three = "3:  | ";
+        struct Row
+        {
+            ParagraphPlace from;
+            bool down;
+            int chapterAfter; // 0: nothing moves
+            QStringList chains;
+        };
+        const Row rows[] = {{{1, 1}, true, 1, {"1: 2 1 3 | 3 1 2", two, three}},
+                            {{1, 2}, true, 1, {"1: 1 3 2 | 2 3 1", two, three}},
+                            {{1, 3}, true, 2, {"1: 1 2 | 2 1", "2: 3 4 | 4 3", three}},
+                            {{2, 4}, true, 3, {one, "2:  | ", "3: 4 | 4"}},
+                            {{1, 2}, false, 1, {"1: 2 1 3 | 3 1 2", two, three}},
+                            {{1, 3}, false, 1, {"1: 1 3 2 | 2 3 1", two, three}},
+                            {{2, 4}, false, 1, {"1: 1 2 3 4 | 4 3 2 1", "2:  | ", three}},
+                            {{1, 1}, false, 0, {one, two, three}}};
+        for (const auto& [from, down, chapterAfter, chains] : rows) {
+            Story story;
+            ParagraphPlace place = from;
+            const bool moves = chapterAfter > 0;
+            QCOMPARE(down ? MoveParagraphDown(place) : MoveParagraphUp(place), moves);
+            QCOMPARE(place, (ParagraphPlace{moves ? chapterAfter : from.chapter, from.paragraph}));
+            QCOMPARE(story.Chains(), chains);
+        }
+        // There and back through all chapters.
         Story story;
-        ParagraphPlace place{chapter, paragraph};
-        QCOMPARE(down ? MoveParagraphDown(place) : MoveParagraphUp(place), chapterAfter > 0);
-        QCOMPARE(place, (ParagraphPlace{chapterAfter > 0 ? chapterAfter : chapter, paragraph}));
-        QCOMPARE(story.Chains(), chains);
-    }
-
-    void ThereAndBackThroughAllChapters()
-    {
-        Story story;
-        const QStringList before = story.Chains();
         ParagraphPlace place{1, 3};
         for (int i = 0; i < 3; ++i)
             QVERIFY(MoveParagraphDown(place));
-        QCOMPARE(story.Chains(), QStringList({"1: 1 2 | 2 1", "2: 4 | 4", "3: 3 | 3"}));
+        QCOMPARE(story.Chains(), QStringList({"1: 1 2 | 2 1", two, "3: 3 | 3"}));
         QVERIFY(!MoveParagraphDown(place)); // the last of the last chapter
         for (int i = 0; i < 3; ++i)
             QVERIFY(MoveParagraphUp(place));
         QCOMPARE(place, (ParagraphPlace{1, 3}));
-        QCOMPARE(story.Chains(), before);
+        QCOMPARE(story.Chains(), QStringList({one, two, three}));
     }
 
     void BrokenLinks()
