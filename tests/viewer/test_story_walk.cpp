@@ -4,136 +4,90 @@
 
 #include <QtTest>
 
-#include <memory>
-
 // The story: chapter 1 holds paragraphs 1 to 3, chapters 2 and 3 none, chapter 4 holds 4 and 5.
 class TestStoryWalk : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup() { album_.reset(); }
-    void Steps_data();
-    void Steps();
-    void BrokenLinksEndTheWalk_data();
-    void BrokenLinksEndTheWalk();
-    void NothingButEmptyChapters();
+    void Steps()
+    {
+        const Row rows[] = {{"", next_, {1, 1}, "paragraph 1/2"},
+                            {"", next_, {1, 3}, "chapter 4/4"}, // over empty ones
+                            {"", next_, {4, 5}, "chapter 1/1"},
+                            {"", next_, {2, 0}, "nothing 2/0"},
+                            {"", previous_, {1, 2}, "paragraph 1/1"},
+                            {"", previous_, {1, 1}, "paragraph 1/1"},
+                            {"", previous_, {4, 4}, "chapter 3/0"}, // skips no empty one
+                            {"", nextChapter_, {1, 2}, "chapter 2/0"},
+                            {"", nextChapter_, {3, 0}, "chapter 4/4"},
+                            {"", nextChapter_, {4, 4}, "paragraph 4/5"},
+                            {"", top_, {1, 3}, "paragraph 1/1"},
+                            {"", top_, {4, 4}, "chapter 3/0"},
+                            {"", top_, {2, 0}, "chapter 1/1"},
+                            {"", top_, {1, 1}, "nothing 1/1"}};
+        for (const Row& row : rows)
+            Check(row);
+    }
+
+    void BrokenLinksEndTheWalk()
+    {
+        const QString paragraph = "UPDATE Paragraph SET ";
+        const QString chapter = "UPDATE Chapter SET ";
+        const Row rows[] = {
+            {paragraph + "NextParagraph=99 WHERE Id=2", next_, {1, 2}, "chapter 4/4"},
+            {paragraph + "PreviousParagraph=99 WHERE Id=2", previous_, {1, 2}, "paragraph 1/1"},
+            {paragraph + "NextParagraph=4 WHERE Id=5", nextChapter_, {4, 4}, "paragraph 4/5"},
+            {paragraph + "PreviousParagraph=3 WHERE Id=1", top_, {1, 2}, "paragraph 1/3"},
+            {chapter + "FirstParagraph=99 WHERE Id=4", next_, {1, 3}, "chapter 1/1"},
+            {chapter + "NextChapter=99 WHERE Id=1", next_, {1, 3}, "chapter 1/1"},
+            // Round and round past chapters without a paragraph.
+            {chapter + "NextChapter=2 WHERE Id=3", next_, {1, 3}, "nothing 1/3"},
+            {chapter + "FirstParagraph=0", next_, {4, 5}, "nothing 4/5"},
+            {chapter + "FirstParagraph=0", GoToFirst, {1, 3}, "nothing 1/0"},
+            {"DELETE FROM Paragraph WHERE Id=2", next_, {1, 2}, "nothing 1/2"},
+            {"DELETE FROM Chapter", next_, {1, 3}, "close 1/3"}};
+        for (const Row& row : rows)
+            Check(row);
+    }
 
 private:
     using Walk = StoryStep (*)(StoryPosition&);
-    static QString Take(Walk walk, StoryPosition position);
+    static constexpr Walk next_ = StepToNextParagraph;
+    static constexpr Walk previous_ = StepToPreviousParagraph;
+    static constexpr Walk nextChapter_ = StepToNextChapter;
+    static constexpr Walk top_ = StepToTopOfChapter;
 
-    std::unique_ptr<AlbumFixture> album_;
-};
+    static StoryStep GoToFirst(StoryPosition& position)
+    {
+        GoToFirstParagraph(position);
+        return {};
+    }
 
-Q_DECLARE_METATYPE(StoryPosition)
-
-namespace {
-
-const QHash<QString, StoryStep (*)(StoryPosition&)> walks{{"next", StepToNextParagraph},
-                                                          {"previous", StepToPreviousParagraph},
-                                                          {"next chapter", StepToNextChapter},
-                                                          {"top", StepToTopOfChapter}};
-
-} // namespace
-
-void TestStoryWalk::init()
-{
-    album_ = std::make_unique<AlbumFixture>();
-    for (const char* name : {"One", "Two", "Three", "Four"})
-        album_->AddChapter(name);
-    for (int i = 0; i < 3; ++i)
-        album_->AddParagraph(1, "text");
-    for (int i = 0; i < 2; ++i)
-        album_->AddParagraph(4, "text");
-}
-
-QString TestStoryWalk::Take(Walk walk, StoryPosition position)
-{
-    const StoryStep step = walk(position);
-    const QStringList names{"nothing", "paragraph", "chapter", "close"};
-    return QStringLiteral("%1 %2/%3")
-        .arg(names[int(step)])
-        .arg(position.chapter)
-        .arg(position.paragraph);
-}
-
-void TestStoryWalk::Steps_data()
-{
-    QTest::addColumn<QString>("walk");
-    QTest::addColumn<StoryPosition>("from");
-    QTest::addColumn<QString>("result");
-    const auto row = [](const char* name, const char* walk, StoryPosition from,
-                        const char* result) { QTest::newRow(name) << walk << from << result; };
-    row("next", "next", {1, 1}, "paragraph 1/2");
-    row("over empty chapters", "next", {1, 3}, "chapter 4/4");
-    row("round to the beginning", "next", {4, 5}, "chapter 1/1");
-    row("nowhere without a paragraph", "next", {2, 0}, "nothing 2/0");
-    row("previous", "previous", {1, 2}, "paragraph 1/1");
-    row("first stays", "previous", {1, 1}, "paragraph 1/1");
-    row("an empty chapter is not skipped backwards", "previous", {4, 4}, "chapter 3/0");
-    row("next chapter", "next chapter", {1, 2}, "chapter 2/0");
-    row("from an empty chapter", "next chapter", {3, 0}, "chapter 4/4");
-    row("last chapter's end", "next chapter", {4, 4}, "paragraph 4/5");
-    row("top of the chapter", "top", {1, 3}, "paragraph 1/1");
-    row("chapter before", "top", {4, 4}, "chapter 3/0");
-    row("from an empty chapter back", "top", {2, 0}, "chapter 1/1");
-    row("top of all", "top", {1, 1}, "nothing 1/1");
-}
-
-void TestStoryWalk::Steps()
-{
-    QFETCH(QString, walk);
-    QFETCH(StoryPosition, from);
-    QTEST(Take(walks[walk], from), "result");
-}
-
-void TestStoryWalk::BrokenLinksEndTheWalk_data()
-{
-    QTest::addColumn<QString>("damage");
-    QTest::addColumn<QString>("walk");
-    QTest::addColumn<StoryPosition>("from");
-    QTest::addColumn<QString>("result");
-    const auto row = [](const char* name, const char* damage, const char* walk, StoryPosition from,
-                        const char* result) {
-        QTest::newRow(name) << damage << walk << from << result;
+    struct Row
+    {
+        QString damage;
+        Walk walk;
+        StoryPosition from;
+        QString result;
     };
-    row("dangling next", "UPDATE Paragraph SET NextParagraph=99 WHERE Id=2", "next", {1, 2},
-        "chapter 4/4");
-    row("dangling previous", "UPDATE Paragraph SET PreviousParagraph=99 WHERE Id=2", "previous",
-        {1, 2}, "paragraph 1/1");
-    row("cycle to the end", "UPDATE Paragraph SET NextParagraph=4 WHERE Id=5", "next chapter",
-        {4, 4}, "paragraph 4/5");
-    row("cycle to the top", "UPDATE Paragraph SET PreviousParagraph=3 WHERE Id=1", "top", {1, 2},
-        "paragraph 1/3");
-    row("dangling first paragraph", "UPDATE Chapter SET FirstParagraph=99 WHERE Id=4", "next",
-        {1, 3}, "chapter 1/1");
-    row("dangling next chapter", "UPDATE Chapter SET NextChapter=99 WHERE Id=1", "next", {1, 3},
-        "chapter 1/1");
-    row("chapter cycle past no paragraph", "UPDATE Chapter SET NextChapter=2 WHERE Id=3", "next",
-        {1, 3}, "nothing 1/3");
-    row("paragraph gone", "DELETE FROM Paragraph WHERE Id=2", "next", {1, 2}, "nothing 1/2");
-    row("no chapter at all", "DELETE FROM Chapter", "next", {1, 3}, "close 1/3");
-}
 
-void TestStoryWalk::BrokenLinksEndTheWalk()
-{
-    QFETCH(QString, damage);
-    QFETCH(QString, walk);
-    QFETCH(StoryPosition, from);
-    album_->Execute(damage);
-    QTEST(Take(walks[walk], from), "result");
-}
-
-void TestStoryWalk::NothingButEmptyChapters()
-{
-    album_->Execute("UPDATE Chapter SET FirstParagraph=0");
-    StoryPosition position{1, 3};
-    GoToFirstParagraph(position);
-    QCOMPARE(position, (StoryPosition{1, 0}));
-    QCOMPARE(Take(StepToNextParagraph, {4, 5}), "nothing 4/5");
-}
+    static void Check(const Row& row)
+    {
+        AlbumFixture album;
+        for (const char* name : {"One", "Two", "Three", "Four"})
+            album.AddChapter(name);
+        for (const qint32 chapter : {1, 1, 1, 4, 4})
+            album.AddParagraph(chapter, "text");
+        album.Execute(row.damage);
+        StoryPosition at = row.from;
+        const StoryStep step = row.walk(at);
+        const QStringList names{"nothing", "paragraph", "chapter", "close"};
+        const QString result =
+            QString("%1 %2/%3").arg(names[int(step)]).arg(at.chapter).arg(at.paragraph);
+        QVERIFY2(result == row.result, qPrintable(result + " instead of " + row.result));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestStoryWalk)
 #include "test_story_walk.moc"
