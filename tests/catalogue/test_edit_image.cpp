@@ -44,9 +44,9 @@ private slots:
         QVERIFY(window_->isVisible());
         QTest::keyClick(window_, Qt::Key_Escape);
         QVERIFY(!window_->isVisible());
-        QCOMPARE(album_->Rows("SELECT Legend,Car0,Car1,Car2 FROM Image"),
-                 QStringList({"quiet lake|Summer|O Neil|Calm", "q|-|-|-"}));
-        QCOMPARE(album_->Rows("SELECT Name FROM Car1"), QStringList({"-", "O Neil"}));
+        QCOMPARE(album_->Joined("SELECT Legend,Car0,Car1,Car2 FROM Image"),
+                 "quiet lake|Summer|O Neil|Calm; q|-|-|-");
+        QCOMPARE(album_->Joined("SELECT Name FROM Car1"), "-; O Neil");
     }
 
     void TwinColumnsShareTheirValues()
@@ -56,15 +56,14 @@ private slots:
         TypeInto(7, "qQ");
         QVERIFY(window_->isVisible());
         Click(*window_, "cmdNextImage");
-        QCOMPARE(Combo(4).currentText(), "-");
-        QCOMPARE(Combo(4).findText("qQ"), Combo(7).findText("qQ"));
         QVERIFY(Combo(4).findText("qQ") >= 0);
+        TypeInto(0, "");
         auto& button = Find<QPushButton>(*window_, "cmdExit");
         button.setFocus();
         QTest::keyClick(&button, Qt::Key_Q);
         QVERIFY(!window_->isVisible());
-        QCOMPARE(album_->Rows("SELECT Car4,Car7 FROM Image"), QStringList({"-|qQ", "-|-"}));
-        QCOMPARE(album_->Rows("SELECT Name FROM Car4"), QStringList("qQ"));
+        QCOMPARE(album_->Joined("SELECT Car0,Car4,Car7 FROM Image"), "-|-|qQ; -|-|-");
+        QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "qQ");
     }
 
     // What the tables do not hold, or hold in another letter case.
@@ -77,9 +76,8 @@ private slots:
         QCOMPARE(Combo(1).currentText(), "O'Neil");
         Find<QLineEdit>(*window_, "txtLegend").setText("new");
         window_->close();
-        QCOMPARE(album_->Rows("SELECT Car0,Car1,Car2,Legend FROM Image"),
-                 QStringList("ANNA|O'Neil|(?)|new"));
-        QCOMPARE(album_->Rows("SELECT Name FROM Car1"), QStringList("-"));
+        QCOMPARE(album_->Joined("SELECT Car0,Car1,Car2,Legend FROM Image"), "ANNA|O'Neil|(?)|new");
+        QCOMPARE(album_->Joined("SELECT Name FROM Car1"), "-");
     }
 
     void FollowsRenamedValuesAndLabels()
@@ -105,8 +103,8 @@ private slots:
         QCOMPARE(Combo(4).currentText(), "Anne");
         QCOMPARE(Find<QLabel>(*window_, "lblCar_4").text(), "First name");
         Click(*window_, "cmdExit");
-        QCOMPARE(album_->Rows("SELECT Car4 FROM Image"), QStringList("Anne"));
-        QCOMPARE(album_->Rows("SELECT Name FROM Car4"), QStringList({"-", "Anne"}));
+        QCOMPARE(album_->Joined("SELECT Car4 FROM Image"), "Anne");
+        QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "-; Anne");
     }
 
     void AsksBeforeItLosesAnything()
@@ -122,7 +120,7 @@ private slots:
             window_->close();
             QCOMPARE(window_->isVisible(), answer == Dialogs::Answer::No);
         }
-        QCOMPARE(album_->Rows("SELECT Car0 FROM Image"), QStringList("-"));
+        QCOMPARE(album_->Joined("SELECT Car0 FROM Image"), "-");
     }
 
     void DeletesTheRowOrTheFileToo()
@@ -139,7 +137,7 @@ private slots:
         QVERIFY(QFile::exists(files[0]) && !QFile::exists(files[1]));
         QCOMPARE(album_->Rows("SELECT File FROM Image ORDER BY rowid"),
                  QStringList({last, files[2]}));
-        QCOMPARE(album_->Rows("SELECT Name FROM Car0"), QStringList("-"));
+        QCOMPARE(album_->Joined("SELECT Name FROM Car0"), "-");
         window_->IsSinglePicture = true;
         next_ = {last};
         Delete(files[2], Dialogs::Answer::No);
@@ -165,8 +163,8 @@ private slots:
         TypeInto(0, "Anna");
         window_->close();
         QVERIFY(!window_->isVisible());
-        QCOMPARE(album_->Rows("SELECT count(*) FROM Image"), QStringList("0"));
-        QCOMPARE(album_->Rows("SELECT Name FROM Car0"), QStringList("-"));
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image"), "0");
+        QCOMPARE(album_->Joined("SELECT Name FROM Car0"), "-");
     }
 
 private:

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "catalogue/CharacteristicModel.h"
 #include "catalogue/ValueReplacement.h"
 #include "catalogue/frmEditTables.h"
 #include "core/Album.h"
@@ -11,7 +12,7 @@
 
 using GeneralModule::AlbumDatabase;
 
-// Value tables and labels, worked by their windows.
+// The rules of values, and the value tables and labels worked by their windows.
 class TestEditTables : public AlbumTest
 {
     Q_OBJECT
@@ -60,13 +61,12 @@ private slots:
         }
         Select("Anna");
         for (const char* answer : {"", "Anna", "Anna "}) {
-            dialogs_->ExpectInput("Replace all occurences of Anna by :", answer, "Anna");
-            Click("cmdReplace");
+            Replace("Anna", answer);
             QCOMPARE(Values(), "-;Anna;Bob");
         }
         Click("cmdDelete");
         QCOMPARE(Values(), "-;Bob");
-        QCOMPARE(album_->Rows("SELECT Car0 FROM Image"), QStringList("Anna"));
+        QCOMPARE(album_->Joined("SELECT Car0 FROM Image"), "Anna");
     }
 
     void ReplacesEverywhere()
@@ -83,8 +83,8 @@ private slots:
         dialogs_->ExpectInput("Replace all occurences of Anna by :", "(x", "Anna");
         dialogs_->ExpectInput("Caracteristics must begin with a letter or a figure", "An'ne;");
         Click("cmdReplace");
-        QCOMPARE(album_->Rows("SELECT Car3,Car4,Car7 FROM Image LIMIT 2"),
-                 QStringList({"Anna|An ne|An ne", "-|Annabel|An ne"}));
+        QCOMPARE(album_->Joined("SELECT Car3,Car4,Car7 FROM Image LIMIT 2"),
+                 "Anna|An ne|An ne; -|Annabel|An ne");
         QCOMPARE(album_->Rows("SELECT Car4,Car7 FROM Paragraph"),
                  QStringList({"An ne|Anna;Bob", "*|An ne"}));
         QCOMPARE(Values(), "-;Annabel;An ne");
@@ -94,9 +94,9 @@ private slots:
         Click("cmdReplace");
         QCOMPARE(Values(), "-;Annabel;an NE");
         ReplaceValue(4, "an NE", "Annabel", [](int) {});
-        QCOMPARE(album_->Rows("SELECT Name FROM Car4"), QStringList({"-", "Annabel"}));
-        QCOMPARE(album_->Rows("SELECT Car4,Car7 FROM Image LIMIT 2"),
-                 QStringList({"Annabel|Annabel", "Annabel|Annabel"}));
+        QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "-; Annabel");
+        QCOMPARE(album_->Joined("SELECT Car4,Car7 FROM Image LIMIT 2"),
+                 "Annabel|Annabel; Annabel|Annabel");
     }
 
     void FailedReplacementChangesNothing()
@@ -108,16 +108,13 @@ private slots:
         Open();
         AlbumDatabase->Execute("PRAGMA max_page_count=" + QByteArray::number(pages + 20));
         Select("A");
-        dialogs_->ExpectInput("Replace all occurences of A by :", "Abcdefghijklmnopqrst", "A");
-        dialogs_->ExpectBoxBeginning("3026 The disk is full", Dialogs::Icon::Critical);
-        Click("cmdReplace");
+        Replace("A", "Abcdefghijklmnopqrst", "3026 The disk is full");
         QCOMPARE(Values(), "-;A");
-        QCOMPARE(album_->Rows("SELECT count(*) FROM Image WHERE Car0='A'"), QStringList("20000"));
-        QCOMPARE(album_->Rows("PRAGMA integrity_check"), QStringList("ok"));
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='A'"), "20000");
+        QCOMPARE(album_->Joined("PRAGMA integrity_check"), "ok");
         AlbumDatabase->Execute("PRAGMA max_page_count=100000");
-        dialogs_->ExpectInput("Replace all occurences of A by :", "B", "A");
-        Click("cmdReplace");
-        QCOMPARE(album_->Rows("SELECT count(*) FROM Image WHERE Car0='B'"), QStringList("20000"));
+        Replace("A", "B");
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='B'"), "20000");
     }
 
     void EditsLabels()
@@ -136,16 +133,53 @@ private slots:
             ::Click(labels, "cmdExit");
         });
         Click("cmdEditLabels");
-        QCOMPARE(album_->Rows("SELECT count(*) FROM Params WHERE Value LIKE 'Car% & co'"),
-                 QStringList("13"));
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Params WHERE Value LIKE 'Car% & co'"), "13");
         QCOMPARE(caption("optCaracteristic_2"), "Caract_1 && co/Caract_2 && co");
         Choose(3, 1);
         QCOMPARE(caption("optColumn_3"), "Car_11 && co");
-        WhenModal(
-            "frmEditLabels", [&](QWidget& labels) { fill(labels, "lost"); }, false);
+        const auto typeAndLeave = [&](QWidget& labels) { fill(labels, "lost"); };
+        WhenModal("frmEditLabels", typeAndLeave, false);
         Click("cmdEditLabels");
         QCOMPARE(caption("optColumn_3"), "Car_11 && co");
-        QCOMPARE(album_->Rows("SELECT count(*) FROM Params"), QStringList("13"));
+    }
+
+    void TwinsShareTables()
+    {
+        QStringList tables;
+        QStringList twins;
+        for (int column = 0; column < 12; ++column) {
+            tables += ValueTableOf(column).mid(3);
+            twins += QString::number(TwinColumnOf(column).value_or(0));
+        }
+        QCOMPARE(tables.join(u' '), "0 1 2 3 4 5 3 4 5 9 10 11");
+        QCOMPARE(twins.join(u' '), "0 0 0 6 7 8 0 0 0 0 0 0");
+    }
+
+    void CleansValues()
+    {
+        QCOMPARE(CleanValue("O'Neil; Jr"), "O Neil Jr");
+        QCOMPARE(CleanValue("abcdefghijklmnopqrs uvwxyz"), "abcdefghijklmnopqrs");
+        QCOMPARE(CleanValue(";;;"), "");
+        // Blanks count before they are trimmed.
+        QCOMPARE(CleanValue("   abcdefghijklmnopqrstuvw"), "abcdefghijklmnopq");
+    }
+
+    void NormalizesTypedValues()
+    {
+        for (const char* kept : {"", "anna", ",x", "7"})
+            QCOMPARE(NormalizedValue(kept), kept);
+        QCOMPARE(NormalizedValue("-x"), "-");
+        QCOMPARE(NormalizedValue("*x"), "x");
+        QCOMPARE(NormalizedValue("Éa"), "a"); // accented letters are markers
+        QCOMPARE(NormalizedValue("((x"), "(x");
+    }
+
+    void AddsValuesOnce()
+    {
+        QCOMPARE(AddValueToTable(7, "O'Neil"), "O Neil");
+        QCOMPARE(AddValueToTable(4, "o neil"), "");
+        QCOMPARE(AddValueToTable(4, ""), "");
+        QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "-; O Neil");
     }
 
 private:
@@ -172,6 +206,14 @@ private:
     }
 
     void Click(const char* button) { ::Click(*window_, button); }
+
+    void Replace(const QString& value, const QString& answer, const QString& complaint = {})
+    {
+        dialogs_->ExpectInput("Replace all occurences of " + value + " by :", answer, value);
+        if (!complaint.isEmpty())
+            dialogs_->ExpectBoxBeginning(complaint, Dialogs::Icon::Critical);
+        Click("cmdReplace");
+    }
 
     // As the list shows them, and the table holds them.
     QString Values()

@@ -14,7 +14,7 @@ private slots:
     void CreatesForwardOnly()
     {
         CreateChapter("First", {});
-        QCOMPARE(album_->Rows("SELECT * FROM Chapter"), QStringList("1|0|0|0|First"));
+        QCOMPARE(album_->Joined("SELECT * FROM Chapter"), "1|0|0|0|First");
         CreateChapter("Third", "First");
         QCOMPARE(Links(), QStringList({"1|0|2", "2|1|0"}));
         // Put in the middle: the chapter that follows keeps its backward link.

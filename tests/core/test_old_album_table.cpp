@@ -52,19 +52,18 @@ private slots:
         QCOMPARE(
             take.Take("Chapter", {"Id", "Name"}, 3, {{"1", "Noël"}, {"2", "noël"}, {"3", "NOëL"}}),
             3);
-        QCOMPARE(take.world.Rows("SELECT Id,Name FROM Chapter"),
-                 QStringList({"1|Noël", "2|noël (2)", "3|NOëL (3)"}));
+        QCOMPARE(take.world.Joined("SELECT Id,Name FROM Chapter"),
+                 "1|Noël; 2|noël (2); 3|NOëL (3)");
         QVERIFY(take.report.Problems().contains(
             "Table Chapter: the name 'noël' is there twice; the second became 'noël (2)'."));
         QCOMPARE(take.Take("Params", {"Param", "Value"}, 0,
                            {{"TimerDelay", "4000"}, {"timerdelay", "9"}}),
                  2);
-        QCOMPARE(take.world.Rows("SELECT Param,Value FROM Params"),
-                 QStringList({"TimerDelay|4000", "timerdelay (2)|9"}));
+        QCOMPARE(take.world.Joined("SELECT Param,Value FROM Params"),
+                 "TimerDelay|4000; timerdelay (2)|9");
         QCOMPARE(take.Take("Car3", {"Name"}, 0, {{"Anna"}, {"anna"}, {"NULL"}, {"NULL"}, {"-"}}),
                  4);
-        QCOMPARE(take.world.Rows("SELECT Name FROM Car3 ORDER BY rowid"),
-                 QStringList({"Anna", "NULL", "NULL", "-"}));
+        QCOMPARE(take.world.Joined("SELECT Name FROM Car3 ORDER BY rowid"), "Anna; NULL; NULL; -");
         QCOMPARE(take.report.Problems().last(),
                  "Table Car3: the value 'anna' is there twice and came over once.");
     }
@@ -80,9 +79,8 @@ private slots:
                             {"-7", "Below", "0"}}),
                  5);
         // Above the last number that the old album gave out, which is 9.
-        QCOMPARE(take.world.Rows("SELECT Id,Name,FirstParagraph FROM Chapter"),
-                 QStringList({"-7|Below|0", "4|Four|0", "10|Nameless number|0", "11|Four again|0",
-                              "12|Too large|0"}));
+        QCOMPARE(take.world.Joined("SELECT Id,Name,FirstParagraph FROM Chapter"),
+                 "-7|Below|0; 4|Four|0; 10|Nameless number|0; 11|Four again|0; 12|Too large|0");
         ChapterSet->AddNew();
         QCOMPARE(ChapterSet->Number(u"Id"), 13);
         // A last number that no album can have reached is not believed.
@@ -98,8 +96,8 @@ private slots:
         QCOMPARE(take.Take("LinkedImages", {"FILE", "Colour"}, 0,
                            {{"/a.jpg", "red"}, {"CUT/b.jp", "BAD"}, {"BAD", "red"}}),
                  3);
-        QCOMPARE(take.world.Rows("SELECT ParagraphId,File FROM LinkedImages"),
-                 QStringList({"0|/a.jpg", "0|CUT/b.jp", "0|NULL"}));
+        QCOMPARE(take.world.Joined("SELECT ParagraphId,File FROM LinkedImages"),
+                 "0|/a.jpg; 0|CUT/b.jp; 0|NULL");
         QCOMPARE(take.report.Problems(),
                  QStringList({"Table LinkedImages: the new album has no place for the field "
                               "Colour.",

@@ -126,9 +126,6 @@ private slots:
             lines += QString::number(line.paragraph) + ' ' + line.text;
         QCOMPARE(lines, QStringList({"1 <<Empty Paragraph>>", "2 x <<Who (Other)>> y", "3 c"}));
         QVERIFY(ListParagraphs(3).empty());
-        QCOMPARE(NextChapterOf(1), 2);
-        QCOMPARE(PreviousChapterOf(1), 0);
-        QCOMPARE(ChapterNameOf(3), QString("Three"));
     }
 };
 

@@ -4,7 +4,7 @@
 #include "story/ParagraphMarkers.h"
 #include "story/ParagraphText.h"
 #include "story/PastedText.h"
-#include "support/AlbumFixture.h"
+#include "support/AlbumTest.h"
 #include "support/Rows.h"
 
 #include <set>
@@ -21,14 +21,13 @@ void NameEverything()
 
 } // namespace
 
-class TestParagraphText : public QObject
+class TestParagraphText : public AlbumTest
 {
     Q_OBJECT
 
 private slots:
     void AllThirteenMarkers()
     {
-        AlbumFixture album;
         NameEverything();
         const std::vector<TextMarker> markers = ReadTextMarkers();
         QString stored = "Begin ";
@@ -82,7 +81,6 @@ private slots:
     {
         QFETCH(QStringList, columns);
         QFETCH(QStringList, groups);
-        AlbumFixture album;
         const QList<int> labelled{0, 1, 2, 3, 4, 5, 9, 10, 11};
         for (int i = 0; i < columns.size(); ++i)
             GeneralModule::SetColumnLabel(labelled[i], columns[i]);
@@ -109,10 +107,9 @@ private slots:
     // Markers of a text are filled with what a picture says.
     void FillsMarkers()
     {
-        AlbumFixture album;
-        album.AddImageRow("/it's.jpg",
-                          {{"Legend", "The <[0]> sea"}, {"Car0", "Anna"}, {"Car11", "Blue"}});
-        album.Execute("UPDATE Image SET Car5=NULL");
+        album_->AddImageRow("/it's.jpg",
+                            {{"Legend", "The <[0]> sea"}, {"Car0", "Anna"}, {"Car11", "Blue"}});
+        album_->Execute("UPDATE Image SET Car5=NULL");
         const std::pair<const char*, const char*> rows[] = {
             {"Look: <[Picture Legend]>!", "Look: The <[0]> sea!"},
             {"<[0]> and <[11]>, <[0]>", "Anna and Blue, Anna"},

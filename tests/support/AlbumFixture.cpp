@@ -54,39 +54,35 @@ void AlbumFixture::AddImageRow(const QString& path, const QMap<QString, QString>
 
 qint32 AlbumFixture::AddChapter(const QString& name)
 {
-    const QStringList last = Rows("SELECT Id FROM Chapter WHERE NextChapter=0");
+    const qint32 last = Rows("SELECT Id FROM Chapter WHERE NextChapter=0").value(0).toInt();
     ChapterSet->AddNew();
     const qint32 id = ChapterSet->Number(u"Id");
     ChapterSet->Set(u"Name", name);
-    ChapterSet->Set(u"PreviousChapter", last.isEmpty() ? 0 : last.first().toInt());
+    ChapterSet->Set(u"PreviousChapter", last);
     ChapterSet->Update();
-    if (!last.isEmpty())
-        Execute(QStringLiteral("UPDATE Chapter SET NextChapter=%1 WHERE Id=%2")
-                    .arg(id)
-                    .arg(last.first()));
+    Execute(QString("UPDATE Chapter SET NextChapter=%1 WHERE Id=%2").arg(id).arg(last));
     return id;
 }
 
 qint32 AlbumFixture::AddParagraph(qint32 chapter, const QString& text,
                                   const QMap<QString, QString>& fields)
 {
-    const QStringList last =
-        Rows(QStringLiteral("SELECT Id FROM Paragraph WHERE NextParagraph=0 AND Chapter=%1")
-                 .arg(chapter));
+    const QString lastSql = "SELECT Id FROM Paragraph WHERE NextParagraph=0 AND Chapter=%1";
+    const qint32 last = Rows(lastSql.arg(chapter)).value(0).toInt();
     ParagraphSet->AddNew();
     const qint32 id = ParagraphSet->Number(u"Id");
     ParagraphSet->Set(u"Chapter", chapter);
     ParagraphSet->Set(u"Text", text);
     ParagraphSet->Set(u"FileSelection", QString());
-    ParagraphSet->Set(u"PreviousParagraph", last.isEmpty() ? 0 : last.first().toInt());
+    ParagraphSet->Set(u"PreviousParagraph", last);
     for (int column = 0; column < 12; ++column)
         ParagraphSet->Set(QStringLiteral("Car%1").arg(column), QStringLiteral("*"));
     for (auto field = fields.begin(); field != fields.end(); ++field)
         ParagraphSet->Set(field.key(), field.value());
     ParagraphSet->Update();
-    const QString link = last.isEmpty() ? "UPDATE Chapter SET FirstParagraph=%1 WHERE Id=%2"
-                                        : "UPDATE Paragraph SET NextParagraph=%1 WHERE Id=%2";
-    Execute(link.arg(id).arg(last.isEmpty() ? QString::number(chapter) : last.first()));
+    const QString link = last == 0 ? "UPDATE Chapter SET FirstParagraph=%1 WHERE Id=%2"
+                                   : "UPDATE Paragraph SET NextParagraph=%1 WHERE Id=%2";
+    Execute(link.arg(id).arg(last == 0 ? chapter : last));
     return id;
 }
 

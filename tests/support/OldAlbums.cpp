@@ -3,8 +3,8 @@
 
 #include "platform/data/Database.h"
 #include "platform/data/RecordSet.h"
+#include "support/AlbumFixture.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,17 +12,6 @@
 #include <algorithm>
 
 namespace {
-
-QString PathOf(const QString& file)
-{
-    return QStringLiteral(OLD_ALBUM_FOLDER "/") + file;
-}
-
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QStringList Fields(const QJsonObject& contents, const QString& table)
 {
@@ -45,7 +34,7 @@ bool HasOldAlbums()
 
 QString OldAlbumPath(const QString& name)
 {
-    return PathOf(name + ".alb");
+    return QStringLiteral(OLD_ALBUM_FOLDER "/") + name + ".alb";
 }
 
 QByteArray OldAlbumBytes(const QString& name)
@@ -55,7 +44,8 @@ QByteArray OldAlbumBytes(const QString& name)
 
 QJsonObject OldAlbumContents(const QString& name)
 {
-    return QJsonDocument::fromJson(ReadFile(PathOf(name + ".expected.json"))).object();
+    return QJsonDocument::fromJson(ReadFile(OldAlbumPath(name).chopped(4) + ".expected.json"))
+        .object();
 }
 
 // Rows with an identifier lie in its order in the present format, whatever their order was.

@@ -2,20 +2,12 @@
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
 #include "platform/data/DatabaseFile.h"
-#include "support/AlbumFixture.h"
-#include "support/ScriptedDialogs.h"
+#include "support/AlbumTest.h"
 #include "ui/main/PasswordQuestions.h"
-
-#include <QtTest>
 
 using namespace GeneralModule;
 
 namespace {
-
-QStringList FilesBeside(const AlbumFixture& album)
-{
-    return QDir(QFileInfo(album.GetAlbum()).path()).entryList(QDir::Files);
-}
 
 // What a value of the album says through the open record sets.
 QString Legend()
@@ -26,51 +18,48 @@ QString Legend()
 
 } // namespace
 
-class TestAlbumPassword : public QObject
+class TestAlbumPassword : public AlbumTest
 {
     Q_OBJECT
 
 private slots:
     void SetsChangesAndRemoves()
     {
-        AlbumFixture album;
-        album.AddImageRow("/a.jpg", {{"Legend", "a secret place"}});
+        album_->AddImageRow("/a.jpg", {{"Legend", "a secret place"}});
         QVERIFY(!AlbumHasPassword());
         for (const QString& password : {QString("it's \"odd\" é"), QString("second")}) {
             SetAlbumPassword(password);
             QVERIFY(AlbumHasPassword());
             QCOMPARE(Legend(), "a secret place");
-            QCOMPARE(KindOfDatabaseFile(album.GetAlbum()), DatabaseFileKind::Encrypted);
-            QVERIFY(!ReadFile(album.GetAlbum()).contains("secret place"));
-            ScriptedDialogs dialogs;
-            const QString prompt = "Please give the password for : " + album.GetAlbum();
+            QCOMPARE(KindOfDatabaseFile(album_->GetAlbum()), DatabaseFileKind::Encrypted);
+            QVERIFY(!ReadFile(album_->GetAlbum()).contains("secret place"));
+            const QString prompt = "Please give the password for : " + album_->GetAlbum();
             for (const QString& given : {QString("wrong; --"), password.toUpper(), password})
-                dialogs.ExpectInput(prompt, given);
-            QVERIFY(OpenAlbum(album.GetAlbum()));
-            dialogs.ExpectInput(prompt, "");
-            QVERIFY(!OpenAlbum(album.GetAlbum()));
-            dialogs.ExpectInput(prompt, password);
-            QVERIFY(OpenAlbum(album.GetAlbum()));
+                dialogs_->ExpectInput(prompt, given);
+            QVERIFY(OpenAlbum(album_->GetAlbum()));
+            dialogs_->ExpectInput(prompt, "");
+            QVERIFY(!OpenAlbum(album_->GetAlbum()));
+            dialogs_->ExpectInput(prompt, password);
+            QVERIFY(OpenAlbum(album_->GetAlbum()));
         }
         SetAlbumPassword({});
         QVERIFY(!AlbumHasPassword());
-        QCOMPARE(KindOfDatabaseFile(album.GetAlbum()), DatabaseFileKind::Plain);
+        QCOMPARE(KindOfDatabaseFile(album_->GetAlbum()), DatabaseFileKind::Plain);
         QCOMPARE(Legend(), "a secret place");
-        QCOMPARE(FilesBeside(album), QStringList("story.alb"));
+        QCOMPARE(QDir(album_->PathOf("")).entryList(QDir::Files), QStringList("story.alb"));
     }
 
     void KeepsEverything()
     {
-        AlbumFixture album;
-        const qint32 chapter = album.AddChapter("One");
-        album.AddParagraph(chapter, QString(100000, u'é'));
+        const qint32 chapter = album_->AddChapter("One");
+        album_->AddParagraph(chapter, QString(100000, u'é'));
         FindById(*ParagraphSet, 1);
         ParagraphSet->Delete();
-        album.AddParagraph(chapter, "kept");
+        album_->AddParagraph(chapter, "kept");
         const auto everything = [&] {
             QStringList rows;
             for (const char* table : {"Chapter", "Paragraph", "sqlite_sequence"})
-                rows += album.Rows(QString("SELECT * FROM ") + table);
+                rows += album_->Rows(QString("SELECT * FROM ") + table);
             return rows;
         };
         const QStringList before = everything();
@@ -83,46 +72,39 @@ private slots:
 
     void FailureLeavesTheAlbumAsItWas()
     {
-        AlbumFixture album;
-        album.AddImageRow("/a.jpg", {{"Legend", "here"}});
-        QDir(QFileInfo(album.GetAlbum()).path()).mkpath("story.alb.new/in the way");
-        const QByteArray before = ReadFile(album.GetAlbum());
+        album_->AddImageRow("/a.jpg", {{"Legend", "here"}});
+        QDir(QFileInfo(album_->GetAlbum()).path()).mkpath("story.alb.new/in the way");
+        const QByteArray before = ReadFile(album_->GetAlbum());
         QVERIFY_THROWS_EXCEPTION(DatabaseError, SetAlbumPassword("x"));
-        QCOMPARE(ReadFile(album.GetAlbum()), before);
+        QCOMPARE(ReadFile(album_->GetAlbum()), before);
         QCOMPARE(Legend(), "here");
         QVERIFY(!AlbumHasPassword());
     }
 
     void AsksTwice()
     {
-        AlbumFixture album;
-        const QString first = "Please enter the new password";
-        const QString second = "Please enter the new password once more";
-        ScriptedDialogs dialogs;
-        dialogs.ExpectInput(first, "");
+        const auto expect = [this](const char* first, const char* second) {
+            dialogs_->ExpectInput("Please enter the new password", first);
+            dialogs_->ExpectInput("Please enter the new password once more", second);
+        };
+        dialogs_->ExpectInput("Please enter the new password", "");
         AskForNewPassword();
         QVERIFY(!AlbumHasPassword());
-
-        dialogs.ExpectInput(first, "a");
-        dialogs.ExpectInput(second, "b");
-        dialogs.ExpectBox("The two passwords differ", Dialogs::Icon::Warning);
-        dialogs.ExpectInput(first, "a");
-        dialogs.ExpectInput(second, "a");
-        dialogs.ExpectBoxBeginning("The album has its new password.", Dialogs::Icon::Information);
+        expect("a", "b");
+        dialogs_->ExpectBox("The two passwords differ", Dialogs::Icon::Warning);
+        expect("a", "a");
+        dialogs_->ExpectBoxBeginning("The album has its new password.", Dialogs::Icon::Information);
         AskForNewPassword();
         QVERIFY(AlbumHasPassword());
-
-        const QString question =
-            "This album has a password. Do you want to remove it ?\nChoose No to change it.";
-        dialogs.ExpectBox(question, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
-                          Dialogs::Answer::Cancel);
-        AskForNewPassword();
-        QVERIFY(AlbumHasPassword());
-        dialogs.ExpectBox(question, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
-                          Dialogs::Answer::Yes);
-        dialogs.ExpectBox("The album has no password any more.");
-        AskForNewPassword();
-        QVERIFY(!AlbumHasPassword());
+        for (const auto answer : {Dialogs::Answer::Cancel, Dialogs::Answer::Yes}) {
+            dialogs_->ExpectBox(
+                "This album has a password. Do you want to remove it ?\nChoose No to change it.",
+                Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, answer);
+            if (answer == Dialogs::Answer::Yes)
+                dialogs_->ExpectBox("The album has no password any more.");
+            AskForNewPassword();
+            QCOMPARE(AlbumHasPassword(), answer == Dialogs::Answer::Cancel);
+        }
     }
 };
 

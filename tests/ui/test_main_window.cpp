@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QPlainTextEdit>
 
 using namespace GeneralModule;
 
@@ -17,7 +18,6 @@ private slots:
     {
         SaveLastAlbum({});
         Start({});
-        QCOMPARE(window_->windowTitle(), "First Open or Create an Album");
         QCOMPARE(Warning(), "Please OPEN or CREATE an ALBUM\nPress F1 for Help");
         QVERIFY(!Find<QPushButton>("cmdReadChapter")->isVisible());
         QVERIFY(!IsEnabled("mnuCreateChapter"));
@@ -26,7 +26,6 @@ private slots:
         dialogs_->ExpectSaveFile("Create a new Album", path);
         Choose("mnuCreateScript");
         QCOMPARE(GetLastAlbum(), path);
-        QCOMPARE(window_->windowTitle(), "Choose the chapter you want to read");
         QCOMPARE(Warning(), "Please LOAD and INDEX Pictures\nPress F1 for Help");
         const char* ofPictures[] = {"mnuUndefined", "mnuSelectedUndefined", "mnuAllPictures",
                                     "mnuSelectedPictures", "mnuReloadPictures"};
@@ -34,7 +33,7 @@ private slots:
             QVERIFY2(!IsEnabled(entry), entry);
         QVERIFY(HasButton("cmdLoadPictures") && IsEnabled("mnuLoadPictures"));
 
-        album_->AddImageRow("/a.jpg");
+        album_->AddPicture("a.png", {{"Legend", "A boat"}});
         dialogs_->ExpectOpenFile("Open Album", path);
         Click("cmdOpenAlbum");
         QCOMPARE(Warning(), "Please Create the first Chapter of your Album");
@@ -47,12 +46,24 @@ private slots:
         WhenModal("frmReelvane", [](QWidget& viewer) {
             QTRY_COMPARE(::Find<QLabel>(viewer, "lblLegend").text(),
                          "Click HERE to create first paragraph of the new chapter 'First'");
+            WhenModal("frmEditParagraph", [](QWidget& editor) {
+                ::Click(editor, "cmdInsertCar");
+                ClickLine(::Find<QListWidget>(editor, "lstInsertCar"), 0);
+                QTest::keyClicks(&::Find<QPlainTextEdit>(editor, "txtParagraph"), ", quietly");
+                ::Click(editor, "cmdExit");
+            });
+            ::Click(viewer, "lblLegend");
+            QCOMPARE(::Find<QLabel>(viewer, "lblLegend").text(), "A boat, quietly");
             QTest::keyClick(&viewer, Qt::Key_Escape);
         });
         Click("cmdCreateChapter");
         QCOMPARE(Chapters(), "*First");
         QCOMPARE(Warning(), "");
-        QVERIFY(HasButton("cmdReadChapter"));
+        WhenModal("frmReelvane", [](QWidget& viewer) {
+            QTRY_COMPARE(::Find<QLabel>(viewer, "lblLegend").text(), "A boat, quietly");
+            QTest::keyClick(&viewer, Qt::Key_Escape);
+        });
+        Click("cmdReadChapter");
     }
 
     void AsksForNamesUntilTheyAreGood()
@@ -66,17 +77,12 @@ private slots:
         dialogs_->ExpectBox(rule, Dialogs::Icon::Warning);
         dialogs_->ExpectInput(prompt, "ABC");
         dialogs_->ExpectBox("This chapter exists already", Dialogs::Icon::Warning);
-        dialogs_->ExpectInput(prompt, "");
-        Choose("mnuCreateChapter");
-        QVERIFY(dialogs_->IsDone());
-        QCOMPARE(Chapters(), "*Abc Def");
-
         dialogs_->ExpectInput(prompt, "Jane's");
         WhenModal("frmReelvane", [](QWidget& viewer) { QTest::keyClick(&viewer, Qt::Key_Q); });
         Choose("mnuCreateChapter");
         QCOMPARE(Chapters(), "Abc *Jane's Def");
-        QCOMPARE(album_->Rows("SELECT Name,PreviousChapter,NextChapter FROM Chapter"),
-                 QStringList({"Abc|0|3", "Def|1|0", "Jane's|1|2"}));
+        QCOMPARE(album_->Joined("SELECT Name,PreviousChapter,NextChapter FROM Chapter"),
+                 "Abc|0|3; Def|1|0; Jane's|1|2");
     }
 
     void RenamesAndDeletes()
@@ -97,8 +103,8 @@ private slots:
         Select(0);
         Choose("mnuDeleteChapter");
         QCOMPARE(Chapters(), "*DEF Ghi");
-        QCOMPARE(album_->Rows("SELECT Name,PreviousChapter,NextChapter FROM Chapter"),
-                 QStringList({"DEF|0|3", "Ghi|2|0"}));
+        QCOMPARE(album_->Joined("SELECT Name,PreviousChapter,NextChapter FROM Chapter"),
+                 "DEF|0|3; Ghi|2|0");
         QTest::keyClick(window_, Qt::Key_Escape);
         QTRY_VERIFY(!window_->isVisible());
     }
@@ -110,7 +116,6 @@ private slots:
         Start();
         QVERIFY(!HasButton("cmdMoveUp"));
         Click("cmdMoveDown");
-        QCOMPARE(Chapters(), "B *A C");
         Click("cmdMoveDown");
         QCOMPARE(Chapters(), "B C *A");
         QVERIFY(!HasButton("cmdMoveDown"));

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 #include "core/Settings.h"
-#include "support/AlbumFixture.h"
+#include "support/AlbumTest.h"
 #include "support/Rows.h"
-#include "support/ScriptedDialogs.h"
 
 #include <sqlcipher/sqlite3.h>
 
@@ -83,17 +82,16 @@ public:
 } // namespace
 
 // Opening what is no sound album.
-class TestDatabaseOpen : public QObject
+class TestDatabaseOpen : public AlbumTest
 {
     Q_OBJECT
 
 private slots:
     void RefusesWhatIsNoAlbum()
     {
-        const AlbumFixture world;
-        CheckRefused(world, world.PathOf("missing.alb"), 3024);
-        QVERIFY(QDir().mkpath(world.PathOf("folder")));
-        CheckRefused(world, world.PathOf("folder"), 3051);
+        CheckRefused(*album_, album_->PathOf("missing.alb"), 3024);
+        QVERIFY(QDir().mkpath(album_->PathOf("folder")));
+        CheckRefused(*album_, album_->PathOf("folder"), 3051);
         const QByteArray former("\0\1\0\0Standard Jet DB\0", 20);
         const QByteArray later("\0\1\0\0Standard ACE DB\0\2", 21);
         const std::tuple<const char*, QByteArray, int> files[] = {
@@ -104,8 +102,8 @@ private slots:
             {"random, odd size", RandomBytes(5000), 3343},
             {"only the header", QByteArray("SQLite format 3\0", 16), 3343}};
         for (const auto& [name, contents, number] : files) {
-            WriteFile(world.PathOf(name), contents);
-            CheckRefused(world, world.PathOf(name), number);
+            WriteFile(album_->PathOf(name), contents);
+            CheckRefused(*album_, album_->PathOf(name), number);
         }
     }
 
@@ -138,26 +136,24 @@ private slots:
     {
         QFETCH(QByteArray, sql);
         QFETCH(int, number);
-        const AlbumFixture world;
         ReleaseAlbum();
-        const QString path = world.PathOf("hostile.alb");
-        QVERIFY(QFile::copy(world.GetAlbum(), path));
+        const QString path = album_->PathOf("hostile.alb");
+        QVERIFY(QFile::copy(album_->GetAlbum(), path));
         RunSql(path, sql);
-        CheckRefused(world, path, number);
+        CheckRefused(*album_, path, number);
     }
 
     void CutOffAndFlippedBitsNeverCrash()
     {
-        AlbumFixture world;
-        const qint32 chapter = world.AddChapter("One");
+        const qint32 chapter = album_->AddChapter("One");
         for (int i = 0; i < 60; ++i) {
-            world.AddImageRow(QStringLiteral("/pictures/%1.jpg").arg(i),
-                              {{"Legend", QString(60, u'l')}});
-            world.AddParagraph(chapter, QString(500, u't'));
+            album_->AddImageRow(QStringLiteral("/pictures/%1.jpg").arg(i),
+                                {{"Legend", QString(60, u'l')}});
+            album_->AddParagraph(chapter, QString(500, u't'));
         }
         ReleaseAlbum();
-        const QByteArray whole = ReadFile(world.GetAlbum());
-        const QString path = world.PathOf("damaged.alb");
+        const QByteArray whole = ReadFile(album_->GetAlbum());
+        const QString path = album_->PathOf("damaged.alb");
         for (const qsizetype size : {100, 1024, 5000, 20000, int(whole.size()) - 1024}) {
             WriteFile(path, whole.first(size));
             ScriptedDialogs told;
@@ -179,7 +175,7 @@ private slots:
                 ReadAll();
             else
                 QCOMPARE(GetLastAlbum(), before);
-            SaveLastAlbum(world.GetAlbum());
+            SaveLastAlbum(album_->GetAlbum());
         }
     }
 
@@ -187,53 +183,36 @@ private slots:
     // copied while the change is half on disk.
     void LeftoverJournalIsPlayedBack()
     {
-        AlbumFixture world;
-        world.AddImageRow("/a.jpg", {{"Legend", "before"}});
-        const QString path = world.PathOf("crashed.alb");
+        album_->AddImageRow("/a.jpg", {{"Legend", "before"}});
+        const QString path = album_->PathOf("crashed.alb");
         AlbumDatabase->Execute("PRAGMA cache_size=1"); // changes reach the file before the commit
         AlbumDatabase->Execute("BEGIN");
         for (int i = 0; i < 400; ++i)
             AlbumDatabase->Execute(
                 "INSERT INTO Image (File,Legend) VALUES ('/x.jpg',hex(randomblob(300)))");
         AlbumDatabase->Execute("UPDATE Image SET Legend='after' WHERE File='/a.jpg'");
-        QFile::copy(world.GetAlbum(), path);
-        QFile::copy(world.GetAlbum() + "-journal", path + "-journal");
+        QFile::copy(album_->GetAlbum(), path);
+        QFile::copy(album_->GetAlbum() + "-journal", path + "-journal");
         AlbumDatabase->Execute("ROLLBACK");
         QVERIFY(QFileInfo(path + "-journal").size() > 0);
 
-        ScriptedDialogs dialogs;
         QVERIFY(OpenAlbum(path));
         QCOMPARE(ImageSet->RecordCount(), 1);
         QCOMPARE(ImageSet->Text(u"Legend"), "before");
     }
 
-    void FillsEmptySelections()
-    {
-        AlbumFixture world;
-        const qint32 chapter = world.AddChapter("One");
-        for (int i = 0; i < 5; ++i)
-            world.AddParagraph(chapter, "t", {{"FileSelection", "*sea*"}});
-        world.Execute("UPDATE Paragraph SET FileSelection=NULL WHERE Id IN (1,4,5)");
-        ScriptedDialogs dialogs;
-        QVERIFY(OpenAlbum(world.GetAlbum()));
-        QCOMPARE(world.Rows("SELECT Id,FileSelection FROM Paragraph"),
-                 QStringList({"1|", "2|*sea*", "3|*sea*", "4|", "5|"}));
-    }
-
     void CreatingReplacesAFileWhole()
     {
-        const AlbumFixture world;
-        const QString path = world.PathOf("new.alb");
+        const QString path = album_->PathOf("new.alb");
         WriteFile(path, "a letter");
         WriteFile(path + "-journal", "left by something else");
-        ScriptedDialogs dialogs;
         QVERIFY(CreateAlbumFile(path));
         QVERIFY(!QFileInfo::exists(path + "-journal"));
         QVERIFY(OpenAlbum(path));
         ReleaseAlbum();
 
-        dialogs.ExpectBoxBeginning("The album '/proc/nowhere/x.alb' cannot be created: ",
-                                   Dialogs::Icon::Warning);
+        dialogs_->ExpectBoxBeginning("The album '/proc/nowhere/x.alb' cannot be created: ",
+                                     Dialogs::Icon::Warning);
         QVERIFY(!CreateAlbumFile("/proc/nowhere/x.alb"));
     }
 };
