@@ -5,13 +5,6 @@
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
-
 #include <deque>
 
 // The indexing window, worked by keys and clicks.

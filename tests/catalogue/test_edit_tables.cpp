@@ -6,10 +6,6 @@
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"
 
-#include <QLineEdit>
-#include <QListWidget>
-#include <QRadioButton>
-
 using GeneralModule::AlbumDatabase;
 
 // The rules of values, and the value tables and labels worked by their windows.
@@ -143,39 +139,16 @@ private slots:
         QCOMPARE(caption("optColumn_3"), "Car_11 && co");
     }
 
-    void TwinsShareTables()
+    void AddsValuesOnce()
     {
-        QStringList tables;
-        QStringList twins;
-        for (int column = 0; column < 12; ++column) {
-            tables += ValueTableOf(column).mid(3);
-            twins += QString::number(TwinColumnOf(column).value_or(0));
-        }
-        QCOMPARE(tables.join(u' '), "0 1 2 3 4 5 3 4 5 9 10 11");
-        QCOMPARE(twins.join(u' '), "0 0 0 6 7 8 0 0 0 0 0 0");
-    }
-
-    void CleansValues()
-    {
-        QCOMPARE(CleanValue("O'Neil; Jr"), "O Neil Jr");
         QCOMPARE(CleanValue("abcdefghijklmnopqrs uvwxyz"), "abcdefghijklmnopqrs");
-        QCOMPARE(CleanValue(";;;"), "");
         // Blanks count before they are trimmed.
         QCOMPARE(CleanValue("   abcdefghijklmnopqrstuvw"), "abcdefghijklmnopq");
-    }
-
-    void NormalizesTypedValues()
-    {
         for (const char* kept : {"", "anna", ",x", "7"})
             QCOMPARE(NormalizedValue(kept), kept);
         QCOMPARE(NormalizedValue("-x"), "-");
-        QCOMPARE(NormalizedValue("*x"), "x");
         QCOMPARE(NormalizedValue("Éa"), "a"); // accented letters are markers
         QCOMPARE(NormalizedValue("((x"), "(x");
-    }
-
-    void AddsValuesOnce()
-    {
         QCOMPARE(AddValueToTable(7, "O'Neil"), "O Neil");
         QCOMPARE(AddValueToTable(4, "o neil"), "");
         QCOMPARE(AddValueToTable(4, ""), "");

@@ -9,10 +9,6 @@
 
 #include <sqlcipher/sqlite3.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-
 #include <stdexcept>
 
 using GeneralModule::AlbumDatabase;

@@ -104,21 +104,12 @@ private slots:
                               "Table LinkedImages: the field ParagraphId is missing.",
                               "LinkedImages CUT/b.jp: the end of the field File cannot be read.",
                               "LinkedImages, row 3: the field File cannot be read."}));
-    }
-
-    void NamesFoldersOnce()
-    {
-        OldAlbumReport report;
-        report.AddPicturePath("/home/anna/a.jpg");
-        QVERIFY(report.FolderHint().isEmpty());
+        // Folders are named once, and not all of very many.
         for (int i = 0; i < 30; ++i)
-            report.AddPicturePath(QStringLiteral("D:\\CD %1\\a.jpg").arg(i / 2));
-        report.AddPicturePath("\\\\server\\share\\a.jpg");
-        const QStringList hint = report.FolderHint();
-        QCOMPARE(hint.size(), 12);
-        QCOMPARE(hint[1], "D:\\CD 0\\");
-        QCOMPARE(hint[2], "D:\\CD 1\\");
-        QCOMPARE(hint.last(), "and 6 more.");
+            take.report.AddPicturePath(QStringLiteral("D:\\CD %1\\a.jpg").arg(i / 2));
+        const QStringList hint = take.report.FolderHint();
+        QCOMPARE(hint.mid(1, 2), QStringList({"D:\\CD 0\\", "D:\\CD 1\\"}));
+        QCOMPARE(hint.last(), "and 5 more.");
     }
 };
 

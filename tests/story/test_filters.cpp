@@ -145,32 +145,6 @@ private slots:
                                  BuildPictureList(*ParagraphSet, pictures, 10, [](int) {}));
     }
 
-    void CountsOnItsWay()
-    {
-        album_->Execute("WITH n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<1200) "
-                        "INSERT INTO Image (File) SELECT i FROM n");
-        MakeParagraph({});
-        PictureList pictures;
-        QList<int> counts;
-        BuildPictureList(*ParagraphSet, pictures, 30000, [&](int count) { counts += count; });
-        QCOMPARE(counts, QList<int>({500, 1000, 1200}));
-    }
-
-    void WorksForARowThatIsBeingAdded()
-    {
-        album_->AddImageRow("1", {{"Car0", "x"}});
-        album_->AddImageRow("2");
-        ParagraphSet->AddNew();
-        for (int column = 0; column < 12; ++column)
-            ParagraphSet->Set(QStringLiteral("Car%1").arg(column), QStringLiteral("-"));
-        ParagraphSet->Set(u"FileSelection", QString());
-        PictureList pictures;
-        BuildPictureList(*ParagraphSet, pictures, 10, [](int) {});
-        ParagraphSet->CancelUpdate();
-        QCOMPARE(pictures.GetFiles(), QStringList("2"));
-        QCOMPARE(album_->Joined("SELECT count(*) FROM Paragraph"), "0");
-    }
-
 private:
     // The paragraph on which the set stands afterwards.
     qint32 MakeParagraph(const Fields& fields)

@@ -2,7 +2,6 @@
 // The rows of the album after each step of writing: save, create, delete, and the four ways to go.
 #include "core/Album.h"
 #include "story/ParagraphChain.h"
-#include "story/ParagraphLinks.h"
 #include "support/AlbumFixture.h"
 
 #include <QtTest>
@@ -175,20 +174,6 @@ private slots:
         place.paragraph = 1;
         DeleteParagraph(place, Content("a"));
         QCOMPARE(album.Joined(headSql), "2");
-    }
-
-    void PicturesAreLinkedOnce()
-    {
-        AlbumFixture album;
-        for (const qint32 paragraph : {4, 4, 5})
-            SetLinked(paragraph, "/it's.jpg", true);
-        album.Link(4, "/it's.jpg");
-        QCOMPARE(album.Joined("SELECT ParagraphId FROM LinkedImages ORDER BY rowid"), "4; 5; 4");
-        QVERIFY(IsLinked(4, "/it's.jpg"));
-        SetLinked(4, "/it's.jpg", false);
-        SetLinked(4, "/it's.jpg", false);
-        QVERIFY(!IsLinked(4, "/it's.jpg"));
-        QCOMPARE(album.Joined("SELECT * FROM LinkedImages"), "5|/it's.jpg");
     }
 };
 

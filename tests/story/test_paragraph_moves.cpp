@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Rows after moving paragraphs within a chapter and across its ends.
-#include "core/Parameters.h"
 #include "story/ParagraphMoves.h"
 #include "support/AlbumFixture.h"
 
@@ -112,20 +111,6 @@ private slots:
         QVERIFY(MoveParagraphDown(place));
         QVERIFY(MoveParagraphDown(place));
         QCOMPARE(story.Chains().last(), QString("3: 4 | 4"));
-    }
-
-    void Lines()
-    {
-        Story story;
-        GeneralModule::SetColumnLabel(3, "Who");
-        GeneralModule::SetCaractLabel(2, "Other");
-        story.Execute("UPDATE Paragraph SET Text='' WHERE Id=1");
-        story.Execute("UPDATE Paragraph SET Text='x <[6]>' || char(10) || 'y' WHERE Id=2");
-        QStringList lines;
-        for (const ParagraphLine& line : ListParagraphs(1))
-            lines += QString::number(line.paragraph) + ' ' + line.text;
-        QCOMPARE(lines, QStringList({"1 <<Empty Paragraph>>", "2 x <<Who (Other)>> y", "3 c"}));
-        QVERIFY(ListParagraphs(3).empty());
     }
 };
 

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/ModalDriver.h"
 
-#include <QApplication>
 #include <QDeadlineTimer>
 #include <QPointer>
 #include <QTimer>
-#include <QWidget>
 #include <QtTest>
 
 namespace {

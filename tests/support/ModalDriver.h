@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QListWidget>
-#include <QString>
-#include <QWidget>
+#include <QtWidgets>
 
 #include <functional>
 

@@ -5,9 +5,6 @@
 #include "support/ModalDriver.h"
 #include "ui/main/frmOpenChapter.h"
 
-#include <QAction>
-#include <QPushButton>
-
 // A test of the real main window, its controls found by name.
 class ProgramTest : public AlbumTest
 {

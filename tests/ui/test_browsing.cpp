@@ -6,11 +6,6 @@
 #include "platform/widgets/FolderList.h"
 #include "platform/widgets/PictureBox.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-
 using namespace GeneralModule;
 
 // Pictures outside the story: every way from the main window to them.

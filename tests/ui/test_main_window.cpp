@@ -3,10 +3,6 @@
 #include "core/Album.h"
 #include "core/Settings.h"
 
-#include <QLabel>
-#include <QListWidget>
-#include <QPlainTextEdit>
-
 using namespace GeneralModule;
 
 class TestMainWindow : public ProgramTest

@@ -6,13 +6,6 @@
 #include "support/ModalDriver.h"
 #include "support/ScriptedDialogs.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTableWidget>
 #include <QtTest>
 
 namespace {

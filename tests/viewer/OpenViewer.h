@@ -7,8 +7,6 @@
 #include "support/ScriptedDialogs.h"
 #include "viewer/frmReelvane.h"
 
-#include <QLabel>
-#include <QPushButton>
 #include <QtTest>
 
 // The viewer's window on an album of its own, with the words that a test needs to work it.

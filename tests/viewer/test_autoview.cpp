@@ -113,27 +113,6 @@ private slots:
         Dialogs::Install(&story.dialogs);
     }
 
-    void WaitsForTheIndexingWindowAndAtTheEnd()
-    {
-        OpenViewer browsing;
-        browsing.AddPictures(2, {900, 600});
-        browsing.Open(0);
-        browsing.StartAutoview("30");
-        WhenModal("frmEditImage", [&](QWidget& window) {
-            QVERIFY(!browsing.Timer().isActive());
-            QTest::keyClick(&window, Qt::Key_Escape);
-        });
-        QTest::mouseClick(browsing.Boxes().first(), Qt::RightButton);
-        QVERIFY(browsing.Timer().isActive());
-        QCOMPARE(browsing.Legend(), "1 images left");
-        browsing.Tick();
-        QTRY_COMPARE(browsing.Legend(), "0 images left");
-        // Behind the last picture nothing more comes, and autoview stays on.
-        browsing.Tick();
-        QTRY_COMPARE(browsing.Timer().interval(), 30000);
-        QVERIFY(AutoviewOn && browsing.viewer.isVisible());
-    }
-
     void AStepIsNeverOvertaken()
     {
         const AlbumFixture album;
@@ -182,26 +161,6 @@ private slots:
         story.Press(Qt::Key_T);
         story.Press(Qt::Key_X);
         QVERIFY(!story.Timer().isActive());
-    }
-
-    void WaitsWhileAPictureIsAlone()
-    {
-        OpenViewer story;
-        story.album.AddPicture("a.png");
-        story.Open(story.AddStory({"First", "Second"}));
-        story.StartAutoview("30");
-        auto& alone = Find<PictureBox>(story.viewer, "imgFullSize");
-        const auto showAlone = [&] {
-            QTest::mouseClick(story.Boxes().first(), Qt::LeftButton);
-            QVERIFY(alone.isVisible() && !story.Timer().isActive());
-        };
-        showAlone();
-        QTest::mouseClick(&alone, Qt::LeftButton);
-        QVERIFY(story.Timer().isActive());
-        showAlone();
-        story.Click("cmdNextParagraph"); // leaves the picture as well
-        QVERIFY(story.Timer().isActive());
-        QCOMPARE(story.Legend(), "Second");
     }
 };
 

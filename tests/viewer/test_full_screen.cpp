@@ -4,8 +4,6 @@
 #include "platform/widgets/IdlePointer.h"
 #include "viewer/StoryPage.h"
 
-#include <QMessageBox>
-
 class TestFullScreen : public QObject
 {
     Q_OBJECT

@@ -3,9 +3,6 @@
 #include "core/Album.h"
 #include "viewer/StoryPage.h"
 
-#include <QLineEdit>
-#include <QPlainTextEdit>
-
 // The viewer's real window, worked by keys and mouse.
 class TestViewer : public QObject
 {
@@ -153,6 +150,7 @@ private slots:
         story.album.AddPicture("a.png", {{"Legend", "A"}}, {2000, 1000});
         story.album.AddPicture("b.png", {{"Legend", "B"}}, {2000, 1000});
         story.Open(story.AddStory({"<[Picture Legend]>"}));
+        story.StartAutoview("30"); // waits while a picture is alone, and while one is indexed
         story.Press(Qt::Key_Plus);
         const QString before = story.Legend();
         PictureBox* box = story.Boxes().first();
@@ -160,10 +158,11 @@ private slots:
         QTest::mouseClick(box, Qt::LeftButton);
         auto& large = Find<PictureBox>(story.viewer, "imgFullSize");
         QVERIFY(large.isVisible() && !box->isVisible());
+        QVERIFY(!story.Timer().isActive());
         QVERIFY(large.width() > small);
         QCOMPARE(story.Legend(), box->GetTag().endsWith("a.png") ? "A" : "B");
         QTest::mouseClick(&large, Qt::LeftButton);
-        QVERIFY(!large.isVisible());
+        QVERIFY(!large.isVisible() && story.Timer().isActive());
         QCOMPARE(story.Boxes().size(), 2);
         QCOMPARE(story.Legend(), before);
     }
@@ -232,9 +231,11 @@ private slots:
         OpenViewer browsing;
         browsing.AddPictures(3, {3000, 1000}); // each fills the line
         browsing.Open(0);
+        browsing.StartAutoview("30");
         QCOMPARE(browsing.Shown().size(), 1);
         QStringList seen;
         Index(browsing, 0, [&](QWidget& window) {
+            QVERIFY(!browsing.Timer().isActive());
             seen += Find<QLabel>(window, "lblFileName").text();
             Click(window, "cmdNextImage");
             seen += Find<QLabel>(window, "lblFileName").text();
@@ -246,6 +247,10 @@ private slots:
         QCOMPARE(browsing.Legend(), "1 images left");
         browsing.Press(Qt::Key_Down);
         QVERIFY(!seen.contains(browsing.Boxes().first()->GetTag()));
+        // Behind the last picture nothing more comes, and autoview stays on.
+        browsing.Tick();
+        QTRY_COMPARE(browsing.Timer().interval(), 30000);
+        QVERIFY(browsing.viewer.isVisible());
     }
 
 private:

@@ -2,8 +2,6 @@
 #include "platform/shell/StayAwake.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusServer>
 #include <QtTest>
 
@@ -90,21 +88,6 @@ private slots:
         for (const bool stays : {true, false, true})
             awake.Set(stays);
         QTRY_COMPARE(desktop_.asked.size(), 3);
-    }
-
-    void DesktopsThatDoNotKnowIt()
-    {
-        StayAwake awake(line_);
-        awake.Set(true);
-        // Answers come in the order of the calls: behind this one's the refusal is known.
-        const QDBusPendingCallWatcher round(QDBusConnection(line_).asyncCall(
-            QDBusMessage::createMethodCall({}, "/", "org.freedesktop.DBus.Peer", "Ping")));
-        QSignalSpy answered(&round, &QDBusPendingCallWatcher::finished);
-        QTRY_COMPARE(answered.count(), 1);
-        awake.Set(false);
-        OfferDesktop();
-        awake.Set(true);
-        QTRY_COMPARE(desktop_.asked.size(), 1);
     }
 
 private:
