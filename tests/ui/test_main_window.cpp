@@ -73,6 +73,9 @@ private slots:
         dialogs_->ExpectBox(rule, Dialogs::Icon::Warning);
         dialogs_->ExpectInput(prompt, "ABC");
         dialogs_->ExpectBox("This chapter exists already", Dialogs::Icon::Warning);
+        dialogs_->ExpectInput(prompt, "");
+        Choose("mnuCreateChapter");
+        QCOMPARE(Chapters(), "*Abc Def");
         dialogs_->ExpectInput(prompt, "Jane's");
         WhenModal("frmReelvane", [](QWidget& viewer) { QTest::keyClick(&viewer, Qt::Key_Q); });
         Choose("mnuCreateChapter");

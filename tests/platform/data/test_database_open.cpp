@@ -54,7 +54,7 @@ void ReadAll()
 {
     for (RecordSet* set : {ParamsSet.get(), ParagraphSet.get(), ImageSet.get(), ChapterSet.get(),
                            LinkedImagesSet.get()}) {
-        try {
+        ErrorOf([set] {
             const RecordSet::Walk walk(*set);
             for (set->MoveFirst(); !set->AtEnd(); set->MoveNext()) {
                 for (const char16_t* field : {u"File", u"Legend", u"Text", u"Name"}) {
@@ -62,8 +62,7 @@ void ReadAll()
                         set->TextOrEmpty(field);
                 }
             }
-        } catch (const DatabaseError&) {
-        }
+        });
     }
 }
 

@@ -2,7 +2,8 @@
 #include "core/Album.h"
 #include "core/AlbumRepair.h"
 #include "core/ChainMending.h"
-#include "support/AlbumFixture.h"
+#include "core/ChapterChain.h"
+#include "support/AlbumTest.h"
 #include "support/Rows.h"
 
 #include <random>
@@ -64,11 +65,99 @@ QStringList Everything(const AlbumFixture& album)
 
 } // namespace
 
-class TestAlbumRepair : public QObject
+// The chapters' chain, and the repair of all chains. Links are rows of Id, PreviousChapter,
+// NextChapter.
+class TestChains : public AlbumTest
 {
     Q_OBJECT
 
 private slots:
+    void CreatesForwardOnly()
+    {
+        CreateChapter("First", {});
+        QCOMPARE(album_->Joined("SELECT * FROM Chapter"), "1|0|0|0|First");
+        CreateChapter("Third", "First");
+        QCOMPARE(Links(), QStringList({"1|0|2", "2|1|0"}));
+        // Put in the middle: the chapter that follows keeps its backward link.
+        CreateChapter("Second", "First");
+        QCOMPARE(Links(), QStringList({"1|0|3", "2|1|0", "3|1|2"}));
+        QCOMPARE(ChapterNames(), QStringList({"First", "Second", "Third"}));
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, CreateChapter("second", "Third"));
+        QCOMPARE(Links(), QStringList({"1|0|3", "2|1|0", "3|1|2"}));
+    }
+
+    void MovesUpAndDown()
+    {
+        AddFour();
+        QVERIFY(MoveChapterUp("C"));
+        QCOMPARE(Links(), QStringList({"1|0|3", "2|3|4", "3|1|2", "4|2|0"}));
+        QVERIFY(MoveChapterUp("C"));
+        QCOMPARE(Links(), QStringList({"1|3|2", "2|1|4", "3|0|1", "4|2|0"}));
+        QVERIFY(!MoveChapterUp("C"));
+        QVERIFY(MoveChapterDown("B"));
+        QCOMPARE(Links(), QStringList({"1|3|4", "2|4|0", "3|0|1", "4|1|2"}));
+        QVERIFY(!MoveChapterDown("B"));
+        QVERIFY(MoveChapterDown("C"));
+        QCOMPARE(Links(), QStringList({"1|0|3", "2|4|0", "3|1|4", "4|3|2"}));
+        QCOMPARE(ChapterNames(), QStringList({"A", "C", "D", "B"}));
+        QVERIFY(!MoveChapterUp("Nobody"));
+    }
+
+    void DeletesOnlyEmptyChapters()
+    {
+        AddFour();
+        album_->AddParagraph(2, "text");
+        QCOMPARE(DeleteChapter("B"), ChapterDeletion::HasParagraphs);
+        QCOMPARE(DeleteChapter("C"), ChapterDeletion::Deleted);
+        QCOMPARE(Links(), QStringList({"1|0|2", "2|1|4", "4|2|0"}));
+        QCOMPARE(DeleteChapter("A"), ChapterDeletion::Deleted);
+        QCOMPARE(DeleteChapter("D"), ChapterDeletion::Deleted);
+        QCOMPARE(Links(), QStringList("2|0|0"));
+        QCOMPARE(DeleteChapter("D"), ChapterDeletion::NotFound);
+    }
+
+    void FindsTheNameMeant()
+    {
+        // What signs of a pattern could be taken for stands first in the table.
+        const QStringList others{"Janexs trip", "2001 all", "Summer 2", "X"};
+        for (const QString& other : others)
+            album_->AddChapter(other);
+        for (const char* name :
+             {"Jane's trip", "2001 *", "Summer [2001]", "Summer [2", "A \"b\" 'c'"}) {
+            RenameChapter("X", name);
+            QCOMPARE(FindChapter(name), std::optional(4));
+            QCOMPARE(ChapterNames(), others.first(3) + QStringList(name));
+            RenameChapter(name, "X");
+            QCOMPARE(ChapterNames(), others);
+        }
+    }
+
+    void ListEndsAtBrokenLinks()
+    {
+        AddFour();
+        const QStringList sound = Links();
+        const std::pair<const char*, QString> rows[] = {
+            {"NextChapter=1 WHERE Id=3", "A B C"},        // a cycle
+            {"NextChapter=2 WHERE Id=2", "A B"},          // to itself
+            {"NextChapter=77 WHERE Id=2", "A B"},         // dangling
+            {"PreviousChapter=2 WHERE Id=1", ""},         // no first chapter
+            {"PreviousChapter=0 WHERE Id=3", "A B C D"}}; // two of them
+        for (const auto& [damage, listed] : rows) {
+            album_->Execute(QString("UPDATE Chapter SET ") + damage);
+            QCOMPARE(ChapterNames().join(u' '), listed);
+            album_->Execute("UPDATE Chapter SET PreviousChapter=Id-1, NextChapter=(Id+1)%5");
+            QCOMPARE(Links(), sound);
+        }
+    }
+
+    void NameRule()
+    {
+        for (const char* good : {"Abc", "1998 Summer", "Z"})
+            QVERIFY2(IsChapterName(good), good);
+        for (const char* bad : {"abc", " Abc", "École", "", "-", "(A)"})
+            QVERIFY2(!IsChapterName(QString::fromUtf8(bad)), bad);
+    }
+
     void MendsChains()
     {
         using Chain = std::vector<ChainLink>;
@@ -118,19 +207,18 @@ private slots:
     void MendsWhatIsBroken()
     {
         QFETCH(QString, damage);
-        AlbumFixture album;
-        WriteStory(album);
-        const QStringList sound = Everything(album);
+        WriteStory(*album_);
+        const QStringList sound = Everything(*album_);
         QVERIFY(RepairAlbum().IsEmpty());
-        QCOMPARE(Everything(album), sound);
-        album.Execute(damage);
-        QCOMPARE(StoryOf(album), "broken");
-        const QStringList before = album.Rows("SELECT Id,Text FROM Paragraph");
+        QCOMPARE(Everything(*album_), sound);
+        album_->Execute(damage);
+        QCOMPARE(StoryOf(*album_), "broken");
+        const QStringList before = album_->Rows("SELECT Id,Text FROM Paragraph");
         const RepairReport report = RepairAlbum();
-        QTEST(StoryOf(album), "story");
-        QCOMPARE(album.Rows("SELECT Id,Text FROM Paragraph"), before);
+        QTEST(StoryOf(*album_), "story");
+        QCOMPARE(album_->Rows("SELECT Id,Text FROM Paragraph"), before);
         QVERIFY(!report.IsEmpty());
-        QCOMPARE(report.copy, album.PathOf("story (before repair 2).alb"));
+        QCOMPARE(report.copy, album_->PathOf("story (before repair 2).alb"));
         QVERIFY(QFileInfo(report.copy).size() > 0);
         QVERIFY(DescribeRepair(report).contains(report.copy));
         QVERIFY(RepairAlbum().IsEmpty()); // and once is enough
@@ -166,7 +254,18 @@ private slots:
             QCOMPARE(album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id"), texts);
         }
     }
+
+private:
+    QStringList Links() const
+    {
+        return album_->Rows("SELECT Id,PreviousChapter,NextChapter FROM Chapter ORDER BY Id");
+    }
+    void AddFour()
+    {
+        for (const char* name : {"A", "B", "C", "D"})
+            album_->AddChapter(name);
+    }
 };
 
-QTEST_GUILESS_MAIN(TestAlbumRepair)
-#include "test_album_repair.moc"
+QTEST_GUILESS_MAIN(TestChains)
+#include "test_chains.moc"
