@@ -71,8 +71,7 @@ private slots:
         WriteFile(target, "a letter");
         result = Run({old, target});
         QCOMPARE(result.status, 1);
-        QCOMPARE(result.errors,
-                 QStringLiteral("lumenark: %1: '%2' exists already.\n").arg(old, target));
+        QCOMPARE(result.errors, QString("lumenark: %1: '%2' exists already.\n").arg(old, target));
         QCOMPARE(Run({"--force", old, target}).status, 0);
         const QJsonObject expected = OldAlbumContents("small_jet3");
         QCOMPARE(FoundRows(target, {}, expected, "Paragraph"), ExpectedRows(expected, "Paragraph"));

@@ -108,10 +108,10 @@ private slots:
             "The album cannot be changed: its file or its folder is read-only.\nThe picture could "
             "not be saved. Leave without saving ?";
         GeneralModule::AlbumDatabase->Execute("PRAGMA query_only=1");
-        for (const auto answer : {Dialogs::Answer::No, Dialogs::Answer::Yes}) {
-            dialogs_->ExpectBox(question, Dialogs::Icon::Warning, Dialogs::Buttons::YesNo, answer);
+        for (const auto answer : {Answer::No, Answer::Yes}) {
+            dialogs_->ExpectBox(question, Icon::Warning, Buttons::YesNo, answer);
             window_->close();
-            QCOMPARE(window_->isVisible(), answer == Dialogs::Answer::No);
+            QCOMPARE(window_->isVisible(), answer == Answer::No);
         }
         QCOMPARE(album_->Joined("SELECT Car0 FROM Image"), "-");
     }
@@ -121,11 +121,11 @@ private slots:
         const QString last = album_->AddPicture("last.png");
         const QStringList files = Open(3);
         TypeInto(0, "Anna");
-        Delete(files[0], Dialogs::Answer::Cancel);
+        Delete(files[0], Answer::Cancel);
         QCOMPARE(Shown(), files[0]);
-        Delete(files[0], Dialogs::Answer::No);
+        Delete(files[0], Answer::No);
         QCOMPARE(Shown(), files[1]);
-        Delete(files[1], Dialogs::Answer::Yes);
+        Delete(files[1], Answer::Yes);
         QCOMPARE(Shown(), files[2]);
         QVERIFY(QFile::exists(files[0]) && !QFile::exists(files[1]));
         QCOMPARE(album_->Rows("SELECT File FROM Image ORDER BY rowid"),
@@ -133,7 +133,7 @@ private slots:
         QCOMPARE(album_->Joined("SELECT Name FROM Car0"), "-");
         window_->IsSinglePicture = true;
         next_ = {last};
-        Delete(files[2], Dialogs::Answer::No);
+        Delete(files[2], Answer::No);
         QVERIFY(!window_->isVisible());
         QCOMPARE(window_->CurrentImage, "");
         QCOMPARE(window_->TakenOut, files);
@@ -143,15 +143,14 @@ private slots:
         QVERIFY(QDir().mkpath(path));
         album_->AddImageRow(path);
         Open({path});
-        Delete(path, Dialogs::Answer::Yes, "The file '" + path + "' cannot be deleted: ");
+        Delete(path, Answer::Yes, "The file '" + path + "' cannot be deleted: ");
         QCOMPARE(window_->CurrentImage, path);
         QCOMPARE(album_->Rows("SELECT File FROM Image ORDER BY rowid"), QStringList({last, path}));
     }
 
     void PictureThatTheAlbumDoesNotHold()
     {
-        dialogs_->ExpectBox("Internal Error : Image File /x.png not found",
-                            Dialogs::Icon::Critical);
+        dialogs_->ExpectBox("Internal Error : Image File /x.png not found", Icon::Critical);
         Open(QStringList("/x.png"));
         TypeInto(0, "Anna");
         window_->close();
@@ -182,14 +181,14 @@ private:
     {
         QStringList files;
         for (int i = 0; i < count; ++i)
-            files += album_->AddPicture(QStringLiteral("%1.png").arg(i));
+            files += album_->AddPicture(QString("%1.png").arg(i));
         Open(files);
         return files;
     }
 
     QComboBox& Combo(int column)
     {
-        return Find<QComboBox>(*window_, QStringLiteral("cboCategory_%1").arg(column));
+        return Find<QComboBox>(*window_, QString("cboCategory_%1").arg(column));
     }
 
     void TypeInto(int column, const QString& text)
@@ -199,12 +198,12 @@ private:
         QTest::keyClicks(&Combo(column), text);
     }
 
-    void Delete(const QString& file, Dialogs::Answer answer, const QString& complaint = {})
+    void Delete(const QString& file, Answer answer, const QString& complaint = {})
     {
-        dialogs_->ExpectBox("Do you also want to delete the file " + file + " ?",
-                            Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, answer);
+        dialogs_->ExpectBox("Do you also want to delete the file " + file + " ?", Icon::Question,
+                            Buttons::YesNoCancel, answer);
         if (!complaint.isEmpty())
-            dialogs_->ExpectBoxBeginning(complaint, Dialogs::Icon::Warning);
+            dialogs_->ExpectBoxBeginning(complaint, Icon::Warning);
         Click(*window_, "cmdDelete");
     }
 

@@ -18,11 +18,11 @@ private slots:
     {
         const int columns[] = {0, 1, 2, 3, 4, 5, 9, 10, 11};
         for (const int column : columns)
-            album_->Execute(QStringLiteral("INSERT INTO Car%1 VALUES ('z%1'),('a%1')").arg(column));
+            album_->Execute(QString("INSERT INTO Car%1 VALUES ('z%1'),('a%1')").arg(column));
         Open();
         for (int i = 0; i < 9; ++i) {
             Choose(i / 3 + 1, i % 3 + 1);
-            QCOMPARE(Values(), QStringLiteral("-;z%1;a%1").arg(columns[i]));
+            QCOMPARE(Values(), QString("-;z%1;a%1").arg(columns[i]));
         }
     }
 
@@ -51,8 +51,8 @@ private slots:
         Click("cmdReplace");
         Select("-");
         for (const char* verb : {"delete", "modify"}) {
-            dialogs_->ExpectBox(QStringLiteral("Sorry, you can't %1 the special markers").arg(verb),
-                                Dialogs::Icon::Warning);
+            dialogs_->ExpectBox(QString("Sorry, you can't %1 the special markers").arg(verb),
+                                Icon::Warning);
             Click(*verb == 'd' ? "cmdDelete" : "cmdReplace");
         }
         Select("Anna");
@@ -166,8 +166,8 @@ private:
     void Choose(int group, int column)
     {
         column_ = group * 3 - 4 + column + (group == 3 ? 3 : 0);
-        Find<QRadioButton>(*window_, QStringLiteral("optCaracteristic_%1").arg(group)).click();
-        Find<QRadioButton>(*window_, QStringLiteral("optColumn_%1").arg(column)).click();
+        Find<QRadioButton>(*window_, QString("optCaracteristic_%1").arg(group)).click();
+        Find<QRadioButton>(*window_, QString("optColumn_%1").arg(column)).click();
     }
 
     void Select(const QString& value)
@@ -184,7 +184,7 @@ private:
     {
         dialogs_->ExpectInput("Replace all occurences of " + value + " by :", answer, value);
         if (!complaint.isEmpty())
-            dialogs_->ExpectBoxBeginning(complaint, Dialogs::Icon::Critical);
+            dialogs_->ExpectBoxBeginning(complaint, Icon::Critical);
         Click("cmdReplace");
     }
 

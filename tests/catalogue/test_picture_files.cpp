@@ -19,7 +19,7 @@ QStringList Numbered(int count)
 {
     QStringList names;
     for (int i = 0; i < count; ++i)
-        names.append(QStringLiteral("%1.jpg").arg(i));
+        names.append(QString("%1.jpg").arg(i));
     return names;
 }
 
@@ -86,7 +86,7 @@ private slots:
         sqlite3* other = nullptr;
         QCOMPARE(sqlite3_open(album_->GetAlbum().toUtf8(), &other), SQLITE_OK);
         QCOMPARE(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
-        dialogs_->ExpectBoxBeginning("3260 The album is being changed", Dialogs::Icon::Critical);
+        dialogs_->ExpectBoxBeginning("3260 The album is being changed", Icon::Critical);
         Click(window, "cmdLoad");
         QVERIFY(dialogs_->IsDone());
         QCOMPARE(Find<QLabel>(window, "lblFeedback").text(), "Loading pictures...");
@@ -127,7 +127,7 @@ private slots:
         window.show();
         auto& feedback = Find<QLabel>(window, "lblFeedback");
         QCOMPARE(Find<QLabel>(window, "lblOldReferences").text(), "C:\\Photos\\*.*");
-        dialogs_->ExpectBoxBeginning("Please choose the new folder first", Dialogs::Icon::Warning);
+        dialogs_->ExpectBoxBeginning("Please choose the new folder first", Icon::Warning);
         Click(window, "cmdReloadPictures");
         Find<QWidget>(window, "dirNewReferences").setProperty("Path", album_->PathOf("new"));
         QCOMPARE(Find<QLabel>(window, "lblNewReferences").text(), album_->PathOf("new/*.*"));

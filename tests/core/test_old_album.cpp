@@ -77,19 +77,19 @@ private slots:
         const QStringList before = Listing();
         const QString target = album_->PathOf("chosen.alb");
         const QString prompt = "Please give the password for : " + path;
-        const auto expectQuestion = [&](Dialogs::Answer answer) {
+        const auto expectQuestion = [&](Answer answer) {
             dialogs_->ExpectInput(prompt, "Mirabelle 8");
             dialogs_->ExpectBox("'" + path +
                                     "' is an album of the former file format. Shall a new album be "
                                     "made of it? The old one stays as it is.",
-                                Dialogs::Icon::Question, Dialogs::Buttons::YesNo, answer);
+                                Icon::Question, Buttons::YesNo, answer);
         };
         // Giving up changes nothing: without the password, without a new album, without its name.
         for (int given = 0; given < 3; ++given) {
             if (given == 0)
                 dialogs_->ExpectInput(prompt, "");
             else
-                expectQuestion(given == 1 ? Dialogs::Answer::No : Dialogs::Answer::Yes);
+                expectQuestion(given == 1 ? Answer::No : Answer::Yes);
             if (given == 2)
                 dialogs_->ExpectSaveFile("Save the new Album", "", "Été (new 2).alb");
             QVERIFY(!OpenAlbum(path));
@@ -98,14 +98,14 @@ private slots:
             QCOMPARE(Listing(), before);
         }
         dialogs_->ExpectInput(prompt, "mirabelle 8");
-        expectQuestion(Dialogs::Answer::Yes);
+        expectQuestion(Answer::Yes);
         dialogs_->ExpectSaveFile("Save the new Album", target, "Été (new 2).alb");
         dialogs_->ExpectBoxBeginning(
             "The new album is '" + target +
                 "'.\n3 chapters, 25 paragraphs and 400 pictures came over. The new album has the "
                 "old one's password.\n\nPictures lie at places of another system, which were kept "
                 "as they are. \"Reload Moved Pictures\" points them",
-            Dialogs::Icon::Information);
+            Icon::Information);
         QVERIFY(OpenAlbum(path));
         QCOMPARE(GetLastAlbum(), target);
         QCOMPARE(AlbumDatabase->GetPath(), target);

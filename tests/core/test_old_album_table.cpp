@@ -106,7 +106,7 @@ private slots:
                               "LinkedImages, row 3: the field File cannot be read."}));
         // Folders are named once, and not all of very many.
         for (int i = 0; i < 30; ++i)
-            take.report.AddPicturePath(QStringLiteral("D:\\CD %1\\a.jpg").arg(i / 2));
+            take.report.AddPicturePath(QString("D:\\CD %1\\a.jpg").arg(i / 2));
         const QStringList hint = take.report.FolderHint();
         QCOMPARE(hint.mid(1, 2), QStringList({"D:\\CD 0\\", "D:\\CD 1\\"}));
         QCOMPARE(hint.last(), "and 5 more.");

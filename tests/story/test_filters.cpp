@@ -64,7 +64,7 @@ private slots:
     void Choices()
     {
         for (const char* value : {"zoe", "Anna", "(both)", "", "!", "*", "a;b", "Élise", "bob"})
-            album_->Execute(QStringLiteral("INSERT INTO Car4 VALUES ('%1')").arg(value));
+            album_->Execute(QString("INSERT INTO Car4 VALUES ('%1')").arg(value));
         QStringList texts;
         QStringList unknown;
         for (const FilterChoice& choice : FilterChoices(7, "!;ANNA;gone;(x);gone")) {

@@ -8,9 +8,9 @@
 
 namespace {
 
-const QString chainSql = QStringLiteral(
-    "SELECT Id,Chapter,PreviousParagraph,NextParagraph,Text FROM Paragraph ORDER BY Id");
-const QString headSql = QStringLiteral("SELECT FirstParagraph FROM Chapter");
+const QString chainSql =
+    QString("SELECT Id,Chapter,PreviousParagraph,NextParagraph,Text FROM Paragraph ORDER BY Id");
+const QString headSql = QString("SELECT FirstParagraph FROM Chapter");
 
 // One chapter with a paragraph of each text; the place is the first.
 class Story : public AlbumFixture

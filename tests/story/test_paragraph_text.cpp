@@ -14,9 +14,9 @@ namespace {
 void NameEverything()
 {
     for (int group = 0; group < 4; ++group)
-        GeneralModule::SetCaractLabel(group, QStringLiteral("G%1").arg(group));
+        GeneralModule::SetCaractLabel(group, QString("G%1").arg(group));
     for (const int column : {0, 1, 2, 3, 4, 5, 9, 10, 11})
-        GeneralModule::SetColumnLabel(column, QStringLiteral("C%1").arg(column));
+        GeneralModule::SetColumnLabel(column, QString("C%1").arg(column));
 }
 
 } // namespace
@@ -36,7 +36,7 @@ private slots:
                                 "C4 (G1)",        "C5 (G1)",  "C3 (G2)", "C4 (G2)", "C5 (G2)",
                                 "C9 (G3)",        "C10 (G3)", "C11 (G3)"};
         for (int i = 0; i < 13; ++i) {
-            stored += i == 0 ? "<[Picture Legend]>" : QStringLiteral("<[%1]>").arg(i - 1);
+            stored += i == 0 ? "<[Picture Legend]>" : QString("<[%1]>").arg(i - 1);
             display += "<<" + shown[i] + ">>";
         }
         QCOMPARE(ToDisplayMarkers(stored + stored, markers), display + display);

@@ -16,7 +16,7 @@
 
 using namespace GeneralModule;
 
-AlbumFixture::AlbumFixture() : album_(folder_.filePath(QStringLiteral("story.alb")))
+AlbumFixture::AlbumFixture() : album_(folder_.filePath(QString("story.alb")))
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, PathOf("settings"));
     SeedRandom(1);
@@ -46,7 +46,7 @@ void AlbumFixture::AddImageRow(const QString& path, const QMap<QString, QString>
     ImageSet->Set(u"File", path);
     ImageSet->Set(u"Legend", QString());
     for (int column = 0; column < 12; ++column)
-        ImageSet->Set(QStringLiteral("Car%1").arg(column), QStringLiteral("-"));
+        ImageSet->Set(QString("Car%1").arg(column), QString("-"));
     for (auto value = values.begin(); value != values.end(); ++value)
         ImageSet->Set(value.key(), value.value());
     ImageSet->Update();
@@ -76,7 +76,7 @@ qint32 AlbumFixture::AddParagraph(qint32 chapter, const QString& text,
     ParagraphSet->Set(u"FileSelection", QString());
     ParagraphSet->Set(u"PreviousParagraph", last);
     for (int column = 0; column < 12; ++column)
-        ParagraphSet->Set(QStringLiteral("Car%1").arg(column), QStringLiteral("*"));
+        ParagraphSet->Set(QString("Car%1").arg(column), QString("*"));
     for (auto field = fields.begin(); field != fields.end(); ++field)
         ParagraphSet->Set(field.key(), field.value());
     ParagraphSet->Update();
@@ -101,7 +101,7 @@ QStringList AlbumFixture::Rows(const QString& sql) const
     const auto addRow = [](void* target, int count, char** values, char**) {
         QStringList row;
         for (int i = 0; i < count; ++i)
-            row += values[i] ? QString::fromUtf8(values[i]) : QStringLiteral("NULL");
+            row += values[i] ? QString::fromUtf8(values[i]) : QString("NULL");
         static_cast<QStringList*>(target)->append(row.join(u'|'));
         return 0;
     };

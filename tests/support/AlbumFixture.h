@@ -40,7 +40,7 @@ public:
     // What a query returns through a connection of its own, each row as its values joined by "|",
     // Null written as NULL.
     QStringList Rows(const QString& sql) const;
-    QString Joined(const QString& sql) const { return Rows(sql).join(QStringLiteral("; ")); }
+    QString Joined(const QString& sql) const { return Rows(sql).join(QString("; ")); }
     void Execute(const QString& sql) const;
 
 private:

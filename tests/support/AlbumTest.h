@@ -28,6 +28,10 @@ private slots:
     }
 
 protected:
+    using Icon = Dialogs::Icon;
+    using Buttons = Dialogs::Buttons;
+    using Answer = Dialogs::Answer;
+
     template<typename Window, typename... Arguments>
     Window* Make(const Arguments&... arguments)
     {

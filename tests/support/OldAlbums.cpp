@@ -21,7 +21,7 @@ QStringList Fields(const QJsonObject& contents, const QString& table)
 QString TextOf(const QJsonValue& value)
 {
     if (value.isNull())
-        return QStringLiteral("NULL");
+        return QString("NULL");
     return value.isDouble() ? QString::number(value.toInteger()) : value.toString();
 }
 
@@ -34,7 +34,7 @@ bool HasOldAlbums()
 
 QString OldAlbumPath(const QString& name)
 {
-    return QStringLiteral(OLD_ALBUM_FOLDER "/") + name + ".alb";
+    return QString(OLD_ALBUM_FOLDER "/") + name + ".alb";
 }
 
 QByteArray OldAlbumBytes(const QString& name)
@@ -75,7 +75,7 @@ QStringList FoundRows(const QString& album, const QString& password, const QJson
     for (set.MoveFirst(); !set.AtEnd(); set.MoveNext()) {
         QStringList values;
         for (const QString& field : Fields(contents, table))
-            values += set.IsNull(field) ? QStringLiteral("NULL") : set.Text(field);
+            values += set.IsNull(field) ? QString("NULL") : set.Text(field);
         rows += values.join(u'|');
     }
     return rows;

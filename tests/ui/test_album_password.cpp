@@ -82,19 +82,19 @@ private slots:
         AskForNewPassword();
         QVERIFY(!AlbumHasPassword());
         expect("a", "b");
-        dialogs_->ExpectBox("The two passwords differ", Dialogs::Icon::Warning);
+        dialogs_->ExpectBox("The two passwords differ", Icon::Warning);
         expect("a", "a");
-        dialogs_->ExpectBoxBeginning("The album has its new password.", Dialogs::Icon::Information);
+        dialogs_->ExpectBoxBeginning("The album has its new password.", Icon::Information);
         AskForNewPassword();
         QVERIFY(AlbumHasPassword());
-        for (const auto answer : {Dialogs::Answer::Cancel, Dialogs::Answer::Yes}) {
+        for (const auto answer : {Answer::Cancel, Answer::Yes}) {
             dialogs_->ExpectBox(
                 "This album has a password. Do you want to remove it ?\nChoose No to change it.",
-                Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, answer);
-            if (answer == Dialogs::Answer::Yes)
+                Icon::Question, Buttons::YesNoCancel, answer);
+            if (answer == Answer::Yes)
                 dialogs_->ExpectBox("The album has no password any more.");
             AskForNewPassword();
-            QCOMPARE(AlbumHasPassword(), answer == Dialogs::Answer::Cancel);
+            QCOMPARE(AlbumHasPassword(), answer == Answer::Cancel);
         }
     }
 };

@@ -17,7 +17,7 @@ private slots:
     void ShowsAllAndUndefined()
     {
         for (int i = 0; i < 5; ++i)
-            album_->AddPicture(QStringLiteral("p%1.png").arg(i), {{"Car0", i < 2 ? "-" : "known"}});
+            album_->AddPicture(QString("p%1.png").arg(i), {{"Car0", i < 2 ? "-" : "known"}});
         Start();
         const auto expect = [&](const QString& legend) {
             AutoviewOn = true;
@@ -133,7 +133,7 @@ private:
     {
         QStringList names;
         for (int i = 0; i < 21; ++i) {
-            const auto& box = ::Find<PictureBox>(viewer, QStringLiteral("imgImage_%1").arg(i));
+            const auto& box = ::Find<PictureBox>(viewer, QString("imgImage_%1").arg(i));
             if (box.isVisible())
                 names += QFileInfo(box.GetTag()).completeBaseName();
         }

@@ -70,9 +70,9 @@ private slots:
         const QString prompt = "Please Enter Chapter Name";
         const QString rule = "Chapter Names must begin with a letter or a figure";
         dialogs_->ExpectInput(prompt, "abc");
-        dialogs_->ExpectBox(rule, Dialogs::Icon::Warning);
+        dialogs_->ExpectBox(rule, Icon::Warning);
         dialogs_->ExpectInput(prompt, "ABC");
-        dialogs_->ExpectBox("This chapter exists already", Dialogs::Icon::Warning);
+        dialogs_->ExpectBox("This chapter exists already", Icon::Warning);
         dialogs_->ExpectInput(prompt, "");
         Choose("mnuCreateChapter");
         QCOMPARE(Chapters(), "*Abc Def");
@@ -92,12 +92,12 @@ private slots:
         Select(1);
         const QString prompt = "Enter new name for chapter 'Def'";
         dialogs_->ExpectInput(prompt, "Ghi", "Def");
-        dialogs_->ExpectBox("This chapter exists already", Dialogs::Icon::Warning);
+        dialogs_->ExpectBox("This chapter exists already", Icon::Warning);
         dialogs_->ExpectInput(prompt, "DEF", "Def");
         Choose("mnuRename");
         QCOMPARE(Chapters(), "Abc *DEF Ghi");
         dialogs_->ExpectBox("This chapter contains paragraphs and can't be deleted",
-                            Dialogs::Icon::Critical);
+                            Icon::Critical);
         Choose("mnuDeleteChapter");
         Select(0);
         Choose("mnuDeleteChapter");
@@ -144,7 +144,7 @@ private slots:
         QCOMPARE(Chapters(), "*A"); // cancelled: nothing changed
 
         dialogs_->ExpectOpenFile("Open Album", album_->PathOf("missing.alb"));
-        dialogs_->ExpectBoxBeginning("Error 3024 ", Dialogs::Icon::Warning);
+        dialogs_->ExpectBoxBeginning("Error 3024 ", Icon::Warning);
         Choose("mnuOpenScript");
         QVERIFY(!window_->AlbumOpen);
         QCOMPARE(Chapters(), "");
@@ -163,7 +163,7 @@ private slots:
         WhenModal("frmRepairAlbum", [](QWidget& repair) { ::Click(repair, "Command2"); });
         Choose("mnuRepair");
         QCOMPARE(Chapters(), "*A");
-        dialogs_->ExpectBoxBeginning("Chapters linked anew: 1\n", Dialogs::Icon::Information);
+        dialogs_->ExpectBoxBeginning("Chapters linked anew: 1\n", Icon::Information);
         WhenModal("frmRepairAlbum", [](QWidget& repair) { ::Click(repair, "cmdProceed"); });
         Choose("mnuRepair");
         QCOMPARE(Chapters(), "*A B");

@@ -53,7 +53,7 @@ struct OpenViewer
     {
         QList<PictureBox*> boxes;
         for (int i = 0; i < mostPictures; ++i) {
-            auto& box = Find<PictureBox>(window, QStringLiteral("imgImage_%1").arg(i));
+            auto& box = Find<PictureBox>(window, QString("imgImage_%1").arg(i));
             if (box.isVisible())
                 boxes += &box;
         }

@@ -125,7 +125,9 @@ private slots:
         const auto step = [&] {
             isOvertaken = isOvertaken || inside > 0 || !isSeen;
             ++inside;
-            const auto pause = running->Pause(); // as a key's work does
+            {
+                const auto pause = running->Pause(); // as a key's work does, before the step ends
+            }
             LetTimersRunOut(5, 1);
             ++steps;
             --inside;

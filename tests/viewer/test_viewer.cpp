@@ -65,8 +65,7 @@ private slots:
     {
         OpenViewer story;
         for (int i = 0; i < 6; ++i)
-            story.album.AddPicture(QStringLiteral("p%1.png").arg(i), {},
-                                   {300 + 20 * i, 200 + 30 * i});
+            story.album.AddPicture(QString("p%1.png").arg(i), {}, {300 + 20 * i, 200 + 30 * i});
         story.Open(story.AddStory({"text"}));
         const auto* page = story.viewer.findChild<StoryPage*>();
         const ScreenShape shape = page->GetShape(1);

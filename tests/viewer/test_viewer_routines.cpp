@@ -11,11 +11,7 @@ namespace {
 
 QString Write(const UnitRect& rect)
 {
-    return QStringLiteral("%1 %2 %3 %4")
-        .arg(rect.left)
-        .arg(rect.top)
-        .arg(rect.width)
-        .arg(rect.height);
+    return QString("%1 %2 %3 %4").arg(rect.left).arg(rect.top).arg(rect.width).arg(rect.height);
 }
 
 } // namespace
@@ -33,7 +29,7 @@ private slots:
             {10, 20, "10 20"}, {30, 80, "15 40"}, {300, 30, "100 10"}, {900, 90, "100 10"}};
         for (const auto& [width, height, expected] : sizes) {
             const UnitSize fitted = FitPicture({width, height}, 40, 100);
-            QCOMPARE(QStringLiteral("%1 %2").arg(fitted.width).arg(fitted.height), expected);
+            QCOMPARE(QString("%1 %2").arg(fitted.width).arg(fitted.height), expected);
         }
         LineLayout layout(2, 80);
         QCOMPARE(Write(*layout.Place({60, 40})), "0 0 60 40");

@@ -61,7 +61,7 @@ private slots:
     {
         QString chain = "[Car0]='v'";
         for (int i = 1; i < 800; ++i)
-            chain += QStringLiteral(" OR [Car0]='v%1'").arg(i);
+            chain += QString(" OR [Car0]='v%1'").arg(i);
         QCOMPARE(FoundBy(chain), "");
         for (const QString& filter :
              {chain + " OR " + chain, QString(100000, u'('), QString("NOT ").repeated(100000)})

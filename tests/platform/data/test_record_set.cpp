@@ -143,7 +143,7 @@ private slots:
         QFETCH(bool, walking);
         QFETCH(bool, inBatch);
         for (int i = 0; i < 40; ++i)
-            album_->AddImageRow(QStringLiteral("/more/%1").arg(i), {{"Car0", "x"}});
+            album_->AddImageRow(QString("/more/%1").arg(i), {{"Car0", "x"}});
         album_->Execute("UPDATE Image SET Legend=NULL");
         {
             std::optional<RecordSet::Walk> walk;
@@ -221,7 +221,7 @@ private:
     static void AddParam(int number)
     {
         ParamsSet->AddNew();
-        ParamsSet->Set(u"Param", QStringLiteral("p%1").arg(number));
+        ParamsSet->Set(u"Param", QString("p%1").arg(number));
         ParamsSet->Set(u"Value", QString(200, u'v'));
         ParamsSet->Update();
     }

@@ -10,7 +10,7 @@ namespace {
 // A page's frame with that number, as the shell's printf writes it.
 QString PageFrame(int page)
 {
-    return QStringLiteral("printf 'P\\004\\000\\000\\000\\%1\\000\\000\\000';")
+    return QString("printf 'P\\004\\000\\000\\000\\%1\\000\\000\\000';")
         .arg(page, 3, 8, QLatin1Char('0'));
 }
 

@@ -40,7 +40,7 @@ QString LettersOfQuarters(const QImage& image)
         const QColor colour = image.pixelColor(at);
         const int bits =
             (colour.red() > 200) + (colour.green() > 200) * 2 + (colour.blue() > 200) * 4;
-        letters += QStringLiteral("?RG?B??W")[bits];
+        letters += QString("?RG?B??W")[bits];
     }
     return letters;
 }

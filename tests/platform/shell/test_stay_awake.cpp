@@ -22,7 +22,7 @@ public slots:
         asked += reason.isEmpty() ? "no reason" : "awake for " + application;
         return ++cookie_;
     }
-    void UnInhibit(uint cookie) { asked += QStringLiteral("let go %1").arg(cookie); }
+    void UnInhibit(uint cookie) { asked += QString("let go %1").arg(cookie); }
 
 private:
     uint cookie_ = 6;
