@@ -12,6 +12,7 @@
 #include <QHash>
 #include <QSet>
 
+#include <algorithm>
 #include <deque>
 
 using namespace GeneralModule;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/TextRoutines.h"
 
+#include <algorithm>
+
 namespace GeneralModule {
 
 QString ReplaceText(const QString& text, const QString& find, const QString& replacement, int start)

@@ -3,39 +3,13 @@
 #include "core/OldAlbumConversion.h"
 #include "core/Settings.h"
 #include "fuzz/OldAlbumTrial.h"
-#include "support/AlbumFixture.h"
+#include "support/AlbumTest.h"
 #include "support/OldAlbums.h"
-#include "support/ScriptedDialogs.h"
+#include "support/Rows.h"
 
 #include <QtEndian>
-#include <QtTest>
 
 using namespace GeneralModule;
-
-// Needs the sample albums beside the repository; what can be tried without them is in
-// test_old_album_table.
-class TestOldAlbum : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase();
-    void BringsEverythingOver_data();
-    void BringsEverythingOver();
-    void ReadsCharactersOfTwoUnits();
-    void KeepsNumbersThatWereGiven();
-    void OpensThroughItsQuestions();
-    void GivingUpChangesNothing_data();
-    void GivingUpChangesNothing();
-    void NamesWhatIsDamaged_data();
-    void NamesWhatIsDamaged();
-    void FindsPagesThatTheMapLacks();
-    void ReportsOtherTables();
-    void KeepsTheFileThatIsThere();
-    void BreakingOffLeavesNothing();
-    void SurvivesDamagedCopies_data();
-    void SurvivesDamagedCopies();
-};
 
 namespace {
 
@@ -43,328 +17,282 @@ const QString tables[] = {"Chapter", "Paragraph", "Image", "LinkedImages", "Para
                           "Car0",    "Car1",      "Car2",  "Car3",         "Car4",
                           "Car5",    "Car9",      "Car10", "Car11"};
 
-QString CopyTo(const AlbumFixture& world, const QString& name, const QByteArray& contents)
-{
-    const QString path = world.PathOf(name);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("cannot write %s", qPrintable(path));
-    return path;
-}
-
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 OldAlbumReport Convert(const QString& path, const QString& target)
 {
     OldAlbumFile old(path);
     return ConvertOldAlbum(old, {.target = target});
 }
 
-// All that lies in the fixture's folder, hidden files too.
-QStringList Listing(const AlbumFixture& world)
-{
-    return QDir(world.PathOf("."))
-        .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-}
-
 } // namespace
 
-void TestOldAlbum::initTestCase()
+// Needs the sample albums beside the repository; what can be tried without them is in
+// test_old_album_table.
+class TestOldAlbum : public AlbumTest
 {
-    if (!HasOldAlbums())
-        QSKIP("the sample albums of the former file format are not beside the repository");
-}
+    Q_OBJECT
 
-void TestOldAlbum::BringsEverythingOver_data()
-{
-    QTest::addColumn<QString>("contents");
-    QTest::addColumn<QString>("password");
-    QTest::newRow("small_jet4") << "small_jet4"
-                                << "";
-    QTest::newRow("small_jet3") << "small_jet3"
-                                << "";
-    QTest::newRow("encoded_jet4") << "small_jet4"
-                                  << "";
-    QTest::newRow("password_jet4") << "password_jet4"
-                                   << "Mirabelle 8";
-}
-
-void TestOldAlbum::BringsEverythingOver()
-{
-    QFETCH(QString, contents);
-    QFETCH(QString, password);
-    const AlbumFixture world;
-    OldAlbumFile old(OldAlbumPath(QTest::currentDataTag()));
-    QCOMPARE(old.HasPassword(), !password.isEmpty());
-    QCOMPARE(old.PasswordFits(password.toLower()), password.isEmpty());
-    QVERIFY(old.PasswordFits(password));
-    const QString target = world.PathOf("new.alb");
-    const OldAlbumReport report = ConvertOldAlbum(old, {.target = target, .password = password});
-    QCOMPARE(report.Problems(), QStringList());
-    QVERIFY(report.FolderHint().contains("C:\\Photos\\Été 1998\\"));
-    const QJsonObject expected = OldAlbumContents(contents);
-    for (const QString& table : tables) {
-        const QStringList rows = ExpectedRows(expected, table);
-        QVERIFY2(!rows.isEmpty(), qPrintable(table));
-        QCOMPARE(FoundRows(target, password, expected, table), rows);
-    }
-    QCOMPARE(Listing(world).filter("lumenark"), QStringList());
-}
-
-void TestOldAlbum::ReadsCharactersOfTwoUnits()
-{
-    const auto utf16 = [](const QString& text) {
-        return QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
-    };
-    const AlbumFixture world;
-    QByteArray contents = OldAlbumBytes("small_jet4");
-    QVERIFY(contents.contains(utf16("plain paragraph")));
-    contents.replace(utf16("plain paragraph"), utf16("\U0001F600ain paragraph"));
-    const QString path = CopyTo(world, "old.alb", contents);
-    Convert(path, world.PathOf("new.alb"));
-    ScriptedDialogs dialogs;
-    QVERIFY(OpenAlbum(world.PathOf("new.alb")));
-    QVERIFY(FindById(*ParagraphSet, 5));
-    QVERIFY(ParagraphSet->Text(u"Text").startsWith("A \U0001F600ain paragraph without"));
-}
-
-// The highest chapter and two of the highest paragraphs were deleted in the old program.
-void TestOldAlbum::KeepsNumbersThatWereGiven()
-{
-    const AlbumFixture world;
-    Convert(OldAlbumPath("password_jet4"), world.PathOf("new.alb"));
-    ScriptedDialogs dialogs;
-    QVERIFY(OpenAlbum(world.PathOf("new.alb")));
-    ParagraphSet->AddNew();
-    QCOMPARE(ParagraphSet->Number(u"Id"), 30);
-    ChapterSet->AddNew();
-    QCOMPARE(ChapterSet->Number(u"Id"), 5);
-}
-
-void TestOldAlbum::OpensThroughItsQuestions()
-{
-    const AlbumFixture world;
-    const QByteArray contents = OldAlbumBytes("password_jet4");
-    const QString path = CopyTo(world, "Été.alb", contents);
-    CopyTo(world, "Été (new).alb", "something else");
-    const QString target = world.PathOf("chosen.alb");
-    const QString prompt = "Please give the password for : " + path;
-    ScriptedDialogs dialogs;
-    dialogs.ExpectInput(prompt, "mirabelle 8");
-    dialogs.ExpectInput(prompt, "Mirabelle 8");
-    dialogs.ExpectBox("'" + path +
-                          "' is an album of the former file format. Shall a new album be made of "
-                          "it? The old one stays as it is.",
-                      Dialogs::Icon::Question, Dialogs::Buttons::YesNo, Dialogs::Answer::Yes);
-    dialogs.ExpectSaveFile("Save the new Album", target, "Été (new 2).alb");
-    dialogs.ExpectBoxBeginning(
-        "The new album is '" + target +
-            "'.\n3 chapters, 25 paragraphs and 400 pictures came over. The new album has the old "
-            "one's password.\n\nPictures lie at places of another system, which were kept as they "
-            "are. \"Reload Moved Pictures\" points them",
-        Dialogs::Icon::Information);
-    QVERIFY(OpenAlbum(path));
-    QCOMPARE(GetLastAlbum(), target);
-    QCOMPARE(AlbumDatabase->GetPath(), target);
-    QCOMPARE(ChapterSet->RecordCount(), 3);
-    // The pass over paragraphs without a selection has run.
-    QVERIFY(FindById(*ParagraphSet, 1));
-    QCOMPARE(ParagraphSet->Text(u"FileSelection"), "");
-    QCOMPARE(ReadFile(path), contents);
-    ReleaseAlbum();
-    dialogs.ExpectInput("Please give the password for : " + target, "");
-    QVERIFY(!OpenAlbum(target));
-}
-
-void TestOldAlbum::GivingUpChangesNothing_data()
-{
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<Dialogs::Answer>("answer");
-    QTest::newRow("no password") << "" << Dialogs::Answer::No;
-    QTest::newRow("no new album") << "Mirabelle 8" << Dialogs::Answer::No;
-    QTest::newRow("no name") << "Mirabelle 8" << Dialogs::Answer::Yes;
-}
-
-void TestOldAlbum::GivingUpChangesNothing()
-{
-    QFETCH(QString, password);
-    QFETCH(Dialogs::Answer, answer);
-    const AlbumFixture world;
-    const QString path = CopyTo(world, "old.alb", OldAlbumBytes("password_jet4"));
-    const QStringList before = Listing(world);
-    ScriptedDialogs dialogs;
-    dialogs.ExpectInput("Please give the password for : " + path, password);
-    if (!password.isEmpty())
-        dialogs.ExpectBox("'" + path +
-                              "' is an album of the former file format. Shall a new album be made "
-                              "of it? The old one stays as it is.",
-                          Dialogs::Icon::Question, Dialogs::Buttons::YesNo, answer);
-    if (answer == Dialogs::Answer::Yes)
-        dialogs.ExpectSaveFile("Save the new Album", "", "old (new).alb");
-    QVERIFY(!OpenAlbum(path));
-    QVERIFY(!AlbumDatabase);
-    QCOMPARE(GetLastAlbum(), world.GetAlbum());
-    QCOMPARE(Listing(world), before);
-}
-
-void TestOldAlbum::NamesWhatIsDamaged_data()
-{
-    QTest::addColumn<QString>("like"); // the sound album that holds the same rows
-    QTest::addColumn<QString>("problem");
-    QTest::addColumn<int>("rowsThatDiffer");
-    QTest::newRow("hostile_memo_loop_jet3") << "small_jet3"
-                                            << "Paragraph 5: the field Text cannot be read." << 1;
-    QTest::newRow("hostile_map_jet4")
-        << "small_jet4"
-        << "Table Car5: its list of pages is damaged; its rows were looked for in the whole file."
-        << 0;
-}
-
-void TestOldAlbum::NamesWhatIsDamaged()
-{
-    QFETCH(QString, like);
-    QFETCH(QString, problem);
-    QFETCH(int, rowsThatDiffer);
-    const AlbumFixture world;
-    const QString target = world.PathOf("new.alb");
-    QCOMPARE(Convert(OldAlbumPath(QTest::currentDataTag()), target).Problems(),
-             QStringList(problem));
-    const QJsonObject expected = OldAlbumContents(like);
-    int different = 0;
-    for (const QString& table : tables) {
-        const QStringList rows = ExpectedRows(expected, table);
-        const QStringList found = FoundRows(target, {}, expected, table);
-        QCOMPARE(found.size(), rows.size());
-        for (qsizetype i = 0; i < rows.size(); ++i)
-            different += found[i] != rows[i];
-    }
-    QCOMPARE(different, rowsThatDiffer);
-}
-
-// The map of the picture table's pages is emptied: the pages themselves say whose they are.
-void TestOldAlbum::FindsPagesThatTheMapLacks()
-{
-    const AlbumFixture world;
-    QByteArray contents = OldAlbumBytes("small_jet4");
-    const QString path = CopyTo(world, "old.alb", contents);
-    quint32 table = 0;
-    const OldAlbumFile sound(path);
-    for (const OldAlbumFile::Table& each : sound.GetTables()) {
-        if (each.name == "Image")
-            table = each.page;
-    }
-    const auto place = qFromLittleEndian<quint32>(contents.constData() + table * 4096 + 55);
-    const qsizetype page = qsizetype(place >> 8) * 4096;
-    const auto offset = [&contents, page](quint32 row) {
-        return qFromLittleEndian<quint16>(contents.constData() + page + 14 + row * 2) & 0x1FFF;
-    };
-    const quint32 row = place & 0xFF;
-    const int end = row == 0 ? 4096 : offset(row - 1); // rows lie from the page's end to its head
-    int lost = 0;
-    for (int at = offset(row) + 1; at < end; ++at) { // behind the kind of map
-        lost += contents[page + at] != 0;
-        contents[page + at] = 0;
-    }
-    QVERIFY(lost > 0);
-    CopyTo(world, "old.alb", contents);
-    const QString target = world.PathOf("new.alb");
-    QCOMPARE(Convert(path, target).Problems(),
-             QStringList("Table Image: its list of pages is damaged; its rows were looked for in "
-                         "the whole file."));
-    const QJsonObject expected = OldAlbumContents("small_jet4");
-    QCOMPARE(FoundRows(target, {}, expected, "Image"), ExpectedRows(expected, "Image"));
-}
-
-// A table's name is changed in the catalogue: one is missing then, and one too many is there.
-void TestOldAlbum::ReportsOtherTables()
-{
-    const AlbumFixture world;
-    QByteArray contents = OldAlbumBytes("small_jet3");
-    QVERIFY(contents.contains("LinkedImages"));
-    const QString path = CopyTo(world, "old.alb", contents.replace("LinkedImages", "LinkedImagez"));
-    const QString target = world.PathOf("new.alb");
-    const OldAlbumReport report = Convert(path, target);
-    QCOMPARE(report.Problems(),
-             QStringList({"Table LinkedImages is missing.",
-                          "Table LinkedImagez is no part of an album and was left out."}));
-    QCOMPARE(report.pictures, 60);
-
-    for (const char* table : {"Chapter", "Paragraph", "Image"})
-        contents.replace(table, QByteArray(table).toUpper().replace('A', 'O'));
-    CopyTo(world, "old.alb", contents);
-    QVERIFY_THROWS_EXCEPTION(DatabaseError, Convert(path, world.PathOf("none.alb")));
-    QVERIFY(!QFile::exists(world.PathOf("none.alb")));
-}
-
-void TestOldAlbum::KeepsTheFileThatIsThere()
-{
-    const AlbumFixture world;
-    const QByteArray contents = OldAlbumBytes("small_jet3");
-    const QString path = CopyTo(world, "old.alb", contents);
-    const QString taken = CopyTo(world, "taken.alb", "a letter");
-    CopyTo(world, "taken.alb-journal", "of a file that is replaced");
-    QVERIFY_THROWS_EXCEPTION(DatabaseError, Convert(path, taken));
-    QCOMPARE(ReadFile(taken), "a letter");
-    OldAlbumFile old(path);
-    QVERIFY_THROWS_EXCEPTION(DatabaseError,
-                             ConvertOldAlbum(old, {.target = path, .replaces = true}));
-    QCOMPARE(ReadFile(path), contents);
-
-    ConvertOldAlbum(old, {.target = taken, .replaces = true});
-    ScriptedDialogs dialogs;
-    QVERIFY(OpenAlbum(taken));
-    QVERIFY(!QFile::exists(taken + "-journal"));
-    QVERIFY_THROWS_EXCEPTION(DatabaseError,
-                             ConvertOldAlbum(old, {.target = "/proc/nowhere/new.alb"}));
-}
-
-void TestOldAlbum::BreakingOffLeavesNothing()
-{
-    const AlbumFixture world;
-    const QStringList before = Listing(world);
-    OldAlbumFile old(OldAlbumPath("password_jet4"));
-    struct Enough
+private slots:
+    void initTestCase()
     {
-    };
-    int checks = 0;
-    const auto breakOff = [&checks] {
-        if (++checks == 4)
-            throw Enough();
-    };
-    for (const char* password : {"", "secret"}) {
-        checks = 0;
-        QVERIFY_THROWS_EXCEPTION(Enough, ConvertOldAlbum(old, {.target = world.PathOf("new.alb"),
-                                                               .password = password,
-                                                               .check = breakOff}));
-        QCOMPARE(Listing(world), before);
+        if (!HasOldAlbums())
+            QSKIP("the sample albums of the former file format are not beside the repository");
     }
-}
 
-void TestOldAlbum::SurvivesDamagedCopies_data()
-{
-    QTest::addColumn<int>("count"); // old_album_fuzz tries thousands
-    QTest::newRow("small_jet3") << 40;
-    QTest::newRow("small_jet4") << 40;
-}
-
-void TestOldAlbum::SurvivesDamagedCopies()
-{
-    QFETCH(int, count);
-    const QTemporaryDir folder;
-    const QByteArray sound = OldAlbumBytes(QTest::currentDataTag());
-    std::mt19937 random(7);
-    int reported = 0;
-    for (int i = 0; i < count; ++i) {
-        const TrialResult result = TryConversion(DamagedCopy(sound, random), folder.path());
-        QCOMPARE(result.fault, QString());
-        reported += !result.isWhole;
+    void BringsEverythingOver_data()
+    {
+        AddRows<QString, QString>({"contents", "password"},
+                                  {{"small_jet4", "small_jet4", ""},
+                                   {"small_jet3", "small_jet3", ""},
+                                   {"encoded_jet4", "small_jet4", ""},
+                                   {"password_jet4", "password_jet4", "Mirabelle 8"}});
     }
-    QVERIFY(reported > count / 10);
-}
+
+    void BringsEverythingOver()
+    {
+        QFETCH(QString, contents);
+        QFETCH(QString, password);
+        OldAlbumFile old(OldAlbumPath(QTest::currentDataTag()));
+        QCOMPARE(old.HasPassword(), !password.isEmpty());
+        QCOMPARE(old.PasswordFits(password.toLower()), password.isEmpty());
+        QVERIFY(old.PasswordFits(password));
+        const QString target = album_->PathOf("new.alb");
+        const OldAlbumReport report =
+            ConvertOldAlbum(old, {.target = target, .password = password});
+        QCOMPARE(report.Problems(), QStringList());
+        QVERIFY(report.FolderHint().contains("C:\\Photos\\Été 1998\\"));
+        const QJsonObject expected = OldAlbumContents(contents);
+        for (const QString& table : tables) {
+            const QStringList rows = ExpectedRows(expected, table);
+            QVERIFY2(!rows.isEmpty(), qPrintable(table));
+            QCOMPARE(FoundRows(target, password, expected, table), rows);
+        }
+        QCOMPARE(Listing().filter("lumenark"), QStringList());
+    }
+
+    void OpensThroughItsQuestions()
+    {
+        const QByteArray contents = OldAlbumBytes("password_jet4");
+        const QString path = CopyTo("Été.alb", contents);
+        CopyTo("Été (new).alb", "something else");
+        const QStringList before = Listing();
+        const QString target = album_->PathOf("chosen.alb");
+        const QString prompt = "Please give the password for : " + path;
+        const auto expectQuestion = [&](Answer answer) {
+            dialogs_->ExpectInput(prompt, "Mirabelle 8");
+            dialogs_->ExpectBox("'" + path +
+                                    "' is an album of the former file format. Shall a new album be "
+                                    "made of it? The old one stays as it is.",
+                                Icon::Question, Buttons::YesNo, answer);
+        };
+        // Giving up changes nothing: without the password, without a new album, without its name.
+        for (int given = 0; given < 3; ++given) {
+            if (given == 0)
+                dialogs_->ExpectInput(prompt, "");
+            else
+                expectQuestion(given == 1 ? Answer::No : Answer::Yes);
+            if (given == 2)
+                dialogs_->ExpectSaveFile("Save the new Album", "", "Été (new 2).alb");
+            QVERIFY(!OpenAlbum(path));
+            QVERIFY(!AlbumDatabase);
+            QCOMPARE(GetLastAlbum(), album_->GetAlbum());
+            QCOMPARE(Listing(), before);
+        }
+        dialogs_->ExpectInput(prompt, "mirabelle 8");
+        expectQuestion(Answer::Yes);
+        dialogs_->ExpectSaveFile("Save the new Album", target, "Été (new 2).alb");
+        dialogs_->ExpectBoxBeginning(
+            "The new album is '" + target +
+                "'.\n3 chapters, 25 paragraphs and 400 pictures came over. The new album has the "
+                "old one's password.\n\nPictures lie at places of another system, which were kept "
+                "as they are. \"Reload Moved Pictures\" points them",
+            Icon::Information);
+        QVERIFY(OpenAlbum(path));
+        QCOMPARE(GetLastAlbum(), target);
+        QCOMPARE(AlbumDatabase->GetPath(), target);
+        QCOMPARE(ChapterSet->RecordCount(), 3);
+        // The pass over paragraphs without a selection has run.
+        QVERIFY(FindById(*ParagraphSet, 1));
+        QCOMPARE(ParagraphSet->Text(u"FileSelection"), "");
+        // The highest chapter and two of the highest paragraphs were deleted in the old program.
+        ParagraphSet->AddNew();
+        QCOMPARE(ParagraphSet->Number(u"Id"), 30);
+        ChapterSet->AddNew();
+        QCOMPARE(ChapterSet->Number(u"Id"), 5);
+        QCOMPARE(ReadFile(path), contents);
+        ReleaseAlbum();
+        dialogs_->ExpectInput("Please give the password for : " + target, "");
+        QVERIFY(!OpenAlbum(target));
+    }
+
+    void NamesWhatIsDamaged()
+    {
+        // Beside the sound album that holds the same rows, and how many rows differ.
+        const std::tuple<const char*, const char*, const char*, int> rows[] = {
+            {"hostile_memo_loop_jet3", "small_jet3", "Paragraph 5: the field Text cannot be read.",
+             1},
+            {"hostile_map_jet4", "small_jet4",
+             "Table Car5: its list of pages is damaged; its rows were looked for in the whole "
+             "file.",
+             0}};
+        for (const auto& [hostile, like, problem, rowsThatDiffer] : rows) {
+            const QString target = album_->PathOf(hostile);
+            QCOMPARE(Convert(OldAlbumPath(hostile), target).Problems(), QStringList(problem));
+            const QJsonObject expected = OldAlbumContents(like);
+            int different = 0;
+            for (const QString& table : tables) {
+                const QStringList sound = ExpectedRows(expected, table);
+                const QStringList found = FoundRows(target, {}, expected, table);
+                QCOMPARE(found.size(), sound.size());
+                for (qsizetype i = 0; i < sound.size(); ++i)
+                    different += found[i] != sound[i];
+            }
+            QCOMPARE(different, rowsThatDiffer);
+        }
+    }
+
+    void ReadsCharactersOfTwoUnits()
+    {
+        const auto utf16 = [](const QString& text) {
+            return QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
+        };
+        QByteArray contents = OldAlbumBytes("small_jet4");
+        QVERIFY(contents.contains(utf16("plain paragraph")));
+        contents.replace(utf16("plain paragraph"), utf16("\U0001F600ain paragraph"));
+        const QString path = CopyTo("old.alb", contents);
+        Convert(path, album_->PathOf("new.alb"));
+        QVERIFY(OpenAlbum(album_->PathOf("new.alb")));
+        QVERIFY(FindById(*ParagraphSet, 5));
+        QVERIFY(ParagraphSet->Text(u"Text").startsWith("A \U0001F600ain paragraph without"));
+    }
+
+    // The map of the picture table's pages is emptied: the pages themselves say whose they are.
+    void FindsPagesThatTheMapLacks()
+    {
+        QByteArray contents = OldAlbumBytes("small_jet4");
+        const QString path = CopyTo("old.alb", contents);
+        quint32 table = 0;
+        const OldAlbumFile sound(path);
+        for (const OldAlbumFile::Table& each : sound.GetTables()) {
+            if (each.name == "Image")
+                table = each.page;
+        }
+        const auto place = qFromLittleEndian<quint32>(contents.constData() + table * 4096 + 55);
+        const qsizetype page = qsizetype(place >> 8) * 4096;
+        const auto offset = [&contents, page](quint32 row) {
+            return qFromLittleEndian<quint16>(contents.constData() + page + 14 + row * 2) & 0x1FFF;
+        };
+        const quint32 row = place & 0xFF;
+        const int end =
+            row == 0 ? 4096 : offset(row - 1); // rows lie from the page's end to its head
+        int lost = 0;
+        for (int at = offset(row) + 1; at < end; ++at) { // behind the kind of map
+            lost += contents[page + at] != 0;
+            contents[page + at] = 0;
+        }
+        QVERIFY(lost > 0);
+        CopyTo("old.alb", contents);
+        const QString target = album_->PathOf("new.alb");
+        QCOMPARE(
+            Convert(path, target).Problems(),
+            QStringList("Table Image: its list of pages is damaged; its rows were looked for in "
+                        "the whole file."));
+        const QJsonObject expected = OldAlbumContents("small_jet4");
+        QCOMPARE(FoundRows(target, {}, expected, "Image"), ExpectedRows(expected, "Image"));
+    }
+
+    // A table's name is changed in the catalogue: one is missing then, and one too many is there.
+    void ReportsOtherTables()
+    {
+        QByteArray contents = OldAlbumBytes("small_jet3");
+        QVERIFY(contents.contains("LinkedImages"));
+        const QString path = CopyTo("old.alb", contents.replace("LinkedImages", "LinkedImagez"));
+        const QString target = album_->PathOf("new.alb");
+        const OldAlbumReport report = Convert(path, target);
+        QCOMPARE(report.Problems(),
+                 QStringList({"Table LinkedImages is missing.",
+                              "Table LinkedImagez is no part of an album and was left out."}));
+        QCOMPARE(report.pictures, 60);
+
+        for (const char* table : {"Chapter", "Paragraph", "Image"})
+            contents.replace(table, QByteArray(table).toUpper().replace('A', 'O'));
+        CopyTo("old.alb", contents);
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, Convert(path, album_->PathOf("none.alb")));
+        QVERIFY(!QFile::exists(album_->PathOf("none.alb")));
+    }
+
+    void KeepsTheFileThatIsThere()
+    {
+        const QByteArray contents = OldAlbumBytes("small_jet3");
+        const QString path = CopyTo("old.alb", contents);
+        const QString taken = CopyTo("taken.alb", "a letter");
+        CopyTo("taken.alb-journal", "of a file that is replaced");
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, Convert(path, taken));
+        QCOMPARE(ReadFile(taken), "a letter");
+        OldAlbumFile old(path);
+        QVERIFY_THROWS_EXCEPTION(DatabaseError,
+                                 ConvertOldAlbum(old, {.target = path, .replaces = true}));
+        QCOMPARE(ReadFile(path), contents);
+
+        ConvertOldAlbum(old, {.target = taken, .replaces = true});
+        QVERIFY(OpenAlbum(taken));
+        QVERIFY(!QFile::exists(taken + "-journal"));
+        QVERIFY_THROWS_EXCEPTION(DatabaseError,
+                                 ConvertOldAlbum(old, {.target = "/proc/nowhere/new.alb"}));
+    }
+
+    void BreakingOffLeavesNothing()
+    {
+        const QStringList before = Listing();
+        OldAlbumFile old(OldAlbumPath("password_jet4"));
+        struct Enough
+        {
+        };
+        int checks = 0;
+        const auto breakOff = [&checks] {
+            if (++checks == 4)
+                throw Enough();
+        };
+        for (const char* password : {"", "secret"}) {
+            checks = 0;
+            QVERIFY_THROWS_EXCEPTION(Enough,
+                                     ConvertOldAlbum(old, {.target = album_->PathOf("new.alb"),
+                                                           .password = password,
+                                                           .check = breakOff}));
+            QCOMPARE(Listing(), before);
+        }
+    }
+
+    void SurvivesDamagedCopies()
+    {
+        constexpr int count = 40; // old_album_fuzz tries thousands
+        const QTemporaryDir folder;
+        std::mt19937 random(7);
+        for (const char* album : {"small_jet3", "small_jet4"}) {
+            const QByteArray sound = OldAlbumBytes(album);
+            int reported = 0;
+            for (int i = 0; i < count; ++i) {
+                const TrialResult result = TryConversion(DamagedCopy(sound, random), folder.path());
+                QCOMPARE(result.fault, QString());
+                reported += !result.isWhole;
+            }
+            QVERIFY(reported > count / 10);
+        }
+    }
+
+private:
+    QString CopyTo(const QString& name, const QByteArray& contents) const
+    {
+        WriteFile(album_->PathOf(name), contents);
+        return album_->PathOf(name);
+    }
+
+    // All that lies in the fixture's folder, hidden files too.
+    QStringList Listing() const
+    {
+        return QDir(album_->PathOf("."))
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestOldAlbum)
 #include "test_old_album.moc"

@@ -4,9 +4,8 @@
 #include "story/ParagraphMarkers.h"
 #include "story/ParagraphText.h"
 #include "story/PastedText.h"
-#include "support/AlbumFixture.h"
-
-#include <QtTest>
+#include "support/AlbumTest.h"
+#include "support/Rows.h"
 
 #include <set>
 
@@ -15,21 +14,20 @@ namespace {
 void NameEverything()
 {
     for (int group = 0; group < 4; ++group)
-        GeneralModule::SetCaractLabel(group, QStringLiteral("G%1").arg(group));
+        GeneralModule::SetCaractLabel(group, QString("G%1").arg(group));
     for (const int column : {0, 1, 2, 3, 4, 5, 9, 10, 11})
-        GeneralModule::SetColumnLabel(column, QStringLiteral("C%1").arg(column));
+        GeneralModule::SetColumnLabel(column, QString("C%1").arg(column));
 }
 
 } // namespace
 
-class TestParagraphText : public QObject
+class TestParagraphText : public AlbumTest
 {
     Q_OBJECT
 
 private slots:
     void AllThirteenMarkers()
     {
-        AlbumFixture album;
         NameEverything();
         const std::vector<TextMarker> markers = ReadTextMarkers();
         QString stored = "Begin ";
@@ -38,75 +36,51 @@ private slots:
                                 "C4 (G1)",        "C5 (G1)",  "C3 (G2)", "C4 (G2)", "C5 (G2)",
                                 "C9 (G3)",        "C10 (G3)", "C11 (G3)"};
         for (int i = 0; i < 13; ++i) {
-            stored += i == 0 ? "<[Picture Legend]>" : QStringLiteral("<[%1]>").arg(i - 1);
+            stored += i == 0 ? "<[Picture Legend]>" : QString("<[%1]>").arg(i - 1);
             display += "<<" + shown[i] + ">>";
         }
         QCOMPARE(ToDisplayMarkers(stored + stored, markers), display + display);
         QCOMPARE(ToStoredMarkers(display + display, markers), stored + stored);
-    }
 
-    void WhatIsNoMarkerStays_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("stray, then a marker") << "a << b <<C0 (G0)>> c"
-                                              << "a << b <[0]> c";
-        QTest::newRow("stray with an end, then a marker") << "<<no such>> <<Picture Legend>>"
-                                                          << "<<no such>> <[Picture Legend]>";
-        QTest::newRow("marker behind <") << "<<<C0 (G0)>>>"
-                                         << "<<[0]>>";
-        QTest::newRow("stray end") << ">> <<C3 (G2)>>"
-                                   << ">> <[6]>";
-        QTest::newRow("cut off") << "<<C0 (G0)"
-                                 << "<<C0 (G0)";
-        QTest::newRow("letter case counts") << "<<c0 (g0)>>"
-                                            << "<<c0 (g0)>>";
-        QTest::newRow("other brackets") << "<[12]> <[x]> <[ 3]> <["
-                                        << "<[12]> <[x]> <[ 3]> <[";
-    }
-
-    void WhatIsNoMarkerStays()
-    {
-        QFETCH(QString, typed);
-        QFETCH(QString, stored);
-        AlbumFixture album;
-        NameEverything();
-        const std::vector<TextMarker> markers = ReadTextMarkers();
-        QCOMPARE(ToStoredMarkers(typed, markers), stored);
-        QCOMPARE(ToDisplayMarkers(stored, markers), typed);
-    }
-
-    // A stored marker that the user types is one, and is shown in words the next time.
-    void TypedInStoredForm()
-    {
-        AlbumFixture album;
-        NameEverything();
-        const std::vector<TextMarker> markers = ReadTextMarkers();
-        QCOMPARE(ToStoredMarkers("<[4]>", markers), QString("<[4]>"));
-        QCOMPARE(ToDisplayMarkers("<[4]>", markers), QString("<<C4 (G1)>>"));
+        // What is no marker stays: strays, one that is cut off, another letter case.
+        const std::pair<QString, QString> rows[] = {
+            {"a << b <<C0 (G0)>> c", "a << b <[0]> c"},
+            {"<<no such>> <<Picture Legend>>", "<<no such>> <[Picture Legend]>"},
+            {"<<<C0 (G0)>>>", "<<[0]>>"},
+            {">> <<C3 (G2)>>", ">> <[6]>"},
+            {"<<C0 (G0)", "<<C0 (G0)"},
+            {"<<c0 (g0)>>", "<<c0 (g0)>>"},
+            {"<[12]> <[x]> <[ 3]> <[", "<[12]> <[x]> <[ 3]> <["}};
+        for (const auto& [typed, kept] : rows) {
+            QCOMPARE(ToStoredMarkers(typed, markers), kept);
+            QCOMPARE(ToDisplayMarkers(kept, markers), typed);
+        }
+        // One that is typed as it is stored is one, and a label's new name is shown.
+        QCOMPARE(ToStoredMarkers("<[7]>", markers), QString("<[7]>"));
+        GeneralModule::SetColumnLabel(4, "Renamed");
+        QCOMPARE(ToDisplayMarkers("<[7]>", ReadTextMarkers()), QString("<<Renamed (G2)>>"));
     }
 
     void LabelsOfAllKinds_data()
     {
-        QTest::addColumn<QStringList>("columns");
-        QTest::addColumn<QStringList>("groups");
         const QStringList names{"a", "b", "c", "d", "e", "f", "g", "h", "i"};
         const QStringList groups{"p", "q", "r", "s"};
-        QTest::newRow("none") << QStringList() << QStringList();
-        QTest::newRow("no groups") << names << QStringList();
-        QTest::newRow("all the same") << QStringList(9, "x") << QStringList(4, "y");
-        QTest::newRow("twins told apart by nothing") << names << QStringList{"p", "q", "q", "s"};
-        QTest::newRow("brackets and signs")
-            << QStringList{"<", ">", "<<", ">>", "a>>b", ")>>", "<a", "(", ";'"} << groups;
-        QTest::newRow("one begins another")
-            << QStringList{"a", "a (p)", "a (p)>", "<a", "a<", "a ", " a", "A", "a\nb"} << groups;
+        AddRows<QStringList, QStringList>(
+            {"columns", "groups"},
+            {{"none", {}, {}},
+             {"no groups", names, {}},
+             {"all the same", QStringList(9, "x"), QStringList(4, "y")},
+             {"twins told apart by nothing", names, {"p", "q", "q", "s"}},
+             {"brackets", {"<", ">", "<<", ">>", "a>>b", ")>>", "<a", "(", ";'"}, groups},
+             {"one begins another",
+              {"a", "a (p)", "a (p)>", "<a", "a<", "a ", " a", "A", "a\nb"},
+              groups}});
     }
 
     void LabelsOfAllKinds()
     {
         QFETCH(QStringList, columns);
         QFETCH(QStringList, groups);
-        AlbumFixture album;
         const QList<int> labelled{0, 1, 2, 3, 4, 5, 9, 10, 11};
         for (int i = 0; i < columns.size(); ++i)
             GeneralModule::SetColumnLabel(labelled[i], columns[i]);
@@ -130,13 +104,22 @@ private slots:
         }
     }
 
-    void ARenamedLabelLeavesWhatIsStored()
+    // Markers of a text are filled with what a picture says.
+    void FillsMarkers()
     {
-        AlbumFixture album;
-        NameEverything();
-        QCOMPARE(ToStoredMarkers("<<C4 (G2)>>", ReadTextMarkers()), QString("<[7]>"));
-        GeneralModule::SetColumnLabel(4, "Renamed");
-        QCOMPARE(ToDisplayMarkers("<[7]>", ReadTextMarkers()), QString("<<Renamed (G2)>>"));
+        album_->AddImageRow("/it's.jpg",
+                            {{"Legend", "The <[0]> sea"}, {"Car0", "Anna"}, {"Car11", "Blue"}});
+        album_->Execute("UPDATE Image SET Car5=NULL");
+        const std::pair<const char*, const char*> rows[] = {
+            {"Look: <[Picture Legend]>!", "Look: The <[0]> sea!"},
+            {"<[0]> and <[11]>, <[0]>", "Anna and Blue, Anna"},
+            {"(<[5]>)", "()"},
+            {"<[12]> <[x]> <[01]> <[0]>", "<[12]> <[x]> <[01]> Anna"},
+            {"a <[ b <[0]>", "a <[ b Anna"},
+            {"a <[0", "a <[0"}};
+        for (const auto& [text, filled] : rows)
+            QCOMPARE(FillPictureMarkers(text, "/it's.jpg"), filled);
+        QCOMPARE(FillPictureMarkers("<[Picture Legend]>|<[3]>", "/unknown.jpg"), "|");
     }
 
     void PastedMarkup()
@@ -151,6 +134,9 @@ private slots:
     void TypingCleansAndKeepsCaretAndUndo()
     {
         ParagraphText box;
+        const QString text = QString::fromUtf8("Eh\u00a0! \n tab\there \U0001F600 end");
+        box.SetText(text);
+        QCOMPARE(box.GetText(), text); // loses no character
         box.SetText("before after");
         QTextCursor caret = box.textCursor();
         caret.setPosition(7);
@@ -166,15 +152,6 @@ private slots:
         for (int i = 0; i < 6 && box.GetText() != "before after"; ++i)
             QTest::keySequence(&box, QKeySequence::Undo);
         QCOMPARE(box.GetText(), QString("before after"));
-    }
-
-    void TheBoxLosesNoCharacter()
-    {
-        ParagraphText box;
-        const QString text = QString::fromUtf8("Eh\u00a0! \u2028 tab\there \U0001F600 end")
-                                 .replace(QChar(0x2028), '\n');
-        box.SetText(text);
-        QCOMPARE(box.GetText(), text);
     }
 };
 

@@ -16,7 +16,7 @@
 
 using namespace GeneralModule;
 
-AlbumFixture::AlbumFixture() : album_(folder_.filePath(QStringLiteral("story.alb")))
+AlbumFixture::AlbumFixture() : album_(folder_.filePath(QString("story.alb")))
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, PathOf("settings"));
     SeedRandom(1);
@@ -46,7 +46,7 @@ void AlbumFixture::AddImageRow(const QString& path, const QMap<QString, QString>
     ImageSet->Set(u"File", path);
     ImageSet->Set(u"Legend", QString());
     for (int column = 0; column < 12; ++column)
-        ImageSet->Set(QStringLiteral("Car%1").arg(column), QStringLiteral("-"));
+        ImageSet->Set(QString("Car%1").arg(column), QString("-"));
     for (auto value = values.begin(); value != values.end(); ++value)
         ImageSet->Set(value.key(), value.value());
     ImageSet->Update();
@@ -54,39 +54,35 @@ void AlbumFixture::AddImageRow(const QString& path, const QMap<QString, QString>
 
 qint32 AlbumFixture::AddChapter(const QString& name)
 {
-    const QStringList last = Rows("SELECT Id FROM Chapter WHERE NextChapter=0");
+    const qint32 last = Rows("SELECT Id FROM Chapter WHERE NextChapter=0").value(0).toInt();
     ChapterSet->AddNew();
     const qint32 id = ChapterSet->Number(u"Id");
     ChapterSet->Set(u"Name", name);
-    ChapterSet->Set(u"PreviousChapter", last.isEmpty() ? 0 : last.first().toInt());
+    ChapterSet->Set(u"PreviousChapter", last);
     ChapterSet->Update();
-    if (!last.isEmpty())
-        Execute(QStringLiteral("UPDATE Chapter SET NextChapter=%1 WHERE Id=%2")
-                    .arg(id)
-                    .arg(last.first()));
+    Execute(QString("UPDATE Chapter SET NextChapter=%1 WHERE Id=%2").arg(id).arg(last));
     return id;
 }
 
 qint32 AlbumFixture::AddParagraph(qint32 chapter, const QString& text,
                                   const QMap<QString, QString>& fields)
 {
-    const QStringList last =
-        Rows(QStringLiteral("SELECT Id FROM Paragraph WHERE NextParagraph=0 AND Chapter=%1")
-                 .arg(chapter));
+    const QString lastSql = "SELECT Id FROM Paragraph WHERE NextParagraph=0 AND Chapter=%1";
+    const qint32 last = Rows(lastSql.arg(chapter)).value(0).toInt();
     ParagraphSet->AddNew();
     const qint32 id = ParagraphSet->Number(u"Id");
     ParagraphSet->Set(u"Chapter", chapter);
     ParagraphSet->Set(u"Text", text);
     ParagraphSet->Set(u"FileSelection", QString());
-    ParagraphSet->Set(u"PreviousParagraph", last.isEmpty() ? 0 : last.first().toInt());
+    ParagraphSet->Set(u"PreviousParagraph", last);
     for (int column = 0; column < 12; ++column)
-        ParagraphSet->Set(QStringLiteral("Car%1").arg(column), QStringLiteral("*"));
+        ParagraphSet->Set(QString("Car%1").arg(column), QString("*"));
     for (auto field = fields.begin(); field != fields.end(); ++field)
         ParagraphSet->Set(field.key(), field.value());
     ParagraphSet->Update();
-    const QString link = last.isEmpty() ? "UPDATE Chapter SET FirstParagraph=%1 WHERE Id=%2"
-                                        : "UPDATE Paragraph SET NextParagraph=%1 WHERE Id=%2";
-    Execute(link.arg(id).arg(last.isEmpty() ? QString::number(chapter) : last.first()));
+    const QString link = last == 0 ? "UPDATE Chapter SET FirstParagraph=%1 WHERE Id=%2"
+                                   : "UPDATE Paragraph SET NextParagraph=%1 WHERE Id=%2";
+    Execute(link.arg(id).arg(last == 0 ? chapter : last));
     return id;
 }
 
@@ -105,7 +101,7 @@ QStringList AlbumFixture::Rows(const QString& sql) const
     const auto addRow = [](void* target, int count, char** values, char**) {
         QStringList row;
         for (int i = 0; i < count; ++i)
-            row += values[i] ? QString::fromUtf8(values[i]) : QStringLiteral("NULL");
+            row += values[i] ? QString::fromUtf8(values[i]) : QString("NULL");
         static_cast<QStringList*>(target)->append(row.join(u'|'));
         return 0;
     };
@@ -122,6 +118,32 @@ QStringList AlbumFixture::Rows(const QString& sql) const
 void AlbumFixture::Execute(const QString& sql) const
 {
     Rows(sql);
+}
+
+int ErrorOf(const std::function<void()>& action, QString* description)
+{
+    try {
+        action();
+    } catch (const DatabaseError& error) {
+        if (description)
+            *description = error.GetDescription();
+        return error.GetNumber();
+    }
+    return 0;
+}
+
+QByteArray ReadFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WriteFile(const QString& path, const QByteArray& contents)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        QTest::qFail(qPrintable("cannot write " + path), __FILE__, __LINE__);
 }
 
 void PaintPicture(const QString& path, QSize size, const QColor& color)

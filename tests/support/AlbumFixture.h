@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QColor>
 #include <QMap>
 #include <QSize>
@@ -8,7 +9,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include <vector>
+#include <functional>
 
 // A fresh world for one test: a folder that goes with it, settings of its own, a fixed random seed,
 // and a new album that is open. Everything is released at the end.
@@ -39,6 +40,7 @@ public:
     // What a query returns through a connection of its own, each row as its values joined by "|",
     // Null written as NULL.
     QStringList Rows(const QString& sql) const;
+    QString Joined(const QString& sql) const { return Rows(sql).join(QString("; ")); }
     void Execute(const QString& sql) const;
 
 private:
@@ -46,5 +48,11 @@ private:
     QString album_;
 };
 
+// The number of the error that an action ends with, and what it says; 0 when there is none.
+int ErrorOf(const std::function<void()>& action, QString* description = nullptr);
+
+QByteArray ReadFile(const QString& path);
+// Makes the folder too.
+void WriteFile(const QString& path, const QByteArray& contents = {});
 // Writes a one-coloured picture file; the kind follows from the name.
 void PaintPicture(const QString& path, QSize size, const QColor& color);

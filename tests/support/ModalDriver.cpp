@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/ModalDriver.h"
 
-#include <QApplication>
 #include <QDeadlineTimer>
 #include <QPointer>
 #include <QTimer>
-#include <QWidget>
 #include <QtTest>
 
 namespace {
@@ -45,4 +43,26 @@ void WhenModal(const QString& name, const std::function<void(QWidget&)>& action,
 {
     QTimer::singleShot(0, qApp,
                        [=] { Poll(name, action, closesItself, QDeadlineTimer(patience)); });
+}
+
+void Click(QWidget& window, const QString& control)
+{
+    QTest::mouseClick(&Find<QWidget>(window, control), Qt::LeftButton);
+}
+
+void ClickLine(QListWidget& list, int row, bool twice)
+{
+    list.scrollToItem(list.item(row));
+    const QPoint place = list.visualItemRect(list.item(row)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+    if (twice)
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
+}
+
+QStringList Lines(const QListWidget& list)
+{
+    QStringList lines;
+    for (int row = 0; row < list.count(); ++row)
+        lines += (row == list.currentRow() ? "*" : "") + list.item(row)->text();
+    return lines;
 }

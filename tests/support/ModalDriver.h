@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-#include <QWidget>
+#include <QtWidgets>
 
 #include <functional>
 
@@ -22,3 +21,10 @@ Widget& Find(QWidget& window, const QString& name)
         qFatal("there is no control %s", qPrintable(name));
     return *found;
 }
+
+// A left click on the control of that name, whatever it is.
+void Click(QWidget& window, const QString& control);
+// A left click on a line, or a double click.
+void ClickLine(QListWidget& list, int row, bool twice = false);
+// What stands in a list, a "*" before the line that is current.
+QStringList Lines(const QListWidget& list);

@@ -3,8 +3,8 @@
 
 #include "platform/data/Database.h"
 #include "platform/data/RecordSet.h"
+#include "support/AlbumFixture.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,17 +12,6 @@
 #include <algorithm>
 
 namespace {
-
-QString PathOf(const QString& file)
-{
-    return QStringLiteral(OLD_ALBUM_FOLDER "/") + file;
-}
-
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QStringList Fields(const QJsonObject& contents, const QString& table)
 {
@@ -32,7 +21,7 @@ QStringList Fields(const QJsonObject& contents, const QString& table)
 QString TextOf(const QJsonValue& value)
 {
     if (value.isNull())
-        return QStringLiteral("NULL");
+        return QString("NULL");
     return value.isDouble() ? QString::number(value.toInteger()) : value.toString();
 }
 
@@ -45,7 +34,7 @@ bool HasOldAlbums()
 
 QString OldAlbumPath(const QString& name)
 {
-    return PathOf(name + ".alb");
+    return QString(OLD_ALBUM_FOLDER "/") + name + ".alb";
 }
 
 QByteArray OldAlbumBytes(const QString& name)
@@ -55,7 +44,8 @@ QByteArray OldAlbumBytes(const QString& name)
 
 QJsonObject OldAlbumContents(const QString& name)
 {
-    return QJsonDocument::fromJson(ReadFile(PathOf(name + ".expected.json"))).object();
+    return QJsonDocument::fromJson(ReadFile(OldAlbumPath(name).chopped(4) + ".expected.json"))
+        .object();
 }
 
 // Rows with an identifier lie in its order in the present format, whatever their order was.
@@ -85,7 +75,7 @@ QStringList FoundRows(const QString& album, const QString& password, const QJson
     for (set.MoveFirst(); !set.AtEnd(); set.MoveNext()) {
         QStringList values;
         for (const QString& field : Fields(contents, table))
-            values += set.IsNull(field) ? QStringLiteral("NULL") : set.Text(field);
+            values += set.IsNull(field) ? QString("NULL") : set.Text(field);
         rows += values.join(u'|');
     }
     return rows;

@@ -7,21 +7,13 @@ namespace {
 
 QString Describe(Dialogs::Icon icon, Dialogs::Buttons buttons, const QString& text)
 {
-    return QStringLiteral("box, icon %1, buttons %2: %3")
-        .arg(int(icon))
-        .arg(int(buttons))
-        .arg(text);
+    return QString("box, icon %1, buttons %2: %3").arg(int(icon)).arg(int(buttons)).arg(text);
 }
 
-QString DescribeInput(const QString& prompt, const QString& proposal)
+// An input or the choice of a file.
+QString Describe(const char* kind, const QString& proposal, const QString& prompt)
 {
-    return QStringLiteral("input, proposing '%1': %2").arg(proposal, prompt);
-}
-
-QString DescribeSave(const QString& title, const QString& proposal)
-{
-    return proposal.isEmpty() ? "save file: " + title
-                              : "save file, proposing '" + proposal + "': " + title;
+    return QString("%1, proposing '%2': %3").arg(kind, proposal, prompt);
 }
 
 } // namespace
@@ -51,35 +43,31 @@ void ScriptedDialogs::ExpectBoxBeginning(const QString& beginning, Icon icon)
 void ScriptedDialogs::ExpectInput(const QString& prompt, const QString& answer,
                                   const QString& proposal)
 {
-    script_.push_back({DescribeInput(prompt, proposal), false, Answer::Ok, answer});
+    script_.push_back({Describe("input", proposal, prompt), false, Answer::Ok, answer});
 }
 
 void ScriptedDialogs::ExpectOpenFile(const QString& title, const QString& path)
 {
-    script_.push_back({"open file: " + title, false, Answer::Ok, path});
+    script_.push_back({Describe("open", {}, title), false, Answer::Ok, path});
 }
 
 void ScriptedDialogs::ExpectSaveFile(const QString& title, const QString& path,
                                      const QString& proposal)
 {
-    script_.push_back({DescribeSave(title, proposal), false, Answer::Ok, path});
+    script_.push_back({Describe("save", proposal, title), false, Answer::Ok, path});
 }
 
 ScriptedDialogs::Step ScriptedDialogs::Take(const QString& shown)
 {
-    if (script_.empty()) {
-        QTest::qFail(qPrintable("unexpected " + shown), __FILE__, __LINE__);
-        return {shown, false, Answer::Cancel, {}};
+    const Step step = script_.empty() ? Step{"nothing"} : script_.front();
+    if (step.comparesBeginning ? shown.startsWith(step.shown) : shown == step.shown) {
+        script_.pop_front();
+        return step;
     }
-    const Step step = script_.front();
-    script_.pop_front();
-    const bool fits = step.comparesBeginning ? shown.startsWith(step.shown) : shown == step.shown;
-    if (!fits) {
-        QTest::qFail(qPrintable("came: " + shown + "\nexpected: " + step.shown), __FILE__,
-                     __LINE__);
-        return {shown, false, Answer::Cancel, {}};
-    }
-    return step;
+    QTest::qFail(qPrintable("came: " + shown + "\nexpected: " + step.shown), __FILE__, __LINE__);
+    if (!script_.empty())
+        script_.pop_front();
+    return {shown, false, Answer::Cancel, {}};
 }
 
 Dialogs::Answer ScriptedDialogs::Ask(const Box& box)
@@ -89,15 +77,15 @@ Dialogs::Answer ScriptedDialogs::Ask(const Box& box)
 
 QString ScriptedDialogs::AskText(const Input& input)
 {
-    return Take(DescribeInput(input.prompt, input.proposal)).text;
+    return Take(Describe("input", input.proposal, input.prompt)).text;
 }
 
 QString ScriptedDialogs::AskOpenFile(const FileChoice& choice)
 {
-    return Take("open file: " + choice.title).text;
+    return Take(Describe("open", {}, choice.title)).text;
 }
 
 QString ScriptedDialogs::AskSaveFile(const FileChoice& choice)
 {
-    return Take(DescribeSave(choice.title, choice.name)).text;
+    return Take(Describe("save", choice.name, choice.title)).text;
 }

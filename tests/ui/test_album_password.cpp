@@ -2,37 +2,12 @@
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
 #include "platform/data/DatabaseFile.h"
-#include "support/AlbumFixture.h"
-#include "support/ScriptedDialogs.h"
+#include "support/AlbumTest.h"
 #include "ui/main/PasswordQuestions.h"
-
-#include <QtTest>
 
 using namespace GeneralModule;
 
-class TestAlbumPassword : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void SetsChangesAndRemoves();
-    void KeepsEverything();
-    void FailureLeavesTheAlbumAsItWas();
-    void AsksTwice();
-};
-
 namespace {
-
-QByteArray BytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList FilesBeside(const AlbumFixture& album)
-{
-    return QDir(QFileInfo(album.GetAlbum()).path()).entryList(QDir::Files);
-}
 
 // What a value of the album says through the open record sets.
 QString Legend()
@@ -43,93 +18,86 @@ QString Legend()
 
 } // namespace
 
-void TestAlbumPassword::SetsChangesAndRemoves()
+class TestAlbumPassword : public AlbumTest
 {
-    AlbumFixture album;
-    album.AddImageRow("/a.jpg", {{"Legend", "a secret place"}});
-    QVERIFY(!AlbumHasPassword());
-    for (const QString& password : {QString("it's \"odd\" é"), QString("second")}) {
-        SetAlbumPassword(password);
-        QVERIFY(AlbumHasPassword());
+    Q_OBJECT
+
+private slots:
+    void SetsChangesAndRemoves()
+    {
+        album_->AddImageRow("/a.jpg", {{"Legend", "a secret place"}});
+        const qint32 chapter = album_->AddChapter("One");
+        album_->AddParagraph(chapter, QString(100000, u'é'));
+        FindById(*ParagraphSet, 1);
+        ParagraphSet->Delete();
+        album_->AddParagraph(chapter, "kept");
+        const auto everything = [&] {
+            return album_->Rows("SELECT * FROM Chapter") + album_->Rows("SELECT * FROM Paragraph");
+        };
+        const QStringList before = everything();
+        QVERIFY(!AlbumHasPassword());
+        for (const QString& password : {QString("it's \"odd\" é"), QString("second")}) {
+            SetAlbumPassword(password);
+            QVERIFY(AlbumHasPassword());
+            QCOMPARE(Legend(), "a secret place");
+            QCOMPARE(KindOfDatabaseFile(album_->GetAlbum()), DatabaseFileKind::Encrypted);
+            QVERIFY(!ReadFile(album_->GetAlbum()).contains("secret place"));
+            const QString prompt = "Please give the password for : " + album_->GetAlbum();
+            for (const QString& given : {QString("wrong; --"), password.toUpper(), password})
+                dialogs_->ExpectInput(prompt, given);
+            QVERIFY(OpenAlbum(album_->GetAlbum()));
+            dialogs_->ExpectInput(prompt, "");
+            QVERIFY(!OpenAlbum(album_->GetAlbum()));
+            dialogs_->ExpectInput(prompt, password);
+            QVERIFY(OpenAlbum(album_->GetAlbum()));
+        }
+        SetAlbumPassword({});
+        QVERIFY(!AlbumHasPassword());
+        QCOMPARE(KindOfDatabaseFile(album_->GetAlbum()), DatabaseFileKind::Plain);
         QCOMPARE(Legend(), "a secret place");
-        QCOMPARE(KindOfDatabaseFile(album.GetAlbum()), DatabaseFileKind::Encrypted);
-        QVERIFY(!BytesOf(album.GetAlbum()).contains("secret place"));
-        ScriptedDialogs dialogs;
-        dialogs.ExpectInput("Please give the password for : " + album.GetAlbum(), password);
-        QVERIFY(OpenAlbum(album.GetAlbum()));
+        QCOMPARE(everything(), before);
+        ParagraphSet->AddNew(); // identifiers go on where they were
+        QCOMPARE(ParagraphSet->Number(u"Id"), 3);
+        QCOMPARE(QDir(album_->PathOf("")).entryList(QDir::Files), QStringList("story.alb"));
     }
-    SetAlbumPassword({});
-    QVERIFY(!AlbumHasPassword());
-    QCOMPARE(KindOfDatabaseFile(album.GetAlbum()), DatabaseFileKind::Plain);
-    QCOMPARE(Legend(), "a secret place");
-    QCOMPARE(FilesBeside(album), QStringList("story.alb"));
-}
 
-void TestAlbumPassword::KeepsEverything()
-{
-    AlbumFixture album;
-    const qint32 chapter = album.AddChapter("One");
-    album.AddParagraph(chapter, QString(100000, u'é'));
-    FindById(*ParagraphSet, 1);
-    ParagraphSet->Delete();
-    album.AddParagraph(chapter, "kept");
-    const QStringList tables{"Chapter", "Paragraph", "sqlite_sequence"};
-    QStringList before;
-    for (const QString& table : tables)
-        before += album.Rows("SELECT * FROM " + table);
-    SetAlbumPassword("x");
-    SetAlbumPassword({});
-    QStringList after;
-    for (const QString& table : tables)
-        after += album.Rows("SELECT * FROM " + table);
-    QCOMPARE(after, before);
-    ParagraphSet->AddNew(); // identifiers go on where they were
-    QCOMPARE(ParagraphSet->Number(u"Id"), 3);
-}
+    void FailureLeavesTheAlbumAsItWas()
+    {
+        album_->AddImageRow("/a.jpg", {{"Legend", "here"}});
+        QDir(QFileInfo(album_->GetAlbum()).path()).mkpath("story.alb.new/in the way");
+        const QByteArray before = ReadFile(album_->GetAlbum());
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, SetAlbumPassword("x"));
+        QCOMPARE(ReadFile(album_->GetAlbum()), before);
+        QCOMPARE(Legend(), "here");
+        QVERIFY(!AlbumHasPassword());
+    }
 
-void TestAlbumPassword::FailureLeavesTheAlbumAsItWas()
-{
-    AlbumFixture album;
-    album.AddImageRow("/a.jpg", {{"Legend", "here"}});
-    QDir(QFileInfo(album.GetAlbum()).path()).mkpath("story.alb.new/in the way");
-    const QByteArray before = BytesOf(album.GetAlbum());
-    QVERIFY_THROWS_EXCEPTION(DatabaseError, SetAlbumPassword("x"));
-    QCOMPARE(BytesOf(album.GetAlbum()), before);
-    QCOMPARE(Legend(), "here");
-    QVERIFY(!AlbumHasPassword());
-}
-
-void TestAlbumPassword::AsksTwice()
-{
-    AlbumFixture album;
-    const QString first = "Please enter the new password";
-    const QString second = "Please enter the new password once more";
-    ScriptedDialogs dialogs;
-    dialogs.ExpectInput(first, "");
-    AskForNewPassword();
-    QVERIFY(!AlbumHasPassword());
-
-    dialogs.ExpectInput(first, "a");
-    dialogs.ExpectInput(second, "b");
-    dialogs.ExpectBox("The two passwords differ", Dialogs::Icon::Warning);
-    dialogs.ExpectInput(first, "a");
-    dialogs.ExpectInput(second, "a");
-    dialogs.ExpectBoxBeginning("The album has its new password.", Dialogs::Icon::Information);
-    AskForNewPassword();
-    QVERIFY(AlbumHasPassword());
-
-    const QString question =
-        "This album has a password. Do you want to remove it ?\nChoose No to change it.";
-    dialogs.ExpectBox(question, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
-                      Dialogs::Answer::Cancel);
-    AskForNewPassword();
-    QVERIFY(AlbumHasPassword());
-    dialogs.ExpectBox(question, Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
-                      Dialogs::Answer::Yes);
-    dialogs.ExpectBox("The album has no password any more.");
-    AskForNewPassword();
-    QVERIFY(!AlbumHasPassword());
-}
+    void AsksTwice()
+    {
+        const auto expect = [this](const char* first, const char* second) {
+            dialogs_->ExpectInput("Please enter the new password", first);
+            dialogs_->ExpectInput("Please enter the new password once more", second);
+        };
+        dialogs_->ExpectInput("Please enter the new password", "");
+        AskForNewPassword();
+        QVERIFY(!AlbumHasPassword());
+        expect("a", "b");
+        dialogs_->ExpectBox("The two passwords differ", Icon::Warning);
+        expect("a", "a");
+        dialogs_->ExpectBoxBeginning("The album has its new password.", Icon::Information);
+        AskForNewPassword();
+        QVERIFY(AlbumHasPassword());
+        for (const auto answer : {Answer::Cancel, Answer::Yes}) {
+            dialogs_->ExpectBox(
+                "This album has a password. Do you want to remove it ?\nChoose No to change it.",
+                Icon::Question, Buttons::YesNoCancel, answer);
+            if (answer == Answer::Yes)
+                dialogs_->ExpectBox("The album has no password any more.");
+            AskForNewPassword();
+            QCOMPARE(AlbumHasPassword(), answer == Answer::Cancel);
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(TestAlbumPassword)
 #include "test_album_password.moc"

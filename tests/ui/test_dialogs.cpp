@@ -3,13 +3,6 @@
 #include "platform/widgets/QtDialogs.h"
 #include "support/ModalDriver.h"
 
-#include <QAbstractButton>
-#include <QFileDialog>
-#include <QInputDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QtTest>
@@ -23,119 +16,104 @@ class TestDialogs : public QObject
 
 private slots:
     void initTestCase() { Dialogs::Install(&dialogs_); }
-    void AsksWithTheButtonsGiven();
-    void AsksForText();
-    void ChoosesFiles();
-    void ReportsWhatAnActionThrows();
-    void LongWorkKeepsTheWindowsAlive();
+
+    void AsksWithTheButtonsGiven()
+    {
+        WhenModal("QMessageBox", [](QWidget& window) {
+            auto& box = dynamic_cast<QMessageBox&>(window);
+            QCOMPARE(box.text(), "Delete <b>it</b> ?");
+            QCOMPARE(box.textFormat(), Qt::PlainText);
+            QCOMPARE(box.icon(), QMessageBox::Question);
+            QCOMPARE(box.standardButton(box.defaultButton()), QMessageBox::Cancel);
+            box.button(QMessageBox::No)->click();
+        });
+        const auto answer = dialogs_.Ask({"Delete <b>it</b> ?", Dialogs::Icon::Question,
+                                          Dialogs::Buttons::YesNoCancel, Dialogs::Answer::Cancel});
+        QCOMPARE(answer, Dialogs::Answer::No);
+        WhenModal("QMessageBox", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
+        QCOMPARE(dialogs_.Ask({"Sure ?", Dialogs::Icon::None, Dialogs::Buttons::OkCancel}),
+                 Dialogs::Answer::Cancel);
+        WhenModal("QInputDialog", [](QWidget& window) {
+            auto& box = dynamic_cast<QInputDialog&>(window);
+            QCOMPARE(box.labelText(), "Name");
+            QCOMPARE(box.textValue(), "Old");
+            QCOMPARE(box.textEchoMode(), QLineEdit::Password);
+            box.setTextValue("New");
+            box.accept();
+        });
+        QCOMPARE(dialogs_.AskText({.prompt = "Name", .proposal = "Old", .isPassword = true}),
+                 "New");
+        // What an action throws.
+        WhenModal("QMessageBox", [](QWidget& window) {
+            auto& box = dynamic_cast<QMessageBox&>(window);
+            QCOMPARE(box.text(), "42 went wrong");
+            QCOMPARE(box.icon(), QMessageBox::Critical);
+            box.button(QMessageBox::Ok)->click();
+        });
+        QVERIFY(!RunGuarded([] { throw std::runtime_error("42 went wrong"); }));
+        QVERIFY(RunGuarded([] {}));
+    }
+
+    void ChoosesFiles()
+    {
+        const QTemporaryDir folder;
+        WhenModal("QFileDialog", [](QWidget& window) {
+            auto& dialog = dynamic_cast<QFileDialog&>(window);
+            QCOMPARE(dialog.windowTitle(), "Create a new Album");
+            QCOMPARE(dialog.nameFilters(), QStringList("Album (*.alb)"));
+            QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
+            dialog.findChild<QLineEdit*>()->setText("mine");
+            static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+        });
+        QCOMPARE(dialogs_.AskSaveFile({"Create a new Album", "Album|*.alb", folder.path()}),
+                 folder.filePath("mine.alb"));
+        WhenModal("QFileDialog", [](QWidget& window) { dynamic_cast<QDialog&>(window).reject(); });
+        QCOMPARE(dialogs_.AskOpenFile({"Open Album", "Album|*.alb", folder.path()}), "");
+    }
+
+    void LongWorkKeepsTheWindowsAlive()
+    {
+        const QThread* const own = QThread::currentThread();
+        int beats = 0;
+        QTimer heart;
+        connect(&heart, &QTimer::timeout, [&beats] { ++beats; });
+        heart.start(1);
+        WhenModal(
+            "frmLongWork",
+            [&](QWidget& window) {
+                QCOMPARE(Find<QLabel>(window, "lblWork").text(), "Working...");
+                QTest::keyClick(&window, Qt::Key_Escape);
+                QVERIFY(window.isVisible()); // until the work has noticed
+            },
+            false);
+        bool isElsewhere = false;
+        dialogs_.RunLong("Working...", true, [&](const auto& isStopped) {
+            isElsewhere = QThread::currentThread() != own;
+            while (!isStopped())
+                QThread::msleep(5);
+        });
+        QVERIFY(isElsewhere);
+        QVERIFY(beats > 0);
+        QVERIFY(!QApplication::activeModalWidget());
+
+        const auto fail = [](const auto&) { throw std::runtime_error("in vain"); };
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, dialogs_.RunLong("Working...", false, fail));
+        // What cannot be stopped is not stopped by closing its window either.
+        QTimer::singleShot(0, [] {
+            QTRY_VERIFY(QApplication::activeModalWidget());
+            QApplication::activeModalWidget()->close();
+        });
+        bool isDone = false;
+        dialogs_.RunLong("Working...", false, [&](const auto& isStopped) {
+            QThread::msleep(600);
+            isDone = !isStopped();
+        });
+        QVERIFY(isDone);
+    }
 
 private:
     QtDialogs dialogs_;
 };
-
-void TestDialogs::AsksWithTheButtonsGiven()
-{
-    WhenModal("QMessageBox", [](QWidget& window) {
-        auto& box = dynamic_cast<QMessageBox&>(window);
-        QCOMPARE(box.text(), "Delete <b>it</b> ?");
-        QCOMPARE(box.textFormat(), Qt::PlainText);
-        QCOMPARE(box.icon(), QMessageBox::Question);
-        QCOMPARE(box.standardButton(box.defaultButton()), QMessageBox::Cancel);
-        box.button(QMessageBox::No)->click();
-    });
-    const auto answer = dialogs_.Ask({"Delete <b>it</b> ?", Dialogs::Icon::Question,
-                                      Dialogs::Buttons::YesNoCancel, Dialogs::Answer::Cancel});
-    QCOMPARE(answer, Dialogs::Answer::No);
-    WhenModal("QMessageBox", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
-    QCOMPARE(dialogs_.Ask({"Sure ?", Dialogs::Icon::None, Dialogs::Buttons::OkCancel}),
-             Dialogs::Answer::Cancel);
-}
-
-void TestDialogs::AsksForText()
-{
-    WhenModal("QInputDialog", [](QWidget& window) {
-        auto& box = dynamic_cast<QInputDialog&>(window);
-        QCOMPARE(box.labelText(), "Name");
-        QCOMPARE(box.textValue(), "Old");
-        box.setTextValue("New");
-        box.accept();
-    });
-    QCOMPARE(dialogs_.AskText({"Name", "Old"}), "New");
-    WhenModal("QInputDialog", [](QWidget& window) {
-        QCOMPARE(window.findChild<QLineEdit*>()->echoMode(), QLineEdit::Password);
-        dynamic_cast<QInputDialog&>(window).reject();
-    });
-    QCOMPARE(dialogs_.AskText({.prompt = "Password", .proposal = "x", .isPassword = true}), "");
-}
-
-void TestDialogs::ChoosesFiles()
-{
-    const QTemporaryDir folder;
-    WhenModal("QFileDialog", [](QWidget& window) {
-        auto& dialog = dynamic_cast<QFileDialog&>(window);
-        QCOMPARE(dialog.windowTitle(), "Create a new Album");
-        QCOMPARE(dialog.nameFilters(), QStringList("Album (*.alb)"));
-        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
-        dialog.findChild<QLineEdit*>()->setText("mine");
-        static_cast<QDialog&>(dialog).done(QDialog::Accepted);
-    });
-    QCOMPARE(dialogs_.AskSaveFile({"Create a new Album", "Album|*.alb", folder.path()}),
-             folder.filePath("mine.alb"));
-    WhenModal("QFileDialog", [](QWidget& window) { dynamic_cast<QDialog&>(window).reject(); });
-    QCOMPARE(dialogs_.AskOpenFile({"Open Album", "Album|*.alb", folder.path()}), "");
-}
-
-void TestDialogs::ReportsWhatAnActionThrows()
-{
-    WhenModal("QMessageBox", [](QWidget& window) {
-        auto& box = dynamic_cast<QMessageBox&>(window);
-        QCOMPARE(box.text(), "42 went wrong");
-        QCOMPARE(box.icon(), QMessageBox::Critical);
-        box.button(QMessageBox::Ok)->click();
-    });
-    QVERIFY(!RunGuarded([] { throw std::runtime_error("42 went wrong"); }));
-    QVERIFY(RunGuarded([] {}));
-}
-
-void TestDialogs::LongWorkKeepsTheWindowsAlive()
-{
-    const QThread* const own = QThread::currentThread();
-    int beats = 0;
-    QTimer heart;
-    connect(&heart, &QTimer::timeout, [&beats] { ++beats; });
-    heart.start(1);
-    WhenModal(
-        "frmLongWork",
-        [&](QWidget& window) {
-            QCOMPARE(Find<QLabel>(window, "lblWork").text(), "Working...");
-            QTest::keyClick(&window, Qt::Key_Escape);
-            QVERIFY(window.isVisible()); // until the work has noticed
-        },
-        false);
-    bool isElsewhere = false;
-    dialogs_.RunLong("Working...", true, [&](const auto& isStopped) {
-        isElsewhere = QThread::currentThread() != own;
-        while (!isStopped())
-            QThread::msleep(5);
-    });
-    QVERIFY(isElsewhere);
-    QVERIFY(beats > 0);
-    QVERIFY(!QApplication::activeModalWidget());
-
-    const auto fail = [](const auto&) { throw std::runtime_error("in vain"); };
-    QVERIFY_THROWS_EXCEPTION(std::runtime_error, dialogs_.RunLong("Working...", false, fail));
-    // What cannot be stopped is not stopped by closing its window either.
-    QTimer::singleShot(0, [] {
-        QTRY_VERIFY(QApplication::activeModalWidget());
-        QApplication::activeModalWidget()->close();
-    });
-    bool isDone = false;
-    dialogs_.RunLong("Working...", false, [&](const auto& isStopped) {
-        QThread::msleep(600);
-        isDone = !isStopped();
-    });
-    QVERIFY(isDone);
-}
 
 QTEST_MAIN(TestDialogs)
 #include "test_dialogs.moc"

@@ -7,8 +7,6 @@
 #include "support/ScriptedDialogs.h"
 #include "viewer/frmReelvane.h"
 
-#include <QLabel>
-#include <QPushButton>
 #include <QtTest>
 
 // The viewer's window on an album of its own, with the words that a test needs to work it.
@@ -27,6 +25,15 @@ struct OpenViewer
         return chapter;
     }
 
+    // Their names are "p00", "p01" and so on; returns their paths.
+    QStringList AddPictures(int count, QSize size = {60, 40})
+    {
+        QStringList paths;
+        for (int i = 0; i < count; ++i)
+            paths += album.AddPicture(QString("p%1.png").arg(i, 2, 10, QChar(u'0')), {}, size);
+        return paths;
+    }
+
     void Open(qint32 chapter)
     {
         viewer.CurrentChapter = chapter;
@@ -40,21 +47,31 @@ struct OpenViewer
     QString Legend() { return LegendOf(viewer); }
     static void Press(QWidget& window, int key) { QTest::keyClick(&window, Qt::Key(key)); }
     void Press(int key) { Press(viewer, key); }
-    void Click(const char* button)
-    {
-        QTest::mouseClick(&Find<QPushButton>(viewer, button), Qt::LeftButton);
-    }
+    void Click(const char* button) { ::Click(viewer, button); }
 
     static QList<PictureBox*> Boxes(QWidget& window)
     {
         QList<PictureBox*> boxes;
         for (int i = 0; i < mostPictures; ++i) {
-            auto& box = Find<PictureBox>(window, QStringLiteral("imgImage_%1").arg(i));
+            auto& box = Find<PictureBox>(window, QString("imgImage_%1").arg(i));
             if (box.isVisible())
                 boxes += &box;
         }
         return boxes;
     }
+
+    QList<PictureBox*> Boxes() { return Boxes(viewer); }
+
+    // The names of the pictures on the screen.
+    static QStringList Shown(QWidget& window)
+    {
+        QStringList names;
+        for (const PictureBox* box : Boxes(window))
+            names += QFileInfo(box->GetTag()).completeBaseName();
+        return names;
+    }
+
+    QStringList Shown() { return Shown(viewer); }
 
     // Autoview: the delay is long, and a test lets it run out when it wants.
     QTimer& Timer() { return *viewer.findChild<QTimer*>("timImage"); }

@@ -1,17 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "OpenViewer.h"
 #include "core/Album.h"
-#include "core/ViewerFlags.h"
-#include "platform/widgets/PictureBox.h"
-#include "support/AlbumFixture.h"
-#include "support/ScriptedDialogs.h"
 #include "viewer/StoryPage.h"
-#include "viewer/frmReelvane.h"
-
-#include <QLabel>
-#include <QPushButton>
-#include <QtTest>
-
-#include <memory>
 
 // The viewer's real window, worked by keys and mouse.
 class TestViewer : public QObject
@@ -19,344 +9,259 @@ class TestViewer : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void ReadsAStoryByKeys();
-    void KeysWorkWhateverHasTheFocus();
-    void LaysPicturesOnLines();
-    void ZoomsWithinItsLimits();
-    void PagesThroughAParagraph();
-    void LinkedPicturesComeFirst();
-    void ClickShowsOnePictureLarge();
-    void EmptyChapterShowsEveryPicture();
-    void BrowsesOutsideTheStory();
-    void ResizeGoesBackToTheChaptersBeginning();
-    void MissingAndBrokenPictures();
-    void BadFilterCostsOnlyThePictures();
+    void ReadsAStoryByKeys()
+    {
+        OpenViewer story;
+        for (const char* name : {"a", "b", "c"})
+            story.album.AddPicture(QString(name) + ".png",
+                                   {{"Car0", name}, {"Legend", QString("the ") + name}});
+        const qint32 one = story.album.AddChapter("One");
+        story.album.AddChapter("Empty");
+        const qint32 three = story.album.AddChapter("Three");
+        story.album.AddParagraph(one, "First: <[Picture Legend]>", {{"Car0", "a"}});
+        story.album.AddParagraph(one, "Second: <[0]>", {{"Car0", "b"}});
+        story.album.AddParagraph(three, "Third", {{"Car0", "c"}});
+        story.Open(one);
+        QCOMPARE(story.Legend(), "First: the a");
+        const QString offer = "Click HERE to create first paragraph of the new chapter 'Empty'";
+        struct Step
+        {
+            Qt::Key key;
+            QString legend;
+            const char* title;
+            const char* picture;
+        };
+        const Step steps[] = {{Qt::Key_Right, "Second: b", "One", "b"},
+                              {Qt::Key_N, "Third", "Three", "c"},
+                              {Qt::Key_Space, "First: the a", "One", "a"}, // all were seen
+                              {Qt::Key_Left, "First: the a", "One", "a"},
+                              {Qt::Key_PageDown, offer, "Empty", "a b c"},
+                              {Qt::Key_PageDown, "Third", "Three", "c"},
+                              {Qt::Key_P, offer, "Empty", "a b c"},
+                              {Qt::Key_PageUp, "First: the a", "One", "a"},
+                              {Qt::Key_F1, "First: the a", "One", "a"},
+                              {Qt::Key_X, "First: the a", "One", "a"}};
+        for (const Step& step : steps) {
+            story.Press(step.key);
+            QCOMPARE(story.Legend(), step.legend);
+            QCOMPARE(story.viewer.windowTitle(), step.title);
+            QStringList shown = story.Shown();
+            shown.sort();
+            QCOMPARE(shown.join(u' '), step.picture);
+        }
+        QCOMPARE(story.album.Joined("SELECT count(*) FROM Paragraph"), "3"); // none was made
+        // Keys work whatever has the focus.
+        story.Click("cmdNextParagraph");
+        QCOMPARE(story.Legend(), "Second: b");
+        auto& button = Find<QPushButton>(story.viewer, "cmdPreviousParagraph");
+        button.setFocus();
+        QTest::keyClick(&button, Qt::Key_Space); // would press the button
+        QCOMPARE(story.Legend(), "Third");
+        QTest::keyClick(&button, Qt::Key_Q);
+        QVERIFY(!story.viewer.isVisible());
+    }
+
+    void LaysPicturesOnLines()
+    {
+        OpenViewer story;
+        for (int i = 0; i < 6; ++i)
+            story.album.AddPicture(QString("p%1.png").arg(i), {}, {300 + 20 * i, 200 + 30 * i});
+        story.Open(story.AddStory({"text"}));
+        const auto* page = story.viewer.findChild<StoryPage*>();
+        const ScreenShape shape = page->GetShape(1);
+        const int band = int(std::lround(shape.maxTotalHeight * page->height() / 100));
+        for (int lines = 1; lines <= 4; ++lines) {
+            QVERIFY(!story.Boxes().isEmpty());
+            QMap<int, QList<QRect>> byBottom;
+            for (const PictureBox* box : story.Boxes())
+                byBottom[box->y() + box->height()] += box->geometry();
+            QVERIFY(byBottom.size() <= lines);
+            QVERIFY(byBottom.lastKey() <= band);
+            for (QList<QRect>& line : byBottom) {
+                std::sort(line.begin(), line.end(),
+                          [](const QRect& a, const QRect& b) { return a.x() < b.x(); });
+                for (int i = 1; i < line.size(); ++i)
+                    QCOMPARE(line[i].x(), line[i - 1].x() + line[i - 1].width());
+                const int left = line.first().x();
+                const int right = page->width() - line.last().x() - line.last().width();
+                QVERIFY2(std::abs(left - right) <= 1, "line out of the middle");
+            }
+            story.Press(Qt::Key_Plus);
+        }
+    }
+
+    void ZoomsWithinItsLimits()
+    {
+        OpenViewer story;
+        story.AddPictures(30);
+        story.Open(story.AddStory({"text"}));
+        const QStringList first = story.Shown();
+        for (int lines = 2; lines <= 5; ++lines)
+            QTest::keyClick(&story.viewer, Qt::Key_Plus, Qt::KeypadModifier);
+        QCOMPARE(story.viewer.Nblines, 4);
+        QCOMPARE(story.Boxes().size(), 21);
+        QCOMPARE(story.Shown().first(first.size()), first); // the same, and more
+        story.Press(Qt::Key_Right);
+        const QStringList many = story.Shown();
+        for (int i = 0; i < 6; ++i)
+            story.Press(Qt::Key_Minus);
+        QCOMPARE(story.viewer.Nblines, 0);
+        QCOMPARE(story.Shown(), many.first(1));
+        // What was on the screen before comes again, one by one.
+        story.Press(Qt::Key_Down);
+        QCOMPARE(story.Shown(), many.sliced(1, 1));
+    }
+
+    void PagesThroughAParagraph()
+    {
+        OpenViewer story;
+        story.AddPictures(50);
+        const qint32 chapter = story.AddStory({"First"});
+        story.album.AddParagraph(chapter, "Second", {{"Car0", "none"}});
+        story.Open(chapter);
+        QStringList seen;
+        while (story.Legend() == "First") {
+            seen += story.Shown();
+            QVERIFY(seen.size() <= 50);
+            story.Press(Qt::Key_Down);
+        }
+        QCOMPARE(story.Legend(), "Second");
+        QCOMPARE(story.Shown(), QStringList());
+        QStringList sorted = seen;
+        sorted.sort();
+        QVERIFY(seen != sorted); // in random order
+        QCOMPARE(sorted.removeDuplicates(), 0);
+        QCOMPARE(sorted.size(), 50);
+        // Resizing goes back to the beginning of the chapter.
+        story.viewer.resize(800, 600);
+        QTRY_COMPARE(story.Legend(), "First");
+        QCOMPARE(story.viewer.Nblines, 1);
+    }
+
+    void ClickShowsOnePictureLarge()
+    {
+        OpenViewer story;
+        story.album.AddPicture("a.png", {{"Legend", "A"}}, {2000, 1000});
+        story.album.AddPicture("b.png", {{"Legend", "B"}}, {2000, 1000});
+        story.Open(story.AddStory({"<[Picture Legend]>"}));
+        story.StartAutoview("30"); // waits while a picture is alone, and while one is indexed
+        story.Press(Qt::Key_Plus);
+        const QString before = story.Legend();
+        PictureBox* box = story.Boxes().first();
+        const int small = box->width();
+        QTest::mouseClick(box, Qt::LeftButton);
+        auto& large = Find<PictureBox>(story.viewer, "imgFullSize");
+        QVERIFY(large.isVisible() && !box->isVisible());
+        QVERIFY(!story.Timer().isActive());
+        QVERIFY(large.width() > small);
+        QCOMPARE(story.Legend(), box->GetTag().endsWith("a.png") ? "A" : "B");
+        QTest::mouseClick(&large, Qt::LeftButton);
+        QVERIFY(!large.isVisible() && story.Timer().isActive());
+        QCOMPARE(story.Boxes().size(), 2);
+        QCOMPARE(story.Legend(), before);
+        QTest::mouseClick(box, Qt::LeftButton);
+        story.Click("cmdNextParagraph"); // leaves the picture as well
+        QVERIFY(!large.isVisible() && story.Timer().isActive());
+    }
+
+    void FollowsToWhereWritingStopped()
+    {
+        OpenViewer story;
+        story.Open(story.AddStory({"First"}));
+        WhenModal("frmEditParagraph", [](QWidget& editor) {
+            Click(editor, "cmdCreateNext");
+            QTest::keyClicks(&Find<QPlainTextEdit>(editor, "txtParagraph"), "Second");
+            QTest::keyClick(&editor, Qt::Key_Escape);
+        });
+        story.Press(Qt::Key_E);
+        QCOMPARE(story.Legend(), "Second");
+    }
+
+    void MissingAndBrokenPictures()
+    {
+        OpenViewer story;
+        const QStringList files = story.AddPictures(3);
+        QFile::remove(files[0]);
+        WriteFile(files[1], "no picture");
+        story.album.AddChapter("One");
+        story.album.AddParagraph(1, "text");
+        story.album.AddParagraph(1, "bad filter", {{"Car0", "O'Neil"}});
+        story.Open(1);
+        QStringList shown = story.Shown();
+        shown.sort();
+        QCOMPARE(shown, QStringList({"p01", "p02"}));
+        for (const PictureBox* box : story.Boxes())
+            QCOMPARE(box->GetPicture().isNull(), box->GetTag() == files[1]);
+        QVERIFY(!story.viewer.grab().isNull());
+        story.dialogs.ExpectBoxBeginning("3075 ", Dialogs::Icon::Critical);
+        story.Press(Qt::Key_Right);
+        QCOMPARE(story.Legend(), "bad filter");
+        QCOMPARE(story.Boxes().size(), 0);
+    }
+
+    // A right click on a picture, and what the viewer shows afterwards.
+    void IndexesPictures()
+    {
+        OpenViewer story;
+        QStringList files = story.AddPictures(3);
+        story.Open(story.AddStory({"Here: <[Picture Legend]>"}));
+        QCOMPARE(story.Legend(), "Here: ");
+        for (int box = 0; box < 3; ++box) {
+            Index(story, box, [](QWidget& window) {
+                Find<QLineEdit>(window, "txtLegend").setText("after");
+                window.close();
+            });
+        }
+        QCOMPARE(story.Legend(), "Here: after");
+        const QString gone = story.Boxes()[1]->GetTag();
+        story.dialogs.ExpectBox("Do you also want to delete the file " + gone + " ?",
+                                Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
+                                Dialogs::Answer::No);
+        Index(story, 1, [](QWidget& window) { Click(window, "cmdDelete"); });
+        QCOMPARE(story.Boxes().size(), 2);
+        QVERIFY(!story.Shown().contains(QFileInfo(gone).completeBaseName()));
+        QVERIFY(QFile::exists(gone));
+    }
+
+    void IndexingGoesOnThroughTheList()
+    {
+        OpenViewer browsing;
+        browsing.AddPictures(3, {3000, 1000}); // each fills the line
+        browsing.Open(0);
+        browsing.StartAutoview("30");
+        QCOMPARE(browsing.Shown().size(), 1);
+        QStringList seen;
+        Index(browsing, 0, [&](QWidget& window) {
+            QVERIFY(!browsing.Timer().isActive());
+            seen += Find<QLabel>(window, "lblFileName").text();
+            Click(window, "cmdNextImage");
+            seen += Find<QLabel>(window, "lblFileName").text();
+            window.close();
+        });
+        QCOMPARE(seen.size(), 2);
+        QVERIFY(seen[0] != seen[1]);
+        // The one that was indexed on the way does not come again.
+        QCOMPARE(browsing.Legend(), "1 images left");
+        browsing.Press(Qt::Key_Down);
+        QVERIFY(!seen.contains(browsing.Boxes().first()->GetTag()));
+        // Behind the last picture nothing more comes, and autoview stays on.
+        browsing.Tick();
+        QTRY_COMPARE(browsing.Timer().interval(), 30000);
+        QVERIFY(browsing.viewer.isVisible());
+        WhenModal("frmFullScreen", [](QWidget& full) { OpenViewer::Press(full, Qt::Key_Escape); });
+        browsing.Click("cmdHideMenu");
+        QVERIFY(!browsing.viewer.isVisible()); // closes both, as opposed to a story
+    }
 
 private:
-    void Open(qint32 chapter);
-    void Press(int key) { QTest::keyClick(viewer_.get(), Qt::Key(key)); }
-    QString Legend() const { return viewer_->findChild<QLabel*>("lblLegend")->text(); }
-    QList<PictureBox*> Boxes() const;
-    QStringList Shown() const;
-
-    std::unique_ptr<AlbumFixture> album_;
-    std::unique_ptr<ScriptedDialogs> dialogs_;
-    std::unique_ptr<frmReelvane> viewer_;
+    static void Index(OpenViewer& open, int box, const std::function<void(QWidget&)>& action)
+    {
+        WhenModal("frmEditImage", action);
+        QTest::mouseClick(open.Boxes()[box], Qt::RightButton);
+    }
 };
-
-void TestViewer::init()
-{
-    album_ = std::make_unique<AlbumFixture>();
-    dialogs_ = std::make_unique<ScriptedDialogs>();
-    viewer_ = std::make_unique<frmReelvane>();
-}
-
-void TestViewer::cleanup()
-{
-    viewer_.reset();
-    dialogs_.reset();
-    album_.reset();
-}
-
-void TestViewer::Open(qint32 chapter)
-{
-    viewer_->CurrentChapter = chapter;
-    viewer_->resize(1000, 700);
-    viewer_->show();
-    QVERIFY(QTest::qWaitForWindowExposed(viewer_.get()));
-    QTRY_VERIFY(!Legend().isEmpty());
-}
-
-QList<PictureBox*> TestViewer::Boxes() const
-{
-    QList<PictureBox*> boxes;
-    for (int i = 0; i < mostPictures; ++i) {
-        auto* box = viewer_->findChild<PictureBox*>(QStringLiteral("imgImage_%1").arg(i));
-        if (box->isVisible() != !box->GetTag().isEmpty())
-            QTest::qFail("a box is visible without a picture, or hidden with one", __FILE__,
-                         __LINE__);
-        if (box->isVisible())
-            boxes += box;
-    }
-    return boxes;
-}
-
-QStringList TestViewer::Shown() const
-{
-    QStringList files;
-    for (const PictureBox* box : Boxes())
-        files += QFileInfo(box->GetTag()).completeBaseName();
-    return files;
-}
-
-void TestViewer::ReadsAStoryByKeys()
-{
-    for (const char* name : {"a", "b", "c"})
-        album_->AddPicture(QString(name) + ".png",
-                           {{"Car0", name}, {"Legend", QString("the ") + name}});
-    const qint32 one = album_->AddChapter("One");
-    album_->AddChapter("Empty");
-    const qint32 three = album_->AddChapter("Three");
-    album_->AddParagraph(one, "First: <[Picture Legend]>", {{"Car0", "a"}});
-    album_->AddParagraph(one, "Second: <[0]>", {{"Car0", "b"}});
-    album_->AddParagraph(three, "Third", {{"Car0", "c"}});
-    Open(one);
-
-    QCOMPARE(viewer_->windowTitle(), "One");
-    QCOMPARE(Legend(), "First: the a");
-    QCOMPARE(Shown(), QStringList("a"));
-    Press(Qt::Key_Right);
-    QCOMPARE(Legend(), "Second: b");
-    QCOMPARE(Shown(), QStringList("b"));
-    Press(Qt::Key_N);
-    QCOMPARE(Legend(), "Third");
-    QCOMPARE(viewer_->windowTitle(), "Three");
-    Press(Qt::Key_Space); // all its pictures were seen
-    QCOMPARE(Legend(), "First: the a");
-    Press(Qt::Key_Left);
-    QCOMPARE(Legend(), "First: the a");
-    Press(Qt::Key_PageDown);
-    QCOMPARE(Legend(), "Click HERE to create first paragraph of the new chapter 'Empty'");
-    QCOMPARE(viewer_->windowTitle(), "Empty");
-    Press(Qt::Key_PageDown);
-    QCOMPARE(Legend(), "Third");
-    Press(Qt::Key_P);
-    QCOMPARE(viewer_->windowTitle(), "Empty");
-    Press(Qt::Key_PageUp);
-    Press(Qt::Key_Right);
-    QCOMPARE(Legend(), "Second: b");
-    Press(Qt::Key_PageUp);
-    QCOMPARE(Legend(), "First: the a");
-    Press(Qt::Key_F1);
-    Press(Qt::Key_X);
-    QCOMPARE(Legend(), "First: the a");
-    Press(Qt::Key_Q);
-    QVERIFY(!viewer_->isVisible());
-}
-
-void TestViewer::KeysWorkWhateverHasTheFocus()
-{
-    const qint32 chapter = album_->AddChapter("One");
-    album_->AddParagraph(chapter, "First");
-    album_->AddParagraph(chapter, "Second");
-    Open(chapter);
-    auto* button = viewer_->findChild<QPushButton*>("cmdPreviousParagraph");
-    button->setFocus();
-    QTest::keyClick(button, Qt::Key_Right);
-    QCOMPARE(Legend(), "Second");
-    QTest::keyClick(button, Qt::Key_Space); // would press the button
-    QCOMPARE(Legend(), "First");
-    QTest::mouseClick(viewer_->findChild<QPushButton*>("cmdNextParagraph"), Qt::LeftButton);
-    QCOMPARE(Legend(), "Second");
-}
-
-void TestViewer::LaysPicturesOnLines()
-{
-    const qint32 chapter = album_->AddChapter("One");
-    for (int i = 0; i < 6; ++i)
-        album_->AddPicture(QStringLiteral("p%1.png").arg(i), {}, {300 + 20 * i, 200 + 30 * i});
-    album_->AddParagraph(chapter, "text");
-    Open(chapter);
-    const auto* page = viewer_->findChild<StoryPage*>();
-    const ScreenShape shape = page->GetShape(1);
-    const int band = int(std::lround(shape.maxTotalHeight * page->height() / 100));
-    for (int lines = 1; lines <= 4; ++lines) {
-        const QList<PictureBox*> boxes = Boxes();
-        QVERIFY(!boxes.isEmpty());
-        QMap<int, QList<QRect>> byBottom;
-        for (const PictureBox* box : boxes)
-            byBottom[box->y() + box->height()] += box->geometry();
-        QVERIFY(byBottom.size() <= lines);
-        QVERIFY(byBottom.lastKey() <= band);
-        for (QList<QRect>& line : byBottom) {
-            std::sort(line.begin(), line.end(),
-                      [](const QRect& a, const QRect& b) { return a.x() < b.x(); });
-            for (int i = 1; i < line.size(); ++i)
-                QCOMPARE(line[i].x(), line[i - 1].x() + line[i - 1].width());
-            const int left = line.first().x();
-            const int right = page->width() - line.last().x() - line.last().width();
-            QVERIFY2(std::abs(left - right) <= 1, "line out of the middle");
-        }
-        Press(Qt::Key_Plus);
-    }
-}
-
-void TestViewer::ZoomsWithinItsLimits()
-{
-    const qint32 chapter = album_->AddChapter("One");
-    for (int i = 0; i < 30; ++i)
-        album_->AddPicture(QStringLiteral("p%1.png").arg(i));
-    album_->AddParagraph(chapter, "text");
-    Open(chapter);
-    const QStringList first = Shown();
-    for (int lines = 2; lines <= 5; ++lines)
-        QTest::keyClick(viewer_.get(), Qt::Key_Plus, Qt::KeypadModifier);
-    QCOMPARE(viewer_->Nblines, 4);
-    QCOMPARE(Boxes().size(), 21);
-    QCOMPARE(Shown().first(first.size()), first); // the same pictures, and more
-    QCOMPARE(viewer_->findChild<QLabel*>("lblLegend")->alignment() & Qt::AlignHorizontal_Mask,
-             Qt::AlignHCenter); // stays until the next paragraph
-    Press(Qt::Key_Right);
-    QCOMPARE(viewer_->findChild<QLabel*>("lblLegend")->alignment() & Qt::AlignHorizontal_Mask,
-             Qt::AlignLeft);
-    const QStringList many = Shown();
-    for (int i = 0; i < 6; ++i)
-        Press(Qt::Key_Minus);
-    QCOMPARE(viewer_->Nblines, 0);
-    QCOMPARE(Shown(), many.first(1));
-    const QRect alone = Boxes().first()->geometry();
-    const auto* page = viewer_->findChild<StoryPage*>();
-    QVERIFY(std::abs(alone.center().x() - page->width() / 2) <= 1);
-    // What was on the screen before comes again, one by one.
-    Press(Qt::Key_Down);
-    QCOMPARE(Shown(), many.sliced(1, 1));
-}
-
-void TestViewer::PagesThroughAParagraph()
-{
-    const qint32 chapter = album_->AddChapter("One");
-    QStringList all;
-    for (int i = 0; i < 50; ++i)
-        all +=
-            QFileInfo(album_->AddPicture(QStringLiteral("p%1.png").arg(i, 2, 10, QChar(u'0')), {}))
-                .completeBaseName();
-    album_->AddParagraph(chapter, "First");
-    album_->AddParagraph(chapter, "Second", {{"Car0", "none"}});
-    Open(chapter);
-    QStringList seen;
-    while (Legend() == "First") {
-        seen += Shown();
-        QVERIFY(seen.size() <= 50);
-        Press(Qt::Key_Down);
-    }
-    QCOMPARE(Legend(), "Second");
-    QCOMPARE(Shown(), QStringList());
-    QVERIFY(seen != all); // in random order
-    seen.sort();
-    QCOMPARE(seen, all);
-}
-
-void TestViewer::LinkedPicturesComeFirst()
-{
-    const qint32 chapter = album_->AddChapter("One");
-    QStringList files;
-    for (int i = 0; i < 40; ++i)
-        files += album_->AddPicture(QStringLiteral("p%1.png").arg(i), {}, {400, 300});
-    const qint32 paragraph = album_->AddParagraph(chapter, "text");
-    album_->Link(paragraph, files[33]);
-    album_->Link(paragraph, files[17]);
-    Open(chapter);
-    QStringList first = Shown().first(2);
-    first.sort();
-    QCOMPARE(first, QStringList({"p17", "p33"}));
-}
-
-void TestViewer::ClickShowsOnePictureLarge()
-{
-    const qint32 chapter = album_->AddChapter("One");
-    album_->AddPicture("a.png", {{"Legend", "A"}}, {2000, 1000});
-    album_->AddPicture("b.png", {{"Legend", "B"}}, {2000, 1000});
-    album_->AddParagraph(chapter, "<[Picture Legend]>");
-    Open(chapter);
-    Press(Qt::Key_Plus);
-    QCOMPARE(Boxes().size(), 2);
-    const QString before = Legend();
-    PictureBox* box = Boxes().first();
-    const int small = box->width();
-    const QString file = box->GetTag();
-    QTest::mouseClick(box, Qt::LeftButton);
-    auto* large = viewer_->findChild<PictureBox*>("imgFullSize");
-    QVERIFY(large->isVisible() && !box->isVisible());
-    QVERIFY(large->width() > small);
-    QCOMPARE(Legend(), file.endsWith("a.png") ? "A" : "B");
-    QTest::mouseClick(large, Qt::LeftButton);
-    QVERIFY(!large->isVisible());
-    QCOMPARE(Boxes().size(), 2);
-    QCOMPARE(Legend(), before);
-}
-
-void TestViewer::EmptyChapterShowsEveryPicture()
-{
-    album_->AddPicture("a.png", {{"Car0", "x"}});
-    album_->AddPicture("b.png");
-    Open(album_->AddChapter("It's new"));
-    QCOMPARE(Legend(), "Click HERE to create first paragraph of the new chapter 'It's new'");
-    QCOMPARE(Boxes().size(), 2);
-    Press(Qt::Key_Right);
-    Press(Qt::Key_Minus);
-    QCOMPARE(Legend(), "Click HERE to create first paragraph of the new chapter 'It's new'");
-    Press(Qt::Key_Plus); // tells by the paragraph, as opposed to minus
-    QCOMPARE(Legend(), "0 images left");
-    QCOMPARE(album_->Rows("SELECT count(*) FROM Paragraph"), QStringList("0"));
-}
-
-void TestViewer::BrowsesOutsideTheStory()
-{
-    for (int i = 0; i < 30; ++i)
-        album_->AddPicture(QStringLiteral("p%1.png").arg(i), {{"Car0", i < 25 ? "-" : "known"}},
-                           {800, 600});
-    viewer_->ImageSelection = "-";
-    Open(0);
-    QCOMPARE(Legend(), "25 images found");
-    QCOMPARE(Boxes().first()->toolTip(), "Click to index picture");
-    const int first = int(Boxes().size());
-    Press(Qt::Key_Space);
-    QCOMPARE(Legend(), QStringLiteral("%1 images left").arg(25 - first - Boxes().size()));
-    album_->Execute("UPDATE Image SET Car0='known' WHERE File LIKE '%p1%'");
-    QTest::mouseClick(viewer_->findChild<QPushButton*>("cmdRefresh"), Qt::LeftButton);
-    QCOMPARE(Legend(), "14 images found");
-}
-
-void TestViewer::ResizeGoesBackToTheChaptersBeginning()
-{
-    const qint32 chapter = album_->AddChapter("One");
-    album_->AddParagraph(chapter, "First");
-    album_->AddParagraph(chapter, "Second");
-    Open(chapter);
-    Press(Qt::Key_Plus);
-    Press(Qt::Key_Right);
-    QCOMPARE(Legend(), "Second");
-    viewer_->resize(800, 600);
-    QTRY_COMPARE(Legend(), "First");
-    QCOMPARE(viewer_->Nblines, 1);
-}
-
-void TestViewer::MissingAndBrokenPictures()
-{
-    const qint32 chapter = album_->AddChapter("One");
-    const QString gone = album_->AddPicture("gone.png");
-    const QString broken = album_->AddPicture("broken.png");
-    album_->AddPicture("sound.png");
-    QFile::remove(gone);
-    QFile file(broken);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no picture") > 0);
-    file.close();
-    album_->AddParagraph(chapter, "text");
-    Open(chapter);
-    QStringList shown = Shown();
-    shown.sort();
-    QCOMPARE(shown, QStringList({"broken", "sound"}));
-    for (const PictureBox* box : Boxes())
-        QCOMPARE(box->GetPicture().isNull(), box->GetTag() == broken);
-    QVERIFY(!viewer_->grab().isNull());
-}
-
-void TestViewer::BadFilterCostsOnlyThePictures()
-{
-    const qint32 chapter = album_->AddChapter("One");
-    album_->AddPicture("a.png");
-    album_->AddParagraph(chapter, "First", {{"Car0", "O'Neil"}});
-    album_->AddParagraph(chapter, "Second");
-    dialogs_->ExpectBoxBeginning("3075 ", Dialogs::Icon::Critical);
-    Open(chapter);
-    QTRY_COMPARE(Legend(), "First");
-    QCOMPARE(Boxes().size(), 0);
-    Press(Qt::Key_Right);
-    QCOMPARE(Legend(), "Second");
-    QCOMPARE(Boxes().size(), 1);
-}
 
 QTEST_MAIN(TestViewer)
 #include "test_viewer.moc"
+
+#include <algorithm>

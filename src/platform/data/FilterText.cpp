@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 // Both keep below the engine's own limits (999 bound values, expressions 1,000 deep).

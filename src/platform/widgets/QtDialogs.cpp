@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QMessageBox>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int inputWidth = 420; // logical pixels; a chapter's name or a path's end is seen whole

@@ -5,25 +5,12 @@
 #include <QElapsedTimer>
 #include <QtTest>
 
-// Readers that fail as no sound file makes them fail: scripts of the shell stand in for them.
-class TestReaderProcess : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void TakesFramesInPieces();
-    void EndsAReaderThatHangs();
-    void NoticesACrash();
-    void RefusesNonsense();
-    void IsNotThere();
-};
-
 namespace {
 
 // A page's frame with that number, as the shell's printf writes it.
 QString PageFrame(int page)
 {
-    return QStringLiteral("printf 'P\\004\\000\\000\\000\\%1\\000\\000\\000';")
+    return QString("printf 'P\\004\\000\\000\\000\\%1\\000\\000\\000';")
         .arg(page, 3, 8, QLatin1Char('0'));
 }
 
@@ -39,57 +26,61 @@ quint32 PageOf(const std::optional<ReaderProcess::Frame>& frame)
 
 } // namespace
 
-void TestReaderProcess::TakesFramesInPieces()
+// Readers that fail as no sound file makes them fail: scripts of the shell stand in for them.
+class TestReaderProcess : public QObject
 {
-    ReaderProcess reader = Start("printf 'P\\004\\000'; sleep 0.1; printf '\\000\\000\\007\\000';"
-                                 "sleep 0.1; printf '\\000\\000';" +
-                                 PageFrame(8));
-    int patience = 20000;
-    QCOMPARE(PageOf(reader.Next(patience)), 7U);
-    QCOMPARE(PageOf(reader.Next(patience)), 8U);
-    QVERIFY(!reader.Next(patience));
-    QCOMPARE(reader.GetVolume(), 18);
-    QCOMPARE(patience, 20000);
-    QCOMPARE(reader.Finish(), 0);
-}
+    Q_OBJECT
 
-void TestReaderProcess::EndsAReaderThatHangs()
-{
-    ReaderProcess reader = Start(PageFrame(3) + "exec sleep 100");
-    int patience = 20000;
-    QCOMPARE(PageOf(reader.Next(patience)), 3U);
-    patience = 300;
-    QElapsedTimer time;
-    time.start();
-    QVERIFY(!reader.Next(patience));
-    QVERIFY(time.elapsed() >= 300 && time.elapsed() < 20000);
-    QCOMPARE(patience, 0);
-    QVERIFY(!reader.Next(patience));
-    QCOMPARE(reader.Finish(), -1);
-}
+private slots:
+    void TakesFramesInPieces()
+    {
+        ReaderProcess reader =
+            Start("printf 'P\\004\\000'; sleep 0.1; printf '\\000\\000\\007\\000';"
+                  "sleep 0.1; printf '\\000\\000';" +
+                  PageFrame(8));
+        int patience = 20000;
+        QCOMPARE(PageOf(reader.Next(patience)), 7U);
+        QCOMPARE(PageOf(reader.Next(patience)), 8U);
+        QVERIFY(!reader.Next(patience));
+        QCOMPARE(reader.GetVolume(), 18);
+        QCOMPARE(patience, 20000);
+        QCOMPARE(reader.Finish(), 0);
+    }
 
-void TestReaderProcess::NoticesACrash()
-{
-    ReaderProcess reader = Start(PageFrame(3) + "sleep 0.5; kill -SEGV $$");
-    int patience = 20000;
-    QCOMPARE(PageOf(reader.Next(patience)), 3U);
-    QVERIFY(!reader.Next(patience));
-    QVERIFY(patience > 0 && patience < 20000);
-    QCOMPARE(reader.Finish(), -1);
-}
+    void EndsAReaderThatHangs()
+    {
+        ReaderProcess reader = Start(PageFrame(3) + "exec sleep 100");
+        int patience = 20000;
+        QCOMPARE(PageOf(reader.Next(patience)), 3U);
+        patience = 300;
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(!reader.Next(patience));
+        QVERIFY(time.elapsed() >= 300 && time.elapsed() < 20000);
+        QCOMPARE(patience, 0);
+        QVERIFY(!reader.Next(patience));
+        QCOMPARE(reader.Finish(), -1);
+    }
 
-void TestReaderProcess::RefusesNonsense()
-{
-    ReaderProcess reader = Start("exec yes");
-    int patience = 20000;
-    QVERIFY(!reader.Next(patience));
-    QVERIFY(patience > 0);
-}
+    void RefusesNonsense()
+    {
+        ReaderProcess reader = Start("exec yes");
+        int patience = 20000;
+        QVERIFY(!reader.Next(patience));
+        QVERIFY(patience > 0);
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, ReaderProcess({}, "/nowhere/reader"));
+    }
 
-void TestReaderProcess::IsNotThere()
-{
-    QVERIFY_THROWS_EXCEPTION(DatabaseError, ReaderProcess({}, "/nowhere/reader"));
-}
+    void NoticesACrash()
+    {
+        ReaderProcess reader = Start(PageFrame(3) + "sleep 0.5; kill -SEGV $$");
+        int patience = 20000;
+        QCOMPARE(PageOf(reader.Next(patience)), 3U);
+        QVERIFY(!reader.Next(patience));
+        QVERIFY(patience > 0 && patience < 20000);
+        QCOMPARE(reader.Finish(), -1);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestReaderProcess)
 #include "test_reader_process.moc"

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/MovedPictures.h"
+#include "catalogue/PictureLoading.h"
+#include "catalogue/frmLoadFiles.h"
+#include "catalogue/frmReloadPictures.h"
+#include "core/Album.h"
+#include "support/AlbumTest.h"
+#include "support/ModalDriver.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <stdexcept>
+
+using GeneralModule::AlbumDatabase;
+
+namespace {
+
+QStringList Numbered(int count)
+{
+    QStringList names;
+    for (int i = 0; i < count; ++i)
+        names.append(QString("%1.jpg").arg(i));
+    return names;
+}
+
+bool GoOn(int)
+{
+    return true;
+}
+
+} // namespace
+
+// Loading pictures, and pointing to those that moved: by the windows and the routines below.
+class TestPictureFiles : public AlbumTest
+{
+    Q_OBJECT
+
+private slots:
+    void CountsAndLoads()
+    {
+        for (const char* name : {"/a'b''.jpg", "/[1]#*%?\"\n.GIF", "/c.png", "/d.txt"})
+            WriteFile(Folder() + name);
+        album_->AddImageRow(Folder() + "/a'b''.jpg", {{"Legend", "kept"}, {"Car0", "Anna"}});
+        frmLoadFiles window;
+        window.show();
+        auto& feedback = Find<QLabel>(window, "lblFeedback");
+        auto& types = Find<QLineEdit>(window, "txtPictureTypes");
+        Find<QWidget>(window, "dirPicturesToLoad").setProperty("Path", Folder());
+        QCOMPARE(feedback.text(), "2 picture(s) selected");
+        types.setText("*.*");
+        QCOMPARE(feedback.text(), "4 picture(s) selected");
+        types.setText("*.jpg;*.gif");
+        for (int time = 0; time < 2; ++time) {
+            Click(window, "cmdLoad");
+            QCOMPARE(feedback.text(), "2 picture(s) loaded");
+            QCOMPARE(album_->Rows("SELECT * FROM Image"),
+                     QStringList({Folder() + "/a'b''.jpg||Anna|-|-|-|-|-|-|-|-|-|-|-|kept",
+                                  Folder() + "/[1]#*%?\"\n.GIF||-|-|-|-|-|-|-|-|-|-|-|-|"}));
+        }
+        types.setText("*.tif");
+        Click(window, "cmdLoad");
+        QCOMPARE(feedback.text(), "0 picture(s) loaded");
+    }
+
+    void FullDiskKeepsRowsBefore()
+    {
+        QVERIFY(QDir().mkpath(Folder()));
+        album_->AddImageRow("/before.jpg");
+        const int pages = album_->Rows("PRAGMA page_count").first().toInt();
+        AlbumDatabase->Execute("PRAGMA max_page_count=" + QByteArray::number(pages + 400));
+        const auto load = [this] {
+            LoadPictures(Folder(), Numbered(100'000), [](int) { return true; });
+        };
+        QCOMPARE(ErrorOf(load), int(DatabaseError::DiskFull));
+        const QStringList files = album_->Rows("SELECT File FROM Image ORDER BY rowid");
+        QVERIFY(files.size() >= 1001 && files.first() == "/before.jpg");
+        QCOMPARE(album_->Joined("PRAGMA integrity_check"), "ok");
+    }
+
+    void LockedAlbumIsTold()
+    {
+        WriteFile(Folder() + "/a.jpg");
+        frmLoadFiles window;
+        window.show();
+        Find<QWidget>(window, "dirPicturesToLoad").setProperty("Path", Folder());
+        sqlite3* other = nullptr;
+        QCOMPARE(sqlite3_open(album_->GetAlbum().toUtf8(), &other), SQLITE_OK);
+        QCOMPARE(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+        dialogs_->ExpectBoxBeginning("3260 The album is being changed", Icon::Critical);
+        Click(window, "cmdLoad");
+        QVERIFY(dialogs_->IsDone());
+        QCOMPARE(Find<QLabel>(window, "lblFeedback").text(), "Loading pictures...");
+        QVERIFY(!QApplication::overrideCursor());
+        sqlite3_close(other);
+        Click(window, "cmdLoad");
+        QCOMPARE(Find<QLabel>(window, "lblFeedback").text(), "1 picture(s) loaded");
+    }
+
+    void KeepsWhatWasLoadedBeforeItStopped()
+    {
+        QVERIFY(QDir().mkpath(Folder()));
+        const auto stop = [](int count) { return count < 20; };
+        QCOMPARE(LoadPictures(Folder(), Numbered(50), stop), 20);
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image"), "20");
+        const auto vanish = [this](int count) {
+            if (count == 500)
+                QDir(Folder()).removeRecursively();
+            return true;
+        };
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error,
+                                 LoadPictures(Folder(), Numbered(3000), vanish));
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image"), "1000");
+    }
+
+    void RepointsByItsWindow()
+    {
+        album_->AddImageRow("C:\\Photos\\a.jpg", {{"Legend", "kept"}});
+        album_->AddImageRow("C:\\Photos\\sub\\b.jpg");
+        album_->AddImageRow("C:\\Photos\\gone.jpg");
+        album_->AddImageRow("C:\\Photos\\noextension");
+        album_->AddImageRow("C:\\Other\\a.jpg");
+        QCOMPARE(PictureFolders(),
+                 QStringList({"C:\\Photos\\", "C:\\Photos\\sub\\", "C:\\Photos\\", "C:\\Other\\"}));
+        for (const char* name : {"new/a.jpg", "new/b.jpg", "new/noextension"})
+            WriteFile(album_->PathOf(name));
+        frmReloadPictures window;
+        window.show();
+        auto& feedback = Find<QLabel>(window, "lblFeedback");
+        QCOMPARE(Find<QLabel>(window, "lblOldReferences").text(), "C:\\Photos\\*.*");
+        dialogs_->ExpectBoxBeginning("Please choose the new folder first", Icon::Warning);
+        Click(window, "cmdReloadPictures");
+        Find<QWidget>(window, "dirNewReferences").setProperty("Path", album_->PathOf("new"));
+        QCOMPARE(Find<QLabel>(window, "lblNewReferences").text(), album_->PathOf("new/*.*"));
+        Click(window, "cmdReloadPictures");
+        QCOMPARE(feedback.text(), "2 picture references updated");
+        QCOMPARE(Files(), QStringList({album_->PathOf("new/a.jpg"), album_->PathOf("new/b.jpg"),
+                                       "C:\\Photos\\gone.jpg", "C:\\Photos\\noextension",
+                                       "C:\\Other\\a.jpg"}));
+        QCOMPARE(album_->Joined("SELECT Legend FROM Image LIMIT 1"), "kept");
+        Find<QListWidget>(window, "lstOldReferences").setCurrentRow(3);
+        QCOMPARE(feedback.text(), "");
+        QCOMPARE(Find<QLabel>(window, "lblOldReferences").text(), "C:\\Other\\*.*");
+    }
+
+    void TakesFolderNamesAsTheyAre()
+    {
+        // Beside one that it would stand for if its signs were read as a pattern.
+        const QString folder = album_->PathOf("it's [1]*#/");
+        const QString other = album_->PathOf("it's 1 and 2/1.jpg");
+        album_->AddImageRow(other);
+        const QStringList files = QStringList(other) + AddMoved(folder, folder + "n'e[w]/");
+        for (int time = 0; time < 2; ++time) { // then they are there: each counts, none changes
+            QCOMPARE(RepointPictures(folder, folder + "n'e[w]", GoOn), 3);
+            QCOMPARE(Files(), files);
+        }
+    }
+
+    void FailureKeepsWhatWasDone()
+    {
+        const QStringList moved = AddMoved("/old/", album_->PathOf("new/"));
+        const auto failAfterTwo = [](int updated) {
+            if (updated == 2)
+                GeneralModule::AlbumDatabase->Execute("PRAGMA query_only=1");
+            return true;
+        };
+        QVERIFY_THROWS_EXCEPTION(DatabaseError,
+                                 RepointPictures("/old/", album_->PathOf("new"), failAfterTwo));
+        QCOMPARE(Files(), QStringList({moved[0], moved[1], "/old/3.jpg"}));
+        QCOMPARE(album_->Joined("PRAGMA integrity_check"), "ok");
+    }
+
+private:
+    QString Folder() const { return album_->PathOf("pictures"); }
+
+    // Three pictures of the album that lie elsewhere now; returns where.
+    QStringList AddMoved(const QString& from, const QString& to) const
+    {
+        QStringList moved;
+        for (const char* name : {"1.jpg", "2.jpg", "3.jpg"}) {
+            album_->AddImageRow(from + name);
+            moved += to + name;
+            WriteFile(moved.last());
+        }
+        return moved;
+    }
+
+    QStringList Files() const { return album_->Rows("SELECT File FROM Image ORDER BY rowid"); }
+};
+
+QTEST_MAIN(TestPictureFiles)
+#include "test_picture_files.moc"

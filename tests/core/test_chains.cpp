@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+#include "core/Album.h"
+#include "core/AlbumRepair.h"
+#include "core/ChainMending.h"
+#include "core/ChapterChain.h"
+#include "support/AlbumTest.h"
+#include "support/Rows.h"
+
+#include <random>
+
+using namespace GeneralModule;
+
+namespace {
+
+// The story as its links tell it, "One:123 Two:45"; "broken" where a chapter or a paragraph is not
+// where the links on both its sides say, or is not reached.
+QString StoryOf(const AlbumFixture& album)
+{
+    QMap<QString, QStringList> chapters;
+    QMap<QString, QStringList> paragraphs;
+    QStringList story;
+    QString next = "0";
+    for (const QString& row : album.Rows("SELECT Id,PreviousChapter,NextChapter,FirstParagraph,"
+                                         "Name FROM Chapter")) {
+        const QStringList chapter = row.split(u'|');
+        chapters[chapter[0]] = chapter;
+        if (chapter[1] == "0")
+            next = chapter[0];
+    }
+    for (const QString& row : album.Rows("SELECT Id,PreviousParagraph,NextParagraph,Chapter,Text "
+                                         "FROM Paragraph"))
+        paragraphs[row.section(u'|', 0, 0)] = row.split(u'|');
+    for (QString last = "0"; next != "0";) {
+        const QStringList chapter = chapters.take(next);
+        if (chapter.isEmpty() || chapter[1] != last)
+            return "broken";
+        last = std::exchange(next, chapter[2]);
+        QString text = chapter[4] + ':';
+        QString previous = "0";
+        for (QString id = chapter[3]; id != "0";) {
+            const QStringList paragraph = paragraphs.take(id);
+            if (paragraph.isEmpty() || paragraph[1] != previous || paragraph[3] != last)
+                return "broken";
+            previous = std::exchange(id, paragraph[2]);
+            text += paragraph[4];
+        }
+        story += text;
+    }
+    return chapters.isEmpty() && paragraphs.isEmpty() ? story.join(u' ') : "broken";
+}
+
+// Two chapters with three and two paragraphs, texts "1" to "5".
+void WriteStory(AlbumFixture& album)
+{
+    const qint32 one = album.AddChapter("One");
+    const qint32 two = album.AddChapter("Two");
+    for (int i = 1; i <= 5; ++i)
+        album.AddParagraph(i <= 3 ? one : two, QString::number(i));
+}
+
+QStringList Everything(const AlbumFixture& album)
+{
+    return album.Rows("SELECT * FROM Paragraph") + album.Rows("SELECT * FROM Chapter");
+}
+
+} // namespace
+
+// The chapters' chain, and the repair of all chains. Links are rows of Id, PreviousChapter,
+// NextChapter.
+class TestChains : public AlbumTest
+{
+    Q_OBJECT
+
+private slots:
+    void CreatesForwardOnly()
+    {
+        CreateChapter("First", {});
+        QCOMPARE(album_->Joined("SELECT * FROM Chapter"), "1|0|0|0|First");
+        CreateChapter("Third", "First");
+        QCOMPARE(Links(), QStringList({"1|0|2", "2|1|0"}));
+        // Put in the middle: the chapter that follows keeps its backward link.
+        CreateChapter("Second", "First");
+        QCOMPARE(Links(), QStringList({"1|0|3", "2|1|0", "3|1|2"}));
+        QCOMPARE(ChapterNames(), QStringList({"First", "Second", "Third"}));
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, CreateChapter("second", "Third"));
+        QCOMPARE(Links(), QStringList({"1|0|3", "2|1|0", "3|1|2"}));
+    }
+
+    void MovesUpAndDown()
+    {
+        AddFour();
+        QVERIFY(MoveChapterUp("C"));
+        QCOMPARE(Links(), QStringList({"1|0|3", "2|3|4", "3|1|2", "4|2|0"}));
+        QVERIFY(MoveChapterUp("C"));
+        QCOMPARE(Links(), QStringList({"1|3|2", "2|1|4", "3|0|1", "4|2|0"}));
+        QVERIFY(!MoveChapterUp("C"));
+        QVERIFY(MoveChapterDown("B"));
+        QCOMPARE(Links(), QStringList({"1|3|4", "2|4|0", "3|0|1", "4|1|2"}));
+        QVERIFY(!MoveChapterDown("B"));
+        QVERIFY(MoveChapterDown("C"));
+        QCOMPARE(Links(), QStringList({"1|0|3", "2|4|0", "3|1|4", "4|3|2"}));
+        QCOMPARE(ChapterNames(), QStringList({"A", "C", "D", "B"}));
+        QVERIFY(!MoveChapterUp("Nobody"));
+    }
+
+    void DeletesOnlyEmptyChapters()
+    {
+        AddFour();
+        album_->AddParagraph(2, "text");
+        QCOMPARE(DeleteChapter("B"), ChapterDeletion::HasParagraphs);
+        QCOMPARE(DeleteChapter("C"), ChapterDeletion::Deleted);
+        QCOMPARE(Links(), QStringList({"1|0|2", "2|1|4", "4|2|0"}));
+        QCOMPARE(DeleteChapter("A"), ChapterDeletion::Deleted);
+        QCOMPARE(DeleteChapter("D"), ChapterDeletion::Deleted);
+        QCOMPARE(Links(), QStringList("2|0|0"));
+        QCOMPARE(DeleteChapter("D"), ChapterDeletion::NotFound);
+    }
+
+    void FindsTheNameMeant()
+    {
+        // What signs of a pattern could be taken for stands first in the table.
+        const QStringList others{"Janexs trip", "2001 all", "Summer 2", "X"};
+        for (const QString& other : others)
+            album_->AddChapter(other);
+        for (const char* name :
+             {"Jane's trip", "2001 *", "Summer [2001]", "Summer [2", "A \"b\" 'c'"}) {
+            RenameChapter("X", name);
+            QCOMPARE(FindChapter(name), std::optional(4));
+            QCOMPARE(ChapterNames(), others.first(3) + QStringList(name));
+            RenameChapter(name, "X");
+            QCOMPARE(ChapterNames(), others);
+        }
+    }
+
+    void ListEndsAtBrokenLinks()
+    {
+        AddFour();
+        const QStringList sound = Links();
+        const std::pair<const char*, QString> rows[] = {
+            {"NextChapter=1 WHERE Id=3", "A B C"},        // a cycle
+            {"NextChapter=2 WHERE Id=2", "A B"},          // to itself
+            {"NextChapter=77 WHERE Id=2", "A B"},         // dangling
+            {"PreviousChapter=2 WHERE Id=1", ""},         // no first chapter
+            {"PreviousChapter=0 WHERE Id=3", "A B C D"}}; // two of them
+        for (const auto& [damage, listed] : rows) {
+            album_->Execute(QString("UPDATE Chapter SET ") + damage);
+            QCOMPARE(ChapterNames().join(u' '), listed);
+            album_->Execute("UPDATE Chapter SET PreviousChapter=Id-1, NextChapter=(Id+1)%5");
+            QCOMPARE(Links(), sound);
+        }
+    }
+
+    void MendsChains()
+    {
+        using Chain = std::vector<ChainLink>;
+        const std::pair<Chain, QString> chains[] = {
+            {{}, ""},
+            {{{1, 0, 2}, {2, 1, 3}, {3, 2, 0}}, " 1 2 3"},
+            {{{1, 0, 2}, {2, 1, 0}, {3, 1, 2}}, " 1 3 2"}, // put in but not linked back
+            {{{1, 0, 2}, {2, 1, 0}, {3, 9, 2}}, " 1 3 2"}, // a piece that leads into the chain
+            {{{1, 0, 2}, {2, 1, 0}, {3, 0, 4}, {4, 3, 0}}, " 1 2 3 4"}, // two heads
+            {{{1, 3, 2}, {2, 1, 3}, {3, 2, 1}}, " 1 2 3"},              // ring
+            {{{1, 0, 0}, {2, 3, 3}, {3, 2, 2}}, " 1 2 3"},              // chain and ring
+            {{{1, 0, 1}, {2, 2, 2}}, " 1 2"}};                          // self link
+        for (const auto& [rows, expected] : chains) {
+            QString order;
+            qint32 previous = 0;
+            for (const ChainLink& link : MendChain(rows)) {
+                QCOMPARE(link.previous, previous);
+                previous = link.id;
+                order += ' ' + QString::number(link.id);
+            }
+            QCOMPARE(order, expected);
+        }
+    }
+
+    void MendsWhatIsBroken_data()
+    {
+        const QString whole = "One:123 Two:45";
+        AddRows<QString, QString>(
+            {"damage", "story"},
+            {{"no first chapter", "UPDATE Chapter SET PreviousChapter=2 WHERE Id=1", whole},
+             {"chapter unreachable", "UPDATE Chapter SET NextChapter=0 WHERE Id=1", whole},
+             {"dangling next", "UPDATE Paragraph SET NextParagraph=99 WHERE Id=1", whole},
+             {"dangling previous", "UPDATE Paragraph SET PreviousParagraph=99 WHERE Id=2", whole},
+             {"cycle", "UPDATE Paragraph SET NextParagraph=1 WHERE Id=3", whole},
+             {"into the next chapter", "UPDATE Paragraph SET NextParagraph=4 WHERE Id=3", whole},
+             {"wrong first", "UPDATE Chapter SET FirstParagraph=5 WHERE Id=1", whole},
+             {"no first paragraph", "UPDATE Chapter SET FirstParagraph=0", whole},
+             {"wrong chapter", "UPDATE Paragraph SET Chapter=77 WHERE Id=2", whole},
+             {"chapter lost",
+              "DELETE FROM Chapter WHERE Id=1; UPDATE Chapter SET PreviousChapter=0",
+              "Two:45 Found again:123"},
+             {"no chapter at all", "DELETE FROM Chapter", "Found again:12345"},
+             {"links of a wrong kind", "UPDATE Paragraph SET NextParagraph='x' WHERE Id=2",
+              whole}});
+    }
+
+    void MendsWhatIsBroken()
+    {
+        QFETCH(QString, damage);
+        WriteStory(*album_);
+        const QStringList sound = Everything(*album_);
+        QVERIFY(RepairAlbum().IsEmpty());
+        QCOMPARE(Everything(*album_), sound);
+        album_->Execute(damage);
+        QCOMPARE(StoryOf(*album_), "broken");
+        const QStringList before = album_->Rows("SELECT Id,Text FROM Paragraph");
+        const RepairReport report = RepairAlbum();
+        QTEST(StoryOf(*album_), "story");
+        QCOMPARE(album_->Rows("SELECT Id,Text FROM Paragraph"), before);
+        QVERIFY(!report.IsEmpty());
+        QCOMPARE(report.copy, album_->PathOf("story (before repair 2).alb"));
+        QVERIFY(QFileInfo(report.copy).size() > 0);
+        QVERIFY(DescribeRepair(report).contains(report.copy));
+        QVERIFY(RepairAlbum().IsEmpty()); // and once is enough
+    }
+
+    // Albums of random links: whatever they say, the result is whole and nothing is lost.
+    void AnyAlbumIsWholeAfterwards()
+    {
+        std::mt19937 random(17);
+        for (int round = 0; round < 60; ++round) {
+            AlbumFixture album;
+            const int chapters = int(random() % 5);
+            const int paragraphs = int(random() % 12);
+            const auto any = [&random](int most) { return int(random() % unsigned(most + 3)) - 1; };
+            QString sql = "BEGIN;";
+            for (int i = 1; i <= chapters; ++i)
+                sql += QString("INSERT INTO Chapter VALUES (%1,%2,%3,%4,'C%1');")
+                           .arg(i)
+                           .arg(any(paragraphs))
+                           .arg(any(chapters))
+                           .arg(any(chapters));
+            for (int i = 1; i <= paragraphs; ++i)
+                sql += QString("INSERT INTO Paragraph (Id,Chapter,PreviousParagraph,"
+                               "NextParagraph,Text) VALUES (%1,%2,%3,%4,'t%1');")
+                           .arg(i)
+                           .arg(any(chapters))
+                           .arg(any(paragraphs))
+                           .arg(any(paragraphs));
+            album.Execute(sql + "COMMIT");
+            const QStringList texts = album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id");
+            RepairAlbum();
+            QVERIFY2(StoryOf(album) != "broken", qPrintable(QString::number(round)));
+            QCOMPARE(album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id"), texts);
+        }
+    }
+
+private:
+    QStringList Links() const
+    {
+        return album_->Rows("SELECT Id,PreviousChapter,NextChapter FROM Chapter ORDER BY Id");
+    }
+    void AddFour()
+    {
+        for (const char* name : {"A", "B", "C", "D"})
+            album_->AddChapter(name);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestChains)
+#include "test_chains.moc"

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "core/Album.h"
+#include "core/Parameters.h"
+#include "core/PathRoutines.h"
+#include "core/PictureFile.h"
+#include "core/PictureList.h"
+#include "core/Settings.h"
+#include "core/TextRoutines.h"
+#include "support/AlbumTest.h"
+
+#include <algorithm>
+
+using namespace GeneralModule;
+
+namespace {
+
+bool Always(const QString&)
+{
+    return true;
+}
+
+PictureList ListOf(const QStringList& linked, const QStringList& others)
+{
+    PictureList list;
+    for (const QString& file : others)
+        list.Add(file);
+    for (const QString& file : linked)
+        list.AddLinked(file);
+    return list;
+}
+
+QStringList TakeAll(PictureList& list, bool atRandom)
+{
+    QStringList taken;
+    for (QString file = list.PickNext(atRandom, Always); !file.isEmpty();
+         file = list.PickNext(atRandom, Always)) {
+        list.TakePicked();
+        taken += file;
+    }
+    return taken;
+}
+
+} // namespace
+
+// The routines that every window uses.
+class TestCoreRoutines : public AlbumTest
+{
+    Q_OBJECT
+
+private slots:
+    void ReplacesText()
+    {
+        QCOMPARE(ReplaceText("aa", "a", "aa", 1), "aaaa");
+        QCOMPARE(ReplaceText("a.a.a", "a", "b", 2), "a.b.b");
+        QCOMPARE(ReplaceText("aA", "A", "", 1), "a");
+        QCOMPARE(ReplaceText("abc", "", "x", 1), "abc");
+        QCOMPARE(ReplaceText("abc", "c", "x", 9), "abc");
+        QCOMPARE(LikeSafe("Jane's trip"), "Jane?s trip");
+        QCOMPARE(Quoted("it's"), "'it''s'");
+    }
+
+    void CutsPaths()
+    {
+        const QStringList rows[] = {{"/a/b.jpg", "/a/", "b.jpg", ""},
+                                    {"C:\\Photos\\a.jpg", "C:\\Photos\\", "a.jpg", "C:"},
+                                    {"a.jpg", "", "a.jpg", "a.jpg"},
+                                    {"", "", "", ""},
+                                    {"/a/b/", "/a/b/", "", ""}};
+        for (const QStringList& row : rows) {
+            const QString& path = row.first();
+            QCOMPARE(QStringList({path, FolderOf(path), FileNameOf(path), DriveOf(path)}), row);
+        }
+    }
+
+    void KeepsParameters()
+    {
+        QCOMPARE(GetParam("TimerDelay"), "");
+        QCOMPARE(GetLastFileSelection(), QCoreApplication::applicationDirPath() + "/*.*");
+        SetColumnLabel(4, "Person");
+        SetColumnLabel(4, "Who");
+        SetCaractLabel(1, "it's \"quoted\"");
+        SetLastFileSelection("/a/*.jpg");
+        QCOMPARE(ColumnLabel(4), "Who");
+        QCOMPARE(CaractLabel(1), "it's \"quoted\"");
+        QCOMPARE(GetLastFileSelection(), "/a/*.jpg");
+        QCOMPARE(album_->Joined("SELECT Param,Value FROM Params"),
+                 "Car4|Who; Caract1|it's \"quoted\"; LastFileSelection|/a/*.jpg");
+        SetParam("strange's", "kept");
+        QCOMPARE(GetParam("strange's"), "kept");
+        // Delays go to the nearest whole number, halves to the even one, within 16 bits.
+        const std::pair<const char*, int> delays[] = {{"2500.5", 2500}, {"2501.5", 2502},
+                                                      {"40000", 32767}, {"-1e9", -32768},
+                                                      {"soon", 0},      {"nan", 0}};
+        for (const auto& [stored, delay] : delays) {
+            SetParam("TimerDelay", stored);
+            QCOMPARE(int(GetTimerDelay()), delay);
+        }
+        SaveTimerDelay(10000);
+        QCOMPARE(GetParam("TimerDelay"), "10000");
+    }
+
+    void PrefersTheLocalCopy()
+    {
+        const QString copy = album_->PathOf("copy.png");
+        PaintPicture(copy, {4, 4}, Qt::red);
+        album_->AddImageRow("/cd/it's.jpg", {{"SourceFile", copy}});
+        QCOMPARE(ResolvePictureFile("/cd/it's.jpg"), copy);
+        QFile::remove(copy);
+        QCOMPARE(ResolvePictureFile("/cd/it's.jpg"), "/cd/it's.jpg");
+        QCOMPARE(album_->Joined("SELECT SourceFile FROM Image"), "");
+        QCOMPARE(ResolvePictureFile("/not/in/the/album_->jpg"), "/not/in/the/album_->jpg");
+    }
+
+    void KeepsSettings()
+    {
+        const QString path = "C:\\Fotos\\été; \"x\" = 1.alb";
+        SaveLastAlbum(path);
+        QCOMPARE(GetLastAlbum(), path);
+        QVERIFY(QFileInfo::exists(album_->PathOf("settings/QVRLumenark.ini")));
+        QCOMPARE(GetUserSetting("User", "Nothing"), "");
+    }
+
+    void LinkedPicturesComeFirst()
+    {
+        PictureList list = ListOf({"l1", "l2", "l3"}, {"a", "b", "c"});
+        QVERIFY(list.HoldsLinked("l2") && !list.HoldsLinked("a"));
+        // One that found no room comes again until it is taken.
+        const QString picked = list.PickNext(true, Always);
+        QCOMPARE(list.PickNext(true, Always), picked);
+        QCOMPARE(list.Count(), 6);
+        QStringList taken = TakeAll(list, false);
+        QCOMPARE(taken.sliced(3), QStringList({"a", "b", "c"}));
+        QCOMPARE(taken.first(), picked);
+        std::sort(taken.begin(), taken.begin() + 3);
+        QCOMPARE(taken.first(3), QStringList({"l1", "l2", "l3"}));
+        QCOMPARE(list.Count(), 0);
+    }
+
+    void FilesThatAreGoneAreDropped()
+    {
+        PictureList list = ListOf({"gone"}, {"a", "", "gone too"});
+        const auto isThere = [](const QString& file) { return file == "a"; };
+        QCOMPARE(list.PickNext(true, isThere), "a");
+        list.TakePicked();
+        QCOMPARE(list.PickNext(true, isThere), "");
+        QCOMPARE(list.Count(), 0);
+        // What is put back comes before all.
+        list = ListOf({"l"}, {"a", "b"});
+        list.PutBack({"x", "y"});
+        QCOMPARE(TakeAll(list, true).first(3), QStringList({"x", "y", "l"}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCoreRoutines)
+#include "test_core_routines.moc"

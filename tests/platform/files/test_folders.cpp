@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "platform/files/FilePatterns.h"
+#include "platform/files/FolderListing.h"
+#include "platform/files/Volumes.h"
+#include "platform/widgets/DriveBox.h"
+#include "platform/widgets/FileList.h"
+#include "platform/widgets/FolderList.h"
+#include "platform/widgets/WorkProgress.h"
+#include "support/AlbumFixture.h"
+#include "support/ScriptedDialogs.h"
+
+#include <QDir>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+void DoubleClick(FolderList& list, const QString& text)
+{
+    const auto rows = list.findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+    QVERIFY2(!rows.isEmpty(), qPrintable(text));
+    QTreeWidgetItem* row = rows.constLast();
+    list.scrollToItem(row);
+    const QPoint at = list.visualItemRect(row).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
+}
+
+} // namespace
+
+// Files and folders as they are listed, and as the lists show them.
+class TestFolders : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void FitsPatterns()
+    {
+        const std::tuple<const char*, const char*, bool> rows[] = {
+            {"*.jpg;*.gif", "A.JPG", true},
+            {"*.jpg; *.gif", "a.gif", true},
+            {"*.jpg;*.gif", "a.png", false},
+            {"*.jpg", "a.jpg.txt", false},
+            {"*.*", "no point", true},
+            {"p?.jpg", "pé.jpg", true},
+            {"a[1].jpg", "a1.jpg", false},
+            {"a[1]*", "a[1].jpg", true}, // brackets are no list,
+            {"#*", "1.jpg", false},
+            {"*.jpg;", "a.png", false}, // nor # a digit
+            {"", "a.jpg", false}};
+        for (const auto& [patterns, name, fits] : rows)
+            QVERIFY2(FilePatterns(patterns).Match(name) == fits, patterns);
+    }
+
+    void ListsFilesOfAnyName()
+    {
+        const QTemporaryDir folder;
+        QStringList names{"-dash.jpg", "Zoe.jpg", "a'b\".jpg", "br[1]#*%.jpg", "line\nbreak.jpg"};
+        names += {"semi;colon.jpg", u8"\u00e9t\u00e9.jpg", u8"e\u0301te\u0301.jpg",
+                  QString(251, u'x') + ".jpg"};
+        for (const QString& name : names)
+            WriteFile(folder.filePath(name));
+        // Valid only as bytes: nothing could find this file again by its text.
+        const std::string invalid = folder.path().toStdString() + "/\xff.jpg";
+        QVERIFY(std::ofstream(invalid).good());
+        const FolderListing listing = ListFiles(folder.path());
+        QCOMPARE(listing.error, QString());
+        QVERIFY(listing.names.indexOf("semi;colon.jpg") < listing.names.indexOf("Zoe.jpg"));
+        QStringList sorted = listing.names;
+        sorted.sort();
+        names.sort();
+        QCOMPARE(sorted, names);
+        QVERIFY(std::filesystem::remove(invalid));
+    }
+
+    void TellsFilesFromFolders()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir("sub.jpg"));
+        WriteFile(folder.filePath("a.jpg"));
+        WriteFile(folder.filePath(".hidden.jpg"));
+        QVERIFY(QFile::link(folder.filePath("a.jpg"), folder.filePath("link.jpg")));
+        QVERIFY(QFile::link(folder.filePath("nowhere"), folder.filePath("dangling.jpg")));
+        QCOMPARE(ListFiles(folder.path()).names, QStringList({"a.jpg", "link.jpg"}));
+        QCOMPARE(ListFolders(folder.path()).names, QStringList("sub.jpg"));
+        const FolderListing gone = ListFiles(folder.filePath("gone"));
+        QVERIFY(gone.names.isEmpty());
+        QVERIFY2(gone.error.contains(folder.filePath("gone")), qPrintable(gone.error));
+    }
+
+    void FindsTheVolume()
+    {
+        const QStringList volumes{"/", "/media/card", "/media/card/inner"};
+        QCOMPARE(VolumeOf("/media/card/inner/a", volumes), "/media/card/inner");
+        QCOMPARE(VolumeOf("/media/cards", volumes), "/");
+        QCOMPARE(VolumeOf("/media/card", volumes), "/media/card");
+        const QStringList mounted = MountedVolumes();
+        QVERIFY(mounted.contains("/"));
+        for (const char* pseudo : {"/proc", "/sys", "/dev"})
+            QVERIFY2(!mounted.contains(pseudo), pseudo);
+    }
+
+    void GoesThroughFolders()
+    {
+        const QTemporaryDir folder;
+        const QString inner = folder.filePath("outer folder/inner");
+        QVERIFY(QDir().mkpath(inner));
+        FolderList list;
+        list.resize(300, 400);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        QVERIFY(list.setProperty("Path", folder.path() + '/'));
+        QCOMPARE(list.property("Path").toString(), folder.path());
+        const QSignalSpy changes(&list, &FolderList::PathChanged);
+        DoubleClick(list, "outer folder");
+        DoubleClick(list, "inner");
+        QCOMPARE(list.GetPath(), inner);
+        QTest::keyClick(&list, Qt::Key_Backspace);
+        QCOMPARE(list.GetPath(), folder.filePath("outer folder"));
+        list.setCurrentItem(list.currentItem()->child(0));
+        QTest::keyClick(&list, Qt::Key_Return);
+        QCOMPARE(list.GetPath(), inner);
+        list.SetPath(folder.path());
+        QVERIFY(QDir(inner).removeRecursively());
+        QVERIFY(QDir(folder.path()).rmdir("outer folder"));
+        ScriptedDialogs dialogs;
+        dialogs.ExpectBoxBeginning("The folder '" + folder.filePath("outer folder") +
+                                       "' cannot be read: ",
+                                   Dialogs::Icon::Warning);
+        DoubleClick(list, "outer folder");
+        QCOMPARE(list.GetPath(), folder.path());
+        DoubleClick(list, "/");
+        QCOMPARE(list.GetPath(), "/");
+        QCOMPARE(changes.count(), 6);
+    }
+
+    void FilesAndDriveFollow()
+    {
+        const QTemporaryDir folder;
+        for (const char* name : {"b.JPG", "a.png", "c.txt", "x.png"})
+            WriteFile(folder.filePath(name));
+        FileList list;
+        list.setProperty("Path", folder.path());
+        QCOMPARE(list.GetNames(), QStringList({"a.png", "b.JPG", "c.txt", "x.png"}));
+        list.setProperty("Pattern", "*.jpg;a*");
+        QCOMPARE(list.GetNames(), QStringList({"a.png", "b.JPG"}));
+        QCOMPARE(list.Count(), 2);
+        ScriptedDialogs dialogs;
+        dialogs.ExpectBoxBeginning("The folder '/nowhere' cannot be read: ",
+                                   Dialogs::Icon::Warning);
+        list.SetPath("/nowhere");
+        QCOMPARE(list.Count(), 0);
+
+        DriveBox drives;
+        drives.setCurrentIndex(-1);
+        const QSignalSpy changes(&drives, &DriveBox::DriveChanged);
+        drives.ShowVolumeOf("/");
+        QCOMPARE(drives.GetDrive(), "/");
+        QCOMPARE(changes.count(), 0); // or the folder would be left for the drive's root
+    }
+
+    void WorkTakesNothingButItsStop()
+    {
+        QWidget window;
+        QPushButton other(&window);
+        WorkProgress progress(&window);
+        progress.setGeometry(0, 40, 200, 40);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QSignalSpy clicks(&other, &QPushButton::clicked);
+        progress.Begin(10, true);
+        QTest::mouseClick(&other, Qt::LeftButton);
+        QVERIFY(progress.Advance(5));
+        QVERIFY(!window.close());
+        QVERIFY(!progress.Advance(6));
+        progress.End();
+        progress.Begin(10, true);
+        QVERIFY(progress.Advance(1));
+        QTest::mouseClick(progress.findChild<QPushButton*>("cmdStop"), Qt::LeftButton);
+        QVERIFY(!progress.Advance(2));
+        progress.End();
+        QCOMPARE(clicks.count(), 0);
+        QTest::mouseClick(&other, Qt::LeftButton);
+        QCOMPARE(clicks.count(), 1);
+    }
+};
+
+QTEST_MAIN(TestFolders)
+#include "test_folders.moc"

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "core/Album.h"
+#include "story/FilterValues.h"
+#include "story/PictureFilter.h"
+#include "support/AlbumTest.h"
+
+using namespace GeneralModule;
+using Fields = QMap<QString, QString>;
+
+// A paragraph's filter: as a person changes it value by value, as it is written, what it finds.
+class TestFilters : public AlbumTest
+{
+    Q_OBJECT
+
+private slots:
+    // A filter, what is clicked one after the other, and what comes of it.
+    void Toggle()
+    {
+        const QStringList rows[] = {{"*", "a", "a"},           {"a;b;c", "b", "a;c"},
+                                    {"a", "a", "*"},           {"Anna;b", "anna", "b"},
+                                    {"a;b", "!", "!;a;b"},     {"!;a;b", "!", "a;b"},
+                                    {"!;a", "a", "*"},         {"*", "! a b", "!;a;b"},
+                                    {"*", "! !", "*"},         {"!;a;b", "*", "*"},
+                                    {"a;!;b", "c", "a;!;b;c"}, // groups that were written by hand
+                                    {"a;!;b", "b", "a"},       {"a;;b", "c", "a;c"},
+                                    {"a;b;a", "a", "b"},       {"(a)", "[b]* a", "(a);[b]*;a"}};
+        for (const QStringList& row : rows) {
+            QString filter = row[0];
+            for (const QString& token : row[1].split(u' '))
+                filter = ToggleToken(filter, token);
+            QCOMPARE(filter, row[2]);
+            QCOMPARE(StorableFilter(filter), filter);
+        }
+    }
+
+    // What is stored always gives a filter that the engine takes.
+    void Storable()
+    {
+        const qint32 chapter = album_->AddChapter("One");
+        const QStringList rows[] = {// as it is, as it is stored, and in words
+                                    {"*", "*", "*"},
+                                    {"", "*", "*"},
+                                    {"!", "*", "*"},
+                                    {"a;!", "a", "a"},
+                                    {"!;!;a", "!;a", "not a"},
+                                    {"!;;a", "*", "*"},
+                                    {"a;b", "a;b", "a, b"},
+                                    {"!;a;b", "!;a;b", "not a, b"},
+                                    {"a;!;b", "a;!;b", "a, not b"},
+                                    {"a;;b", "a;;b", "a"}};
+        for (const QStringList& row : rows) {
+            const bool restricts = row[2] != "*";
+            QCOMPARE(StorableFilter(row[0]), row[1]);
+            QCOMPARE(DescribeFilter(row[0]), row[2]);
+            QCOMPARE(Restricts(row[0]), restricts);
+            FindById(*ParagraphSet, album_->AddParagraph(chapter, "", {{"Car4", row[1]}}));
+            const QString built = BuildPictureFilter(*ParagraphSet);
+            QCOMPARE(built.isEmpty(), !restricts);
+            ImageSet->FindFirst(built);
+            QVERIFY(ImageSet->NoMatch());
+        }
+    }
+
+    void Choices()
+    {
+        for (const char* value : {"zoe", "Anna", "(both)", "", "!", "*", "a;b", "Élise", "bob"})
+            album_->Execute(QString("INSERT INTO Car4 VALUES ('%1')").arg(value));
+        QStringList texts;
+        QStringList unknown;
+        for (const FilterChoice& choice : FilterChoices(7, "!;ANNA;gone;(x);gone")) {
+            texts += choice.text;
+            if (!choice.isKnown)
+                unknown += choice.token;
+        }
+        QCOMPARE(texts.first(2), QStringList({"* (Reset)", "!"}));
+        // Special markers, then the others by name, then what only the filter holds.
+        const QSet<QString> markers{"(both)", "-", "Élise"};
+        QCOMPARE(QSet<QString>(texts.begin() + 2, texts.begin() + 5), markers);
+        QCOMPARE(texts.sliced(5), QStringList({"Anna", "bob", "zoe", "gone", "(x)"}));
+        QCOMPARE(unknown, QStringList({"gone", "(x)"}));
+        QVERIFY(HoldsToken("!;ANNA;gone", "Anna"));
+        QVERIFY(!HoldsToken("!;ANNA;gone", "Ann"));
+        QVERIFY(HoldsToken("!;ANNA;gone", "!"));
+        QVERIFY(!HoldsToken("*", "*"));
+    }
+
+    void WritesFilters()
+    {
+        const std::pair<Fields, const char*> rows[] = {
+            {{}, ""},
+            {{{"Car0", "a;b"}, {"Car9", "!;c"}}, "([Car0]='a' OR [Car0]='b') AND NOT([Car9]='c')"},
+            {{{"Car0", "!;a;b"}, {"Car1", "c"}}, "NOT([Car0]='a' OR [Car0]='b') AND ([Car1]='c')"},
+            {{{"Car0", "a;!;b"}}, "([Car0]='a') AND NOT([Car0]='b')"},
+            {{{"Car0", "a;;b"}, {"Car1", ""}}, "([Car0]='a')"}, // an empty one ends the list
+            {{{"Car4", "x"}}, "([Car4]='x') OR ([Car7]='x')"},  // twins in either order
+            {{{"Car0", "s"}, {"Car3", "x"}, {"Car8", "y"}, {"Car10", "z"}},
+             "([Car0]='s') AND ([Car3]='x') AND ([Car8]='y') AND ([Car10]='z') OR "
+             "([Car0]='s') AND ([Car6]='x') AND ([Car5]='y') AND ([Car10]='z')"},
+            {{{"FileSelection", "*sea*"}}, "([File] LIKE '*sea*')"},
+            {{{"FileSelection", "/it's/*"}, {"Car0", "a"}},
+             "([File] LIKE '/it''s/*') AND (([Car0]='a'))"}};
+        for (const auto& [fields, filter] : rows) {
+            MakeParagraph(fields);
+            QCOMPARE(BuildPictureFilter(*ParagraphSet), filter);
+        }
+        QCOMPARE(SwapCarGroups("[Car3]='a' [Car7]='[Carx' [Car10]='Car4'"),
+                 "[Car6]='a' [Car4]='[Carx' [Car10]='Car4'");
+    }
+
+    void ListsPictures()
+    {
+        album_->AddImageRow("1", {{"Car0", "Sea"}, {"Car3", "Anna"}});
+        album_->AddImageRow("2", {{"Car0", "Sea"}, {"Car3", "Bert"}});
+        album_->AddImageRow("3", {{"Car0", "lake"}, {"Car6", "anna"}});
+        album_->AddImageRow("4", {{"Car0", "Town"}});
+        album_->AddImageRow("5");
+        struct Row
+        {
+            Fields fields;
+            QStringList linked; // to the paragraph
+            int most;
+            const char* listed;
+        };
+        const Row rows[] = {{{}, {}, 100, "1 2 3 4 5"},
+                            {{}, {}, 3, "1 2 3"},
+                            {{{"Car3", "Anna"}}, {"5", "3"}, 100, "5 3 1"},
+                            {{{"Car3", "Nobody"}}, {"elsewhere"}, 100, "elsewhere"},
+                            {{}, {"5", "4"}, 3, "5 4 1"},
+                            {{{"Car0", "!;Sea;Lake"}}, {}, 100, "4 5"}};
+        for (const Row& row : rows) {
+            album_->Execute("DELETE FROM LinkedImages");
+            const qint32 paragraph = MakeParagraph(row.fields);
+            for (const QString& file : row.linked)
+                album_->Link(paragraph, file);
+            album_->Link(paragraph + 1, "4");
+            PictureList pictures;
+            int last = -1;
+            BuildPictureList(*ParagraphSet, pictures, row.most, [&](int count) { last = count; });
+            QCOMPARE(pictures.GetFiles().join(u' '), row.listed);
+            QCOMPARE(last, pictures.Count());
+        }
+        MakeParagraph({{"Car0", "O'Neil"}});
+        PictureList pictures;
+        QVERIFY_THROWS_EXCEPTION(DatabaseError,
+                                 BuildPictureList(*ParagraphSet, pictures, 10, [](int) {}));
+    }
+
+private:
+    // The paragraph on which the set stands afterwards.
+    qint32 MakeParagraph(const Fields& fields)
+    {
+        if (ChapterSet->IsEmpty())
+            album_->AddChapter("One");
+        const qint32 paragraph = album_->AddParagraph(1, "text", fields);
+        FindById(*ParagraphSet, paragraph);
+        return paragraph;
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFilters)
+#include "test_filters.moc"
