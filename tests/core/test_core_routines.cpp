@@ -5,6 +5,7 @@
 #include "core/PictureFile.h"
 #include "core/PictureList.h"
 #include "core/Settings.h"
+#include "core/StartUp.h"
 #include "core/TextRoutines.h"
 #include "support/AlbumTest.h"
 
@@ -118,6 +119,29 @@ private slots:
         QCOMPARE(GetLastAlbum(), path);
         QVERIFY(QFileInfo::exists(album_->PathOf("settings/QVRLumenark.ini")));
         QCOMPARE(GetUserSetting("User", "Nothing"), "");
+    }
+
+    void HelpSpeaksTheUsersLanguage()
+    {
+        const QFileInfo english(HelpFile());
+        QCOMPARE(english.fileName(), "lumenark.hlp");
+        QFile translated(english.dir().filePath("lumenark_eo.hlp"));
+        QVERIFY(translated.open(QIODevice::WriteOnly));
+        QLocale::setDefault(QLocale("eo"));
+        QCOMPARE(HelpFile(), translated.fileName());
+        QLocale::setDefault(QLocale::system());
+        QVERIFY(translated.remove());
+        QCOMPARE(HelpFile(), english.filePath());
+    }
+
+    void OpeningFillsEmptySelections()
+    {
+        const qint32 chapter = album_->AddChapter("One");
+        album_->AddParagraph(chapter, "first", {{"FileSelection", "*.jpg"}});
+        album_->AddParagraph(chapter, "second");
+        album_->Execute("UPDATE Paragraph SET FileSelection=NULL WHERE Id=2");
+        QVERIFY(OpenAlbum(album_->GetAlbum()));
+        QCOMPARE(album_->Rows("SELECT FileSelection FROM Paragraph"), QStringList({"*.jpg", ""}));
     }
 
     void LinkedPicturesComeFirst()

@@ -97,6 +97,8 @@ private slots:
              "([Car0]='s') AND ([Car3]='x') AND ([Car8]='y') AND ([Car10]='z') OR "
              "([Car0]='s') AND ([Car6]='x') AND ([Car5]='y') AND ([Car10]='z')"},
             {{{"FileSelection", "*sea*"}}, "([File] LIKE '*sea*')"},
+            {{{"FileSelection", "/a;b/*.jpg; *.png"}},
+             "([File] LIKE '/a;b/*.jpg' OR [File] LIKE '/a;b/*.png')"},
             {{{"FileSelection", "/it's/*"}, {"Car0", "a"}},
              "([File] LIKE '/it''s/*') AND (([Car0]='a'))"}};
         for (const auto& [fields, filter] : rows) {

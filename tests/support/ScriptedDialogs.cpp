@@ -59,7 +59,7 @@ void ScriptedDialogs::ExpectSaveFile(const QString& title, const QString& path,
 
 ScriptedDialogs::Step ScriptedDialogs::Take(const QString& shown)
 {
-    const Step step = script_.empty() ? Step{"nothing"} : script_.front();
+    const Step step = script_.empty() ? Step{"nothing", false, Answer::Ok, {}} : script_.front();
     if (step.comparesBeginning ? shown.startsWith(step.shown) : shown == step.shown) {
         script_.pop_front();
         return step;

@@ -57,6 +57,10 @@ private slots:
         button.setFocus();
         QTest::keyClick(&button, Qt::Key_Space); // would press the button
         QCOMPARE(story.Legend(), "Third");
+        // One that nobody used went up to the window; the next one there is another.
+        QTest::keyClick(&button, Qt::Key_X);
+        QTest::keyClick(&story.viewer, Qt::Key_Left);
+        QCOMPARE(story.Legend(), offer);
         QTest::keyClick(&button, Qt::Key_Q);
         QVERIFY(!story.viewer.isVisible());
     }

@@ -15,6 +15,9 @@ KeyPreview::KeyPreview(QWidget* window, Handler handler)
 
 bool KeyPreview::eventFilter(QObject* watched, QEvent* event)
 {
+    // Between two presses comes at least one of these; the next press may lie at the same address.
+    if (event->type() == QEvent::KeyRelease || event->type() == QEvent::ShortcutOverride)
+        seen_ = nullptr;
     if (event->type() != QEvent::KeyPress)
         return false;
     auto* control = qobject_cast<QWidget*>(watched);
