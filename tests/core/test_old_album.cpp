@@ -126,20 +126,25 @@ private slots:
 
     void NamesWhatIsDamaged()
     {
+#ifdef LIBRARY_WANTS_WHOLE_MAPS
+        const char* const damagedMap = "Table Car5 cannot be read.";
+#else
+        const char* const damagedMap = "Table Car5: its list of pages is damaged; its rows were "
+                                       "looked for in the whole file.";
+#endif
         // Beside the sound album that holds the same rows, and how many rows differ.
         const std::tuple<const char*, const char*, const char*, int> rows[] = {
             {"hostile_memo_loop_jet3", "small_jet3", "Paragraph 5: the field Text cannot be read.",
              1},
-            {"hostile_map_jet4", "small_jet4",
-             "Table Car5: its list of pages is damaged; its rows were looked for in the whole "
-             "file.",
-             0}};
+            {"hostile_map_jet4", "small_jet4", damagedMap, 0}};
         for (const auto& [hostile, like, problem, rowsThatDiffer] : rows) {
             const QString target = album_->PathOf(hostile);
             QCOMPARE(Convert(OldAlbumPath(hostile), target).Problems(), QStringList(problem));
             const QJsonObject expected = OldAlbumContents(like);
             int different = 0;
             for (const QString& table : tables) {
+                if (QString(problem).contains("Table " + table + " cannot be read"))
+                    continue;
                 const QStringList sound = ExpectedRows(expected, table);
                 const QStringList found = FoundRows(target, {}, expected, table);
                 QCOMPARE(found.size(), sound.size());

@@ -107,7 +107,8 @@ private slots:
              {"trigger in a table's clothes",
               "PRAGMA writable_schema=1; INSERT INTO sqlite_master VALUES('table','t','Image',0,"
               "'CREATE TRIGGER t AFTER UPDATE ON Image BEGIN DELETE FROM Image; END')",
-              3343},
+              // Newer engines see through it by themselves.
+              sqlite3_libversion_number() < 3030000 ? 3343 : 3049},
              {"index over an expression", "CREATE INDEX i ON Image(lower(File))", 3343},
              {"partial index", "CREATE INDEX i ON Image(File) WHERE Legend='x'", 3343},
              {"check", "CREATE TABLE c (a CHECK (a > random()))", 3343},
