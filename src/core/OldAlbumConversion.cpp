@@ -2,7 +2,7 @@
 #include "core/OldAlbumConversion.h"
 
 #include "core/OldAlbumTable.h"
-#include "platform/data/EncryptedCopy.h"
+#include "platform/data/CipherFile.h"
 #include "platform/shell/ProgramFolder.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/data/Database.h"
 
+#include "platform/data/CipherFile.h"
 #include "platform/data/DatabaseFile.h"
 #include "platform/data/SchemaCheck.h"
 #include "platform/data/SqlFunctions.h"
@@ -12,8 +13,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <cstdlib>
 
 namespace {
 
@@ -62,13 +61,6 @@ int Authorize(void*, int action, const char*, const char*, const char*, const ch
     return source || reachesOut ? SQLITE_DENY : SQLITE_OK;
 }
 
-// 3 or 4: the first number of the library's version, which is told as a text such as "3.4.1".
-int LibraryGeneration(sqlite3* engine)
-{
-    Statement version(engine, "PRAGMA cipher_version");
-    return version.Step() ? std::atoi(version.GetUtf8(0).data()) : 0;
-}
-
 } // namespace
 
 std::shared_ptr<Database> Database::Open(const QString& path, const QString& password)
@@ -108,27 +100,22 @@ void Database::Connect()
 // A wrong key shows only at the first read, and then looks like a file that is no database.
 void Database::Unlock(const QString& password)
 {
-    const QByteArray key = password.toUtf8();
     password_ = password;
-    if (!key.isEmpty() && TryKey(key, 0))
+    if (TryKey(CipherFile::usualFormat))
         return;
-    // Albums of the library's third generation open in the fourth under its rules of then.
-    if (!key.isEmpty() && LibraryGeneration(engine_) > 3) {
+    if (!password.isEmpty() && CipherGeneration(engine_) > 3) {
         Connect();
-        if (TryKey(key, 3))
+        if (TryKey(CipherFile::libraryFormat))
             return;
     }
     throw DatabaseError(DatabaseError::WrongPassword,
                         DatabaseError::tr("The password is wrong or missing."));
 }
 
-bool Database::TryKey(const QByteArray& key, int compatibility)
+bool Database::TryKey(int format)
 {
-    if (sqlite3_key(engine_, key.constData(), int(key.size())) != SQLITE_OK)
-        return false;
-    if (compatibility > 0)
-        Execute("PRAGMA cipher_compatibility=" + QByteArray::number(compatibility));
-    return IsReadable();
+    cipherFormat_ = format;
+    return SetCipherKey(engine_, password_, format) && IsReadable();
 }
 
 bool Database::IsReadable()

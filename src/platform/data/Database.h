@@ -25,6 +25,8 @@ public:
     const QString& GetPath() const { return path_; }
     // What opened the file; empty for one without a password.
     const QString& GetPassword() const { return password_; }
+    // See CipherFile; means nothing for a file without a password.
+    int GetCipherFormat() const { return cipherFormat_; }
     sqlite3* GetEngine() const { return engine_; }
 
     // Goes up with every row that this program changes in the album; a row read under an earlier
@@ -40,7 +42,7 @@ private:
 
     void Connect();
     void Unlock(const QString& password);
-    bool TryKey(const QByteArray& key, int compatibility);
+    bool TryKey(int format);
     bool IsReadable();
     void CheckSize();
     qint64 GetPragma(const QByteArray& name);
@@ -48,6 +50,7 @@ private:
 
     QString path_;
     QString password_;
+    int cipherFormat_ = 0;
     sqlite3* engine_ = nullptr;
     int openBatches_ = 0;
 };

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+struct sqlite3;
+
+// How files with a password are written and opened. All of them have the format of the cipher
+// library's third generation, which the fourth reads and writes too: an album can go from one
+// computer to another, whichever generation is installed there. (The fourth's own format is opened
+// where it can be.)
+
+// A connection for copying whole files; it may attach others. Closes with its life.
+class CipherFile
+{
+public:
+    // May make the file that is attached later, never this one. Throws DatabaseError. The password
+    // shows to be wrong only at the first read.
+    CipherFile(const QString& path, const QString& password, int format = usualFormat);
+
+    sqlite3* Get() const { return engine_.get(); }
+
+    // Copies everything to a new file, with that password or, when it is empty, without one. Throws
+    // DatabaseError.
+    void ExportTo(const QString& target, const QString& password);
+
+    static constexpr int usualFormat = 3;
+    static constexpr int libraryFormat = 0; // whichever the installed generation prefers
+
+private:
+    std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine_;
+};
+
+// Gives a connection that has read nothing yet its key. False when the library refuses it.
+bool SetCipherKey(sqlite3* engine, const QString& password, int format);
+
+// The generation of the cipher library, 3 or 4.
+int CipherGeneration(sqlite3* engine);
+
+// Copies a file without a password to a new one that has one. The source must be closed and of our
+// own making: its schema is taken over unchecked. Throws DatabaseError.
+void CopyEncrypted(const QString& source, const QString& target, const QString& password);
