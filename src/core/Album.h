@@ -21,8 +21,8 @@ extern std::unique_ptr<RecordSet> LinkedImagesSet;
 // Opens the album in place of the one that is open and remembers it as the last one. Asks for the
 // password, unless the one given fits, until it does or the answer is empty. False, with a message
 // shown unless the user gave up, when the album could not be opened; then no album is open. Of an
-// album in the former file format a new one is made, if the user agrees, and that is the one that is
-// opened and remembered.
+// album in the former file format a new one is made, if the user agrees, and that is the one that
+// is opened and remembered.
 bool OpenAlbum(const QString& path, const QString& password = {});
 
 // Copies the template to path, over a file that is there. False, with a message shown, when that

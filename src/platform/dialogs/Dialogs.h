@@ -54,10 +54,10 @@ public:
     virtual QString AskOpenFile(const FileChoice& choice) = 0;
     virtual QString AskSaveFile(const FileChoice& choice) = 0;
 
-    // Does the work and returns when it is done; throws what the work throws. The text tells what is
-    // going on. Windows stay alive meanwhile, but take no keys or clicks. The work runs in a thread
-    // of its own: it asks and tells nothing, and touches nothing that a window shows. Without a
-    // screen it simply runs.
+    // Does the work and returns when it is done; throws what the work throws. The text tells what
+    // is going on. Windows stay alive meanwhile, but take no keys or clicks. The work runs in a
+    // thread of its own: it asks and tells nothing, and touches nothing that a window shows.
+    // Without a screen it simply runs.
     virtual void RunLong(const QString& text, bool canStop, const Work& work);
 
     // The dialogs in use. Install before the first use; the caller keeps them alive.
