@@ -713,6 +713,10 @@ Appuyez sur F1 pour l&apos;aide</translation>
         <source>Stop</source>
         <translation>Arrêter</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avancement</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>

@@ -31,13 +31,14 @@ bool IsPartOfControl(const QWidget& widget)
     const QWidget* parent = widget.parentWidget();
     return widget.objectName().startsWith("qt_") || parent->inherits("QComboBox") ||
            parent->inherits("QAbstractScrollArea") || parent->inherits("QLineEdit") ||
-           widget.inherits("QMenuBar") || widget.inherits("QSplitterHandle");
+           widget.inherits("QMenuBar") || widget.inherits("QSplitterHandle") ||
+           (!widget.isVisible() && widget.objectName().isEmpty());
 }
 
 bool HasName(QWidget& widget)
 {
-    const bool takesInput =
-        widget.focusPolicy() != Qt::NoFocus || widget.inherits("QAbstractButton");
+    const bool takesInput = widget.focusPolicy() != Qt::NoFocus ||
+                            widget.inherits("QAbstractButton") || widget.inherits("QProgressBar");
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
     return !takesInput || (face && !face->text(QAccessible::Name).isEmpty());
 }
@@ -76,11 +77,13 @@ QStringList FaultsOf(QWidget& window)
     QStringList faults;
     const QStringList way = TabWay(window);
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (!widget->isVisible() || IsPartOfControl(*widget))
+        if (IsPartOfControl(*widget))
             continue;
-        const QRect place(widget->mapTo(&window, QPoint()), widget->size());
         if (!HasName(*widget))
             faults += widget->objectName() + " has no name";
+        if (!widget->isVisible())
+            continue;
+        const QRect place(widget->mapTo(&window, QPoint()), widget->size());
         if (IsCutOff(*widget))
             faults += widget->objectName() + " is cut off";
         if (!window.rect().contains(place))

@@ -38,6 +38,7 @@ WorkProgress::WorkProgress(QWidget* parent)
     : QWidget(parent), bar_(new QProgressBar), cmdStop_(new QPushButton(tr("Stop")))
 {
     bar_->setObjectName(QStringLiteral("barProgress"));
+    bar_->setAccessibleName(tr("Progress"));
     cmdStop_->setObjectName(QStringLiteral("cmdStop"));
     cmdStop_->setAutoDefault(false);
     auto* layout = new QHBoxLayout(this);
