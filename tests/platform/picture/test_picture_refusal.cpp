@@ -66,6 +66,9 @@ private slots:
         QVERIFY(!JpegNeedsWholePicture(WithOrientation(jpeg_, 6)));
         QVERIFY(JpegNeedsWholePicture(progressive));
         QVERIFY(JpegNeedsWholePicture(WithOrientation(progressive, 6)));
+        const QImage large = QImage::fromData(jpeg_).scaled(1600, 1200);
+        QVERIFY(JpegNeedsWholePicture(Encoded(large, "jpeg", true)));
+        QVERIFY(!JpegNeedsWholePicture(Encoded(large, "jpeg")));
 
         QByteArray oneColourPerScan = jpeg_;
         oneColourPerScan[jpeg_.indexOf("\xFF\xDA") + 4] = 1;
