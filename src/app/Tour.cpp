@@ -161,26 +161,28 @@ void Tour::Shoot(const QString& name)
     });
 }
 
+template<typename Part>
+void Tour::With(const QString& name, std::function<void(Part*)> action)
+{
+    Act([this, name, action = std::move(action)] {
+        auto* part = Front()->findChild<Part*>(name);
+        if (!part)
+            return Fail(QStringLiteral("there is no %1").arg(name));
+        action(part);
+    });
+}
+
 // A button that opens a modal window does not return before that closes, so it is pressed from the
 // event loop while the tour goes on.
 void Tour::Click(const QString& button)
 {
-    Act([this, button] {
-        auto* control = Front()->findChild<QPushButton*>(button);
-        if (!control)
-            return Fail(QStringLiteral("there is no button %1").arg(button));
-        QTimer::singleShot(0, control, &QPushButton::click);
-    });
+    With<QPushButton>(button,
+                      [](auto* control) { QTimer::singleShot(0, control, &QPushButton::click); });
 }
 
 void Tour::Choose(const QString& entry)
 {
-    Act([this, entry] {
-        auto* action = Front()->findChild<QAction*>(entry);
-        if (!action)
-            return Fail(QStringLiteral("there is no entry %1").arg(entry));
-        QTimer::singleShot(0, action, &QAction::trigger);
-    });
+    With<QAction>(entry, [](auto* action) { QTimer::singleShot(0, action, &QAction::trigger); });
 }
 
 void Tour::Press(int key)
@@ -194,10 +196,7 @@ void Tour::Press(int key)
 
 void Tour::RightClick(const QString& control)
 {
-    Act([this, control] {
-        auto* target = Front()->findChild<QWidget*>(control);
-        if (!target)
-            return Fail(QStringLiteral("there is no control %1").arg(control));
+    With<QWidget>(control, [](auto* target) {
         const QPointF place = target->rect().center();
         for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
             QApplication::postEvent(target, new QMouseEvent(type, place, target->mapToGlobal(place),
@@ -208,10 +207,7 @@ void Tour::RightClick(const QString& control)
 
 void Tour::ShowFolder(const QString& list)
 {
-    Act([this, list] {
-        auto* folders = Front()->findChild<FolderList*>(list);
-        if (!folders)
-            return Fail(QStringLiteral("there is no list %1").arg(list));
+    With<FolderList>(list, [](auto* folders) {
         GeneralModule::ImageSet->MoveFirst();
         const QString picture = GeneralModule::ImageSet->TextOrEmpty(u"File");
         folders->SetPath(QFileInfo(picture).absolutePath());

@@ -35,6 +35,9 @@ private:
     void ShowFolder(const QString& list);
     void Resize(int width, int height);
     QWidget* Front() const;
+    // Does something with a part of the window in front; ends the tour when it has no such part.
+    template<typename Part>
+    void With(const QString& name, std::function<void(Part*)> action);
     void Fail(const QString& text);
 
     // Returns true when done, false to be called again a little later.

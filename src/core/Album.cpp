@@ -14,7 +14,6 @@
 #include <QFile>
 #include <QSaveFile>
 
-#include <array>
 #include <optional>
 
 namespace {

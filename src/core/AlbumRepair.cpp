@@ -7,7 +7,6 @@
 #include "core/ChapterChain.h"
 #include "platform/data/WriteBatch.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QHash>
 #include <QSet>

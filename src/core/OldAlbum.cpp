@@ -4,7 +4,6 @@
 #include "core/OldAlbumConversion.h"
 #include "platform/dialogs/Dialogs.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 

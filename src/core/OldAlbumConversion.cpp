@@ -5,7 +5,6 @@
 #include "platform/data/CipherFile.h"
 #include "platform/shell/ProgramFolder.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>

@@ -3,7 +3,6 @@
 
 #include "core/PathRoutines.h"
 
-#include <QCoreApplication>
 #include <QDir>
 
 namespace {

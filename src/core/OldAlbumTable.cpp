@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/OldAlbumTable.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <limits>
 

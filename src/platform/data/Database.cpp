@@ -9,7 +9,6 @@
 
 #include <sqlcipher/sqlite3.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

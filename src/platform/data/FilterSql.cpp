@@ -4,8 +4,6 @@
 #include "platform/data/SqlFunctions.h"
 #include "platform/text/LikePattern.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
 namespace {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/data/FilterText.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
 namespace {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/data/RecordSet.h"
 
-#include <QCoreApplication>
-
 #include <limits>
 
 namespace {

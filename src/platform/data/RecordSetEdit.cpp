@@ -4,8 +4,6 @@
 
 #include <sqlcipher/sqlite3.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <limits>
 

@@ -3,7 +3,6 @@
 
 #include "platform/data/Statement.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QSet>
 

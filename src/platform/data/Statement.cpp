@@ -3,8 +3,6 @@
 
 #include <sqlcipher/sqlite3.h>
 
-#include <QCoreApplication>
-
 #include <utility>
 
 void ThrowEngineError(sqlite3* engine, int code)

@@ -5,8 +5,6 @@
 
 #include <sqlcipher/sqlite3.h>
 
-#include <QCoreApplication>
-
 namespace {
 
 constexpr std::size_t mostFields = 64; // record sets mark fields in one 64-bit word

@@ -4,7 +4,6 @@
 #include "platform/data/DatabaseError.h"
 #include "platform/oldalbum/ReaderProcess.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 

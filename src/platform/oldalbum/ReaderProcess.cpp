@@ -4,7 +4,6 @@
 #include "platform/data/DatabaseError.h"
 #include "platform/shell/ProgramFolder.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QtEndian>
 

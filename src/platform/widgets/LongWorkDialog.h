@@ -7,7 +7,6 @@
 
 #include <atomic>
 
-class QLabel;
 class QPushButton;
 
 // Tells that long work goes on in another thread, and lets the user stop it. Comes up only when the

@@ -14,8 +14,6 @@ struct DroppedFiles
     QMap<QString, QStringList> pictures; // names by folder
     int pictureCount = 0;
     int others = 0; // neither, or not on this computer
-
-    bool IsEmpty() const { return albums.isEmpty() && pictures.isEmpty() && others == 0; }
 };
 
 // A dropped folder stands for the picture files that lie directly in it.

@@ -206,41 +206,37 @@ bool frmOpenChapter::eventFilter(QObject* watched, QEvent* event)
 
 void frmOpenChapter::OpenChosen(const QString& path)
 {
+    ui_->lstChapter->clear();
     AlbumOpen = OpenAlbum(path);
     FillRecentAlbums();
     if (AlbumOpen)
         FillChapterList();
-}
-
-void frmOpenChapter::OpenNamed(const QString& path)
-{
-    ui_->lstChapter->clear();
-    OpenChosen(path);
     RefreshState();
 }
 
 void frmOpenChapter::FillRecentAlbums()
 {
-    FillRecentMenu(*ui_->mnuRecent,
-                   [this](const QString& path) { RunGuarded([this, &path] { OpenNamed(path); }); });
+    FillRecentMenu(*ui_->mnuRecent, [this](const QString& path) {
+        RunGuarded([this, &path] { OpenChosen(path); });
+    });
 }
 
 void frmOpenChapter::mnuOpenScript_Click()
 {
     const QString path = Dialogs::Door().AskOpenFile(
         {tr("Open Album"), tr("Album|*.alb"), FolderOf(GetLastAlbum())});
-    if (!path.isEmpty())
-        OpenNamed(path);
-    RefreshState();
+    if (path.isEmpty())
+        return RefreshState();
+    OpenChosen(path);
 }
 
 void frmOpenChapter::mnuCreateScript_Click()
 {
     const QString path = Dialogs::Door().AskSaveFile(
         {tr("Create a new Album"), tr("Album|*.alb"), FolderOf(GetLastAlbum())});
-    if (!path.isEmpty() && CreateAlbumFile(path))
-        OpenNamed(path);
-    RefreshState();
+    if (path.isEmpty() || !CreateAlbumFile(path))
+        return RefreshState();
+    OpenChosen(path);
 }
 
 void frmOpenChapter::mnuExit_Click()

@@ -63,9 +63,8 @@ private:
                  const char* icon);
     void DecorateWarning();
     void TintWarning();
+    // From whichever way the album was chosen.
     void OpenChosen(const QString& path);
-    // The list of albums opened lately leads here, and so does a dropped album.
-    void OpenNamed(const QString& path);
     void FillRecentAlbums();
     void TakeDropped(const DroppedFiles& files);
     void LoadDropped(const DroppedFiles& files);

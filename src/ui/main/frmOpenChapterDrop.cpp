@@ -39,7 +39,7 @@ void frmOpenChapter::TakeDropped(const DroppedFiles& files)
         Tell(tr("Please drop either an album, to open it, or pictures, to load them."),
              Dialogs::Icon::Warning);
     else if (!files.albums.isEmpty())
-        OpenNamed(files.albums.first());
+        OpenChosen(files.albums.first());
     else if (files.pictureCount == 0)
         Tell(tr("There is neither an album nor a picture among these files."),
              Dialogs::Icon::Warning);
