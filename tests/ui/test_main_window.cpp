@@ -150,6 +150,15 @@ private slots:
         QCOMPARE(Chapters(), "");
         QCOMPARE(Warning(), "Please OPEN or CREATE an ALBUM\nPress F1 for Help");
         window_->resize(700, 500);
+
+        dialogs_->ExpectOpenFile("Open Album", album_->GetAlbum());
+        Choose("mnuOpenScript");
+        QCOMPARE(Chapters(), "*A");
+        dialogs_->ExpectSaveFile("Create a new Album", album_->PathOf("missing/new.alb"));
+        dialogs_->ExpectBoxBeginning("The album '", Icon::Warning);
+        Choose("mnuCreateScript");
+        QVERIFY(!window_->AlbumOpen);
+        QCOMPARE(Chapters(), "");
         Choose("mnuExit");
         QVERIFY(!window_->isVisible());
     }

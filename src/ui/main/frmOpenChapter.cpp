@@ -234,9 +234,15 @@ void frmOpenChapter::mnuCreateScript_Click()
 {
     const QString path = Dialogs::Door().AskSaveFile(
         {tr("Create a new Album"), tr("Album|*.alb"), FolderOf(GetLastAlbum())});
-    if (path.isEmpty() || !CreateAlbumFile(path))
+    if (path.isEmpty())
         return RefreshState();
-    OpenChosen(path);
+    if (CreateAlbumFile(path))
+        return OpenChosen(path);
+    // As after opening in vain, so that nobody goes on in the former album by mistake.
+    ui_->lstChapter->clear();
+    ReleaseAlbum();
+    AlbumOpen = false;
+    RefreshState();
 }
 
 void frmOpenChapter::mnuExit_Click()
