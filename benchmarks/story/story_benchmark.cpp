@@ -9,6 +9,7 @@
 
 #include <sqlcipher/sqlite3.h>
 
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include <cstdlib>
@@ -82,24 +83,20 @@ void FillStory(sqlite3* engine)
 // The open album, made on first use; its file goes at the end of the run.
 sqlite3* Engine()
 {
-    static const struct Album
+    static const struct BenchmarkAlbum
     {
-        Album()
+        BenchmarkAlbum()
         {
             const QString path = folder.filePath(QStringLiteral("story.alb"));
             QFile::copy(QStringLiteral(TEMPLATE_FILE), path);
-            AlbumDatabase = Database::Open(path);
-            ParagraphSet = std::make_unique<RecordSet>(AlbumDatabase, QStringLiteral("Paragraph"));
-            ChapterSet = std::make_unique<RecordSet>(AlbumDatabase, QStringLiteral("Chapter"));
-            ImageSet = std::make_unique<RecordSet>(AlbumDatabase, QStringLiteral("Image"));
-            LinkedImagesSet =
-                std::make_unique<RecordSet>(AlbumDatabase, QStringLiteral("LinkedImages"));
+            QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+            OpenAlbum(path);
             AlbumDatabase->Execute("BEGIN");
             FillPictures(AlbumDatabase->GetEngine());
             FillStory(AlbumDatabase->GetEngine());
             AlbumDatabase->Execute("COMMIT");
         }
-        ~Album() { ReleaseAlbum(); }
+        ~BenchmarkAlbum() { ReleaseAlbum(); }
 
         QTemporaryDir folder;
     } album;

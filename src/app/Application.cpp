@@ -5,11 +5,16 @@
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ThemedIcon.h"
 
+void NameProgram()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Lumenark"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(LUMENARK_VERSION));
+}
+
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
-    setApplicationName(QStringLiteral("Lumenark"));
-    setApplicationDisplayName(QStringLiteral("Lumenark"));
-    setApplicationVersion(QStringLiteral(LUMENARK_VERSION));
+    NameProgram();
+    setApplicationDisplayName(applicationName());
     setDesktopFileName(QStringLiteral("lumenark"));
     setWindowIcon(ProgramIcon());
     InstallTranslations(*this);

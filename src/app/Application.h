@@ -3,6 +3,9 @@
 
 #include <QApplication>
 
+// Gives an application without windows the program's name and version.
+void NameProgram();
+
 // Shows what no handler has caught, and goes on.
 class Application : public QApplication
 {

@@ -2,8 +2,10 @@
 #include "Application.h"
 #include "Convert.h"
 #include "Tour.h"
+#include "Translations.h"
 
 #include "core/StartUp.h"
+#include "platform/widgets/HeldEscape.h"
 #include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/QtDialogs.h"
 #include "ui/main/frmOpenChapter.h"
@@ -11,6 +13,11 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QTimer>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string_view>
 
 namespace {
 
@@ -20,7 +27,19 @@ struct Arguments
     QString tour;  // folder for the pictures of a tour, empty for none
 };
 
-Arguments ReadArguments(const QApplication& application)
+// Whether the program is only asked what it is, which needs no display.
+bool AsksOnly(int argc, char** argv)
+{
+    static constexpr std::array<std::string_view, 5> questions{"-h", "--help", "--help-all", "-v",
+                                                               "--version"};
+    for (int i = 1; i < argc && std::strcmp(argv[i], "--") != 0; ++i) {
+        if (std::find(questions.begin(), questions.end(), argv[i]) != questions.end())
+            return true;
+    }
+    return false;
+}
+
+Arguments ReadArguments()
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::tr("Tells stories with photographs."));
@@ -36,7 +55,7 @@ Arguments ReadArguments(const QApplication& application)
         QStringLiteral("album"),
         QApplication::tr("The album to open; the last one when not given."),
         QStringLiteral("[album]"));
-    parser.process(application);
+    parser.process(QCoreApplication::arguments());
     const auto absolute = [](const QString& path) {
         return path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
     };
@@ -68,11 +87,18 @@ int main(int argc, char** argv)
     // Before anything that needs a display.
     if (IsConversion(argc, argv))
         return RunConversion(argc, argv);
+    if (AsksOnly(argc, argv)) {
+        QCoreApplication application(argc, argv);
+        NameProgram();
+        InstallTranslations(application);
+        ReadArguments(); // answers, and ends the program
+    }
     Application application(argc, argv);
     QtDialogs dialogs;
     Dialogs::Install(&dialogs);
     InstallHelpKey(GeneralModule::HelpFile());
-    const Arguments arguments = ReadArguments(application);
+    InstallHeldEscapeFilter();
+    const Arguments arguments = ReadArguments();
     frmOpenChapter mainWindow(arguments.album);
     mainWindow.show();
     if (!arguments.tour.isEmpty())

@@ -37,52 +37,44 @@ void RequireCharacteristics(const RecordSet& set)
         set.FieldNumber(QStringLiteral("Car%1").arg(column));
 }
 
-std::unique_ptr<RecordSet> OpenSet(const char* table)
+void RequireSchema(const Album& album)
 {
-    return std::make_unique<RecordSet>(AlbumDatabase, QString::fromLatin1(table));
-}
-
-void OpenRecordSets()
-{
-    ParamsSet = OpenSet("Params");
-    ParagraphSet = OpenSet("Paragraph");
-    ImageSet = OpenSet("Image");
-    ChapterSet = OpenSet("Chapter");
-    LinkedImagesSet = OpenSet("LinkedImages");
-    RequireFields(*ParamsSet, {"Param", "Value"});
-    RequireFields(*ParagraphSet,
+    RequireFields(album.params, {"Param", "Value"});
+    RequireFields(album.paragraphs,
                   {"Id", "Chapter", "PreviousParagraph", "NextParagraph", "Text", "FileSelection"});
-    RequireCharacteristics(*ParagraphSet);
-    RequireFields(*ImageSet, {"File", "Legend", "SourceFile"});
-    RequireCharacteristics(*ImageSet);
-    RequireFields(*ChapterSet, {"Id", "Name", "FirstParagraph", "PreviousChapter", "NextChapter"});
-    RequireFields(*LinkedImagesSet, {"ParagraphId", "File"});
+    RequireCharacteristics(album.paragraphs);
+    RequireFields(album.images, {"File", "Legend", "SourceFile"});
+    RequireCharacteristics(album.images);
+    RequireFields(album.chapters,
+                  {"Id", "Name", "FirstParagraph", "PreviousChapter", "NextChapter"});
+    RequireFields(album.linkedImages, {"ParagraphId", "File"});
 }
 
 // Older programs left FileSelection without a value; every reader counts on a text.
-void FillEmptySelections()
+void FillEmptySelections(Album& album)
 {
-    const RecordSet::Walk walk(*ParagraphSet);
+    RecordSet& paragraphs = album.paragraphs;
+    const RecordSet::Walk walk(paragraphs);
     std::optional<WriteBatch> batch;
-    const int selection = ParagraphSet->FieldNumber(u"FileSelection");
-    for (ParagraphSet->MoveFirst(); !ParagraphSet->AtEnd(); ParagraphSet->MoveNext()) {
-        if (!ParagraphSet->IsNull(selection))
+    const int selection = paragraphs.FieldNumber(u"FileSelection");
+    for (paragraphs.MoveFirst(); !paragraphs.AtEnd(); paragraphs.MoveNext()) {
+        if (!paragraphs.IsNull(selection))
             continue;
         if (!batch)
-            batch.emplace(AlbumDatabase);
-        ParagraphSet->Edit();
-        ParagraphSet->Set(u"FileSelection", QString());
-        ParagraphSet->Update();
+            batch.emplace(album.database);
+        paragraphs.Edit();
+        paragraphs.Set(u"FileSelection", QString());
+        paragraphs.Update();
         batch->RowDone();
     }
     if (batch)
         batch->Finish();
 }
 
-void CleanUpParagraphs()
+void CleanUpParagraphs(Album& album)
 {
     try {
-        FillEmptySelections();
+        FillEmptySelections(album);
     } catch (const DatabaseError& error) {
         Tell(AlbumTexts::tr("Unexpected Error : %1 %2")
                  .arg(error.GetNumber())
@@ -91,12 +83,7 @@ void CleanUpParagraphs()
     }
 }
 
-void TryToOpen(const QString& path, const QString& password)
-{
-    AlbumDatabase = Database::Open(path, password);
-    OpenRecordSets();
-    CleanUpParagraphs();
-}
+std::unique_ptr<Album> opened;
 
 void TellWhyNot(const DatabaseError& error)
 {
@@ -113,14 +100,14 @@ void TellWhyNot(const DatabaseError& error)
 bool OpenWithPassword(const QString& path, QString password)
 {
     while (true) {
-        ReleaseAlbum();
         try {
-            TryToOpen(path, password);
+            auto album = std::make_unique<Album>(path, password);
+            CleanUpParagraphs(*album);
+            opened = std::move(album);
             SaveLastAlbum(path);
             RememberRecentAlbum(path);
             return true;
         } catch (const DatabaseError& error) {
-            ReleaseAlbum();
             if (error.GetNumber() != DatabaseError::WrongPassword) {
                 TellWhyNot(error);
                 return false;
@@ -128,16 +115,16 @@ bool OpenWithPassword(const QString& path, QString password)
         }
         password = Dialogs::Door().AskText(
             {.prompt = AlbumTexts::tr("Please give the password for : ") + path,
+             .note = password.isEmpty() ? QString() : AlbumTexts::tr("Wrong password"),
              .isPassword = true});
         if (password.isEmpty())
             return false;
     }
 }
 
-// Opens a new album that is made of the old one. Released first: the new one may take its place.
+// Opens a new album that is made of the old one.
 bool OpenOldAlbum(const QString& path)
 {
-    ReleaseAlbum();
     try {
         const std::optional<NewAlbum> made = OfferConversion(path);
         if (!made)
@@ -155,15 +142,34 @@ bool OpenOldAlbum(const QString& path)
 
 namespace GeneralModule {
 
-std::shared_ptr<Database> AlbumDatabase;
-std::unique_ptr<RecordSet> ParamsSet;
-std::unique_ptr<RecordSet> ParagraphSet;
-std::unique_ptr<RecordSet> ImageSet;
-std::unique_ptr<RecordSet> ChapterSet;
-std::unique_ptr<RecordSet> LinkedImagesSet;
+Album::Album(const QString& path, const QString& password)
+    : database(Database::Open(path, password)),
+      params(database, QStringLiteral("Params")),
+      paragraphs(database, QStringLiteral("Paragraph")),
+      images(database, QStringLiteral("Image")),
+      chapters(database, QStringLiteral("Chapter")),
+      linkedImages(database, QStringLiteral("LinkedImages"))
+{
+    RequireSchema(*this);
+}
 
+bool IsAlbumOpen()
+{
+    return opened != nullptr;
+}
+
+Album& OpenedAlbum()
+{
+    if (!opened)
+        throw DatabaseError(DatabaseError::NoAlbum, AlbumTexts::tr("No album is open."));
+    return *opened;
+}
+
+// Released first: while boxes are up nothing may be changed in the wrong album, and an album that is
+// made of an old one may take the place of the one that was open.
 bool OpenAlbum(const QString& path, const QString& password)
 {
+    ReleaseAlbum();
     if (KindOfDatabaseFile(path) == DatabaseFileKind::OldAlbum)
         return OpenOldAlbum(path);
     return OpenWithPassword(path, password);
@@ -171,10 +177,7 @@ bool OpenAlbum(const QString& path, const QString& password)
 
 void ReleaseAlbum()
 {
-    for (std::unique_ptr<RecordSet>* set :
-         {&ParamsSet, &ParagraphSet, &ImageSet, &ChapterSet, &LinkedImagesSet})
-        set->reset();
-    AlbumDatabase.reset();
+    opened.reset();
 }
 
 bool CreateAlbumFile(const QString& path)

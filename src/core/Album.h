@@ -7,22 +7,56 @@
 
 #include <memory>
 
-// The one album that is open. The record sets live until another album is opened; each has one
-// current row that all windows share, so a routine positions a set before it reads or writes.
 namespace GeneralModule {
 
-extern std::shared_ptr<Database> AlbumDatabase;
-extern std::unique_ptr<RecordSet> ParamsSet;
-extern std::unique_ptr<RecordSet> ParagraphSet;
-extern std::unique_ptr<RecordSet> ImageSet;
-extern std::unique_ptr<RecordSet> ChapterSet;
-extern std::unique_ptr<RecordSet> LinkedImagesSet;
+// The album that is open: its database, and the record sets over its tables. Each set has one current
+// row that all windows share, so a routine positions a set before it reads or writes.
+struct Album
+{
+    // Opens all of it or throws DatabaseError.
+    Album(const QString& path, const QString& password);
 
-// Opens the album in place of the one that is open and remembers it as the last one. Asks for the
+    std::shared_ptr<Database> database;
+    RecordSet params;
+    RecordSet paragraphs;
+    RecordSet images;
+    RecordSet chapters;
+    RecordSet linkedImages;
+};
+
+bool IsAlbumOpen();
+
+// Throws DatabaseError NoAlbum while none is open.
+Album& OpenedAlbum();
+
+// Stand for parts of the album that is open. Whoever reaches for one while none is open gets
+// DatabaseError NoAlbum.
+template<RecordSet Album::*Set>
+struct OpenedSet
+{
+    RecordSet& operator*() const { return OpenedAlbum().*Set; }
+    RecordSet* operator->() const { return &(OpenedAlbum().*Set); }
+};
+
+struct OpenedDatabase
+{
+    Database& operator*() const { return *OpenedAlbum().database; }
+    Database* operator->() const { return OpenedAlbum().database.get(); }
+    operator std::shared_ptr<Database>() const { return OpenedAlbum().database; }
+};
+
+inline constexpr OpenedDatabase AlbumDatabase;
+inline constexpr OpenedSet<&Album::params> ParamsSet;
+inline constexpr OpenedSet<&Album::paragraphs> ParagraphSet;
+inline constexpr OpenedSet<&Album::images> ImageSet;
+inline constexpr OpenedSet<&Album::chapters> ChapterSet;
+inline constexpr OpenedSet<&Album::linkedImages> LinkedImagesSet;
+
+// Releases the album that is open, opens this one, and remembers it as the last one. Asks for the
 // password, unless the one given fits, until it does or the answer is empty. False, with a message
-// shown unless the user gave up, when the album could not be opened; then no album is open. Of an
-// album in the former file format a new one is made, if the user agrees, and that is the one that
-// is opened and remembered.
+// shown unless the user gave up, when the album could not be opened. No album is open while boxes
+// are up, nor after a failure. Of an album in the former file format a new one is made, if the user
+// agrees, and that is the one that is opened and remembered.
 bool OpenAlbum(const QString& path, const QString& password = {});
 
 // Copies the template to path, over a file that is there. False, with a message shown, when that

@@ -8,7 +8,9 @@
 #include "platform/data/WriteBatch.h"
 
 #include <QDir>
+#include <QFile>
 #include <QHash>
+#include <QScopeGuard>
 #include <QSet>
 
 #include <algorithm>
@@ -29,12 +31,17 @@ constexpr ChainFields chapterFields{u"PreviousChapter", u"NextChapter"};
 constexpr ChainFields paragraphFields{u"PreviousParagraph", u"NextParagraph"};
 
 // -1 for what is no link, nor the 0 that stands for none: it leads nowhere and is to be rewritten.
+// An album that cannot be read is no broken link.
 qint32 LinkIn(RecordSet& set, QStringView field)
 {
     try {
         return std::max(set.Number(field), -1);
-    } catch (const DatabaseError&) {
-        return -1;
+    } catch (const DatabaseError& error) {
+        const int number = error.GetNumber();
+        if (number == DatabaseError::InvalidUseOfNull || number == DatabaseError::TypeMismatch ||
+            number == DatabaseError::Overflow)
+            return -1;
+        throw;
     }
 }
 
@@ -43,15 +50,11 @@ class Repair
 public:
     RepairReport Run()
     {
-        report_.copy = CopyAlbumBeside(RepairReport::tr("before repair"));
-        WriteBatch batch(AlbumDatabase);
-        batch_ = &batch;
         RepairChapters();
         ReadParagraphs();
         AdoptByLinks();
         AdoptTheRest();
         RepairParagraphs();
-        batch.Finish();
         return report_;
     }
 
@@ -115,7 +118,6 @@ private:
         ParagraphSet->Edit();
         ParagraphSet->Set(u"Chapter", chapter);
         ParagraphSet->Update();
-        batch_->RowDone();
         ++report_.adopted;
         return true;
     }
@@ -134,7 +136,7 @@ private:
         const QString base = RepairReport::tr("Found again");
         QString name = base;
         for (int number = 2; FindChapter(name); ++number)
-            name = QStringLiteral("%1 %2").arg(base).arg(number);
+            name = QStringLiteral("%1 %2").arg(base, QString::number(number));
         QString last;
         if (!chapters_.isEmpty() && FindById(*ChapterSet, chapters_.last()))
             last = ChapterSet->TextOrEmpty(u"Name");
@@ -161,7 +163,6 @@ private:
             ChapterSet->Edit();
             ChapterSet->Set(u"FirstParagraph", head);
             ChapterSet->Update();
-            batch_->RowDone();
             ++report_.firstParagraphs;
         }
         report_.paragraphLinks += WriteLinks(*ParagraphSet, paragraphFields, links, mended);
@@ -183,14 +184,12 @@ private:
             set.Set(fields.previous, link.previous);
             set.Set(fields.next, link.next);
             set.Update();
-            batch_->RowDone();
             ++written;
         }
         return written;
     }
 
     RepairReport report_;
-    WriteBatch* batch_ = nullptr;
     QList<qint32> chapters_; // in their order
     std::vector<ChainLink> paragraphs_;
     QHash<qint32, qint32> owners_; // chapter of each paragraph, 0 for none
@@ -200,9 +199,24 @@ private:
 
 namespace GeneralModule {
 
+// Tried first and taken back, because a sound album needs no copy, and a copy cannot be made any more
+// once changes are on their way.
 RepairReport RepairAlbum()
 {
-    return Repair().Run();
+    {
+        const WriteBatch trial(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+        const RepairReport report = Repair().Run();
+        if (report.IsEmpty())
+            return report;
+    }
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    const QString copy = CopyAlbumBeside(RepairReport::tr("before repair"));
+    auto removeCopy = qScopeGuard([&copy] { QFile::remove(copy); });
+    RepairReport report = Repair().Run();
+    batch.Finish();
+    removeCopy.dismiss();
+    report.copy = copy;
+    return report;
 }
 
 QString DescribeRepair(const RepairReport& report)
@@ -220,8 +234,9 @@ QString DescribeRepair(const RepairReport& report)
                      .arg(report.adopted);
     if (report.paragraphLinks > 0)
         lines += RepairReport::tr("Paragraphs linked anew: %1").arg(report.paragraphLinks);
-    lines += RepairReport::tr("The album as it was before is kept in '%1'.")
-                 .arg(QDir::toNativeSeparators(report.copy));
+    if (!report.copy.isEmpty())
+        lines += RepairReport::tr("The album as it was before is kept in '%1'.")
+                     .arg(QDir::toNativeSeparators(report.copy));
     return lines.join(u'\n');
 }
 

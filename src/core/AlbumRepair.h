@@ -12,7 +12,7 @@ struct RepairReport
     Q_DECLARE_TR_FUNCTIONS(RepairReport)
 
 public:
-    QString copy;            // path of the album's copy as it was before
+    QString copy;            // path of the album's copy as it was before; empty when all was well
     int chapterLinks = 0;    // chapters whose links were wrong
     int firstParagraphs = 0; // chapters that named a wrong first paragraph
     int paragraphLinks = 0;  // paragraphs whose links were wrong
@@ -24,8 +24,8 @@ public:
 // Checks the chains of chapters and paragraphs of the open album and makes them whole: afterwards
 // the chapters are one chain, and each chapter's paragraphs are one. Only links change. A paragraph
 // of no chapter goes to the chapter of the paragraphs that it is linked with, or else to a new one
-// at the end. Keeps a copy of the album beside it first. Throws DatabaseError; what was repaired
-// until then stays, and so does the copy.
+// at the end. Where something was wrong a copy of the album as it was is kept beside it. Throws
+// DatabaseError; then nothing is changed and no copy is left.
 RepairReport RepairAlbum();
 
 // What a person reads about it.

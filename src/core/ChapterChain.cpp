@@ -3,6 +3,7 @@
 
 #include "core/Album.h"
 #include "core/TextRoutines.h"
+#include "platform/data/WriteBatch.h"
 #include "platform/text/LikePattern.h"
 
 #include <QSet>
@@ -22,6 +23,35 @@ ChapterLinks CurrentLinks()
 {
     return {ChapterSet->Number(u"Id"), ChapterSet->Number(u"PreviousChapter"),
             ChapterSet->Number(u"NextChapter")};
+}
+
+// Calls visit on each chapter from the first one on, along NextChapter, until it returns false or a
+// link leads to no chapter or back; the set stands on the chapter.
+template<typename Visit>
+void WalkChapters(const Visit& visit)
+{
+    QSet<qint32> visited;
+    ChapterSet->FindFirst(QStringLiteral("[PreviousChapter]=0"));
+    bool isFound = !ChapterSet->NoMatch();
+    while (isFound) {
+        const ChapterLinks links = CurrentLinks();
+        if (visited.contains(links.id) || !visit(links))
+            return;
+        visited.insert(links.id);
+        isFound = FindById(*ChapterSet, links.next);
+    }
+}
+
+// The links of the chapter of that name as the reading order has them: an insertion leaves the
+// backward link of the chapter that follows it as it was.
+std::optional<ChapterLinks> FindLinks(const QString& name)
+{
+    const std::optional<qint32> chapter = FindChapter(name);
+    if (!chapter)
+        return std::nullopt;
+    ChapterLinks links{*chapter, 0, ChapterSet->Number(u"NextChapter")};
+    links.previous = ChapterLeadingTo(*chapter);
+    return links;
 }
 
 // A chapter that is gone needs no links: a dangling one must not send the new links elsewhere.
@@ -44,6 +74,18 @@ void SetLinks(qint32 id, qint32 previous, qint32 next)
     ChapterSet->Update();
 }
 
+// Exchanges two neighbours, after the lower one of which comes next.
+void Exchange(qint32 upper, qint32 lower, qint32 next)
+{
+    const qint32 previous = ChapterLeadingTo(upper);
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    SetLinks(lower, previous, upper);
+    SetLinks(upper, lower, next);
+    SetLink(previous, u"NextChapter", lower);
+    SetLink(next, u"PreviousChapter", upper);
+    batch.Finish();
+}
+
 } // namespace
 
 namespace GeneralModule {
@@ -51,18 +93,28 @@ namespace GeneralModule {
 QStringList ChapterNames()
 {
     QStringList names;
-    QSet<qint32> listed;
-    ChapterSet->FindFirst(QStringLiteral("[PreviousChapter]=0"));
-    bool found = !ChapterSet->NoMatch();
-    while (found) {
-        const ChapterLinks links = CurrentLinks();
-        if (listed.contains(links.id))
-            break;
-        listed.insert(links.id);
+    WalkChapters([&names](const ChapterLinks&) {
         names += ChapterSet->TextOrEmpty(u"Name");
-        found = FindById(*ChapterSet, links.next);
-    }
+        return true;
+    });
     return names;
+}
+
+qint32 ChapterLeadingTo(qint32 chapter)
+{
+    qint32 before = 0;
+    bool isReached = false;
+    WalkChapters([&](const ChapterLinks& links) {
+        isReached = links.id == chapter;
+        if (!isReached)
+            before = links.id;
+        return !isReached;
+    });
+    if (isReached)
+        return before;
+    const qint32 stored =
+        FindById(*ChapterSet, chapter) ? ChapterSet->Number(u"PreviousChapter") : 0;
+    return stored != chapter && stored > 0 && FindById(*ChapterSet, stored) ? stored : 0;
 }
 
 bool IsChapterName(const QString& name)
@@ -97,6 +149,7 @@ qint32 CreateChapter(const QString& name, const QString& after)
         selected = ChapterSet->Number(u"Id");
         next = ChapterSet->Number(u"NextChapter");
     }
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     ChapterSet->AddNew();
     ChapterSet->Set(u"Name", name);
     ChapterSet->Set(u"FirstParagraph", 0);
@@ -107,58 +160,52 @@ qint32 CreateChapter(const QString& name, const QString& after)
     // The chapter that followed keeps its backward link on purpose; albums are made this way, and
     // the repair of an album sets it right.
     SetLink(selected, u"NextChapter", created);
+    batch.Finish();
     return created;
 }
 
-void RenameChapter(const QString& name, const QString& newName)
+bool RenameChapter(qint32 chapter, const QString& newName)
 {
-    if (!FindChapter(name))
-        return;
+    if (!FindById(*ChapterSet, chapter))
+        return false;
     ChapterSet->Edit();
     ChapterSet->Set(u"Name", newName);
     ChapterSet->Update();
+    return true;
 }
 
 ChapterDeletion DeleteChapter(const QString& name)
 {
-    if (!FindChapter(name))
+    const std::optional<ChapterLinks> gone = FindLinks(name);
+    if (!gone || !FindById(*ChapterSet, gone->id))
         return ChapterDeletion::NotFound;
     if (ChapterSet->Number(u"FirstParagraph") > 0)
         return ChapterDeletion::HasParagraphs;
-    const ChapterLinks gone = CurrentLinks();
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     ChapterSet->Delete();
-    SetLink(gone.previous, u"NextChapter", gone.next);
-    SetLink(gone.next, u"PreviousChapter", gone.previous);
+    SetLink(gone->previous, u"NextChapter", gone->next);
+    SetLink(gone->next, u"PreviousChapter", gone->previous);
+    batch.Finish();
     return ChapterDeletion::Deleted;
 }
 
 bool MoveChapterUp(const QString& name)
 {
-    if (!FindChapter(name))
+    const std::optional<ChapterLinks> moved = FindLinks(name);
+    if (!moved || moved->previous == 0)
         return false;
-    const ChapterLinks moved = CurrentLinks();
-    if (moved.previous == 0 || !FindById(*ChapterSet, moved.previous))
-        return false;
-    const qint32 beforePrevious = ChapterSet->Number(u"PreviousChapter");
-    SetLinks(moved.previous, moved.id, moved.next);
-    SetLink(beforePrevious, u"NextChapter", moved.id);
-    SetLinks(moved.id, beforePrevious, moved.previous);
-    SetLink(moved.next, u"PreviousChapter", moved.previous);
+    Exchange(moved->previous, moved->id, moved->next);
     return true;
 }
 
 bool MoveChapterDown(const QString& name)
 {
-    if (!FindChapter(name))
+    const std::optional<ChapterLinks> moved = FindLinks(name);
+    // The last chapter may lead nowhere, or back to one before it.
+    if (!moved || moved->next == 0 || ChapterLeadingTo(moved->next) != moved->id ||
+        !FindById(*ChapterSet, moved->next))
         return false;
-    const ChapterLinks moved = CurrentLinks();
-    if (moved.next == 0 || !FindById(*ChapterSet, moved.next))
-        return false;
-    const qint32 afterNext = ChapterSet->Number(u"NextChapter");
-    SetLinks(moved.next, moved.previous, moved.id);
-    SetLink(afterNext, u"PreviousChapter", moved.id);
-    SetLinks(moved.id, moved.next, afterNext);
-    SetLink(moved.previous, u"NextChapter", moved.next);
+    Exchange(moved->id, moved->next, ChapterSet->Number(u"NextChapter"));
     return true;
 }
 

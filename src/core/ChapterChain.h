@@ -8,7 +8,7 @@
 
 // The chapters of the open album, linked in reading order by PreviousChapter and NextChapter (0 =
 // none). Chapters are found by name; nothing remembers their identifiers between two operations.
-// Each row is committed by itself: an error half way leaves the rows changed so far as they are.
+// The rows that one operation changes are committed together, all or none.
 namespace GeneralModule {
 
 // Names from the first chapter on, along NextChapter. A link to no chapter, or back to one that was
@@ -22,13 +22,19 @@ bool IsChapterName(const QString& name);
 // its row.
 std::optional<qint32> FindChapter(const QString& name);
 
-// Adds an empty chapter behind the one named after, or as the first when that is empty. Links
+// Adds an empty chapter after the one named so, or as the first when that name is empty. Links
 // forward only: the chapter that followed keeps its PreviousChapter. Returns the new identifier.
 // Throws DatabaseError, DuplicateKey for a name that an unlisted chapter has.
 qint32 CreateChapter(const QString& name, const QString& after);
 
-// Nothing happens when there is no chapter of that name.
-void RenameChapter(const QString& name, const QString& newName);
+// False, and nothing changed, when the chapter is not in the album any more. Throws DatabaseError,
+// DuplicateKey for a name that another chapter has.
+bool RenameChapter(qint32 chapter, const QString& newName);
+
+// The chapter before it in reading order, 0 for the first one: the one that leads here, which is not
+// always the one that its own PreviousChapter names. Of a chapter that the reading order does not
+// reach the one that it names itself.
+qint32 ChapterLeadingTo(qint32 chapter);
 
 enum class ChapterDeletion { Deleted, HasParagraphs, NotFound };
 ChapterDeletion DeleteChapter(const QString& name);

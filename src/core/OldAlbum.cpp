@@ -18,6 +18,7 @@ std::optional<QString> AskPassword(const OldAlbumFile& old, const QString& path)
     while (old.HasPassword() && !old.PasswordFits(password)) {
         password = Dialogs::Door().AskText(
             {.prompt = OldAlbumReport::tr("Please give the password for : ") + path,
+             .note = password.isEmpty() ? QString() : OldAlbumReport::tr("Wrong password"),
              .isPassword = true});
         if (password.isEmpty())
             return std::nullopt;

@@ -5,6 +5,7 @@
 #include "core/Parameters.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ClickLabel.h"
+#include "platform/widgets/LiteralText.h"
 #include "story/ParagraphMarkers.h"
 
 #include <QHeaderView>
@@ -113,15 +114,19 @@ void FilterPanel::changeEvent(QEvent* event)
 
 void FilterPanel::ShowLabels()
 {
+    // Read first: what cannot be read leaves the panel as it was.
     QStringList groups;
     for (int group = 0; group < groupCount; ++group)
         groups += GeneralModule::CaractLabel(group);
-    ui_->grdCar->setHorizontalHeaderLabels(groups);
+    QStringList labels;
+    for (int column = 0; column < columnCount; ++column)
+        labels += GeneralModule::ColumnLabel(LabelledColumnOf(column));
     const std::vector<TextMarker> markers = ReadTextMarkers();
+    ui_->grdCar->setHorizontalHeaderLabels(groups);
     for (int column = 0; column < columnCount; ++column) {
         names_[std::size_t(column)] = markers[std::size_t(column) + 1].title;
         ClickLabel* label = lblCar_[std::size_t(column)];
-        label->setText(GeneralModule::ColumnLabel(LabelledColumnOf(column)));
+        label->setText(labels[column]);
         label->setAccessibleName(names_[std::size_t(column)]);
     }
     CloseList();
@@ -149,7 +154,7 @@ void FilterPanel::ShowFilter(int column)
     QTableWidgetItem* item = ui_->grdCar->item(LabelRow(column) + 1, GroupOf(column));
     const QString description = DescribeFilter(value);
     item->setText(description);
-    item->setToolTip(names_[std::size_t(column)] + QStringLiteral(": ") + description);
+    item->setToolTip(AsToolTip(names_[std::size_t(column)] + QStringLiteral(": ") + description));
 }
 
 void FilterPanel::lblCar_Click(int column)

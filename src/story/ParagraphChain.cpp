@@ -141,7 +141,7 @@ void CreateFirstParagraph(ParagraphPlace& place)
     batch.Finish();
 }
 
-void CreateNextParagraph(ParagraphPlace& place, const ParagraphContent& content)
+ParagraphContent CreateNextParagraph(ParagraphPlace& place, const ParagraphContent& content)
 {
     RequireParagraph(place.paragraph);
     const qint32 old = place.paragraph;
@@ -158,6 +158,7 @@ void CreateNextParagraph(ParagraphPlace& place, const ParagraphContent& content)
         ParagraphSet->Set(CarField(column), inherited[std::size_t(column)]);
     ParagraphSet->Update();
     batch.Finish();
+    return {{}, inherited};
 }
 
 void DeleteParagraph(ParagraphPlace& place, const ParagraphContent& content)

@@ -2,6 +2,7 @@
 #include "story/ParagraphMoves.h"
 
 #include "core/Album.h"
+#include "core/ChapterChain.h"
 #include "platform/data/WriteBatch.h"
 #include "story/ParagraphMarkers.h"
 
@@ -61,14 +62,6 @@ void Exchange(const ParagraphPlace& place, qint32 upper, qint32 lower)
     SetParagraphLink(next, u"PreviousParagraph", upper);
     SetWayTo(place, previous, lower);
     batch.Finish();
-}
-
-qint32 ChapterLink(qint32 chapter, QStringView field)
-{
-    if (!FindById(*ChapterSet, chapter) || ChapterSet->IsNull(field))
-        return 0;
-    const qint32 linked = ChapterSet->Number(field);
-    return linked > 0 && linked != chapter && FindById(*ChapterSet, linked) ? linked : 0;
 }
 
 qint32 FirstParagraphOf(qint32 chapter)
@@ -179,10 +172,13 @@ QString ChapterNameOf(qint32 chapter)
 
 qint32 PreviousChapterOf(qint32 chapter)
 {
-    return ChapterLink(chapter, u"PreviousChapter");
+    return GeneralModule::ChapterLeadingTo(chapter);
 }
 
 qint32 NextChapterOf(qint32 chapter)
 {
-    return ChapterLink(chapter, u"NextChapter");
+    if (!FindById(*ChapterSet, chapter) || ChapterSet->IsNull(u"NextChapter"))
+        return 0;
+    const qint32 next = ChapterSet->Number(u"NextChapter");
+    return next > 0 && next != chapter && FindById(*ChapterSet, next) ? next : 0;
 }

@@ -27,6 +27,6 @@ std::vector<ParagraphLine> ListParagraphs(qint32 chapter);
 
 QString ChapterNameOf(qint32 chapter);
 
-// The chapter before or after it, 0 when there is none.
+// The chapter before it in reading order, and the one after it; 0 when there is none.
 qint32 PreviousChapterOf(qint32 chapter);
 qint32 NextChapterOf(qint32 chapter);

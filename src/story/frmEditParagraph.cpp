@@ -6,6 +6,7 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/KeyPreview.h"
+#include "platform/widgets/LiteralText.h"
 #include "platform/widgets/PictureBox.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
@@ -13,6 +14,7 @@
 #include "story/frmOrganizeParagraphs.h"
 
 #include <QKeyEvent>
+#include <QScopeGuard>
 #include <QTimer>
 
 using GeneralModule::FindById;
@@ -100,11 +102,16 @@ bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
     const bool isShortcut = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     const bool isLetter =
         key.key() == Qt::Key_Q && !isShortcut && focusWidget() != ui_->txtParagraph;
-    if (key.key() == Qt::Key_Escape || isLetter) {
+    const bool isInList = focusWidget() == ui_->lstInsertCar;
+    if (key.key() == Qt::Key_Escape && isInList) {
+        cmdCancelInsert_Click();
+        return true;
+    }
+    if (key.key() == Qt::Key_Escape || (isLetter && !key.isAutoRepeat())) {
         cmdExit_Click();
         return true;
     }
-    if (focusWidget() == ui_->lstInsertCar && IsChoosingKey(key.key())) {
+    if (isInList && IsChoosingKey(key.key())) {
         lstInsertCar_Click();
         return true;
     }
@@ -116,7 +123,9 @@ void frmEditParagraph::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (event->spontaneous())
         return;
-    RunGuarded([this] { ShowParagraph(); });
+    // Later, because a window that is on its way to be shown cannot be closed yet.
+    if (!RunGuarded([this] { ShowParagraph(); }))
+        QTimer::singleShot(0, this, &frmEditParagraph::LeaveUnsaved);
     ui_->txtParagraph->setFocus();
 }
 
@@ -136,35 +145,65 @@ void frmEditParagraph::txtParagraphPreview_GotFocus()
 
 void frmEditParagraph::ShowParagraph()
 {
-    SetPreviewMode(false);
-    ShowPicture({});
-    pictures_.clear();
-    ui_->txtParagraph->SetText({});
     FillFromAlbum();
+    ClearPreview();
+}
+
+// Everything is read before the first control is touched: what cannot be read leaves them as they
+// were, and nothing that is half there can be saved.
+void frmEditParagraph::FillFromAlbum()
+{
+    const QString chapter = ChapterNameOf(CurrentChapter);
+    std::vector<TextMarker> markers = ReadTextMarkers();
+    const ParagraphContent content = LoadParagraph(CurrentParagraph);
+    ui_->filterPanel->ShowLabels();
+    setWindowTitle(
+        AsWindowTitle(tr("Edit Paragraph from Chapter '") + chapter + QLatin1Char('\'')));
+    markers_ = std::move(markers);
+    ShowContent(content);
 }
 
 // The text box keeps caret and history where it holds the text already.
-void frmEditParagraph::FillFromAlbum()
+void frmEditParagraph::ShowContent(const ParagraphContent& content)
 {
-    setWindowTitle(tr("Edit Paragraph from Chapter '") + ChapterNameOf(CurrentChapter) +
-                   QLatin1Char('\''));
-    markers_ = ReadTextMarkers();
-    ui_->filterPanel->ShowLabels();
-    const ParagraphContent content = LoadParagraph(CurrentParagraph);
     const QString text = ToDisplayMarkers(content.text, markers_);
-    if (ui_->txtParagraph->GetText() != text)
+    if (!isShown_ || ui_->txtParagraph->GetText() != text)
         ui_->txtParagraph->SetText(text);
     ui_->filterPanel->SetValues(content.values);
+    isShown_ = true;
 }
 
 void frmEditParagraph::GoTo(const ParagraphPlace& place)
 {
-    CurrentChapter = place.chapter;
-    CurrentParagraph = place.paragraph;
-    if (CurrentParagraph > 0)
-        ShowParagraph();
-    else
-        cmdExit_Click();
+    const ParagraphPlace former = GetPlace();
+    const auto setPlace = [this](const ParagraphPlace& to) {
+        CurrentChapter = to.chapter;
+        CurrentParagraph = to.paragraph;
+    };
+    setPlace(place);
+    if (place.paragraph <= 0)
+        return cmdExit_Click();
+    const bool wasShown = std::exchange(isShown_, false); // the text of another paragraph
+    auto stay = qScopeGuard([&] {
+        setPlace(former);
+        isShown_ = wasShown;
+    });
+    ShowParagraph();
+    stay.dismiss();
+}
+
+// For a place that there is no way back from.
+void frmEditParagraph::GoToOrLeave(const std::function<ParagraphPlace()>& findPlace)
+{
+    auto leave = qScopeGuard([this] { LeaveUnsaved(); });
+    GoTo(findPlace());
+    leave.dismiss();
+}
+
+void frmEditParagraph::LeaveUnsaved()
+{
+    isShown_ = false;
+    QDialog::reject();
 }
 
 ParagraphContent frmEditParagraph::GetContent() const
@@ -174,43 +213,51 @@ ParagraphContent frmEditParagraph::GetContent() const
 
 void frmEditParagraph::SaveParagraph()
 {
-    ::SaveParagraph(GetPlace(), GetContent());
+    if (isShown_)
+        ::SaveParagraph(GetPlace(), GetContent());
 }
 
 void frmEditParagraph::cmdFirstParagraph_Click()
 {
-    StepTo(ChainStep::First);
+    StepTo(ChainStep::First, ui_->cmdFirstParagraph);
 }
 
 void frmEditParagraph::cmdPreviousParagraph_Click()
 {
-    StepTo(ChainStep::Previous);
+    StepTo(ChainStep::Previous, ui_->cmdPreviousParagraph);
 }
 
 void frmEditParagraph::cmdNextParagraph_Click()
 {
-    StepTo(ChainStep::Next);
+    StepTo(ChainStep::Next, ui_->cmdNextParagraph);
 }
 
 void frmEditParagraph::cmdEndOfChapter_Click()
 {
-    StepTo(ChainStep::Last);
+    StepTo(ChainStep::Last, ui_->cmdEndOfChapter);
 }
 
 // Where there is no further paragraph, caret and preview stay as they are.
-void frmEditParagraph::StepTo(ChainStep step)
+void frmEditParagraph::StepTo(ChainStep step, const QPushButton* button)
 {
     ParagraphPlace place = GetPlace();
     SaveAndStep(place, GetContent(), step);
     if (place != GetPlace())
         GoTo(place);
+    // Who came by mouse goes on writing; a button that was pressed by a key has the focus.
+    if (!isPreview_ && focusWidget() != button)
+        ui_->txtParagraph->setFocus();
 }
 
 void frmEditParagraph::cmdCreateNext_Click()
 {
     ParagraphPlace place = GetPlace();
-    CreateNextParagraph(place, GetContent());
-    GoTo(place);
+    const ParagraphContent created = CreateNextParagraph(place, GetContent());
+    // Not read back: it links to its neighbours once it is saved, so nobody may lose sight of it.
+    CurrentParagraph = place.paragraph;
+    isShown_ = false;
+    ShowContent(created);
+    ClearPreview();
     ui_->txtParagraph->setFocus();
 }
 
@@ -223,7 +270,8 @@ void frmEditParagraph::cmdDelete_Click()
         return;
     ParagraphPlace place = GetPlace();
     DeleteParagraph(place, GetContent());
-    GoTo(place);
+    CurrentParagraph = place.paragraph;
+    GoToOrLeave([&place] { return place; });
 }
 
 void frmEditParagraph::cmdOrganize_Click()
@@ -233,10 +281,14 @@ void frmEditParagraph::cmdOrganize_Click()
     organiser.CurrentChapter = CurrentChapter;
     organiser.CurrentParagraph = CurrentParagraph;
     organiser.exec();
-    ParagraphPlace place{CurrentChapter, organiser.CurrentParagraph};
-    if (FindById(*ParagraphSet, place.paragraph))
-        place.chapter = ParagraphSet->Number(u"Chapter");
-    GoTo(place);
+    CurrentParagraph = organiser.CurrentParagraph;
+    // A move may have taken the paragraph to another chapter.
+    GoToOrLeave([this] {
+        ParagraphPlace place = GetPlace();
+        if (FindById(*ParagraphSet, place.paragraph))
+            place.chapter = ParagraphSet->Number(u"Chapter");
+        return place;
+    });
 }
 
 void frmEditParagraph::cmdExit_Click()

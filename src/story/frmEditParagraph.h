@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -46,7 +47,12 @@ private:
     void ShowParagraph();
     void FillFromAlbum();
     ParagraphPlace GetPlace() const { return {CurrentChapter, CurrentParagraph}; }
+    // Throws, and stays where it is, when the paragraph there cannot be read.
     void GoTo(const ParagraphPlace& place);
+    void GoToOrLeave(const std::function<ParagraphPlace()>& findPlace);
+    void LeaveUnsaved();
+    void ShowContent(const ParagraphContent& content);
+    void ClearPreview();
     ParagraphContent GetContent() const;
     void SaveParagraph();
     bool SaveOrGiveUp();
@@ -55,7 +61,7 @@ private:
     void cmdPreviousParagraph_Click();
     void cmdNextParagraph_Click();
     void cmdEndOfChapter_Click();
-    void StepTo(ChainStep step);
+    void StepTo(ChainStep step, const QPushButton* button);
     void cmdCreateNext_Click();
     void cmdDelete_Click();
     void cmdOrganize_Click();
@@ -84,4 +90,5 @@ private:
     std::vector<TextMarker> markers_;
     QStringList pictures_; // still to be shown in the preview
     bool isPreview_ = false;
+    bool isShown_ = false; // the controls hold CurrentParagraph
 };

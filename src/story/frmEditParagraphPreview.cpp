@@ -11,6 +11,8 @@
 #include "story/ParagraphLinks.h"
 #include "story/PictureFilter.h"
 
+#include <QScopeGuard>
+
 using GeneralModule::FindById;
 using GeneralModule::ParagraphSet;
 
@@ -29,6 +31,13 @@ void frmEditParagraph::SetPreviewMode(bool isPreview)
     ui_->cmdNextImage->setVisible(isPreview);
     ui_->lblFeedback->setVisible(isPreview);
     ShowInsertList(false);
+}
+
+void frmEditParagraph::ClearPreview()
+{
+    SetPreviewMode(false);
+    ShowPicture({});
+    pictures_.clear();
 }
 
 void frmEditParagraph::cmdPreview_Click()
@@ -116,7 +125,10 @@ void frmEditParagraph::EditPicture(const QString& file)
     window.CurrentImage = file;
     window.IsSinglePicture = true;
     window.exec();
+    // What cannot be read again must not be saved either: a value may have got another name.
+    auto leave = qScopeGuard([this] { LeaveUnsaved(); });
     FillFromAlbum();
+    leave.dismiss();
     if (!window.TakenOut.contains(file))
         ShowPicture(file);
     else if (isPreview_)

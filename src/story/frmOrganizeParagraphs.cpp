@@ -4,11 +4,13 @@
 
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/LiteralText.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "story/ParagraphMoves.h"
 
 #include <QKeyEvent>
+#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -105,14 +107,16 @@ bool frmOrganizeParagraphs::lstParagraph_KeyDown(QKeyEvent& key)
 void frmOrganizeParagraphs::RefreshParagraphList()
 {
     const BusyPointer busy;
+    // Read first: what cannot be read leaves the list as it was.
     const QString chapter = ChapterNameOf(CurrentChapter);
-    setWindowTitle(tr("Organize Paragraphs from Chapter '%1'").arg(chapter));
+    const std::vector<ParagraphLine> lines = ListParagraphs(CurrentChapter);
+    setWindowTitle(AsWindowTitle(tr("Organize Paragraphs from Chapter '%1'").arg(chapter)));
     ui_->lblChapter->setText(chapter);
     const QSignalBlocker quiet(ui_->lstParagraph);
     ui_->lstParagraph->clear();
     paragraphs_.clear();
     QStringList texts;
-    for (const ParagraphLine& line : ListParagraphs(CurrentChapter)) {
+    for (const ParagraphLine& line : lines) {
         paragraphs_.push_back(line.paragraph);
         texts += line.text;
     }
@@ -144,8 +148,10 @@ void frmOrganizeParagraphs::ShowChapter(qint32 chapter)
 {
     if (chapter == 0)
         return;
+    auto stay = qScopeGuard([this, former = CurrentChapter] { CurrentChapter = former; });
     CurrentChapter = chapter;
     RefreshParagraphList();
+    stay.dismiss();
 }
 
 void frmOrganizeParagraphs::lstParagraph_Click()

@@ -57,7 +57,7 @@ Autoview::Autoview(std::function<void()> step, std::function<bool()> isInFront, 
     connect(&timImage_, &QTimer::timeout, this, &Autoview::timImage_Timer);
 }
 
-void Autoview::Switch()
+bool Autoview::Switch()
 {
     const auto pause = Pause();
     if (!AutoviewOn) {
@@ -65,10 +65,13 @@ void Autoview::Switch()
             {.prompt = QCoreApplication::translate("Autoview", "Please enter delay in seconds : "),
              .proposal = ProposedDelay(),
              .title = QCoreApplication::translate("Autoview", "Autoview Mode")});
+        if (answer.isNull())
+            return false;
         GeneralModule::SaveTimerDelay(DelayFromAnswer(answer));
         delay_ = GeneralModule::GetTimerDelay();
     }
     Set(!AutoviewOn);
+    return true;
 }
 
 void Autoview::End()

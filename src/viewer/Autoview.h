@@ -28,8 +28,9 @@ public:
     // behind another window or a message box.
     Autoview(std::function<void()> step, std::function<bool()> isInFront, QObject* parent);
 
-    // Off when it is on; else asks for the delay, stores it, and begins.
-    void Switch();
+    // Off when it is on; else asks for the delay, stores it, and begins. False when the user gave
+    // up, and nothing has changed.
+    bool Switch();
     // Off, without a word: the viewer closes.
     void End();
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/PageDisplay.h"
 
+#include "core/PathRoutines.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
 #include "story/ParagraphMarkers.h"
@@ -9,16 +10,28 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 void PageDisplay::FindPictures(RecordSet& paragraph, int most)
 {
     const BusyPointer busy;
     displayed_.clear();
-    RunGuarded([&] {
+    list_.Clear();
+    try {
         BuildPictureList(paragraph, list_, most, [this](int count) {
             page_->ShowFeedback(QString::number(count) +
                                 QCoreApplication::translate("PageDisplay", " images found"));
         });
-    });
+    } catch (const DatabaseError&) {
+        failure_ = std::current_exception();
+    }
+    hasFound_ = list_.Count() > 0;
+}
+
+void PageDisplay::TellFailure()
+{
+    if (const std::exception_ptr failure = std::exchange(failure_, nullptr))
+        RunGuarded([&failure] { std::rethrow_exception(failure); });
 }
 
 void PageDisplay::ShowScreen(int lines, bool isAgain)
@@ -33,6 +46,16 @@ void PageDisplay::ShowScreen(int lines, bool isAgain)
     const ScreenShape shape = page_->GetShape(lines);
     displayed_ = FillScreen(list_, shape);
     page_->ShowPictures(displayed_, DecodePictures(displayed_, shape.pixelRatio));
+    page_->SetNotice(Notice());
+}
+
+// Why the screen holds no pictures; empty when it does.
+QString PageDisplay::Notice() const
+{
+    if (!displayed_.empty())
+        return {};
+    return hasFound_ ? QCoreApplication::translate("PageDisplay", "The picture files are missing.")
+                     : QCoreApplication::translate("PageDisplay", "No picture fits.");
 }
 
 void PageDisplay::Arrange(const QString& text)
@@ -57,8 +80,9 @@ void PageDisplay::ShowLarge(const ShownPicture& picture, bool hasText)
     const ScreenShape shape = page_->GetShape(0);
     const ShownPicture large{picture.file, picture.path, PlaceOfSinglePicture(picture.path, shape)};
     page_->ShowFullSize(large, DecodePictures({large}, shape.pixelRatio).front());
-    const QString text = hasText ? text_ : QStringLiteral("<[Picture Legend]>");
-    page_->SetLegend(FillPictureMarkers(text, picture.file));
+    const QString pattern = hasText ? text_ : QStringLiteral("<[Picture Legend]>");
+    const QString text = FillPictureMarkers(pattern, picture.file);
+    page_->SetLegend(text.isEmpty() ? GeneralModule::FileNameOf(picture.file) : text);
 }
 
 QString PageDisplay::GetLastDisplayed() const

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <exception>
 #include <vector>
 
 class RecordSet;
@@ -21,8 +22,11 @@ public:
     explicit PageDisplay(StoryPage* const& page) : page_(page) {}
 
     // Lists the pictures that the paragraph chooses, and counts them aloud on the page. A filter
-    // that the engine refuses is told in a message box and costs the paragraph its pictures only.
+    // that the engine refuses costs the paragraph its pictures only.
     void FindPictures(RecordSet& paragraph, int most);
+    // Reports in a message box what FindPictures failed with, if it did. Call it when the page is
+    // whole: while the box is up the window may be resized, and be drawn anew.
+    void TellFailure();
     // Fills the page from the list, with that many lines: with the pictures of the screen before,
     // or with the next ones.
     void ShowScreen(int lines, bool isAgain);
@@ -34,7 +38,7 @@ public:
     void ShowText();
     void ShowCountLeft();
     // One picture of the screen alone, with the text as it reads for that picture or, where there
-    // is none, with the picture's legend.
+    // is none, with the picture's legend; else with its file name.
     void ShowLarge(const ShownPicture& picture, bool hasText);
 
     const std::vector<ShownPicture>& GetDisplayed() const { return displayed_; }
@@ -45,8 +49,12 @@ public:
     void Remove(const QStringList& files);
 
 private:
+    QString Notice() const;
+
     StoryPage* const& page_;
     PictureList list_;
+    std::exception_ptr failure_; // that is not yet reported
+    bool hasFound_ = false; // pictures, whether their files are there or not
     std::vector<ShownPicture> displayed_;
     QString text_; // before its markers are filled
 };

@@ -25,11 +25,19 @@ UnitSize NaturalSize(const QString& path, const ScreenShape& shape)
             float(size.height() / shape.area.height() * 100)};
 }
 
-// Edges are rounded, not sizes, so that pictures which touch in units touch in pixels.
+// Edges are rounded, not sizes, so that pictures which touch in units touch in pixels. A line that
+// stands in the middle often has its edges on halves of a pixel: without the nudge, which is larger
+// than the error of the units, they would go one way or the other, and a picture shown pixel by
+// pixel would be stretched by one.
 QRect ToPixels(const UnitRect& place, QSize area)
 {
-    const auto across = [&](float units) { return int(std::lround(units * area.width() / 100)); };
-    const auto down = [&](float units) { return int(std::lround(units * area.height() / 100)); };
+    constexpr double nudge = 1.0 / 64; // pixels
+    const auto across = [&](float units) {
+        return int(std::lround(double(units) * area.width() / 100 + nudge));
+    };
+    const auto down = [&](float units) {
+        return int(std::lround(double(units) * area.height() / 100 + nudge));
+    };
     const int left = across(place.left);
     const int top = down(place.top);
     return {left, top, std::max(1, across(place.left + place.width) - left),

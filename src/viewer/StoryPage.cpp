@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/StoryPage.h"
 
+#include "core/ViewerFlags.h"
 #include "platform/widgets/ClickLabel.h"
 #include "platform/widgets/PictureBox.h"
 
+#include <QEvent>
 #include <QFontMetrics>
+#include <QLabel>
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -47,6 +50,7 @@ StoryPage::StoryPage(QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     CreateBoxes();
     CreateLegend();
+    CreateNotice();
 }
 
 void StoryPage::CreateBoxes()
@@ -55,6 +59,7 @@ void StoryPage::CreateBoxes()
         auto* box = new PictureBox(this);
         box->setObjectName(QStringLiteral("imgImage_%1").arg(i));
         box->hide();
+        box->installEventFilter(this);
         connect(box, &PictureBox::Pressed, this,
                 [this, i](Qt::MouseButton button) { emit PicturePressed(i, button); });
         imgImage_[std::size_t(i)] = box;
@@ -82,8 +87,23 @@ void StoryPage::CreateLegend()
     connect(lblLegend_, &ClickLabel::Clicked, this, &StoryPage::LegendClicked);
 }
 
+void StoryPage::CreateNotice()
+{
+    lblNotice_ = new QLabel(this);
+    lblNotice_->setObjectName(QStringLiteral("lblNotice"));
+    lblNotice_->setTextFormat(Qt::PlainText);
+    lblNotice_->setAlignment(Qt::AlignCenter);
+    lblNotice_->setFont(LegendFont(this, legendPointSize_));
+    lblNotice_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    QPalette onBand = lblNotice_->palette();
+    onBand.setColor(QPalette::WindowText, inkOnBand);
+    lblNotice_->setPalette(onBand);
+    lblNotice_->hide();
+}
+
 void StoryPage::Darken()
 {
+    isDark_ = true;
     QPalette dark = palette();
     dark.setColor(QPalette::Window, bandColor);
     dark.setColor(QPalette::WindowText, inkOnBand);
@@ -99,6 +119,7 @@ void StoryPage::Arrange(const QString& text)
     const int width = LegendWidth();
     legendArea_->setGeometry((this->width() - width) / 2, height() - legendHeight_, width,
                              legendHeight_);
+    lblNotice_->setGeometry(0, 0, this->width(), height() - legendHeight_);
     FitLegend();
     update();
 }
@@ -181,6 +202,12 @@ bool StoryPage::IsFullSize() const
     return !imgFullSize_->GetTag().isEmpty();
 }
 
+void StoryPage::SetNotice(const QString& text)
+{
+    lblNotice_->setText(text);
+    lblNotice_->setVisible(!text.isEmpty());
+}
+
 void StoryPage::SetLegend(const QString& text)
 {
     lblLegend_->setText(text);
@@ -208,6 +235,13 @@ void StoryPage::SetPictureToolTip(const QString& text)
 {
     for (PictureBox* box : imgImage_)
         box->setToolTip(text);
+}
+
+bool StoryPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && (isDark_ || GeneralModule::AutoviewOn))
+        return true;
+    return QWidget::eventFilter(watched, event);
 }
 
 void StoryPage::resizeEvent(QResizeEvent*)

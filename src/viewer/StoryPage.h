@@ -10,6 +10,7 @@
 
 class ClickLabel;
 class PictureBox;
+class QLabel;
 class QScrollArea;
 
 // The surface that a story is drawn on: a band of pictures with the text below it. The viewer has
@@ -39,13 +40,17 @@ public:
     void LeaveFullSize();
     bool IsFullSize() const;
 
+    // Says in the middle of the band why there are no pictures; empty says nothing.
+    void SetNotice(const QString& text);
+
     void SetLegend(const QString& text);
     // As SetLegend, on the screen at once: for the middle of long work.
     void ShowFeedback(const QString& text);
     QString GetLegend() const;
     void SetLegendAlignment(Qt::Alignment alignment);
 
-    // What a box says when the mouse rests on it.
+    // What a box says when the mouse rests on it; but nothing covers a picture on a whole screen, or
+    // while autoview runs.
     void SetPictureToolTip(const QString& text);
 
 signals:
@@ -54,12 +59,14 @@ signals:
     void LegendClicked();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void CreateBoxes();
     void CreateLegend();
+    void CreateNotice();
     int LegendHeightFor(const QString& text) const;
     int LegendWidth() const;
     void FitLegend();
@@ -68,6 +75,8 @@ private:
     PictureBox* imgFullSize_ = nullptr;
     QScrollArea* legendArea_ = nullptr;
     ClickLabel* lblLegend_ = nullptr;
+    QLabel* lblNotice_ = nullptr;
+    bool isDark_ = false;
     int legendHeight_ = 0;
     double legendPointSize_ = 15; // read from an arm's length away
 };

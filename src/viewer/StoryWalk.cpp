@@ -71,14 +71,16 @@ void GoToFirstParagraph(StoryPosition& position)
 
 StoryStep StepToNextParagraph(StoryPosition& position)
 {
-    if (!FindPosition(position))
-        return StoryStep::Nothing;
-    if (const qint32 next = FollowLink(*ParagraphSet, u"NextParagraph"); next > 0) {
-        position.paragraph = next;
-        return StoryStep::Paragraph;
+    if (position.paragraph > 0) {
+        if (!FindPosition(position))
+            return StoryStep::Nothing;
+        if (const qint32 next = FollowLink(*ParagraphSet, u"NextParagraph"); next > 0) {
+            position.paragraph = next;
+            return StoryStep::Paragraph;
+        }
     }
     if (!FindChapterOf(position))
-        return StoryStep::Close;
+        return position.paragraph > 0 ? StoryStep::Close : StoryStep::Nothing;
     QSet<qint32> visited;
     while (FindFollowingChapter()) {
         const qint32 chapter = ChapterSet->Number(u"Id");
@@ -95,16 +97,21 @@ StoryStep StepToNextParagraph(StoryPosition& position)
 
 StoryStep StepToPreviousParagraph(StoryPosition& position)
 {
-    if (!FindPosition(position))
-        return StoryStep::Nothing;
-    if (const qint32 previous = FollowLink(*ParagraphSet, u"PreviousParagraph"); previous > 0) {
-        position.paragraph = previous;
-        return StoryStep::Paragraph;
+    const bool isEmpty = position.paragraph == 0;
+    if (!isEmpty) {
+        if (!FindPosition(position))
+            return StoryStep::Nothing;
+        if (const qint32 previous = FollowLink(*ParagraphSet, u"PreviousParagraph"); previous > 0) {
+            position.paragraph = previous;
+            return StoryStep::Paragraph;
+        }
     }
     if (!FindChapterOf(position))
-        return StoryStep::Paragraph;
+        return isEmpty ? StoryStep::Nothing : StoryStep::Paragraph;
     const qint32 previousChapter = FollowLink(*ChapterSet, u"PreviousChapter");
     const qint32 first = FirstParagraphHere();
+    if (previousChapter == 0 && isEmpty)
+        return StoryStep::Nothing;
     if (previousChapter == 0) {
         position.paragraph = first > 0 ? first : position.paragraph;
         return StoryStep::Paragraph;

@@ -25,12 +25,12 @@ enum class StoryStep {
 // Sets the position to the chapter's first paragraph, or to none where the chapter has none.
 void GoToFirstParagraph(StoryPosition& position);
 
-// One paragraph on; behind the chapter's last to the next chapter that has paragraphs, and behind
-// the last chapter to the first one again.
+// One paragraph on; after the chapter's last to the next chapter that has paragraphs, and after the
+// last chapter to the first one again. From an empty chapter on along the chapters.
 StoryStep StepToNextParagraph(StoryPosition& position);
 
-// One paragraph back; from a chapter's first to the last of the chapter before, also when that is
-// empty; the story's first paragraph stays.
+// One paragraph back; from a chapter's first, or from an empty one, to the last of the chapter
+// before, also when that is empty; the story's beginning stays.
 StoryStep StepToPreviousParagraph(StoryPosition& position);
 
 // The next chapter; in the last chapter its last paragraph.

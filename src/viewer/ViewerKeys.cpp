@@ -4,6 +4,18 @@
 #include <QHash>
 #include <QKeyEvent>
 
+namespace {
+
+// A key that is held down must not close one window after the other, nor press what the next window
+// has under it.
+bool ActsOnce(ViewerCommand command)
+{
+    return command == ViewerCommand::Close || command == ViewerCommand::FullScreen ||
+           command == ViewerCommand::PressButton;
+}
+
+} // namespace
+
 ViewerCommand CommandOf(const QKeyEvent& key)
 {
     // Plus shows more pictures and minus fewer, on purpose: they count pictures, not magnification.
@@ -22,10 +34,14 @@ ViewerCommand CommandOf(const QKeyEvent& key)
         {Qt::Key_Minus, ViewerCommand::ZoomIn},
         {Qt::Key_Asterisk, ViewerCommand::SwitchAutoview},
         {Qt::Key_T, ViewerCommand::SwitchAutoview},
+        {Qt::Key_F11, ViewerCommand::FullScreen},
+        {Qt::Key_Return, ViewerCommand::PressButton},
+        {Qt::Key_Enter, ViewerCommand::PressButton},
         {Qt::Key_Q, ViewerCommand::Close},
         {Qt::Key_Escape, ViewerCommand::Close},
     };
     if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
         return ViewerCommand::Leave;
-    return commands.value(key.key(), ViewerCommand::None);
+    const ViewerCommand command = commands.value(key.key(), ViewerCommand::None);
+    return key.isAutoRepeat() && ActsOnce(command) ? ViewerCommand::None : command;
 }

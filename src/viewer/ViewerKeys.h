@@ -16,6 +16,8 @@ enum class ViewerCommand {
     ZoomOut,
     ZoomIn,
     SwitchAutoview,
+    FullScreen, // there and back
+    PressButton, // that has the focus
     Close,
 };
 

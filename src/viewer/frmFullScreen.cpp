@@ -54,6 +54,7 @@ bool frmFullScreen::Form_KeyDown(const QKeyEvent& key)
     case ViewerCommand::Leave:
         return false;
     case ViewerCommand::Close:
+    case ViewerCommand::FullScreen:
         CloseFullScreen();
         return true;
     default:

@@ -103,14 +103,25 @@ bool frmReelvane::IsInFront() const
     return !modal || modal == DisplayForm->window();
 }
 
+// Before the window's least size is told, which must not count a button that is hidden.
+void frmReelvane::setVisible(bool visible)
+{
+    const bool hasStory = CurrentChapter != 0;
+    ui_->cmdRefresh->setVisible(!hasStory);
+    for (QPushButton* button : {ui_->cmdPreviousChapter, ui_->cmdPreviousParagraph,
+                                ui_->cmdNextParagraph, ui_->cmdNextChapter, ui_->cmdEditParagraph})
+        button->setEnabled(hasStory);
+    if (visible && !isVisible())
+        (hasStory ? ui_->cmdNextParagraph : ui_->cmdNextImages)->setFocus();
+    QDialog::setVisible(visible);
+}
+
 void frmReelvane::Form_Resize()
 {
     // The page that is drawn on has not changed, and this one is drawn anew when it comes back.
     if (IsFullScreenOpen())
         return;
     Nblines = 1;
-    ui_->cmdRefresh->setVisible(CurrentChapter == 0);
-    ui_->cmdEditParagraph->setEnabled(CurrentChapter != 0);
     CurrentParagraph = 0;
     DisplayAgain();
 }
@@ -132,8 +143,8 @@ void frmReelvane::ShowText(bool isBrowsing)
 
 void frmReelvane::cmdTimer_Click()
 {
-    autoview_.Switch();
-    DisplayForm->SetLegend(GeneralModule::AutoviewOn ? tr("Timer On") : tr("Timer Off"));
+    if (autoview_.Switch())
+        DisplayForm->SetLegend(GeneralModule::AutoviewOn ? tr("Timer On") : tr("Timer Off"));
 }
 
 void frmReelvane::ShowAutoviewState(bool isOn)
@@ -146,11 +157,14 @@ void frmReelvane::ShowAutoviewState(bool isOn)
 
 void frmReelvane::timImage_Timer()
 {
-    if (CurrentParagraph != 0) {
+    if (CurrentChapter != 0) {
         DisplayNextParagraph();
-    } else {
+    } else if (display_.GetList().Count() > 0) {
         QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
         Form_KeyDown(down);
+    } else {
+        autoview_.End(); // the last page was on show for its time
+        DisplayForm->SetLegend(tr("Timer Off"));
     }
 }
 
@@ -208,6 +222,12 @@ void frmReelvane::cmdZoomOut_Click()
     ++Nblines;
     DisplayImagesFromList(true);
     ShowText(CurrentParagraph < 1);
+}
+
+void frmReelvane::PressFocusedButton()
+{
+    if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button && !IsFullScreenOpen())
+        button->click();
 }
 
 void frmReelvane::cmdRefresh_Click()
@@ -269,6 +289,11 @@ bool frmReelvane::Form_KeyDown(const QKeyEvent& key)
     const ViewerCommand command = CommandOf(key);
     if (command == ViewerCommand::Leave)
         return false;
+    // Autoview goes on there, as it does after a click on the button.
+    if (command == ViewerCommand::FullScreen) {
+        cmdHideMenu_Click();
+        return true;
+    }
     const auto pause = autoview_.Pause();
     return Run(command);
 }
@@ -285,6 +310,7 @@ bool frmReelvane::Run(ViewerCommand command)
         {ViewerCommand::ZoomOut, &frmReelvane::cmdZoomOut_Click},
         {ViewerCommand::ZoomIn, &frmReelvane::cmdZoomIn_Click},
         {ViewerCommand::SwitchAutoview, &frmReelvane::cmdTimer_Click},
+        {ViewerCommand::PressButton, &frmReelvane::PressFocusedButton},
         {ViewerCommand::Close, &frmReelvane::CloseViewer},
     };
     const auto handler = handlers.value(command, nullptr);

@@ -63,6 +63,8 @@ public:
     // Handles the clicks on a page that is drawn on.
     void TakeClicksOf(StoryPage* page);
 
+    void setVisible(bool visible) override;
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -73,6 +75,8 @@ private:
     bool IsFullScreenOpen() const;
     // Whether no other window and no message box is in front of what is drawn on.
     bool IsInFront() const;
+
+    void PressFocusedButton();
 
     void cmdNextImages_Click();
     void cmdZoomIn_Click();

@@ -4,6 +4,7 @@
 
 #include "core/Album.h"
 #include "core/ViewerFlags.h"
+#include "platform/widgets/LiteralText.h"
 #include "story/ParagraphChain.h"
 #include "story/PictureFilter.h"
 #include "story/frmEditParagraph.h"
@@ -38,12 +39,13 @@ void frmReelvane::DisplayEmptyChapter()
 {
     const bool isKnown = FindById(*ChapterSet, CurrentChapter);
     const QString name = isKnown ? ChapterSet->TextOrEmpty(u"Name") : QString();
-    DisplayForm->window()->setWindowTitle(name);
+    DisplayForm->window()->setWindowTitle(AsWindowTitle(name));
     DisplayUndefined(QStringLiteral("*"), mostListed);
     display_.SetText(tr("Click HERE to create first paragraph of the new chapter '") + name +
                      QLatin1Char('\''));
     display_.ShowText();
     DisplayForm->SetLegendAlignment(Qt::AlignHCenter);
+    display_.TellFailure();
 }
 
 void frmReelvane::DisplayParagraph()
@@ -52,13 +54,14 @@ void frmReelvane::DisplayParagraph()
         return;
     const qint32 chapter = ParagraphSet->Number(u"Chapter");
     if (chapter > 0 && FindById(*ChapterSet, chapter))
-        DisplayForm->window()->setWindowTitle(ChapterSet->TextOrEmpty(u"Name"));
+        DisplayForm->window()->setWindowTitle(AsWindowTitle(ChapterSet->TextOrEmpty(u"Name")));
     display_.Arrange(ParagraphSet->TextOrEmpty(u"Text"));
     display_.FindPictures(*ParagraphSet, mostListed);
     GeneralModule::PictureAtRandom = true;
     DisplayImagesFromList(false);
     display_.ShowText();
     DisplayForm->SetLegendAlignment(Nblines < 3 ? Qt::AlignHCenter : Qt::AlignLeft);
+    display_.TellFailure();
 }
 
 void frmReelvane::DisplayAgain()
@@ -77,6 +80,7 @@ void frmReelvane::DisplaySelection()
 {
     CurrentParagraph = 0;
     DisplayUndefined(FileSelection, mostListed);
+    display_.TellFailure();
 }
 
 void frmReelvane::DisplayUndefined(const QString& fileSelection, int maxImages)
@@ -95,18 +99,27 @@ void frmReelvane::DisplayUndefined(const QString& fileSelection, int maxImages)
 
 void frmReelvane::FollowStep(StoryStep step, const StoryPosition& position)
 {
+    // What cannot be read leaves the reader where the page still is.
+    auto stay = qScopeGuard([this, chapter = CurrentChapter, paragraph = CurrentParagraph] {
+        CurrentChapter = chapter;
+        CurrentParagraph = paragraph;
+    });
     CurrentChapter = position.chapter;
     CurrentParagraph = position.paragraph;
     switch (step) {
     case StoryStep::Paragraph:
-        return DisplayParagraph();
+        DisplayParagraph();
+        break;
     case StoryStep::Chapter:
-        return DisplayChapter();
+        DisplayChapter();
+        break;
     case StoryStep::Close:
-        return CloseViewer();
+        CloseViewer();
+        break;
     case StoryStep::Nothing:
         break;
     }
+    stay.dismiss();
 }
 
 void frmReelvane::DisplayNextParagraph()

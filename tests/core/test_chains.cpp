@@ -101,6 +101,40 @@ private slots:
         QCOMPARE(Links(), QStringList({"1|0|3", "2|4|0", "3|1|4", "4|3|2"}));
         QCOMPARE(ChapterNames(), QStringList({"A", "C", "D", "B"}));
         QVERIFY(!MoveChapterUp("Nobody"));
+        // A link to no chapter is carried along, and written to no other chapter.
+        album_->Execute("UPDATE Chapter SET NextChapter=77 WHERE Id=4");
+        QVERIFY(MoveChapterUp("D"));
+        QCOMPARE(Links(), QStringList({"1|0|4", "2|4|0", "3|4|77", "4|1|3"}));
+    }
+
+    // Creating links forward only, and whatever comes after must cope with it.
+    void NoChapterVanishes()
+    {
+        std::mt19937 random(7);
+        QStringList story;
+        for (int round = 0; round < 600; ++round) {
+            const qsizetype at = story.isEmpty() ? 0 : qsizetype(random()) % story.size();
+            const QString chosen = story.value(at);
+            switch (random() % (story.size() < 5 ? 2 : 6)) {
+            case 0:
+            case 1:
+                CreateChapter(QString::number(round), chosen);
+                story.insert(story.isEmpty() ? 0 : at + 1, QString::number(round));
+                break;
+            case 2:
+                QCOMPARE(DeleteChapter(chosen), ChapterDeletion::Deleted);
+                story.removeAt(at);
+                break;
+            case 3:
+                QCOMPARE(MoveChapterUp(chosen), at > 0);
+                story.move(at, qMax(0, at - 1));
+                break;
+            default:
+                QCOMPARE(MoveChapterDown(chosen), at + 1 < story.size());
+                story.move(at, qMin(story.size() - 1, at + 1));
+            }
+            QCOMPARE(ChapterNames(), story);
+        }
     }
 
     void DeletesOnlyEmptyChapters()
@@ -124,10 +158,10 @@ private slots:
             album_->AddChapter(other);
         for (const char* name :
              {"Jane's trip", "2001 *", "Summer [2001]", "Summer [2", "A \"b\" 'c'"}) {
-            RenameChapter("X", name);
+            QVERIFY(RenameChapter(4, name));
             QCOMPARE(FindChapter(name), std::optional(4));
             QCOMPARE(ChapterNames(), others.first(3) + QStringList(name));
-            RenameChapter(name, "X");
+            QVERIFY(RenameChapter(4, "X"));
             QCOMPARE(ChapterNames(), others);
         }
     }
@@ -201,7 +235,8 @@ private slots:
         QFETCH(QString, damage);
         WriteStory(*album_);
         const QStringList sound = Everything(*album_);
-        QVERIFY(RepairAlbum().IsEmpty());
+        const RepairReport nothing = RepairAlbum();
+        QVERIFY(nothing.IsEmpty() && nothing.copy.isEmpty());
         QCOMPARE(Everything(*album_), sound);
         album_->Execute(damage);
         QCOMPARE(StoryOf(*album_), "broken");
@@ -210,10 +245,33 @@ private slots:
         QTEST(StoryOf(*album_), "story");
         QCOMPARE(album_->Rows("SELECT Id,Text FROM Paragraph"), before);
         QVERIFY(!report.IsEmpty());
-        QCOMPARE(report.copy, album_->PathOf("story (before repair 2).alb"));
+        QCOMPARE(report.copy, album_->PathOf("story (before repair).alb"));
         QVERIFY(QFileInfo(report.copy).size() > 0);
         QVERIFY(DescribeRepair(report).contains(report.copy));
         QVERIFY(RepairAlbum().IsEmpty()); // and once is enough
+    }
+
+    // An album that cannot be read is not a broken one.
+    void RepairChangesAllOrNothing()
+    {
+        WriteStory(*album_);
+        album_->Execute("UPDATE Paragraph SET NextParagraph=0; UPDATE Chapter SET NextChapter=0");
+        const QStringList broken = Everything(*album_);
+        const QStringList files{"story.alb"};
+        bool hasFailed = true;
+        int trials = 0;
+        for (int steps = 0; hasFailed; steps += 7, ++trials) {
+            const FailingEngine failing(steps);
+            const int error = ErrorOf([] { RepairAlbum(); });
+            hasFailed = failing.HasFailed();
+            QCOMPARE(error != 0, hasFailed);
+            if (!hasFailed)
+                break;
+            QCOMPARE(Everything(*album_), broken);
+            QCOMPARE(QDir(album_->PathOf("")).entryList({"*.alb"}, QDir::Files), files);
+        }
+        QVERIFY(trials > 10);
+        QCOMPARE(StoryOf(*album_), "One:123 Two:45");
     }
 
     // Albums of random links: whatever they say, the result is whole and nothing is lost.

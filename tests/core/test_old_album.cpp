@@ -93,7 +93,7 @@ private slots:
             if (given == 2)
                 dialogs_->ExpectSaveFile("Save the new Album", "", "Été (new 2).alb");
             QVERIFY(!OpenAlbum(path));
-            QVERIFY(!AlbumDatabase);
+            QVERIFY(!IsAlbumOpen());
             QCOMPARE(GetLastAlbum(), album_->GetAlbum());
             QCOMPARE(Listing(), before);
         }

@@ -16,19 +16,23 @@
 
 using namespace GeneralModule;
 
-AlbumFixture::AlbumFixture() : album_(folder_.filePath(QString("story.alb")))
+World::World()
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, PathOf("settings"));
     SeedRandom(1);
     AutoviewOn = false;
     PictureAtRandom = false;
-    if (!CreateAlbumFile(album_) || !OpenAlbum(album_))
-        qFatal("the test's album cannot be made");
 }
 
-AlbumFixture::~AlbumFixture()
+World::~World()
 {
     ReleaseAlbum();
+}
+
+AlbumFixture::AlbumFixture() : album_(PathOf("story.alb"))
+{
+    if (!CreateAlbumFile(album_) || !OpenAlbum(album_))
+        qFatal("the test's album cannot be made");
 }
 
 QString AlbumFixture::AddPicture(const QString& name, const QMap<QString, QString>& values,
@@ -118,6 +122,17 @@ QStringList AlbumFixture::Rows(const QString& sql) const
 void AlbumFixture::Execute(const QString& sql) const
 {
     Rows(sql);
+}
+
+FailingEngine::FailingEngine(int steps) : steps_(steps)
+{
+    const auto count = [](void* left) { return int(--*static_cast<int*>(left) < 0); };
+    sqlite3_progress_handler(AlbumDatabase->GetEngine(), 1, count, &steps_);
+}
+
+FailingEngine::~FailingEngine()
+{
+    sqlite3_progress_handler(AlbumDatabase->GetEngine(), 0, nullptr, nullptr);
 }
 
 int ErrorOf(const std::function<void()>& action, QString* description)

@@ -11,15 +11,26 @@
 
 #include <functional>
 
-// A fresh world for one test: a folder that goes with it, settings of its own, a fixed random seed,
-// and a new album that is open. Everything is released at the end.
-class AlbumFixture
+// A fresh world for one test, as on a first start: a folder that goes with it, settings of its own, a
+// fixed random seed, and no album. Everything is released at the end.
+class World
+{
+public:
+    World();
+    virtual ~World();
+
+    QString PathOf(const QString& name) const { return folder_.filePath(name); }
+
+private:
+    QTemporaryDir folder_;
+};
+
+// The same with a new album that is open.
+class AlbumFixture : public World
 {
 public:
     AlbumFixture();
-    ~AlbumFixture();
 
-    QString PathOf(const QString& name) const { return folder_.filePath(name); }
     const QString& GetAlbum() const { return album_; }
 
     // Writes a one-coloured picture and adds it to the album; values are fields other than File,
@@ -44,8 +55,23 @@ public:
     void Execute(const QString& sql) const;
 
 private:
-    QTemporaryDir folder_;
     QString album_;
+};
+
+// While one lives, the engine of the open album fails after that many of its own steps and from then
+// on, as when another program locks the album or a network drive goes away.
+class FailingEngine
+{
+public:
+    explicit FailingEngine(int steps);
+    ~FailingEngine();
+    FailingEngine(const FailingEngine&) = delete;
+    FailingEngine& operator=(const FailingEngine&) = delete;
+
+    bool HasFailed() const { return steps_ < 0; }
+
+private:
+    int steps_;
 };
 
 // The number of the error that an action ends with, and what it says; 0 when there is none.

@@ -8,15 +8,15 @@
 
 #include <memory>
 
-// A test whose functions each get an album, a script of boxes, and a window that goes before both.
-class AlbumTest : public QObject
+// A test whose functions each get a world, a script of boxes, and a window that goes before both.
+class WorldTest : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        album_ = std::make_unique<AlbumFixture>();
+        world_ = MakeWorld();
         dialogs_ = std::make_unique<ScriptedDialogs>();
     }
 
@@ -24,7 +24,7 @@ private slots:
     {
         front_.reset();
         dialogs_.reset();
-        album_.reset();
+        world_.reset();
     }
 
 protected:
@@ -41,9 +41,27 @@ protected:
         return made;
     }
 
-    std::unique_ptr<AlbumFixture> album_;
+    virtual std::unique_ptr<World> MakeWorld() { return std::make_unique<World>(); }
+
+    std::unique_ptr<World> world_;
     std::unique_ptr<ScriptedDialogs> dialogs_;
 
 private:
     std::unique_ptr<QWidget> front_;
+};
+
+// The same in a world with an album that is open.
+class AlbumTest : public WorldTest
+{
+    Q_OBJECT
+
+protected:
+    std::unique_ptr<World> MakeWorld() override
+    {
+        auto world = std::make_unique<AlbumFixture>();
+        album_ = world.get();
+        return world;
+    }
+
+    AlbumFixture* album_ = nullptr; // goes with world_
 };

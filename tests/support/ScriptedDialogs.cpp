@@ -1,9 +1,36 @@
 // SPDX-License-Identifier: MIT
 #include "support/ScriptedDialogs.h"
 
+#include <QApplication>
+#include <QWidget>
 #include <QtTest>
 
 namespace {
+
+constexpr int settlingTime = 150; // milliseconds
+
+// What a desktop may do while a box is up: other windows change their size, are painted, and get
+// their events.
+void DisturbWindows()
+{
+    static bool isDisturbing = false;
+    static bool isWider = false;
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance()) || isDisturbing)
+        return;
+    isDisturbing = true;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible())
+            continue;
+        window->resize(window->size() + (isWider ? QSize(-8, -8) : QSize(8, 8)));
+        window->repaint();
+        QCoreApplication::processEvents();
+        // Those that show pictures wait until the size has settled.
+        if (window->inherits("frmReelvane") || window->inherits("frmFullScreen"))
+            QTest::qWait(settlingTime);
+    }
+    isWider = !isWider;
+    isDisturbing = false;
+}
 
 QString Describe(Dialogs::Icon icon, Dialogs::Buttons buttons, const QString& text)
 {
@@ -59,6 +86,7 @@ void ScriptedDialogs::ExpectSaveFile(const QString& title, const QString& path,
 
 ScriptedDialogs::Step ScriptedDialogs::Take(const QString& shown)
 {
+    DisturbWindows();
     const Step step = script_.empty() ? Step{"nothing", false, Answer::Ok, {}} : script_.front();
     if (step.comparesBeginning ? shown.startsWith(step.shown) : shown == step.shown) {
         script_.pop_front();
@@ -77,6 +105,7 @@ Dialogs::Answer ScriptedDialogs::Ask(const Box& box)
 
 QString ScriptedDialogs::AskText(const Input& input)
 {
+    lastNote_ = input.note;
     return Take(Describe("input", input.proposal, input.prompt)).text;
 }
 

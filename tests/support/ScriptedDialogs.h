@@ -9,8 +9,22 @@
 #include <functional>
 #include <variant>
 
+// Answers whatever comes: messages with OK, questions for texts and files with nothing.
+class PatientDialogs : public Dialogs
+{
+public:
+    PatientDialogs() { Install(this); }
+    ~PatientDialogs() override { Install(nullptr); }
+
+    Answer Ask(const Box&) override { return Answer::Ok; }
+    QString AskText(const Input&) override { return {}; }
+    QString AskOpenFile(const FileChoice&) override { return {}; }
+    QString AskSaveFile(const FileChoice&) override { return {}; }
+};
+
 // Answers boxes from a script: each box must be the next one expected, to the letter. A box that
-// comes unexpected, differs, or never comes fails the test.
+// comes unexpected, differs, or never comes fails the test. Before it answers, every window on the
+// screen is resized and painted, and the event loop turns.
 class ScriptedDialogs : public Dialogs
 {
 public:
@@ -26,6 +40,8 @@ public:
     void ExpectSaveFile(const QString& title, const QString& path, const QString& proposal = {});
 
     bool IsDone() const { return script_.empty(); }
+    // What stood above the prompt of the last input.
+    const QString& GetLastNote() const { return lastNote_; }
 
     Answer Ask(const Box& box) override;
     QString AskText(const Input& input) override;
@@ -44,4 +60,5 @@ private:
     Step Take(const QString& shown);
 
     std::deque<Step> script_;
+    QString lastNote_;
 };

@@ -31,7 +31,7 @@ private slots:
         dialogs_->ExpectBoxBeginning("Error 3024 ", Icon::Warning);
         menu->actions()[1]->trigger();
         QTRY_VERIFY(dialogs_->IsDone());
-        QVERIFY(!window_->AlbumOpen);
+        QVERIFY(!window_->AlbumOpen());
         for (int i = 0; i < 12; ++i)
             RememberRecentAlbum(QStringLiteral("/%1.alb").arg(i));
         QCOMPARE(RecentAlbums().size(), 10);
@@ -91,7 +91,7 @@ private slots:
             Drop(paths);
             QVERIFY(dialogs_->IsDone());
         }
-        QVERIFY(!window_->AlbumOpen);
+        QVERIFY(!window_->AlbumOpen());
         QCOMPARE(album_->Joined("SELECT count(*) FROM Image"), "0");
     }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/QtDialogs.h"
+#include "support/AlbumFixture.h"
 #include "support/ModalDriver.h"
 
 #include <QTemporaryDir>
@@ -25,24 +26,43 @@ private slots:
             QCOMPARE(box.textFormat(), Qt::PlainText);
             QCOMPARE(box.icon(), QMessageBox::Question);
             QCOMPARE(box.standardButton(box.defaultButton()), QMessageBox::Cancel);
+            QCOMPARE(box.button(QMessageBox::Yes)->text(), "Remove");
+            QVERIFY(!box.button(QMessageBox::No)->text().isEmpty());
             box.button(QMessageBox::No)->click();
         });
-        const auto answer = dialogs_.Ask({"Delete <b>it</b> ?", Dialogs::Icon::Question,
-                                          Dialogs::Buttons::YesNoCancel, Dialogs::Answer::Cancel});
+        const auto answer = dialogs_.Ask({.text = "Delete <b>it</b> ?",
+                                          .icon = Dialogs::Icon::Question,
+                                          .buttons = Dialogs::Buttons::YesNoCancel,
+                                          .defaultAnswer = Dialogs::Answer::Cancel,
+                                          .yes = "Remove"});
         QCOMPARE(answer, Dialogs::Answer::No);
         WhenModal("QMessageBox", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
         QCOMPARE(dialogs_.Ask({"Sure ?", Dialogs::Icon::None, Dialogs::Buttons::OkCancel}),
                  Dialogs::Answer::Cancel);
         WhenModal("QInputDialog", [](QWidget& window) {
             auto& box = dynamic_cast<QInputDialog&>(window);
-            QCOMPARE(box.labelText(), "Name");
+            QCOMPARE(box.labelText(), "Salt & <b>Pepper</b>");
+            for (const QLabel* label : box.findChildren<QLabel*>())
+                QVERIFY(label->textFormat() == Qt::PlainText && !label->buddy());
+            QCOMPARE(Find<QLabel>(box, "lblNote").text(), "Wrong");
             QCOMPARE(box.textValue(), "Old");
             QCOMPARE(box.textEchoMode(), QLineEdit::Password);
             box.setTextValue("New");
             box.accept();
         });
-        QCOMPARE(dialogs_.AskText({.prompt = "Name", .proposal = "Old", .isPassword = true}),
+        QCOMPARE(dialogs_.AskText({.prompt = "Salt & <b>Pepper</b>",
+                                   .note = "Wrong",
+                                   .proposal = "Old",
+                                   .isPassword = true}),
                  "New");
+        // Cancelled and emptied are two things.
+        for (const bool isAccepted : {false, true}) {
+            WhenModal("QInputDialog", [isAccepted](QWidget& window) {
+                dynamic_cast<QInputDialog&>(window).done(isAccepted ? QDialog::Accepted
+                                                                    : QDialog::Rejected);
+            });
+            QCOMPARE(dialogs_.AskText({.prompt = "Name"}).isNull(), !isAccepted);
+        }
         // What an action throws.
         WhenModal("QMessageBox", [](QWidget& window) {
             auto& box = dynamic_cast<QMessageBox&>(window);
@@ -67,6 +87,21 @@ private slots:
         });
         QCOMPARE(dialogs_.AskSaveFile({"Create a new Album", "Album|*.alb", folder.path()}),
                  folder.filePath("mine.alb"));
+        // A dot in the name is no extension, and the name that comes of it may be taken.
+        WriteFile(folder.filePath("Rome 12.5.alb"));
+        const auto choose = [](QWidget& window, const char* name) {
+            window.findChild<QLineEdit*>()->setText(name);
+            dynamic_cast<QDialog&>(window).done(QDialog::Accepted);
+        };
+        WhenModal("QFileDialog", [&choose](QWidget& window) {
+            WhenModal("QMessageBox", [&choose](QWidget& box) {
+                WhenModal("QFileDialog", [&](QWidget& again) { choose(again, "Rome 12.6"); });
+                box.close();
+            });
+            choose(window, "Rome 12.5");
+        });
+        QCOMPARE(dialogs_.AskSaveFile({"Create", "Album|*.alb", folder.path()}),
+                 folder.filePath("Rome 12.6.alb"));
         WhenModal("QFileDialog", [](QWidget& window) { dynamic_cast<QDialog&>(window).reject(); });
         QCOMPARE(dialogs_.AskOpenFile({"Open Album", "Album|*.alb", folder.path()}), "");
     }

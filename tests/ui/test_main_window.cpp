@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProgramTest.h"
 #include "core/Album.h"
+#include "core/AlbumPassword.h"
 #include "core/Settings.h"
 
 using namespace GeneralModule;
@@ -12,14 +13,17 @@ class TestMainWindow : public ProgramTest
 private slots:
     void GuidesFromNothingToTheFirstChapter()
     {
+        ReleaseAlbum();
         SaveLastAlbum({});
         Start({});
         QCOMPARE(Warning(), "Please OPEN or CREATE an ALBUM\nPress F1 for Help");
         QVERIFY(!Find<QPushButton>("cmdReadChapter")->isVisible());
         QVERIFY(!IsEnabled("mnuCreateChapter"));
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Down, Qt::Key_Delete})
+            QTest::keyClick(Find<QListWidget>("lstChapter"), key);
 
         const QString path = album_->PathOf("new.alb");
-        dialogs_->ExpectSaveFile("Create a new Album", path);
+        dialogs_->ExpectSaveFile("Create a new Album", path, "My Album.alb");
         Choose("mnuCreateScript");
         QCOMPARE(GetLastAlbum(), path);
         QCOMPARE(Warning(), "Please LOAD and INDEX Pictures\nPress F1 for Help");
@@ -71,9 +75,9 @@ private slots:
         const QString rule = "Chapter Names must begin with a letter or a figure";
         dialogs_->ExpectInput(prompt, "abc");
         dialogs_->ExpectBox(rule, Icon::Warning);
-        dialogs_->ExpectInput(prompt, "ABC");
+        dialogs_->ExpectInput(prompt, "ABC", "abc"); // which is still in the box
         dialogs_->ExpectBox("This chapter exists already", Icon::Warning);
-        dialogs_->ExpectInput(prompt, "");
+        dialogs_->ExpectInput(prompt, "", "ABC");
         Choose("mnuCreateChapter");
         QCOMPARE(Chapters(), "*Abc Def");
         dialogs_->ExpectInput(prompt, "Jane's");
@@ -93,7 +97,7 @@ private slots:
         const QString prompt = "Enter new name for chapter 'Def'";
         dialogs_->ExpectInput(prompt, "Ghi", "Def");
         dialogs_->ExpectBox("This chapter exists already", Icon::Warning);
-        dialogs_->ExpectInput(prompt, "DEF", "Def");
+        dialogs_->ExpectInput(prompt, "DEF", "Ghi");
         Choose("mnuRename");
         QCOMPARE(Chapters(), "Abc *DEF Ghi");
         dialogs_->ExpectBox("This chapter contains paragraphs and can't be deleted",
@@ -146,7 +150,7 @@ private slots:
         dialogs_->ExpectOpenFile("Open Album", album_->PathOf("missing.alb"));
         dialogs_->ExpectBoxBeginning("Error 3024 ", Icon::Warning);
         Choose("mnuOpenScript");
-        QVERIFY(!window_->AlbumOpen);
+        QVERIFY(!window_->AlbumOpen());
         QCOMPARE(Chapters(), "");
         QCOMPARE(Warning(), "Please OPEN or CREATE an ALBUM\nPress F1 for Help");
         window_->resize(700, 500);
@@ -154,13 +158,54 @@ private slots:
         dialogs_->ExpectOpenFile("Open Album", album_->GetAlbum());
         Choose("mnuOpenScript");
         QCOMPARE(Chapters(), "*A");
-        dialogs_->ExpectSaveFile("Create a new Album", album_->PathOf("missing/new.alb"));
+        dialogs_->ExpectSaveFile("Create a new Album", album_->PathOf("missing/new.alb"),
+                                 "My Album.alb");
         dialogs_->ExpectBoxBeginning("The album '", Icon::Warning);
         Choose("mnuCreateScript");
-        QVERIFY(!window_->AlbumOpen);
+        QVERIFY(!window_->AlbumOpen());
         QCOMPARE(Chapters(), "");
         Choose("mnuExit");
         QVERIFY(!window_->isVisible());
+    }
+
+    // The window is resized while the boxes are up.
+    void OpensAnAlbumWithAPassword()
+    {
+        AddChapters({"A", "B"});
+        SetAlbumPassword("secret");
+        const QString prompt = "Please give the password for : " + album_->GetAlbum();
+        const auto open = [&](const QStringList& answers) {
+            dialogs_->ExpectOpenFile("Open Album", album_->GetAlbum());
+            for (const QString& answer : answers)
+                dialogs_->ExpectInput(prompt, answer);
+            Choose("mnuOpenScript");
+        };
+        dialogs_->ExpectInput(prompt, "secret"); // the last album comes up by itself
+        Start({});
+        QCOMPARE(Chapters(), "*A B");
+        QCOMPARE(dialogs_->GetLastNote(), "");
+        open({"wrong", ""});
+        QCOMPARE(dialogs_->GetLastNote(), "Wrong password");
+        QVERIFY(!window_->AlbumOpen());
+        QCOMPARE(Chapters(), "");
+        QTest::keyClick(Find<QListWidget>("lstChapter"), Qt::Key_Return);
+        open({"wrong", "secret"});
+        QCOMPARE(Chapters(), "*A B");
+    }
+
+    void KeepsTheSelectionAndTheListThatItHas()
+    {
+        AddChapters({"A", "B", "C"});
+        Start();
+        Select(1);
+        window_->resize(window_->size() + QSize(40, 40));
+        QCOMPARE(Chapters(), "A *B C");
+        dialogs_->ExpectBoxBeginning("3049 ", Icon::Critical);
+        {
+            const FailingEngine failing(0);
+            window_->resize(window_->size() + QSize(40, 40));
+        }
+        QCOMPARE(Chapters(), "A *B C");
     }
 
     void RepairsAndTellsAboutItself()

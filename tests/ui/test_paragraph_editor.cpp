@@ -110,6 +110,7 @@ private slots:
             way += writing.Text();
         }
         QCOMPARE(way.join(u' '), "second third second first third");
+        QCOMPARE(writing.editor.focusWidget(), &writing.TextBox());
         QTest::keyClicks(&writing.TextBox(), "X");
         writing.Click("cmdNextParagraph"); // stays, and saves
         QCOMPARE(writing.Text(), QString("Xthird"));
@@ -157,6 +158,43 @@ private slots:
             writing.Click("cmdExit");
             QCOMPARE(writing.editor.isVisible(), answer == Dialogs::Answer::No);
         }
+    }
+
+    // Wherever the engine fails on the way, and once it works again, no paragraph is overwritten.
+    void WhatCannotBeReadIsNotSaved()
+    {
+        const PatientDialogs dialogs;
+        for (const char* way : {"cmdNextParagraph", "cmdDelete", "cmdOrganize"}) {
+            bool hasFailed = true;
+            int trials = 0;
+            for (int steps = 0; hasFailed; steps += 13, ++trials) {
+                Writing writing;
+                const auto rows = [&] { return writing.Rows("SELECT * FROM Paragraph"); };
+                const QStringList before = rows();
+                if (way == QLatin1String("cmdOrganize"))
+                    WhenModal("frmOrganizeParagraphs", [](QWidget& window) { window.close(); });
+                {
+                    const FailingEngine failing(steps);
+                    writing.Click(way);
+                    hasFailed = failing.HasFailed();
+                }
+                const bool isDeleted = rows().size() < before.size();
+                if (writing.editor.isVisible())
+                    writing.Click("cmdExit");
+                QCOMPARE(writing.Joined("SELECT Text FROM Paragraph"),
+                         isDeleted ? "second; third" : "first; second; third");
+                QVERIFY(isDeleted || rows() == before);
+            }
+            QVERIFY2(trials > 5, way);
+        }
+    }
+
+    void EscapeClosesTheListOfMarkers()
+    {
+        Writing writing;
+        writing.Click("cmdInsertCar");
+        QTest::keyClick(&Find<QListWidget>(writing.editor, "lstInsertCar"), Qt::Key_Escape);
+        QVERIFY(writing.editor.isVisible() && !writing.IsShown("lstInsertCar"));
     }
 
     void Filter()

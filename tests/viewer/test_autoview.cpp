@@ -52,6 +52,21 @@ private slots:
         QVERIFY(timer.isActive());
         QVERIFY2(timer.interval() <= 19800, "the work was not counted");
         QVERIFY(timer.interval() >= 10000);
+        autoview.Switch();
+        // What comes late stays for half of the delay.
+        dialogs.ExpectInput("Please enter delay in seconds : ", "0.2", "20");
+        autoview.Switch();
+        timer.start(0);
+        QTRY_COMPARE(steps, 2);
+        QCOMPARE(timer.interval(), 100);
+        autoview.End();
+        // Cancelled: nothing changes. Emptied: the usual delay.
+        dialogs.ExpectInput("Please enter delay in seconds : ", QString(), "0.2");
+        QVERIFY(!autoview.Switch() && !AutoviewOn);
+        QCOMPARE(GeneralModule::GetTimerDelay(), 200);
+        dialogs.ExpectInput("Please enter delay in seconds : ", "", "0.2");
+        QVERIFY(autoview.Switch());
+        QCOMPARE(GeneralModule::GetTimerDelay(), 10000);
         autoview.End();
     }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "platform/picture/PictureReader.h"
 #include "support/AlbumFixture.h"
 #include "viewer/LineLayout.h"
+#include "viewer/PictureScreen.h"
 #include "viewer/StoryWalk.h"
 
 #include <QtTest>
@@ -85,12 +87,33 @@ private slots:
         }
     }
 
+    void SmallPicturesAreShownPixelByPixel()
+    {
+        AlbumFixture album;
+        QStringList files;
+        for (const int width : {33, 47, 60, 71, 102})
+            files += album.AddPicture(QString("%1.png").arg(width), {}, {width, width / 2});
+        for (int width = 900; width < 1000; ++width) {
+            PictureList list;
+            for (const QString& file : files)
+                list.Add(file);
+            const ScreenShape shape{{width, 613}, 1, 73.3F, 1 + width % 4};
+            const auto shown = FillScreen(list, shape);
+            QCOMPARE(shown.size(), std::size_t(5));
+            for (const ShownPicture& picture : shown)
+                QCOMPARE(picture.place.size(), ReadPictureInfo(picture.path).size);
+        }
+    }
+
     void Steps()
     {
         const Row rows[] = {{"", next_, {1, 1}, "paragraph 1/2"},
                             {"", next_, {1, 3}, "chapter 4/4"}, // over empty ones
                             {"", next_, {4, 5}, "chapter 1/1"},
-                            {"", next_, {2, 0}, "nothing 2/0"},
+                            {"", next_, {2, 0}, "chapter 4/4"}, // from empty ones too
+                            {"", previous_, {2, 0}, "paragraph 1/3"},
+                            {"", previous_, {3, 0}, "chapter 2/0"},
+                            {"", next_, {0, 0}, "nothing 0/0"},
                             {"", previous_, {1, 2}, "paragraph 1/1"},
                             {"", previous_, {1, 1}, "paragraph 1/1"},
                             {"", previous_, {4, 4}, "chapter 3/0"}, // skips no empty one
@@ -119,6 +142,10 @@ private slots:
             // Round and round past chapters without a paragraph.
             {chapter + "NextChapter=2 WHERE Id=3", next_, {1, 3}, "nothing 1/3"},
             {chapter + "FirstParagraph=0", next_, {4, 5}, "nothing 4/5"},
+            {chapter + "FirstParagraph=0", next_, {2, 0}, "nothing 2/0"},
+            {chapter + "PreviousChapter=0", previous_, {2, 0}, "nothing 2/0"},
+            // The chapter that the paragraph itself names counts.
+            {paragraph + "Chapter=4 WHERE Id=3", next_, {1, 3}, "chapter 1/1"},
             {chapter + "FirstParagraph=0", GoToFirst, {1, 3}, "nothing 1/0"},
             {"DELETE FROM Paragraph WHERE Id=2", next_, {1, 2}, "nothing 1/2"},
             {"DELETE FROM Chapter", next_, {1, 3}, "close 1/3"}};

@@ -15,6 +15,7 @@ class DatabaseError : public std::exception
 public:
     enum Number {
         Overflow = 6,
+        NoAlbum = 91,
         InvalidPattern = 93,
         InvalidUseOfNull = 94,
         UpdateWithoutEdit = 3020,

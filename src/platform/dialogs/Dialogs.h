@@ -22,11 +22,15 @@ public:
         Buttons buttons = Buttons::Ok;
         std::optional<Answer> defaultAnswer = {}; // the platform's choice when not given
         QString title = {};                       // the program's name when empty
+        // On the buttons Yes and No, where other words say better what they do.
+        QString yes = {};
+        QString no = {};
     };
 
     struct Input
     {
         QString prompt;
+        QString note = {}; // above the prompt: what was wrong with the last answer
         QString proposal = {};
         QString title = {}; // the program's name when empty
         bool isPassword = false;
@@ -47,10 +51,10 @@ public:
 
     // Closing the box without a button counts as Cancel, or as No or Ok where there is no Cancel.
     virtual Answer Ask(const Box& box) = 0;
-    // An empty text when the box was cancelled.
+    // Null (and so empty) when the box was cancelled; not null when an empty text was confirmed.
     virtual QString AskText(const Input& input) = 0;
     // The chosen path, empty when cancelled. AskSaveFile has asked before it returns an existing
-    // file, and has added the filter's extension to a name without one.
+    // file, and has added the filter's extension to a name that does not end in it.
     virtual QString AskOpenFile(const FileChoice& choice) = 0;
     virtual QString AskSaveFile(const FileChoice& choice) = 0;
 

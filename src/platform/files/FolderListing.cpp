@@ -61,6 +61,12 @@ FolderListing List(const QString& folder, IsMeant isMeant)
     return listing;
 }
 
+QString ExistingFolder(QStandardPaths::StandardLocation kind)
+{
+    const QString folder = QStandardPaths::writableLocation(kind);
+    return QDir::toNativeSeparators(QDir(folder).exists() ? folder : QDir::homePath());
+}
+
 } // namespace
 
 FolderListing ListFiles(const QString& folder)
@@ -83,8 +89,12 @@ QString PathIn(const QString& folder, const QString& name)
     return folder.endsWith(separator) ? folder + name : folder + separator + name;
 }
 
+QString UsersDocumentFolder()
+{
+    return ExistingFolder(QStandardPaths::DocumentsLocation);
+}
+
 QString UsersPictureFolder()
 {
-    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    return QDir::toNativeSeparators(QDir(pictures).exists() ? pictures : QDir::homePath());
+    return ExistingFolder(QStandardPaths::PicturesLocation);
 }

@@ -18,6 +18,10 @@ FolderListing ListFolders(const QString& folder);
 // The path of something in a folder. The folder may or may not end in the separator.
 QString PathIn(const QString& folder, const QString& name);
 
+// Where a user looks for documents first: the folder that the desktop keeps for them, else the
+// user's own.
+QString UsersDocumentFolder();
+
 // Where a user looks for pictures first: the folder that the desktop keeps for them, else the
 // user's own.
 QString UsersPictureFolder();

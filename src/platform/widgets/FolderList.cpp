@@ -3,6 +3,7 @@
 
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/FolderListing.h"
+#include "platform/widgets/LiteralText.h"
 
 #include <QDir>
 #include <QHeaderView>
@@ -77,7 +78,7 @@ QTreeWidgetItem* FolderList::AddRow(QTreeWidgetItem* above, const QString& text,
 {
     auto* row = new QTreeWidgetItem({text});
     row->setData(0, pathRole, path);
-    row->setToolTip(0, path);
+    row->setToolTip(0, AsToolTip(path));
     if (above)
         above->addChild(row);
     else

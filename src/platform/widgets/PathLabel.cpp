@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/widgets/PathLabel.h"
 
+#include "platform/widgets/LiteralText.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -15,8 +17,7 @@ bool PathLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    // Escaped, because a path may look like markup.
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), AsToolTip(text()), this);
     return true;
 }
 

@@ -22,11 +22,14 @@ public:
     const QImage& GetPicture() const { return picture_; }
 
 signals:
+    // The second press of a double click is none of its own: it would undo at once what the first
+    // one did.
     void Pressed(Qt::MouseButton button);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override {}
 
 private:
     void PaintUnreadable(QPainter& painter);

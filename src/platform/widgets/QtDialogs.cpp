@@ -8,12 +8,20 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int inputWidth = 420; // logical pixels; a chapter's name or a path's end is seen whole
+constexpr int inputWidth = 420;       // logical pixels; a chapter's name or a path's end is seen whole
+constexpr int widestPrompt = 700;     // logical pixels; a longer one goes on in the next line
+constexpr qsizetype longestText = 3000; // characters; no screen holds more of a message
+
+QString Cut(const QString& text)
+{
+    return text.size() <= longestText ? text : text.first(longestText - 1) + QChar(0x2026);
+}
 
 QString TitleOr(const QString& title)
 {
@@ -109,15 +117,53 @@ QString Choose(const Dialogs::FileChoice& choice, QFileDialog::AcceptMode mode)
     return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
 }
 
+// The toolkit adds an extension only to a name without any dot: "Rome 12.5" would stay as it is.
+QString WithExtension(const QString& path, const QString& filter)
+{
+    const QString ending = QLatin1Char('.') + FirstExtension(filter);
+    return path.endsWith(ending, Qt::CaseInsensitive) ? path : path + ending;
+}
+
+// Prompts hold names of users, which must not be read as markup. A label that belongs to a field
+// would also take "&" for the mark of an access key, so the field gets its name in another way.
+void ShowLiterally(QInputDialog& dialog)
+{
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+        if (label->sizeHint().width() > widestPrompt) {
+            label->setWordWrap(true);
+            label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+        }
+        if (label->buddy())
+            label->buddy()->setAccessibleName(label->text());
+        label->setBuddy(nullptr);
+    }
+}
+
+void AddNote(QInputDialog& dialog, const QString& note)
+{
+    auto* label = new QLabel(note);
+    label->setObjectName(QStringLiteral("lblNote"));
+    label->setTextFormat(Qt::PlainText);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    static_cast<QVBoxLayout*>(dialog.layout())->insertWidget(0, label);
+}
+
 } // namespace
 
 Dialogs::Answer QtDialogs::Ask(const Box& box)
 {
-    QMessageBox message(ToQt(box.icon), TitleOr(box.title), box.text, ToQt(box.buttons),
+    QMessageBox message(ToQt(box.icon), TitleOr(box.title), Cut(box.text), ToQt(box.buttons),
                         QApplication::activeWindow());
     message.setTextFormat(Qt::PlainText);
     if (box.defaultAnswer)
         message.setDefaultButton(ToQt(*box.defaultAnswer));
+    if (!box.yes.isEmpty())
+        message.button(QMessageBox::Yes)->setText(box.yes);
+    if (!box.no.isEmpty())
+        message.button(QMessageBox::No)->setText(box.no);
     return FromQt(message.exec());
 }
 
@@ -125,14 +171,17 @@ QString QtDialogs::AskText(const Input& input)
 {
     QInputDialog dialog(QApplication::activeWindow());
     dialog.setWindowTitle(TitleOr(input.title));
-    dialog.setLabelText(input.prompt);
+    dialog.setLabelText(Cut(input.prompt));
     dialog.setTextValue(input.proposal);
     dialog.setTextEchoMode(input.isPassword ? QLineEdit::Password : QLineEdit::Normal);
-    // Prompts hold names of users, which must not be read as markup.
-    for (QLabel* label : dialog.findChildren<QLabel*>())
-        label->setTextFormat(Qt::PlainText);
+    dialog.sizeHint(); // makes the labels, which are not there before
+    ShowLiterally(dialog);
+    if (!input.note.isEmpty())
+        AddNote(dialog, input.note);
     dialog.resize(std::max(dialog.sizeHint().width(), inputWidth), dialog.sizeHint().height());
-    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.textValue().isEmpty() ? QStringLiteral("") : dialog.textValue();
 }
 
 QString QtDialogs::AskOpenFile(const FileChoice& choice)
@@ -142,7 +191,19 @@ QString QtDialogs::AskOpenFile(const FileChoice& choice)
 
 QString QtDialogs::AskSaveFile(const FileChoice& choice)
 {
-    return Choose(choice, QFileDialog::AcceptSave);
+    while (true) {
+        const QString chosen = Choose(choice, QFileDialog::AcceptSave);
+        if (chosen.isEmpty())
+            return {};
+        const QString path = WithExtension(chosen, choice.filter);
+        // The dialog has asked about the name that was typed, which is not this one.
+        if (path == chosen || !QFileInfo::exists(path) ||
+            Ask({QCoreApplication::translate(
+                     "QtDialogs", "'%1' exists already. Do you want to replace it ?")
+                     .arg(path),
+                 Icon::Warning, Buttons::YesNo, Answer::No}) == Answer::Yes)
+            return path;
+    }
 }
 
 void QtDialogs::RunLong(const QString& text, bool canStop, const Work& work)

@@ -42,9 +42,13 @@ void AskForNewPassword()
     Answer answer = Answer::No;
     if (AlbumHasPassword())
         answer = Dialogs::Door().Ask(
-            {PasswordTexts::tr("This album has a password. Do you want to remove it ?\n"
-                               "Choose No to change it."),
-             Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, Answer::Cancel});
+            {.text = PasswordTexts::tr("This album has a password. Do you want to remove it, or "
+                                       "to change it ?"),
+             .icon = Dialogs::Icon::Question,
+             .buttons = Dialogs::Buttons::YesNoCancel,
+             .defaultAnswer = Answer::Cancel,
+             .yes = PasswordTexts::tr("Remove Password"),
+             .no = PasswordTexts::tr("Change Password")});
     if (answer == Answer::Cancel)
         return;
     const QString password = answer == Answer::Yes ? QString() : AskTwice();

@@ -9,6 +9,7 @@
 #include "core/StartUp.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/files/FolderListing.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/MainWindowState.h"
@@ -18,6 +19,7 @@
 #include "ui/main/frmRepairAlbum.h"
 
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QShortcut>
 
 using namespace GeneralModule;
@@ -25,6 +27,22 @@ using namespace GeneralModule;
 namespace {
 
 constexpr QSize proposedSize(860, 600);
+
+// Of the last album, or on a first start the user's documents.
+QString FolderToBeginWith()
+{
+    const QString folder = FolderOf(GetLastAlbum());
+    return folder.isEmpty() ? UsersDocumentFolder() : folder;
+}
+
+// "My Album.alb", or the first "My Album 2.alb" that is free.
+QString FreeAlbumName(const QString& folder)
+{
+    QString name = frmOpenChapter::tr("My Album.alb");
+    for (int number = 2; QFileInfo::exists(QDir(folder).filePath(name)); ++number)
+        name = frmOpenChapter::tr("My Album %1.alb").arg(number);
+    return name;
+}
 
 } // namespace
 
@@ -134,36 +152,49 @@ void frmOpenChapter::changeEvent(QEvent* event)
         TintWarning();
 }
 
+bool frmOpenChapter::AlbumOpen() const
+{
+    return IsAlbumOpen();
+}
+
 void frmOpenChapter::Form_Load(const QString& album)
 {
     InitModule();
     const QString path = album.isEmpty() ? GetLastAlbum() : album;
-    AlbumOpen = !path.isEmpty() && OpenAlbum(path);
+    if (!path.isEmpty())
+        OpenAlbum(path);
     FillRecentAlbums();
 }
 
 void frmOpenChapter::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
+    // While a message tells that the list cannot be read, no further one shall come up over it.
+    if (isRefilling_)
+        return;
+    const QScopedValueRollback<bool> refilling(isRefilling_, true);
     RunGuarded([this] {
-        if (AlbumOpen)
+        if (AlbumOpen())
             FillChapterList();
         RefreshState();
     });
 }
 
-void frmOpenChapter::FillChapterList()
+// Read first: when that fails the list stays as it was.
+void frmOpenChapter::FillChapterList(const QString& selected)
 {
+    const QStringList names = ChapterNames();
+    const QString kept = selected.isEmpty() ? SelectedChapter() : selected;
     const QSignalBlocker quiet(ui_->lstChapter);
     ui_->lstChapter->clear();
-    ui_->lstChapter->addItems(ChapterNames());
-    SelectRow(0);
+    ui_->lstChapter->addItems(names);
+    SelectRow(qMax(0, int(names.indexOf(kept))));
 }
 
 void frmOpenChapter::RefreshState()
 {
     const MainWindowState state =
-        DescribeMainWindow({AlbumOpen, AlbumOpen && !ImageSet->IsEmpty(), ui_->lstChapter->count(),
+        DescribeMainWindow({AlbumOpen(), AlbumOpen() && !ImageSet->IsEmpty(), ui_->lstChapter->count(),
                             ui_->lstChapter->currentRow()});
     setWindowTitle(state.caption);
     ui_->lblWarning->setText(state.warning);
@@ -207,9 +238,9 @@ bool frmOpenChapter::eventFilter(QObject* watched, QEvent* event)
 void frmOpenChapter::OpenChosen(const QString& path)
 {
     ui_->lstChapter->clear();
-    AlbumOpen = OpenAlbum(path);
+    const bool isOpen = OpenAlbum(path);
     FillRecentAlbums();
-    if (AlbumOpen)
+    if (isOpen)
         FillChapterList();
     RefreshState();
 }
@@ -224,7 +255,7 @@ void frmOpenChapter::FillRecentAlbums()
 void frmOpenChapter::mnuOpenScript_Click()
 {
     const QString path = Dialogs::Door().AskOpenFile(
-        {tr("Open Album"), tr("Album|*.alb"), FolderOf(GetLastAlbum())});
+        {tr("Open Album"), tr("Album|*.alb"), FolderToBeginWith()});
     if (path.isEmpty())
         return RefreshState();
     OpenChosen(path);
@@ -232,8 +263,9 @@ void frmOpenChapter::mnuOpenScript_Click()
 
 void frmOpenChapter::mnuCreateScript_Click()
 {
+    const QString folder = FolderToBeginWith();
     const QString path = Dialogs::Door().AskSaveFile(
-        {tr("Create a new Album"), tr("Album|*.alb"), FolderOf(GetLastAlbum())});
+        {tr("Create a new Album"), tr("Album|*.alb"), folder, FreeAlbumName(folder)});
     if (path.isEmpty())
         return RefreshState();
     if (CreateAlbumFile(path))
@@ -241,7 +273,6 @@ void frmOpenChapter::mnuCreateScript_Click()
     // As after opening in vain, so that nobody goes on in the former album by mistake.
     ui_->lstChapter->clear();
     ReleaseAlbum();
-    AlbumOpen = false;
     RefreshState();
 }
 
@@ -253,7 +284,7 @@ void frmOpenChapter::mnuExit_Click()
 void frmOpenChapter::mnuRepair_Click()
 {
     frmRepairAlbum(this).exec();
-    if (AlbumOpen)
+    if (AlbumOpen())
         FillChapterList();
     RefreshState();
 }
@@ -261,7 +292,6 @@ void frmOpenChapter::mnuRepair_Click()
 void frmOpenChapter::mnuPassword_Click()
 {
     AskForNewPassword();
-    AlbumOpen = AlbumDatabase != nullptr;
     RefreshState();
 }
 

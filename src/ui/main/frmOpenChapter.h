@@ -24,7 +24,8 @@ public:
     explicit frmOpenChapter(const QString& album = {});
     ~frmOpenChapter() override;
 
-    bool AlbumOpen = false;
+    // Asked of the album each time: a copy would be wrong while a box of its opening is up.
+    bool AlbumOpen() const;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -35,7 +36,8 @@ protected:
 
 private:
     void Form_Load(const QString& album);
-    void FillChapterList();
+    // Selects the chapter of that name, else keeps the selection by its name.
+    void FillChapterList(const QString& selected = {});
     void RefreshState();
 
     void mnuOpenScript_Click();
@@ -79,4 +81,5 @@ private:
     void SelectRow(int row);
 
     std::unique_ptr<Ui::frmOpenChapter> ui_;
+    bool isRefilling_ = false;
 };

@@ -24,8 +24,10 @@ void frmOpenChapter::SelectRow(int row)
 
 void frmOpenChapter::cmdReadChapter_Click()
 {
+    if (!AlbumOpen())
+        return;
     const std::optional<qint32> chapter = FindChapter(SelectedChapter());
-    if (!AlbumOpen || !chapter)
+    if (!chapter)
         return;
     AutoviewOn = false;
     frmReelvane viewer(this);
@@ -41,8 +43,10 @@ bool frmOpenChapter::IsListed(const QString& name) const
 
 QString frmOpenChapter::AskChapterName(const QString& prompt, const QString& ownName)
 {
+    QString name = ownName;
     while (true) {
-        const QString name = Dialogs::Door().AskText({.prompt = prompt, .proposal = ownName});
+        // A refused name stays in the box, to be mended.
+        name = Dialogs::Door().AskText({.prompt = prompt, .proposal = name});
         if (name.isEmpty())
             return {};
         const bool isOwn = name.compare(ownName, Qt::CaseInsensitive) == 0;
@@ -57,7 +61,7 @@ QString frmOpenChapter::AskChapterName(const QString& prompt, const QString& own
 
 void frmOpenChapter::cmdCreateChapter_Click()
 {
-    if (!AlbumOpen)
+    if (!AlbumOpen())
         return;
     const QString name = AskChapterName(tr("Please Enter Chapter Name"), {});
     if (name.isEmpty())
@@ -73,14 +77,17 @@ void frmOpenChapter::cmdCreateChapter_Click()
 void frmOpenChapter::mnuRename_Click()
 {
     const QString name = SelectedChapter();
-    if (name.isEmpty())
+    // Found before the box comes up: another program may give the name to another chapter meanwhile.
+    const std::optional<qint32> chapter = name.isEmpty() ? std::nullopt : FindChapter(name);
+    if (!chapter)
         return;
     const QString newName =
         AskChapterName(tr("Enter new name for chapter '") + name + QLatin1Char('\''), name);
     if (newName.isEmpty())
         return;
-    RenameChapter(name, newName);
-    ui_->lstChapter->currentItem()->setText(newName);
+    if (!RenameChapter(*chapter, newName))
+        Tell(tr("This chapter is no longer in the album."), Dialogs::Icon::Warning);
+    FillChapterList(newName);
     RefreshState();
 }
 
@@ -104,20 +111,16 @@ void frmOpenChapter::mnuDeleteChapter_Click()
 
 void frmOpenChapter::cmdMoveUp_Click()
 {
-    const int row = ui_->lstChapter->currentRow();
-    if (row < 0 || !MoveChapterUp(SelectedChapter()))
+    if (ui_->lstChapter->currentRow() < 0 || !MoveChapterUp(SelectedChapter()))
         return;
     FillChapterList();
-    SelectRow(row - 1);
     RefreshState();
 }
 
 void frmOpenChapter::cmdMoveDown_Click()
 {
-    const int row = ui_->lstChapter->currentRow();
-    if (row < 0 || !MoveChapterDown(SelectedChapter()))
+    if (ui_->lstChapter->currentRow() < 0 || !MoveChapterDown(SelectedChapter()))
         return;
     FillChapterList();
-    SelectRow(row + 1);
     RefreshState();
 }

@@ -43,7 +43,7 @@ void frmOpenChapter::TakeDropped(const DroppedFiles& files)
     else if (files.pictureCount == 0)
         Tell(tr("There is neither an album nor a picture among these files."),
              Dialogs::Icon::Warning);
-    else if (!AlbumOpen)
+    else if (!AlbumOpen())
         Tell(tr("Please open or create an album first, then drop the pictures."),
              Dialogs::Icon::Warning);
     else

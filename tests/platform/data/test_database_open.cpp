@@ -31,7 +31,7 @@ void CheckRefused(const AlbumFixture& world, const QString& path, int number)
     dialogs.ExpectBoxBeginning(QString("Error %1 ").arg(number), Dialogs::Icon::Warning);
     QVERIFY2(!OpenAlbum(path), qPrintable(path));
     QCOMPARE(GetLastAlbum(), world.GetAlbum());
-    QVERIFY(!AlbumDatabase && !ImageSet);
+    QVERIFY(!IsAlbumOpen());
     QCOMPARE(QFileInfo::exists(path), exists);
     QCOMPARE(ReadFile(path), before);
 }
@@ -43,8 +43,8 @@ namespace {
 // Goes through everything that the windows read; errors are what is expected of a damaged file.
 void ReadAll()
 {
-    for (RecordSet* set : {ParamsSet.get(), ParagraphSet.get(), ImageSet.get(), ChapterSet.get(),
-                           LinkedImagesSet.get()}) {
+    for (RecordSet* set : {&*ParamsSet, &*ParagraphSet, &*ImageSet, &*ChapterSet,
+                           &*LinkedImagesSet}) {
         ErrorOf([set] {
             const RecordSet::Walk walk(*set);
             for (set->MoveFirst(); !set->AtEnd(); set->MoveNext()) {
@@ -56,18 +56,6 @@ void ReadAll()
         });
     }
 }
-
-// Answers whatever comes: messages with OK, questions for a password with nothing.
-class PatientDialogs : public Dialogs
-{
-public:
-    PatientDialogs() { Install(this); }
-    ~PatientDialogs() override { Install(nullptr); }
-    Answer Ask(const Box&) override { return Answer::Ok; }
-    QString AskText(const Input&) override { return {}; }
-    QString AskOpenFile(const FileChoice&) override { return {}; }
-    QString AskSaveFile(const FileChoice&) override { return {}; }
-};
 
 } // namespace
 

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "platform/data/DatabaseCopy.h"
+
+#include "platform/data/Database.h"
+#include "platform/data/DatabaseError.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <QDir>
+#include <QFile>
+#include <QScopeGuard>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qint64 blockSize = 1 << 20;
+
+// The bytes of an open database's file.
+class EngineFile
+{
+public:
+    explicit EngineFile(sqlite3* engine)
+    {
+        sqlite3_file_control(engine, "main", SQLITE_FCNTL_FILE_POINTER, &file_);
+        sqlite3_int64 size = -1;
+        if (file_ && file_->pMethods && file_->pMethods->xFileSize(file_, &size) == SQLITE_OK)
+            size_ = size;
+    }
+
+    qint64 GetSize() const { return size_; } // negative when it cannot be told
+
+    bool Read(QByteArray& block, qint64 from) const
+    {
+        return file_->pMethods->xRead(file_, block.data(), int(block.size()), from) == SQLITE_OK;
+    }
+
+private:
+    sqlite3_file* file_ = nullptr;
+    qint64 size_ = -1;
+};
+
+// Calls take on each block of the file; false when it cannot be read or take says so.
+template<typename Take>
+bool ForEachBlock(const EngineFile& source, const Take& take)
+{
+    if (source.GetSize() < 0)
+        return false;
+    for (qint64 from = 0; from < source.GetSize(); from += blockSize) {
+        QByteArray block(qsizetype(std::min(blockSize, source.GetSize() - from)),
+                         Qt::Uninitialized);
+        if (!source.Read(block, from) || !take(block))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void CopyDatabaseFile(const Database& database, const QString& target)
+{
+    QFile copy(target);
+    auto removeCopy = qScopeGuard([&copy] { copy.remove(); });
+    const EngineFile source(database.GetEngine());
+    const auto write = [&copy](const QByteArray& block) {
+        return copy.write(block) == block.size();
+    };
+    // What a full disk or a drive that was pulled out leaves is found only by reading it back.
+    const auto isEqual = [&copy](const QByteArray& block) {
+        return copy.read(block.size()) == block;
+    };
+    const bool isCreated = copy.open(QIODevice::ReadWrite | QIODevice::NewOnly,
+                                     QFile::permissions(database.GetPath()));
+    if (!isCreated)
+        removeCopy.dismiss(); // whatever is there is not ours
+    if (!isCreated || !ForEachBlock(source, write) || !copy.flush() || !copy.seek(0) ||
+        !ForEachBlock(source, isEqual)) {
+        throw DatabaseError(DatabaseError::DiskError,
+                            DatabaseError::tr("The album cannot be copied to '%1': %2")
+                                .arg(QDir::toNativeSeparators(target), copy.errorString()));
+    }
+    removeCopy.dismiss();
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "platform/widgets/LiteralText.h"
+
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qsizetype longestToolTip = 2000; // characters
+constexpr qsizetype longestTitle = 250;
+
+QString Cut(const QString& text, qsizetype longest)
+{
+    return text.size() <= longest ? text : text.first(longest - 1) + QChar(0x2026);
+}
+
+// Control characters end a title or a line of a tool tip on some desktops.
+QString WithoutControls(QString text, bool keepsLines)
+{
+    const auto isControl = [keepsLines](QChar character) {
+        return character.category() == QChar::Other_Control && !(keepsLines && character == u'\n');
+    };
+    std::replace_if(text.begin(), text.end(), isControl, QChar(u' '));
+    return text;
+}
+
+} // namespace
+
+// Always markup, with everything in the text escaped: plain text that merely looks like it is told
+// apart by a guess.
+QString AsToolTip(const QString& text)
+{
+    return text.isEmpty() ? text
+                          : Qt::convertFromPlainText(
+                                WithoutControls(Cut(text, longestToolTip), true),
+                                Qt::WhiteSpaceNormal);
+}
+
+QString AsWindowTitle(const QString& text)
+{
+    return WithoutControls(Cut(text, longestTitle), false)
+        .replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
