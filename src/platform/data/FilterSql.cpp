@@ -74,8 +74,8 @@ private:
             throw DatabaseError(DatabaseError::InvalidPattern,
                                 DatabaseError::tr("Invalid pattern in filter '%1'.").arg(text_));
         }
-        result_.condition += QByteArray(likeFunction) + '(' + AddValue(node.value) + ',' +
-                             QuotedName(field.name) + ')';
+        result_.condition += QByteArray(field.ignoresCase ? likeFunction : pathLikeFunction) + '(' +
+                             AddValue(node.value) + ',' + QuotedName(field.name) + ')';
     }
 
     QByteArray AddValue(const FieldValue& value)

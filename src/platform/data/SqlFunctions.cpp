@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/data/SqlFunctions.h"
 
+#include "platform/data/Statement.h"
 #include "platform/text/LikePattern.h"
 #include "platform/text/TextFold.h"
 
@@ -9,6 +10,12 @@
 #include <string_view>
 
 namespace {
+
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+constexpr auto pathCase = LikePattern::Case::Insensitive;
+#else
+constexpr auto pathCase = LikePattern::Case::Sensitive;
+#endif
 
 std::string_view TextOf(sqlite3_value* value)
 {
@@ -22,14 +29,14 @@ void DeletePattern(void* pattern)
 }
 
 // The compiled pattern is kept beside the statement's argument, so a scan compiles it once.
+template<LikePattern::Case caseRule>
 void EngineLike(sqlite3_context* context, int, sqlite3_value** arguments)
 {
     if (sqlite3_value_type(arguments[1]) == SQLITE_NULL)
         return;
     const auto* pattern = static_cast<const LikePattern*>(sqlite3_get_auxdata(context, 0));
     if (!pattern) {
-        sqlite3_set_auxdata(context, 0,
-                            new LikePattern(TextOf(arguments[0]), LikePattern::Case::Insensitive),
+        sqlite3_set_auxdata(context, 0, new LikePattern(TextOf(arguments[0]), caseRule),
                             DeletePattern);
         pattern = static_cast<const LikePattern*>(sqlite3_get_auxdata(context, 0));
         if (!pattern)
@@ -48,8 +55,17 @@ int CompareFoldedTexts(void*, int firstSize, const void* first, int secondSize, 
 
 void RegisterSqlFunctions(sqlite3* engine)
 {
-    sqlite3_create_function_v2(engine, likeFunction, 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
-                               EngineLike, nullptr, nullptr, nullptr);
-    sqlite3_create_collation_v2(engine, foldedCollation, SQLITE_UTF8, nullptr, CompareFoldedTexts,
-                                nullptr);
+    const auto add = [engine](const char* name, auto function) {
+        const int code =
+            sqlite3_create_function_v2(engine, name, 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
+                                       function, nullptr, nullptr, nullptr);
+        if (code != SQLITE_OK)
+            ThrowEngineError(engine, code);
+    };
+    add(likeFunction, EngineLike<LikePattern::Case::Insensitive>);
+    add(pathLikeFunction, EngineLike<pathCase>);
+    const int code = sqlite3_create_collation_v2(engine, foldedCollation, SQLITE_UTF8, nullptr,
+                                                 CompareFoldedTexts, nullptr);
+    if (code != SQLITE_OK)
+        ThrowEngineError(engine, code);
 }

@@ -10,7 +10,11 @@ struct sqlite3;
 // case. Null text gives Null.
 inline constexpr char likeFunction[] = "engine_like";
 
+// The same for picture paths: letter case counts where it does in the names of files.
+inline constexpr char pathLikeFunction[] = "engine_like_path";
+
 // Collation without regard to case for all letters, not only ASCII.
 inline constexpr char foldedCollation[] = "folded";
 
+// Throws DatabaseError.
 void RegisterSqlFunctions(sqlite3* engine);

@@ -19,7 +19,8 @@ private slots:
             {"[File] = '/a/sea.jpg'", "2"}, // but paths exactly
             {"[File]='/b/O''Neil''s [1].jpg'", "3"},
             {"[Legend]=\"it's\"", "1"},
-            {"([File] LIKE '*sea*')", "1 2"},
+            {"([File] LIKE '*sea*')", "2"}, // in patterns as well
+            {"([Car0] LIKE 'A*')", "1 2"},
             {"[File] like '*[[]1].jpg'", "3"},
             {"[Car0]='Bert' OR [Car0]='Anna' AND [Car1]='ete'", "2 3"},
             {"NOT [Car0]='Bert' and not([Car1]='ete')", "1"},
