@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/data/RecordSet.h"
 
+#include <QScopeGuard>
+
 #include <limits>
 
 namespace {
@@ -9,16 +11,12 @@ constexpr qint64 beforeFirst = std::numeric_limits<qint64>::min();
 constexpr qsizetype mostKept =
     64; // statements of a kind; filters typed by hand come in many shapes
 
-constexpr quint64 BitOf(int field)
-{
-    return quint64(1) << field;
-}
-
-QByteArray SelectedNames(const TableLayout& layout, quint64 fields)
+template<typename Marks>
+QByteArray SelectedNames(const TableLayout& layout, const Marks& fields)
 {
     QByteArray names;
     for (int field = 0; field < layout.Count(); ++field) {
-        if (fields & BitOf(field))
+        if (fields[std::size_t(field)])
             names += ',' + QuotedName(layout.At(field).name);
     }
     return names;
@@ -99,8 +97,7 @@ bool RecordSet::Advance(const QString& filter, qint64 after)
 // meanwhile is not in the open statement: both begin a new run behind the current row.
 bool RecordSet::CanGoOn(const QString& filter) const
 {
-    return open_ && place_ != Place::End && IsFresh() && query_->wanted == query_->selected &&
-           filter == filter_;
+    return open_ && place_ != Place::End && IsFresh() && !query_->isBehind && filter == filter_;
 }
 
 void RecordSet::Translate(const QString& filter)
@@ -126,7 +123,7 @@ void RecordSet::Translate(const QString& filter)
 // Ordered by row number always: an index would return rows in an order of its own.
 void RecordSet::PrepareQuery(Query& query)
 {
-    if (query.statement.IsPrepared() && query.wanted == query.selected)
+    if (!query.isBehind)
         return;
     QByteArray sql = "SELECT rowid" + SelectedNames(layout_, query.wanted) + " FROM " + table_ +
                      " WHERE rowid>?1";
@@ -134,10 +131,11 @@ void RecordSet::PrepareQuery(Query& query)
         sql += " AND (" + query.condition + ')';
     query.statement = Statement(database_->GetEngine(), sql + " ORDER BY rowid");
     query.selected = query.wanted;
+    query.isBehind = false;
     query.columns.assign(std::size_t(layout_.Count()), -1);
-    signed char column = 0;
+    short column = 0;
     for (int field = 0; field < layout_.Count(); ++field) {
-        if (query.selected & BitOf(field))
+        if (query.selected[std::size_t(field)])
             query.columns[std::size_t(field)] = ++column;
     }
 }
@@ -147,18 +145,20 @@ void RecordSet::AcceptRow()
     row_ = query_->statement.GetInteger(0);
     place_ = Place::Row;
     rowChanges_ = database_->ChangeCount();
-    loadedFields_ = 0;
+    isLoaded_ = false;
     if (walks_ > 0) {
         open_ = true;
         return;
     }
-    for (int field = 0; query_->selected != 0 && field < layout_.Count(); ++field) {
+    // Also when a value is of a wrong type: an open statement holds a lock and takes no values.
+    const auto reset = qScopeGuard([this] { query_->statement.Reset(); });
+    for (int field = 0; query_->selected.any() && field < layout_.Count(); ++field) {
         const int column = query_->columns[std::size_t(field)];
         if (column > 0)
             loaded_[std::size_t(field)] = query_->statement.GetValue(column);
     }
     loadedFields_ = query_->selected;
-    query_->statement.Reset();
+    isLoaded_ = true;
 }
 
 void RecordSet::EndWalk()
@@ -207,7 +207,7 @@ const FieldValue* RecordSet::Buffered(int field) const
 
 bool RecordSet::ReadsFromStatement(int field) const
 {
-    return open_ && !buffer_ && (query_->selected & BitOf(field)) && IsFresh();
+    return open_ && !buffer_ && query_->selected[std::size_t(field)] && IsFresh();
 }
 
 const FieldValue& RecordSet::Value(int field)
@@ -215,16 +215,18 @@ const FieldValue& RecordSet::Value(int field)
     if (const FieldValue* value = Buffered(field))
         return *value;
     RequireRow();
-    if (!IsFresh())
-        loadedFields_ = 0;
-    if (!(loadedFields_ & BitOf(field))) {
-        query_->wanted |= BitOf(field);
-        LoadFields(loadedFields_ | BitOf(field));
+    if (!IsFresh() || !isLoaded_)
+        loadedFields_.reset();
+    if (!loadedFields_[std::size_t(field)]) {
+        query_->isBehind = query_->isBehind || !query_->wanted[std::size_t(field)];
+        query_->wanted.set(std::size_t(field));
+        FieldMarks fields = loadedFields_;
+        LoadFields(fields.set(std::size_t(field)));
     }
     return loaded_[std::size_t(field)];
 }
 
-void RecordSet::LoadFields(quint64 fields)
+void RecordSet::LoadFields(const FieldMarks& fields)
 {
     std::shared_ptr<Statement>& load = loads_[fields];
     if (!load) {
@@ -235,13 +237,15 @@ void RecordSet::LoadFields(quint64 fields)
     load->Bind(1, row_);
     if (!load->Step())
         Fail(DatabaseError::RecordDeleted, DatabaseError::tr("The record has been deleted."));
+    const auto reset = qScopeGuard([&load] { load->Reset(); });
+    isLoaded_ = false;
     int column = 0;
     for (int field = 0; field < layout_.Count(); ++field) {
-        if (fields & BitOf(field))
+        if (fields[std::size_t(field)])
             loaded_[std::size_t(field)] = load->GetValue(++column);
     }
-    load->Reset();
     loadedFields_ = fields;
+    isLoaded_ = true;
     rowChanges_ = open_ ? rowChanges_ : database_->ChangeCount();
 }
 

@@ -8,8 +8,10 @@
 
 #include <QHash>
 
+#include <bitset>
 #include <memory>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 // All rows of one table in the order in which they were added, with one current row. Filters are
@@ -90,6 +92,7 @@ public:
 
 private:
     enum class Place { Row, DeletedRow, End };
+    using FieldMarks = std::bitset<TableLayout::mostFields>;
 
     // A filter's shape with its statement, which selects the fields that were asked for on rows
     // found by it so far: most routines ask for the same one or two every time.
@@ -97,9 +100,10 @@ private:
     {
         QByteArray condition;
         Statement statement;
-        quint64 wanted = 0;               // fields to select, as bits
-        quint64 selected = 0;             // fields that the statement selects
-        std::vector<signed char> columns; // result column of each field, -1 for none
+        FieldMarks wanted;          // fields to select
+        FieldMarks selected;        // fields that the statement selects
+        bool isBehind = true;       // more is wanted than selected
+        std::vector<short> columns; // result column of each field, -1 for none
     };
 
     struct Buffer
@@ -119,7 +123,7 @@ private:
     bool IsFresh() const { return rowChanges_ == database_->ChangeCount(); }
     bool ReadsFromStatement(int field) const;
     const FieldValue& Value(int field);
-    void LoadFields(quint64 fields);
+    void LoadFields(const FieldMarks& fields);
     void RequireRow() const;
     const FieldValue* Buffered(int field) const;
 
@@ -151,8 +155,9 @@ private:
     int rowChanges_ = -1; // the database's change count when the row was read
 
     std::vector<FieldValue> loaded_;
-    quint64 loadedFields_ = 0;
-    QHash<quint64, std::shared_ptr<Statement>> loads_;
+    bool isLoaded_ = false; // loadedFields_ speaks of the current row
+    FieldMarks loadedFields_;
+    std::unordered_map<FieldMarks, std::shared_ptr<Statement>> loads_;
 
     std::optional<Buffer> buffer_;
     QHash<QByteArray, std::shared_ptr<Statement>> writes_;

@@ -140,8 +140,10 @@ void RecordSet::Delete()
 Statement& RecordSet::WriteStatement(char kind, QByteArray (RecordSet::*sql)() const)
 {
     QByteArray key(1, kind);
-    for (const auto& [field, value] : buffer_->values)
+    for (const auto& [field, value] : buffer_->values) {
         key += char(field);
+        key += char(field >> 8);
+    }
     if (writes_.size() >= mostKept && !writes_.contains(key))
         writes_.clear();
     std::shared_ptr<Statement>& statement = writes_[key];

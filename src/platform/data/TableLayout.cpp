@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr std::size_t mostFields = 64; // record sets mark fields in one 64-bit word
-
 TableLayout::Field DescribeField(sqlite3* engine, const QByteArray& table, const QByteArray& name)
 {
     const char* type = nullptr;
@@ -16,8 +14,11 @@ TableLayout::Field DescribeField(sqlite3* engine, const QByteArray& table, const
     int notNull = 0;
     int primaryKey = 0;
     int autoIncrement = 0;
-    sqlite3_table_column_metadata(engine, nullptr, table.constData(), name.constData(), &type,
-                                  &collation, &notNull, &primaryKey, &autoIncrement);
+    const int code =
+        sqlite3_table_column_metadata(engine, nullptr, table.constData(), name.constData(), &type,
+                                      &collation, &notNull, &primaryKey, &autoIncrement);
+    if (code != SQLITE_OK)
+        ThrowEngineError(engine, code);
     const bool isNumber = type && QByteArray(type).toUpper().contains("INT");
     const bool ignoresCase = collation && qstricmp(collation, "NOCASE") == 0;
     return {name, isNumber, ignoresCase, isNumber && primaryKey && autoIncrement};
@@ -39,7 +40,7 @@ TableLayout::TableLayout(sqlite3* engine, const QString& table) : table_(table.t
         throw DatabaseError(DatabaseError::NoSuchTable,
                             DatabaseError::tr("The album has no table '%1'.").arg(table));
     }
-    if (fields_.size() > mostFields) {
+    if (Count() > mostFields) {
         throw DatabaseError(DatabaseError::TooComplex,
                             DatabaseError::tr("Table '%1' has too many fields.").arg(table));
     }

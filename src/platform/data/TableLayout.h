@@ -20,7 +20,10 @@ public:
         bool isIdentity;  // assigned when a row is added
     };
 
-    // Throws DatabaseError NoSuchTable, or TooComplex for more fields than a record set can hold.
+    // Above what an engine gives a table, unless it was built for more.
+    static constexpr int mostFields = 2048;
+
+    // Throws DatabaseError NoSuchTable, or TooComplex for more fields than that.
     TableLayout(sqlite3* engine, const QString& table);
 
     const QByteArray& GetTable() const { return table_; }
