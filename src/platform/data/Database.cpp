@@ -93,6 +93,15 @@ void Database::Connect()
     sqlite3_limit(engine_, SQLITE_LIMIT_ATTACHED, 0);
     sqlite3_limit(engine_, SQLITE_LIMIT_TRIGGER_DEPTH, 0);
     sqlite3_db_config(engine_, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+#ifdef SQLITE_DBCONFIG_DEFENSIVE
+    sqlite3_db_config(engine_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+#endif
+    // Engines take no notice of settings that they do not know.
+    for (const char* setting : {"PRAGMA trusted_schema=OFF", "PRAGMA cell_size_check=ON"}) {
+        const int result = sqlite3_exec(engine_, setting, nullptr, nullptr, nullptr);
+        if (result != SQLITE_OK)
+            ThrowEngineError(engine_, result);
+    }
     sqlite3_set_authorizer(engine_, Authorize, nullptr);
 }
 
@@ -152,6 +161,14 @@ void Database::Prepare()
     Execute("PRAGMA journal_mode=DELETE");
     Execute("PRAGMA synchronous=FULL");
     Execute("PRAGMA cache_size=-8000");
+}
+
+void Database::RequireUnmoved() const
+{
+    int isMoved = 0;
+    sqlite3_file_control(engine_, "main", SQLITE_FCNTL_HAS_MOVED, &isMoved);
+    if (isMoved)
+        ThrowMoved();
 }
 
 int Database::ChangeCount() const

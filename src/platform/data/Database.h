@@ -35,6 +35,10 @@ public:
 
     void Execute(const QByteArray& sql);
 
+    // Throws DatabaseError NoSuchFile when another file, or none, is at the path by now. Changes
+    // ask by themselves.
+    void RequireUnmoved() const;
+
 private:
     friend class WriteBatch;
 

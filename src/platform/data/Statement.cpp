@@ -5,6 +5,13 @@
 
 #include <utility>
 
+void ThrowMoved()
+{
+    throw DatabaseError(DatabaseError::NoSuchFile,
+                        DatabaseError::tr("The album's file was moved, renamed or replaced while "
+                                          "it was open. Please open the album again."));
+}
+
 void ThrowEngineError(sqlite3* engine, int code)
 {
     switch (code & 0xFF) {
@@ -21,6 +28,10 @@ void ThrowEngineError(sqlite3* engine, int code)
         throw DatabaseError(DatabaseError::DiskFull,
                             DatabaseError::tr("The disk is full; the last change was not made."));
     case SQLITE_READONLY:
+        // Said at the first change; reading goes on in the file that was opened.
+        if (sqlite3_extended_errcode(engine) == SQLITE_READONLY_DBMOVED)
+            ThrowMoved();
+        [[fallthrough]];
     case SQLITE_PERM:
         throw DatabaseError(
             DatabaseError::ReadOnly,
@@ -68,27 +79,35 @@ Statement& Statement::operator=(Statement&& other) noexcept
     return *this;
 }
 
+void Statement::Check(int code) const
+{
+    if (code != SQLITE_OK)
+        ThrowEngineError(sqlite3_db_handle(handle_), code);
+}
+
 void Statement::Bind(int parameter, qint64 number)
 {
-    sqlite3_bind_int64(handle_, parameter, number);
+    Check(sqlite3_bind_int64(handle_, parameter, number));
 }
 
 void Statement::Bind(int parameter, const QString& text)
 {
     const QByteArray utf8 = text.toUtf8();
-    sqlite3_bind_text(handle_, parameter, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+    Check(sqlite3_bind_text64(handle_, parameter, utf8.constData(), sqlite3_uint64(utf8.size()),
+                              SQLITE_TRANSIENT, SQLITE_UTF8));
 }
 
 void Statement::BindNull(int parameter)
 {
-    sqlite3_bind_null(handle_, parameter);
+    Check(sqlite3_bind_null(handle_, parameter));
 }
 
 void Statement::BindUtf8(int parameter, QByteArrayView text)
 {
     // Without an address the engine would take an empty text for none.
     const char* bytes = text.isEmpty() ? "" : text.data();
-    sqlite3_bind_text(handle_, parameter, bytes, int(text.size()), SQLITE_STATIC);
+    Check(sqlite3_bind_text64(handle_, parameter, bytes, sqlite3_uint64(text.size()), SQLITE_STATIC,
+                              SQLITE_UTF8));
 }
 
 void Statement::Bind(int parameter, const FieldValue& value)
@@ -98,7 +117,7 @@ void Statement::Bind(int parameter, const FieldValue& value)
     else if (const auto* text = std::get_if<QString>(&value))
         Bind(parameter, *text);
     else
-        sqlite3_bind_null(handle_, parameter);
+        BindNull(parameter);
 }
 
 bool Statement::Step()
@@ -153,6 +172,8 @@ FieldValue Statement::GetValue(int column) const
                             DatabaseError::tr("The album holds a value of a wrong type."));
     default: {
         const std::string_view text = GetUtf8(column);
+        if (!text.data())
+            ThrowEngineError(sqlite3_db_handle(handle_), SQLITE_NOMEM);
         return QString::fromUtf8(text.data(), qsizetype(text.size()));
     }
     }

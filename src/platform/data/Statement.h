@@ -17,6 +17,8 @@ using FieldValue = std::variant<std::monostate, qint64, QString>;
 
 // Turns the engine's last result code into the error that the program knows, and throws it.
 [[noreturn]] void ThrowEngineError(sqlite3* engine, int code);
+// The open file is no longer the one at its path.
+[[noreturn]] void ThrowMoved();
 
 // One prepared statement. Parameters are numbered from 1, result columns from 0.
 class Statement
@@ -32,7 +34,8 @@ public:
 
     bool IsPrepared() const { return handle_ != nullptr; }
 
-    // Bound values stay until they are bound anew; texts are copied.
+    // Bound values stay until they are bound anew; texts are copied. They throw DatabaseError, and
+    // TooComplex for a text above the engine's limit.
     void Bind(int parameter, qint64 number);
     void Bind(int parameter, const QString& text);
     void Bind(int parameter, const FieldValue& value);
@@ -55,5 +58,7 @@ public:
     FieldValue GetValue(int column) const;
 
 private:
+    void Check(int code) const;
+
     sqlite3_stmt* handle_ = nullptr;
 };
