@@ -7,14 +7,15 @@
 #include "platform/data/DatabaseFile.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/shell/ProgramFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 
 #include <optional>
+#include <system_error>
 
 namespace {
 
@@ -189,18 +190,24 @@ bool CreateAlbumFile(const QString& path)
              Dialogs::Icon::Warning);
         return false;
     }
-    QSaveFile target(path);
     const QByteArray contents = source.readAll();
-    if (!target.open(QIODevice::WriteOnly) || target.write(contents) != contents.size() ||
-        !target.commit()) {
+    const auto tellWhyNot = [&path](const QString& reason) {
         Tell(AlbumTexts::tr("The album '%1' cannot be created: %2")
-                 .arg(QDir::toNativeSeparators(path), target.errorString()),
+                 .arg(QDir::toNativeSeparators(path), reason),
              Dialogs::Icon::Warning);
         return false;
+    };
+    try {
+        FileReplacement replacement(path);
+        QFile target(replacement.GetPath());
+        if (!target.open(QIODevice::WriteOnly) || target.write(contents) != contents.size() ||
+            !target.flush())
+            return tellWhyNot(target.errorString());
+        target.close();
+        replacement.Commit();
+    } catch (const std::system_error& error) {
+        return tellWhyNot(QString::fromLocal8Bit(error.code().message().c_str()));
     }
-    // A journal left by the file that was replaced would be played back into the new album.
-    for (const char* ending : {"-journal", "-wal", "-shm"})
-        QFile::remove(path + QLatin1String(ending));
     return true;
 }
 

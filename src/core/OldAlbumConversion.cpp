@@ -3,21 +3,17 @@
 
 #include "core/OldAlbumTable.h"
 #include "platform/data/CipherFile.h"
+#include "platform/files/FileReplacement.h"
 #include "platform/shell/ProgramFolder.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
-
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
+#include <system_error>
 
 namespace {
 
@@ -41,21 +37,20 @@ void WriteTemplate(const QString& path)
                    .arg(source.fileName(), source.errorString()));
     const QByteArray contents = source.readAll();
     QFile target(path);
-    if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly) ||
-        target.write(contents) != contents.size() || !target.flush())
+    if (!target.open(QIODevice::WriteOnly) || target.write(contents) != contents.size() ||
+        !target.flush())
         Refuse(OldAlbumReport::tr("The album '%1' cannot be created: %2")
                    .arg(QDir::toNativeSeparators(path), target.errorString()));
 }
 
 // An album with a password never lies on the disk without it, not even while it is made.
-void MakeEmptyAlbum(const QString& path, const QString& password)
+void MakeEmptyAlbum(const FileReplacement& replacement, const QString& password)
 {
     if (password.isEmpty())
-        return WriteTemplate(path);
-    const QString plain = path + QStringLiteral(".tpl");
+        return WriteTemplate(replacement.GetPath());
+    const QString plain = replacement.GetHelperPath();
     WriteTemplate(plain);
-    CopyEncrypted(plain, path, password);
-    QFile::remove(plain);
+    CopyEncrypted(plain, replacement.GetPath(), password);
 }
 
 const OldAlbumFile::Table* FindTable(const OldAlbumFile& old, const QString& name)
@@ -190,42 +185,6 @@ void RequireFreeTarget(const OldAlbumFile& old, const ConversionOrder& order)
         Refuse(OldAlbumReport::tr("'%1' exists already.").arg(shown));
 }
 
-void WriteThrough(const QString& path)
-{
-#ifdef Q_OS_UNIX
-    QFile file(path);
-    if (!file.open(QIODevice::ReadWrite) || fsync(file.handle()) != 0)
-        throw DatabaseError(DatabaseError::DiskError,
-                            OldAlbumReport::tr("The album '%1' cannot be written to the disk.")
-                                .arg(QDir::toNativeSeparators(path)));
-#else
-    Q_UNUSED(path);
-#endif
-}
-
-bool Rename(const QString& from, const QString& to, bool replaces)
-{
-    if (!replaces)
-        return QFile::rename(from, to); // refuses where a file is
-#ifdef Q_OS_UNIX
-    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
-#else
-    QFile::remove(to);
-    return QFile::rename(from, to);
-#endif
-}
-
-void PutInPlace(const QString& made, const ConversionOrder& order)
-{
-    WriteThrough(made);
-    // A journal left by the file that is replaced would be played back into the new album.
-    for (const char* ending : {"-journal", "-wal", "-shm"})
-        QFile::remove(order.target + QLatin1String(ending));
-    if (!Rename(made, order.target, order.replaces))
-        Refuse(OldAlbumReport::tr("The new album cannot take the name '%1'.")
-                   .arg(QDir::toNativeSeparators(order.target)));
-}
-
 OldAlbumReport Fill(const QString& path, OldAlbumFile& old, const ConversionOrder& order)
 {
     OldAlbumReport report;
@@ -246,17 +205,19 @@ OldAlbumReport ConvertOldAlbum(OldAlbumFile& old, const ConversionOrder& order)
 {
     RequireAlbum(old);
     RequireFreeTarget(old, order);
-    const QFileInfo target(order.target);
-    const QTemporaryDir workshop(target.absolutePath() + QStringLiteral("/.lumenark-XXXXXX"));
-    if (!workshop.isValid())
-        Refuse(OldAlbumReport::tr("The folder '%1' cannot be written to: %2")
-                   .arg(QDir::toNativeSeparators(target.absolutePath()), workshop.errorString()));
-    const QString made = workshop.filePath(QStringLiteral("new.alb"));
-    MakeEmptyAlbum(made, order.password);
-    const OldAlbumReport report = Fill(made, old, order);
-    Database::Open(made, order.password); // throws when it does not open
-    PutInPlace(made, order);
-    return report;
+    try {
+        FileReplacement replacement(order.target);
+        MakeEmptyAlbum(replacement, order.password);
+        const OldAlbumReport report = Fill(replacement.GetPath(), old, order);
+        Database::Open(replacement.GetPath(), order.password); // throws when it does not open
+        replacement.Commit(order.replaces ? FileReplacement::Taken::Replace
+                                          : FileReplacement::Taken::Refuse);
+        return report;
+    } catch (const std::system_error& error) {
+        Refuse(OldAlbumReport::tr("The album '%1' cannot be created: %2")
+                   .arg(QDir::toNativeSeparators(order.target),
+                        QString::fromLocal8Bit(error.code().message().c_str())));
+    }
 }
 
 } // namespace GeneralModule

@@ -30,7 +30,7 @@ CipherFile::CipherFile(const QString& path, const QString& password, int format)
 {
     sqlite3* opened = nullptr;
     const int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &opened,
-                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+                                     SQLITE_OPEN_READWRITE, nullptr);
     engine_.reset(opened);
     if (code != SQLITE_OK)
         ThrowEngineError(opened, code);

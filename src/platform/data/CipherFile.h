@@ -16,14 +16,14 @@ struct sqlite3;
 class CipherFile
 {
 public:
-    // May make the file that is attached later, never this one. Throws DatabaseError. The password
-    // shows to be wrong only at the first read.
+    // Never makes a file. Throws DatabaseError. The password shows to be wrong only at the first
+    // read.
     CipherFile(const QString& path, const QString& password, int format = usualFormat);
 
     sqlite3* Get() const { return engine_.get(); }
 
-    // Copies everything to a new file, with that password or, when it is empty, without one. Throws
-    // DatabaseError.
+    // Copies everything to an empty file that is there, with that password or, when it is empty,
+    // without one. Throws DatabaseError.
     void ExportTo(const QString& target, const QString& password);
 
     static constexpr int usualFormat = 3;
@@ -39,6 +39,6 @@ bool SetCipherKey(sqlite3* engine, const QString& password, int format);
 // The generation of the cipher library, 3 or 4.
 int CipherGeneration(sqlite3* engine);
 
-// Copies a file without a password to a new one that has one. The source must be closed and of our
-// own making: its schema is taken over unchecked. Throws DatabaseError.
+// Copies a file without a password to an empty one, which gets one. The source must be closed and
+// of our own making: its schema is taken over unchecked. Throws DatabaseError.
 void CopyEncrypted(const QString& source, const QString& target, const QString& password);

@@ -6,9 +6,7 @@
 #include "platform/data/Statement.h"
 #include "platform/data/TableLayout.h"
 
-#include <QFile>
 #include <QMap>
-#include <QScopeGuard>
 
 namespace {
 
@@ -35,8 +33,7 @@ bool IsSound(const Database& database)
 
 void ExportDatabase(const Database& database, const QString& target, const QString& password)
 {
-    QFile::remove(target);
-    auto removeTarget = qScopeGuard([&target] { QFile::remove(target); });
+    database.RequireUnmoved();
     // Connections of its own: the one that the program works on may not reach other files, and may
     // be at work in another thread.
     const auto connect = [&database] {
@@ -50,5 +47,4 @@ void ExportDatabase(const Database& database, const QString& target, const QStri
         throw DatabaseError(DatabaseError::DiskError,
                             DatabaseError::tr("The album could not be written anew."));
     }
-    removeTarget.dismiss();
 }
