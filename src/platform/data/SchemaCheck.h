@@ -3,8 +3,12 @@
 
 struct sqlite3;
 
+// Tables and indexes that a file may hold. An album has about thirty; tens of thousands slow every
+// statement.
+inline constexpr int mostSchemaObjects = 500;
+
 // An album from a stranger is data, not code. Throws DatabaseError NotADatabase when the file
 // defines anything but plain tables and indexes (triggers, views, virtual tables, expressions that
-// run by themselves), or Damaged when two of them claim the same place in the file.
-// Reads the definitions as text before any of them takes effect.
+// run by themselves), or Damaged when two of them claim the same place in the file or a wrong name.
+// Nothing that the file defines is run for it.
 void CheckSchema(sqlite3* engine);

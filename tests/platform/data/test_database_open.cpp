@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
+#include "core/AlbumPassword.h"
 #include "core/Settings.h"
 #include "support/AlbumTest.h"
 #include "support/Rows.h"
@@ -82,6 +83,38 @@ private slots:
             WriteFile(album_->PathOf(name), contents);
             CheckRefused(*album_, album_->PathOf(name), number);
         }
+        const QString path = album_->PathOf("protected.alb");
+        QVERIFY(QFile::copy(album_->GetAlbum(), path));
+        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup));
+        CheckRefused(*album_, path, 3027);
+    }
+
+    // What the check of the schema might miss cannot run either.
+    void NothingOfAnAlbumsOwnRuns()
+    {
+        album_->AddImageRow("/a.jpg");
+        AlbumDatabase->Execute("CREATE TEMP VIEW Pictures AS SELECT * FROM Image");
+        for (const char* sql : {"SELECT * FROM Pictures", "CREATE VIRTUAL TABLE v USING fts3(a)",
+                                "ATTACH ':memory:' AS other"}) {
+            QString told;
+            QVERIFY(ErrorOf([sql] { AlbumDatabase->Execute(sql); }, &told) != 0);
+            QVERIFY2(told.contains("authorized") || told.contains("prohibited"), qPrintable(told));
+        }
+    }
+
+    void SaysThatTheAlbumIsGone()
+    {
+        album_->AddImageRow("/a.jpg");
+        ImageSet->MoveFirst();
+        ImageSet->Edit();
+        ImageSet->Set(u"Legend", QString("too late"));
+        QVERIFY(QFile::rename(album_->GetAlbum(), album_->PathOf("moved.alb")));
+        QString told;
+        QCOMPARE(ErrorOf([] { ImageSet->Update(); }, &told), 3024);
+        QVERIFY2(told.contains("moved, renamed or replaced"), qPrintable(told));
+        QCOMPARE(ErrorOf([] { SetAlbumPassword("x"); }), 3024);
+        QCOMPARE(QDir(album_->PathOf(".")).entryList(QDir::Files | QDir::Hidden),
+                 QStringList("moved.alb"));
     }
 
     void RefusesHostileSchema_data()
@@ -98,8 +131,27 @@ private slots:
               // Newer engines see through it by themselves.
               sqlite3_libversion_number() < 3030000 ? 3343 : 3049},
              {"index over an expression", "CREATE INDEX i ON Image(lower(File))", 3343},
+             {"the same without brackets", "CREATE INDEX i ON Image(File || 'x')", 3343},
              {"partial index", "CREATE INDEX i ON Image(File) WHERE Legend='x'", 3343},
              {"check", "CREATE TABLE c (a CHECK (a > random()))", 3343},
+             {"computed default", "CREATE TABLE c (a DEFAULT/**/(zeroblob(50000000)))", 3343},
+             {"computed column",
+              // Older engines do not know it, and take the file for damaged.
+              "PRAGMA writable_schema=1; UPDATE sqlite_master SET sql='CREATE TABLE Params "
+              "(Param, Value GENERATED ALWAYS/**/AS(hex(Param)))' WHERE name='Params'",
+              sqlite3_libversion_number() < 3031000 ? 3049 : 3343},
+             {"unknown collation of a column",
+              "PRAGMA writable_schema=1; UPDATE sqlite_master SET sql=replace(sql,'NOCASE',"
+              "'folded') WHERE name='Params'",
+              3343},
+             {"unknown collation of an index",
+              "PRAGMA writable_schema=1; UPDATE sqlite_master SET sql=replace(sql,')',' COLLATE "
+              "folded)') WHERE name='ImageByFile'",
+              3343},
+             {"table under another's name",
+              "CREATE TABLE x (a DEFAULT (zeroblob(50000000))); PRAGMA writable_schema=1; UPDATE "
+              "sqlite_master SET name='y' WHERE name='x'",
+              3049},
              {"two tables in one place",
               "PRAGMA writable_schema=1; UPDATE sqlite_master SET rootpage=(SELECT rootpage "
               "FROM sqlite_master WHERE name='Image') WHERE name='Paragraph'",
@@ -119,6 +171,29 @@ private slots:
         QVERIFY(QFile::copy(album_->GetAlbum(), path));
         RunSql(path, sql);
         CheckRefused(*album_, path, number);
+    }
+
+    // A user's own tables and columns, whatever they are called.
+    void OpensWithMoreThanItNeeds()
+    {
+        ReleaseAlbum();
+        QByteArray sql =
+            "CREATE TABLE \"AS ( [CHECK] '\" (a DEFAULT 'f(x)', \"COLLATE me\" DEFAULT -1.5e3, "
+            "/* CHECK (1) */ \"DEFAULT (1)\" TEXT DEFAULT NULL, UNIQUE (a COLLATE RTRIM));"
+            "CREATE INDEX \"WHERE (x)\" ON Image (Legend DESC, File COLLATE nocase);";
+        for (int i = 0; i < 300; ++i)
+            sql += "ALTER TABLE Image ADD COLUMN \"Own " + QByteArray::number(i) + "\" TEXT;";
+        RunSql(album_->GetAlbum(), "BEGIN;" + sql + "COMMIT");
+        QVERIFY(OpenAlbum(album_->GetAlbum()));
+        album_->AddImageRow("/a.jpg", {{"Own 299", "last"}, {"Own 43", "far"}});
+        album_->AddImageRow("/b.jpg", {{"Own 171", "near"}, {"Own 43", "off"}});
+        ImageSet->FindFirst("[Own 299]='last'");
+        QCOMPARE(ImageSet->Text(u"Own 43"), "far");
+        QVERIFY(ImageSet->IsNull(u"Own 171"));
+        ImageSet->FindFirst("[Own 43] LIKE '*f'");
+        QCOMPARE(ImageSet->Text(u"Own 171"), "near");
+        RecordSet own(AlbumDatabase, "AS ( [CHECK] '");
+        QVERIFY(own.AtEnd() && own.HasField(u"DEFAULT (1)"));
     }
 
     void CutOffAndFlippedBitsNeverCrash()
