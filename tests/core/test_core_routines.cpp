@@ -7,9 +7,15 @@
 #include "core/Settings.h"
 #include "core/StartUp.h"
 #include "core/TextRoutines.h"
+#include "platform/files/FileReplacement.h"
 #include "support/AlbumTest.h"
 
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <system_error>
 
 using namespace GeneralModule;
 
@@ -172,6 +178,52 @@ private slots:
         list = ListOf({"l"}, {"a", "b"});
         list.PutBack({"x", "y"});
         QCOMPARE(TakeAll(list, true).first(3), QStringList({"x", "y", "l"}));
+    }
+
+    void ReplacesAFileInPrivate()
+    {
+        const QString place = album_->PathOf("letter");
+        const auto folders = [this] {
+            return QDir(album_->PathOf(".")).entryList({".lumenark-*"}, QDir::Dirs | QDir::Hidden);
+        };
+        WriteFile(place, "old");
+        QVERIFY(QFile::setPermissions(place, QFile::ReadOwner | QFile::WriteOwner));
+        WriteFile(album_->PathOf(".lumenark-mine/new"), "of the user");
+        // A program that is killed leaves its folder.
+        const pid_t child = fork();
+        if (child == 0) {
+            new FileReplacement(place);
+            _exit(0);
+        }
+        QCOMPARE(waitpid(child, nullptr, 0), child);
+        QCOMPARE(folders().size(), 2);
+        {
+            FileReplacement first(place);
+            FileReplacement second(album_->PathOf("new letter"));
+            QCOMPARE(folders().size(), 3); // the user's, and the two that are at work
+            for (const QString& made : {first.GetPath(), QFileInfo(first.GetPath()).path()}) {
+                struct stat status = {};
+                QCOMPARE(stat(qPrintable(made), &status), 0);
+                QCOMPARE(status.st_mode & 0077U, 0U);
+            }
+            WriteFile(first.GetPath(), "first");
+            WriteFile(second.GetPath(), "second");
+            second.Commit(FileReplacement::Taken::Refuse);
+            QCOMPARE(ReadFile(place), "old");
+            WriteFile(place + "-journal", "of the old file");
+            QVERIFY_THROWS_EXCEPTION(std::system_error,
+                                     first.Commit(FileReplacement::Taken::Refuse));
+            QCOMPARE(ReadFile(place + "-journal"), "of the old file");
+            first.Commit();
+        }
+        QCOMPARE(ReadFile(place), "first");
+        QVERIFY(!QFile::exists(place + "-journal"));
+        QCOMPARE(QFile::permissions(place) & 0x0077, QFile::Permissions());
+        QVERIFY(QFile::permissions(album_->PathOf("new letter")) & QFile::ReadOther); // as usual
+        QCOMPARE(folders(), QStringList(".lumenark-mine"));
+        QCOMPARE(ReadFile(album_->PathOf(".lumenark-mine/new")), "of the user");
+        QVERIFY(QFile::setPermissions(place, QFile::ReadOwner));
+        QVERIFY_THROWS_EXCEPTION(std::system_error, FileReplacement(QString(place)));
     }
 };
 

@@ -112,6 +112,37 @@ private slots:
         QCOMPARE(album_->Joined("SELECT Name FROM Chapter"), "One; Two");
     }
 
+    void TextsAboveTheLimitAreRefused()
+    {
+        AddFour();
+        ImageSet->MoveFirst();
+        ImageSet->Edit();
+        ImageSet->Set(u"Legend", QString(65 * 1024 * 1024, u'x'));
+        QCOMPARE(ErrorOf([] { ImageSet->Update(); }), 3360);
+        QCOMPARE(ImageSet->Text(u"Legend").size(), 65 * 1024 * 1024); // what was typed
+        QCOMPARE(album_->Joined("SELECT Legend FROM Image WHERE File='/c'"), "on /c");
+        ImageSet->Set(u"Legend", QString("shorter"));
+        ImageSet->Update();
+        QCOMPARE(album_->Joined("SELECT Legend FROM Image WHERE File='/c'"), "shorter");
+    }
+
+    // A value that is neither text nor number does not keep the rest from being read.
+    void GoesOnAfterAWrongValue()
+    {
+        AddFour();
+        album_->Execute("UPDATE Image SET Legend=x'00' WHERE File='/a'");
+        for (const char* file : {"/c", "/a", "/b"}) {
+            const QString filter = QString("[File]='%1'").arg(file);
+            const int error = ErrorOf([&filter] {
+                ImageSet->FindFirst(filter);
+                ImageSet->Text(u"Legend");
+            });
+            QCOMPARE(error, file == QString("/a") ? 3464 : 0);
+        }
+        QCOMPARE(ImageSet->Text(u"Legend"), "on /b");
+        album_->Execute("DELETE FROM Image"); // fails while a lock is held
+    }
+
     void SeesWhatOthersWrote()
     {
         AddFour();
@@ -200,6 +231,16 @@ private slots:
         };
         QCOMPARE(ErrorOf(addTwice), 3022);
         QCOMPARE(Params(), 1501); // what was done before an error stays
+        const auto addAllOrNone = [] {
+            WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+            AddParam(2001);
+            AddParam(2000);
+            batch.Finish();
+        };
+        QCOMPARE(ErrorOf(addAllOrNone), 3022);
+        QCOMPARE(Params(), 1501);
+        AddParam(2001); // alone again: it is committed at once
+        QCOMPARE(Params(), 1502);
     }
 
 private:
