@@ -32,7 +32,7 @@ QString ProposedName(const QFileInfo& old)
     const QString base = old.completeBaseName();
     QString name = OldAlbumReport::tr("%1 (new).alb").arg(base);
     for (int number = 2; QFileInfo::exists(old.absoluteDir().filePath(name)); ++number)
-        name = OldAlbumReport::tr("%1 (new %2).alb").arg(base).arg(number);
+        name = OldAlbumReport::tr("%1 (new %2).alb").arg(base, QString::number(number));
     return name;
 }
 

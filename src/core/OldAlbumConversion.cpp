@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -67,8 +68,8 @@ class CheckedTable : public OldAlbumTable
 {
 public:
     CheckedTable(std::shared_ptr<Database> database, const QString& table, OldAlbumReport& report,
-                 const std::function<void()>& check)
-        : OldAlbumTable(std::move(database), table, report), check_(check)
+                 const std::function<void()>& check, Kind kind)
+        : OldAlbumTable(std::move(database), table, report, kind), check_(check)
     {
         sinceCheck_.start();
     }
@@ -99,19 +100,31 @@ void ReportOutcome(const QString& name, const OldAlbumFile::Outcome& outcome,
     if (!outcome.isWhole)
         report.AddProblem(
             OldAlbumReport::tr("Table %1 is damaged and came over in part: %2 of %3 rows.")
-                .arg(name)
-                .arg(outcome.rows)
-                .arg(std::max(outcome.statedRows, outcome.rows)));
+                .arg(name, QString::number(outcome.rows),
+                     QString::number(std::max(outcome.statedRows, outcome.rows))));
     else if (missing > 0)
-        report.AddProblem(OldAlbumReport::tr("Table %1: %2 of %3 rows cannot be read.")
-                              .arg(name)
-                              .arg(missing)
-                              .arg(outcome.rows + missing));
+        report.AddProblem(
+            OldAlbumReport::tr("Table %1: %2 of %3 rows cannot be read.")
+                .arg(name, QString::number(missing), QString::number(outcome.rows + missing)));
     if (outcome.isWhole && outcome.mapIsDamaged)
         report.AddProblem(OldAlbumReport::tr(
                               "Table %1: its list of pages is damaged; its rows were looked for in "
                               "the whole file.")
                               .arg(name));
+}
+
+// Returns the rows that the new table holds.
+qint64 CopyTable(OldAlbumFile& old, const OldAlbumFile::Table& source, const QString& name,
+                 OldAlbumTable::Kind kind, const std::shared_ptr<Database>& database,
+                 const ConversionOrder& order, OldAlbumReport& report)
+{
+    if (order.check)
+        order.check();
+    CheckedTable target(database, name, report, order.check, kind);
+    const OldAlbumFile::Outcome outcome = old.ReadTable(source, target);
+    const qint64 rows = target.Finish();
+    ReportOutcome(name, outcome, report);
+    return rows;
 }
 
 void CopyTables(OldAlbumFile& old, const std::shared_ptr<Database>& database,
@@ -124,12 +137,8 @@ void CopyTables(OldAlbumFile& old, const std::shared_ptr<Database>& database,
             report.AddProblem(OldAlbumReport::tr("Table %1 is missing.").arg(name));
             continue;
         }
-        if (order.check)
-            order.check();
-        CheckedTable target(database, name, report, order.check);
-        const OldAlbumFile::Outcome outcome = old.ReadTable(*source, target);
-        const qint64 rows = target.Finish();
-        ReportOutcome(name, outcome, report);
+        const qint64 rows =
+            CopyTable(old, *source, name, OldAlbumTable::Kind::OfAlbums, database, order, report);
         if (name == u"Chapter")
             report.chapters = rows;
         else if (name == u"Paragraph")
@@ -139,23 +148,29 @@ void CopyTables(OldAlbumFile& old, const std::shared_ptr<Database>& database,
     }
 }
 
-void ReportOtherTables(const OldAlbumFile& old, OldAlbumReport& report)
+// The former engine's own tables, such as what is left of those that were deleted, have no use
+// here.
+bool IsOfUser(const OldAlbumFile::Table& table)
+{
+    if (table.name.startsWith(u'~') || table.name.startsWith(QLatin1String("MSys")))
+        return false;
+    return std::none_of(tableNames.begin(), tableNames.end(), [&table](const char* name) {
+        return table.name.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+    });
+}
+
+void CopyOwnTables(OldAlbumFile& old, const std::shared_ptr<Database>& database,
+                   const ConversionOrder& order, OldAlbumReport& report)
 {
     if (old.ListIsDamaged())
         report.AddProblem(
             OldAlbumReport::tr("The list of tables is damaged; some may be missing."));
+    QSet<quint32> pages; // a damaged list may name a table twice
     for (const OldAlbumFile::Table& table : old.GetTables()) {
-        // The former engine's own, such as what is left of tables that were deleted.
-        if (table.name.startsWith(u'~') || table.name.startsWith(QLatin1String("MSys")))
+        if (!IsOfUser(table) || pages.contains(table.page))
             continue;
-        const bool isKnown =
-            std::any_of(tableNames.begin(), tableNames.end(), [&table](const char* name) {
-                return table.name.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-            });
-        if (!isKnown)
-            report.AddProblem(
-                OldAlbumReport::tr("Table %1 is no part of an album and was left out.")
-                    .arg(table.name));
+        pages.insert(table.page);
+        CopyTable(old, table, table.name, OldAlbumTable::Kind::OfUser, database, order, report);
     }
 }
 
@@ -192,7 +207,7 @@ OldAlbumReport Fill(const QString& path, OldAlbumFile& old, const ConversionOrde
     // Nothing of it is kept when the power goes: it has no name yet.
     database->Execute("PRAGMA synchronous=OFF");
     CopyTables(old, database, order, report);
-    ReportOtherTables(old, report);
+    CopyOwnTables(old, database, order, report);
     report.keepsPassword = !order.password.isEmpty();
     return report;
 }

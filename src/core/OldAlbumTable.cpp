@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/OldAlbumTable.h"
 
+#include "platform/data/SchemaCheck.h"
+
 #include <algorithm>
+#include <functional>
 #include <limits>
 
 namespace {
@@ -11,9 +14,31 @@ constexpr std::size_t mostSetAside = 1000; // rows; only damage makes any
 // could leave no identifiers for new rows.
 constexpr qint64 mostNumbersUnused = 10'000'000;
 
+constexpr char ownFieldType[] = " TEXT COLLATE NOCASE";
+constexpr std::size_t mostFields = 900; // a statement takes 999 values
+
 bool IsValueTable(const QString& table)
 {
     return table.startsWith(QLatin1String("Car"));
+}
+
+// The name under which the engine does it: as it is or, where that is taken or kept for the engine,
+// with an underscore before it. Null when it takes neither.
+QString FirstTaken(const QString& name, const std::function<void(const QByteArray&)>& action)
+{
+    for (const QString& candidate : {name, u'_' + name}) {
+        if (candidate.compare(u"rowid", Qt::CaseInsensitive) == 0)
+            continue; // would hide what record sets find their rows by
+        try {
+            action(QuotedName(candidate.toUtf8()));
+            return candidate;
+        } catch (const DatabaseError& error) {
+            const int number = error.GetNumber();
+            if (number != DatabaseError::Damaged && number != DatabaseError::TooComplex)
+                throw;
+        }
+    }
+    return {};
 }
 
 bool HasText(const OldValue& value)
@@ -35,44 +60,87 @@ QString NameField(const QString& table)
 namespace GeneralModule {
 
 OldAlbumTable::OldAlbumTable(std::shared_ptr<Database> database, const QString& table,
-                             OldAlbumReport& report)
-    : database_(std::move(database)),
-      table_(table),
-      report_(report),
-      layout_(database_->GetEngine(), table),
-      sources_(std::size_t(layout_.Count()), -1)
+                             OldAlbumReport& report, Kind kind)
+    : database_(std::move(database)), table_(table), report_(report)
 {
+    if (kind == Kind::OfUser)
+        return;
+    layout_.emplace(database_->GetEngine(), table);
+    ownFields_ = layout_->Count();
     const QString name = NameField(table_);
-    uniqueName_ = name.isEmpty() ? -1 : layout_.Find(name);
-    pictureFile_ = table_ == u"Image" ? layout_.Find(u"File") : -1;
+    uniqueName_ = name.isEmpty() ? -1 : layout_->Find(name);
+    pictureFile_ = table_ == u"Image" ? layout_->Find(u"File") : -1;
 }
 
 void OldAlbumTable::BeginTable(const QStringList& fields, qint64 lastNumber)
 {
     lastNumber_ = lastNumber;
-    for (qsizetype i = 0; i < fields.size(); ++i) {
-        const int field = layout_.Find(fields[i]);
-        if (field >= 0 && sources_[std::size_t(field)] < 0)
-            sources_[std::size_t(field)] = int(i);
-    }
-    ReportFields(fields);
     batch_.emplace(database_);
-    database_->Execute("DELETE FROM " + QuotedName(layout_.GetTable()));
+    if (!layout_ && !MakeTable(fields.value(0)))
+        return;
+    MatchFields(fields);
+    ReportMissingFields();
+    database_->Execute("DELETE FROM " + QuotedTable());
     PrepareInsert();
 }
 
-void OldAlbumTable::ReportFields(const QStringList& fields)
+// False where the engine takes neither its name nor the other one.
+bool OldAlbumTable::MakeTable(const QString& firstField)
 {
-    for (const QString& field : fields) {
-        if (layout_.Find(field) < 0)
-            report_.AddProblem(
-                OldAlbumReport::tr("Table %1: the new album has no place for the field %2.")
-                    .arg(table_, field));
+    Statement count(database_->GetEngine(), "SELECT count(*) FROM sqlite_master");
+    const bool hasRoom = count.Step() && count.GetInteger(0) < mostSchemaObjects;
+    count.Reset();
+    const QString name = !hasRoom ? QString() : FirstTaken(table_, [&](const QByteArray& quoted) {
+        database_->Execute("CREATE TABLE " + quoted + " (" + QuotedName(firstField.toUtf8()) +
+                           ownFieldType + ')');
+    });
+    if (name.isNull()) {
+        report_.AddProblem(OldAlbumReport::tr("Table %1 cannot be taken over.").arg(table_));
+        return false;
     }
-    for (int field = 0; field < layout_.Count(); ++field) {
+    if (name != table_)
+        report_.AddProblem(OldAlbumReport::tr("Table %1 came over as %2.").arg(table_, name));
+    layout_.emplace(database_->GetEngine(), name);
+    return true;
+}
+
+void OldAlbumTable::MatchFields(const QStringList& fields)
+{
+    sources_.assign(std::size_t(layout_->Count()), -1);
+    for (int i = 0; i < int(fields.size()); ++i) {
+        const int field = layout_->Find(fields[i]);
+        if (field >= 0 && sources_[std::size_t(field)] < 0)
+            sources_[std::size_t(field)] = i;
+        else
+            AddField(fields[i], i);
+    }
+    layout_.emplace(database_->GetEngine(), QString::fromUtf8(layout_->GetTable()));
+    damaged_.assign(std::size_t(layout_->Count() - ownFields_), 0);
+}
+
+void OldAlbumTable::AddField(const QString& field, int source)
+{
+    const bool hasRoom = sources_.size() < mostFields;
+    const QString name = !hasRoom ? QString() : FirstTaken(field, [&](const QByteArray& quoted) {
+        database_->Execute("ALTER TABLE " + QuotedTable() + " ADD COLUMN " + quoted + ownFieldType);
+    });
+    if (name.isNull()) {
+        report_.AddProblem(
+            OldAlbumReport::tr("Table %1: the field %2 cannot be taken over.").arg(table_, field));
+        return;
+    }
+    if (name != field)
+        report_.AddProblem(
+            OldAlbumReport::tr("Table %1: the field %2 came over as %3.").arg(table_, field, name));
+    sources_.push_back(source);
+}
+
+void OldAlbumTable::ReportMissingFields()
+{
+    for (int field = 0; field < layout_->Count(); ++field) {
         if (sources_[std::size_t(field)] < 0)
             report_.AddProblem(OldAlbumReport::tr("Table %1: the field %2 is missing.")
-                                   .arg(table_, QString::fromUtf8(layout_.At(field).name)));
+                                   .arg(table_, QString::fromUtf8(Field(field).name)));
     }
 }
 
@@ -82,18 +150,18 @@ void OldAlbumTable::PrepareInsert()
 {
     QByteArrayList names;
     QByteArrayList parameters;
-    for (int field = 0; field < layout_.Count(); ++field) {
-        if (sources_[std::size_t(field)] < 0 && field != layout_.GetIdentity())
+    for (int field = 0; field < layout_->Count(); ++field) {
+        if (sources_[std::size_t(field)] < 0 && field != layout_->GetIdentity())
             continue;
         inserted_.push_back(field);
-        names += QuotedName(layout_.At(field).name);
+        names += QuotedName(Field(field).name);
         parameters += '?' + QByteArray::number(qsizetype(inserted_.size()));
     }
     if (names.isEmpty())
         return;
-    insert_ = Statement(database_->GetEngine(), "INSERT INTO " + QuotedName(layout_.GetTable()) +
-                                                    " (" + names.join(',') + ") VALUES (" +
-                                                    parameters.join(',') + ')');
+    insert_ =
+        Statement(database_->GetEngine(), "INSERT INTO " + QuotedTable() + " (" + names.join(',') +
+                                              ") VALUES (" + parameters.join(',') + ')');
 }
 
 // Null where the old table lacks the field.
@@ -113,7 +181,7 @@ FieldValue OldAlbumTable::ToNumber(int field, const OldValue& value) const
                       number <= std::numeric_limits<qint32>::max();
     if (fits)
         return number;
-    return layout_.At(field).isIdentity ? FieldValue() : FieldValue(qint64(0));
+    return Field(field).isIdentity ? FieldValue() : FieldValue(qint64(0));
 }
 
 OldAlbumTable::Row OldAlbumTable::ToRow(const std::vector<OldValue>& values) const
@@ -121,7 +189,7 @@ OldAlbumTable::Row OldAlbumTable::ToRow(const std::vector<OldValue>& values) con
     Row row;
     for (const int field : inserted_) {
         const OldValue& value = ValueOf(field, values);
-        if (layout_.At(field).isNumber)
+        if (Field(field).isNumber)
             row.push_back(ToNumber(field, value));
         else if (HasText(value))
             row.push_back(QString::fromUtf8(value.utf8));
@@ -135,12 +203,12 @@ OldAlbumTable::Row OldAlbumTable::ToRow(const std::vector<OldValue>& values) con
 QString OldAlbumTable::NameOfRow(const std::vector<OldValue>& values) const
 {
     for (const char16_t* name : {u"Id", u"File", u"Param", u"Name", u"ParagraphId"}) {
-        const int field = layout_.Find(name);
+        const int field = layout_->Find(name);
         const QByteArrayView text = field < 0 ? QByteArrayView() : ValueOf(field, values).utf8;
         if (!text.isEmpty())
             return QStringLiteral("%1 %2").arg(table_, QString::fromUtf8(text));
     }
-    return OldAlbumReport::tr("%1, row %2").arg(table_).arg(rows_);
+    return OldAlbumReport::tr("%1, row %2").arg(table_, QString::number(rows_));
 }
 
 void OldAlbumTable::ReportValues(const std::vector<OldValue>& values)
@@ -149,11 +217,34 @@ void OldAlbumTable::ReportValues(const std::vector<OldValue>& values)
         const OldValue::State state = ValueOf(field, values).state;
         if (state != OldValue::State::Cut && state != OldValue::State::Unreadable)
             continue;
+        if (field >= ownFields_) {
+            ++damaged_[std::size_t(field - ownFields_)];
+            continue;
+        }
         const QString text = state == OldValue::State::Cut
                                  ? OldAlbumReport::tr("%1: the end of the field %2 cannot be read.")
                                  : OldAlbumReport::tr("%1: the field %2 cannot be read.");
-        report_.AddProblem(text.arg(NameOfRow(values), QString::fromUtf8(layout_.At(field).name)));
+        report_.AddProblem(text.arg(NameOfRow(values), QString::fromUtf8(Field(field).name)));
     }
+}
+
+// The user's own fields may be of a kind that is never read, so they are reported once.
+void OldAlbumTable::ReportOwnFields()
+{
+    for (std::size_t i = 0; i < damaged_.size(); ++i) {
+        if (damaged_[i] > 0)
+            report_.AddProblem(
+                OldAlbumReport::tr("Table %1, field %2: values that cannot be read to their end: "
+                                   "%3.")
+                    .arg(table_, QString::fromUtf8(Field(ownFields_ + int(i)).name),
+                         QString::number(damaged_[i])));
+    }
+}
+
+void OldAlbumTable::ReportRefusedRow()
+{
+    report_.AddProblem(OldAlbumReport::tr("%1, row %2: the new album refuses it.")
+                           .arg(table_, QString::number(rows_)));
 }
 
 // Pictures of one folder mostly follow each other.
@@ -169,16 +260,28 @@ void OldAlbumTable::NotePicture(QByteArrayView path)
 void OldAlbumTable::TakeRow(const std::vector<OldValue>& values)
 {
     ++rows_;
-    ReportValues(values);
+    if (layout_)
+        ReportValues(values);
     if (!insert_.IsPrepared())
         return;
+    try {
+        InsertRow(values);
+    } catch (const DatabaseError& error) {
+        if (error.GetNumber() != DatabaseError::TooComplex) // a value, or all together, too large
+            throw;
+        ReportRefusedRow();
+    }
+    batch_->RowDone();
+}
+
+void OldAlbumTable::InsertRow(const std::vector<OldValue>& values)
+{
     if (pictureFile_ >= 0)
         NotePicture(ValueOf(pictureFile_, values).utf8);
-    if (layout_.GetIdentity() >= 0)
+    if (layout_->GetIdentity() >= 0)
         InsertNumbered(ToRow(values));
     else if (!TryInsert(values))
         InsertUnderAnotherName(ToRow(values));
-    batch_->RowDone();
 }
 
 // False when the table holds a value already that it may hold only once.
@@ -208,7 +311,7 @@ bool OldAlbumTable::TryInsert(const std::vector<OldValue>& values)
     for (const int field : inserted_) {
         const OldValue& value = ValueOf(field, values);
         ++parameter;
-        if (layout_.At(field).isNumber)
+        if (Field(field).isNumber)
             insert_.Bind(parameter, ToNumber(field, value));
         else if (HasText(value))
             insert_.BindUtf8(parameter, value.utf8);
@@ -221,8 +324,8 @@ bool OldAlbumTable::TryInsert(const std::vector<OldValue>& values)
 bool OldAlbumTable::IdentifierIsTaken(const FieldValue& identifier)
 {
     if (!find_.IsPrepared())
-        find_ = Statement(database_->GetEngine(),
-                          "SELECT 1 FROM " + QuotedName(layout_.GetTable()) + " WHERE rowid=?1");
+        find_ =
+            Statement(database_->GetEngine(), "SELECT 1 FROM " + QuotedTable() + " WHERE rowid=?1");
     find_.Bind(1, identifier);
     const bool isTaken = find_.Step();
     find_.Reset();
@@ -231,7 +334,7 @@ bool OldAlbumTable::IdentifierIsTaken(const FieldValue& identifier)
 
 void OldAlbumTable::InsertNumbered(const Row& row)
 {
-    const auto place = std::find(inserted_.begin(), inserted_.end(), layout_.GetIdentity());
+    const auto place = std::find(inserted_.begin(), inserted_.end(), layout_->GetIdentity());
     const FieldValue& value = row[std::size_t(place - inserted_.begin())];
     const auto* number = std::get_if<qint64>(&value);
     if (number && !IdentifierIsTaken(value)) {
@@ -242,8 +345,7 @@ void OldAlbumTable::InsertNumbered(const Row& row)
         setAside_.push_back(row);
     } else {
         report_.AddProblem(OldAlbumReport::tr("%1, row %2: left out, it has no identifier.")
-                               .arg(table_)
-                               .arg(rows_));
+                               .arg(table_, QString::number(rows_)));
     }
 }
 
@@ -251,8 +353,7 @@ void OldAlbumTable::InsertUnderAnotherName(Row row)
 {
     const auto place = std::find(inserted_.begin(), inserted_.end(), uniqueName_);
     if (place == inserted_.end()) {
-        report_.AddProblem(
-            OldAlbumReport::tr("%1, row %2: the new album refuses it.").arg(table_).arg(rows_));
+        ReportRefusedRow();
         return;
     }
     FieldValue& value = row[std::size_t(place - inserted_.begin())];
@@ -264,7 +365,7 @@ void OldAlbumTable::InsertUnderAnotherName(Row row)
         return;
     }
     do {
-        value = QStringLiteral("%1 (%2)").arg(name).arg(++suffix_);
+        value = QStringLiteral("%1 (%2)").arg(name, QString::number(++suffix_));
     } while (!TryInsert(row));
     report_.AddProblem(
         OldAlbumReport::tr("Table %1: the name '%2' is there twice; the second became '%3'.")
@@ -274,15 +375,14 @@ void OldAlbumTable::InsertUnderAnotherName(Row row)
 // Rows without an identifier of their own come last, when all others are known.
 void OldAlbumTable::InsertSetAside()
 {
-    const auto place = std::find(inserted_.begin(), inserted_.end(), layout_.GetIdentity());
+    const auto place = std::find(inserted_.begin(), inserted_.end(), layout_->GetIdentity());
     for (Row& row : setAside_) {
         row[std::size_t(place - inserted_.begin())] = ++highest_;
         if (!TryInsert(row))
             InsertUnderAnotherName(row);
         report_.AddProblem(
             OldAlbumReport::tr("Table %1: a row without an identifier of its own became number %2.")
-                .arg(table_)
-                .arg(highest_));
+                .arg(table_, QString::number(highest_)));
     }
 }
 
@@ -301,17 +401,19 @@ void OldAlbumTable::SetLastNumber()
 qint64 OldAlbumTable::Finish()
 {
     if (batch_) {
-        if (layout_.GetIdentity() >= 0) {
+        if (layout_ && layout_->GetIdentity() >= 0) {
             if (lastNumber_ <= highest_ + mostNumbersUnused)
                 highest_ = std::max(highest_, lastNumber_);
             InsertSetAside();
             SetLastNumber();
         }
+        ReportOwnFields();
         batch_->Finish();
         batch_.reset();
     }
-    Statement count(database_->GetEngine(),
-                    "SELECT count(*) FROM " + QuotedName(layout_.GetTable()));
+    if (!layout_)
+        return 0;
+    Statement count(database_->GetEngine(), "SELECT count(*) FROM " + QuotedTable());
     return count.Step() ? count.GetInteger(0) : 0;
 }
 

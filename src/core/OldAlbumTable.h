@@ -19,11 +19,15 @@ namespace GeneralModule {
 // - a chapter or parameter gets a number behind its name;
 // - a row whose identifier is missing or taken gets a new one, above all others;
 // - a value of a characteristic's table that is there already is the same value.
-// What was changed or could not be read goes into the report.
+// Fields and whole tables of the user's own, which the template lacks, are added to the new album
+// as texts. What was changed or could not be read goes into the report.
 class OldAlbumTable : public OldTableVisitor
 {
 public:
-    OldAlbumTable(std::shared_ptr<Database> database, const QString& table, OldAlbumReport& report);
+    enum class Kind { OfAlbums, OfUser };
+
+    OldAlbumTable(std::shared_ptr<Database> database, const QString& table, OldAlbumReport& report,
+                  Kind kind = Kind::OfAlbums);
 
     // They throw DatabaseError.
     void BeginTable(const QStringList& fields, qint64 lastNumber) override;
@@ -34,13 +38,21 @@ public:
 private:
     using Row = std::vector<FieldValue>;
 
+    bool MakeTable(const QString& firstField);
+    void MatchFields(const QStringList& fields);
+    void AddField(const QString& field, int source);
+    void ReportMissingFields();
     void PrepareInsert();
-    void ReportFields(const QStringList& fields);
+    const TableLayout::Field& Field(int field) const { return layout_->At(field); }
+    QByteArray QuotedTable() const { return QuotedName(layout_->GetTable()); }
     const OldValue& ValueOf(int field, const std::vector<OldValue>& values) const;
     FieldValue ToNumber(int field, const OldValue& value) const;
     Row ToRow(const std::vector<OldValue>& values) const;
     QString NameOfRow(const std::vector<OldValue>& values) const;
     void ReportValues(const std::vector<OldValue>& values);
+    void ReportOwnFields();
+    void ReportRefusedRow();
+    void InsertRow(const std::vector<OldValue>& values);
     void NotePicture(QByteArrayView path);
 
     bool IdentifierIsTaken(const FieldValue& identifier);
@@ -55,10 +67,12 @@ private:
     std::shared_ptr<Database> database_;
     QString table_;
     OldAlbumReport& report_;
-    TableLayout layout_;
-    std::vector<int> sources_; // old field of each new one, -1 for none
-    int uniqueName_ = -1;      // field that may hold a text only once, -1 for none
-    int pictureFile_ = -1;     // field of picture paths
+    std::optional<TableLayout> layout_; // none while a table of the user's own is not made
+    std::vector<int> sources_;          // old field of each new one, -1 for none
+    int ownFields_ = 0;                 // number of the first field of the user's own
+    std::vector<qint64> damaged_;       // values of each of these that are not whole
+    int uniqueName_ = -1;               // field that may hold a text only once, -1 for none
+    int pictureFile_ = -1;              // field of picture paths
     std::optional<WriteBatch> batch_;
     Statement insert_;
     std::vector<int> inserted_; // fields in the order of the statement's parameters

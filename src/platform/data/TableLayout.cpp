@@ -21,7 +21,8 @@ TableLayout::Field DescribeField(sqlite3* engine, const QByteArray& table, const
         ThrowEngineError(engine, code);
     const bool isNumber = type && QByteArray(type).toUpper().contains("INT");
     const bool ignoresCase = collation && qstricmp(collation, "NOCASE") == 0;
-    return {name, isNumber, ignoresCase, isNumber && primaryKey && autoIncrement};
+    return {name, QString::fromUtf8(name), isNumber, ignoresCase,
+            isNumber && primaryKey && autoIncrement};
 }
 
 } // namespace
@@ -49,9 +50,8 @@ TableLayout::TableLayout(sqlite3* engine, const QString& table) : table_(table.t
 int TableLayout::Find(QStringView name) const
 {
     for (int i = 0; i < Count(); ++i) {
-        const QByteArray& candidate = At(i).name;
-        if (candidate.size() == name.size() &&
-            name.compare(QLatin1String(candidate), Qt::CaseInsensitive) == 0)
+        const QString& candidate = At(i).text;
+        if (candidate.size() == name.size() && candidate.compare(name, Qt::CaseInsensitive) == 0)
             return i;
     }
     return -1;

@@ -14,7 +14,8 @@ class TableLayout
 public:
     struct Field
     {
-        QByteArray name;
+        QByteArray name;  // for SQL
+        QString text;     // the same
         bool isNumber;    // whole number, else text
         bool ignoresCase; // how its text compares; picture paths compare exactly
         bool isIdentity;  // assigned when a row is added

@@ -17,9 +17,10 @@ namespace {
 constexpr int patienceOfFile = 6000;
 constexpr int mostRestarts = 40;
 
-// A sound table's rows are at most twice as long here as in the file, where texts may be packed,
-// with some bytes for each value. Rows that all claim the same piece of the file can be far more.
-constexpr qint64 volumeFactor = 8;
+// Of one file altogether. Sound texts are at most twice as long here as in the file, where they may
+// be packed; values that take a bit or none there take five bytes. Rows or tables that all claim
+// the same piece of the file can be far more.
+constexpr qint64 volumeFactor = 40;
 constexpr qint64 volumeBase = 4 * 1024 * 1024;
 
 constexpr qsizetype mostTables = 10000;
@@ -48,7 +49,6 @@ struct OldAlbumFile::Progress
     bool isTrying = false; // the next row was announced and did not come yet
     bool careful = false;
     bool isRest = false; // rows on pages that the table's map leaves out
-    qint64 volume = 0;
     std::vector<OldValue> values;
 
     void MoveBehind(quint32 page, quint32 row)
@@ -146,10 +146,10 @@ bool OldAlbumFile::RunReader(const Table& table, Progress& progress, OldTableVis
     if (progress.isRest)
         arguments += QStringLiteral("rest");
     ReaderProcess reader(arguments);
-    const qint64 earlier = progress.volume;
+    const qint64 earlier = volume_;
     while (const auto frame = reader.Next(patience_)) {
-        progress.volume = earlier + reader.GetVolume();
-        if (progress.volume > volumeBase + volumeFactor * size_) {
+        volume_ = earlier + reader.GetVolume();
+        if (volume_ > volumeBase + volumeFactor * size_) {
             restarts_ = mostRestarts;
             return false;
         }

@@ -85,4 +85,5 @@ private:
     std::vector<Table> tables_;
     int patience_;
     int restarts_ = 0;
+    qint64 volume_ = 0; // bytes that all readers wrote
 };

@@ -47,6 +47,8 @@ std::unique_ptr<JetFile> JetFile::Open(const char* path)
     file->handle_ = mdb_open(path, MDB_NOFLAGS);
     if (!file->handle_)
         return nullptr;
+    // The library's own way to write a date tells neither the century nor day from month.
+    mdb_set_date_fmt(file->handle_, "%Y-%m-%d %H:%M:%S");
     if (!IS_JET3(file->handle_))
         ReadSurrogatePairs(file->handle_);
     const auto pageSize = std::size_t(file->handle_->fmt->pg_size);
