@@ -3,6 +3,7 @@
 #include "core/AlbumPassword.h"
 #include "core/OldAlbumTable.h"
 #include "support/AlbumFixture.h"
+#include "support/ScriptedDialogs.h"
 
 #include <QtTest>
 
@@ -103,6 +104,7 @@ private slots:
     // Whatever the user called them, in the table of pictures and in a table of their own.
     void TakesOwnFieldsAndTables()
     {
+        const ScriptedDialogs dialogs;
         Taking take;
         const QStringList hostile{"FILE",
                                   "a\"b'c[d]`e",
