@@ -131,7 +131,7 @@ private slots:
     {
         AddFour();
         album_->Execute("UPDATE Image SET Legend=x'00' WHERE File='/a'");
-        for (const char* file : {"/c", "/a", "/b"}) {
+        for (const char* file : {"/a", "/c", "/a", "/b"}) {
             const QString filter = QString("[File]='%1'").arg(file);
             const int error = ErrorOf([&filter] {
                 ImageSet->FindFirst(filter);
