@@ -40,10 +40,14 @@ char32_t TakeLongUtf8(std::string_view& text)
 
 void DropLastUtf8(std::string_view& text)
 {
-    for (int continuations = 0; continuations < 3 && text.size() > 1 && IsContinuation(text.back());
-         ++continuations)
-        text.remove_suffix(1);
-    text.remove_suffix(1);
+    const auto byteAt = [&text](std::size_t fromEnd) { return text[text.size() - 1 - fromEnd]; };
+    std::size_t continuations = 0;
+    while (continuations < 3 && continuations + 1 < text.size() &&
+           IsContinuation(byteAt(continuations)))
+        ++continuations;
+    const auto lead = static_cast<unsigned char>(byteAt(continuations));
+    const bool isWhole = AnnouncedLength(lead) == continuations + 1;
+    text.remove_suffix(isWhole ? continuations + 1 : 1);
 }
 
 int CompareFolded(std::string_view first, std::string_view second)

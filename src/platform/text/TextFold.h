@@ -29,7 +29,7 @@ inline char32_t TakeUtf8(std::string_view& text)
     return lead;
 }
 
-// Takes the last character off, without looking at it; the text must not be empty.
+// Drops the last character, as TakeUtf8 would see it; the text must not be empty.
 void DropLastUtf8(std::string_view& text);
 
 // Negative, zero or positive as first sorts before, with or after second; both UTF-8.

@@ -25,6 +25,8 @@ private slots:
             {"*ab*abc", "ab abx abc", true}, // the later place of a middle part
             {"caf?", "café", true},          // one character, not one byte
             {"?.jpg", "\U0001F305.jpg", true},
+            {"*é", "é\xBF", false}, // a stray byte is a character of its own, seen from either end
+            {"*?é", "\xA9é", true},
             {"IMG_##", "IMG_07", true},
             {"IMG_##", "IMG_0x", false},
             {"[a-c,x]1", "B1", true},
