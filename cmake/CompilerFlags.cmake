@@ -4,7 +4,8 @@ add_library(lumenark_flags INTERFACE)
 target_compile_options(lumenark_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
   # A precompiled header is only taken when this matches, and ccache needs it to cache its users.
-  -fpch-preprocess)
+  -fpch-preprocess
+  $<$<BOOL:${LUMENARK_WERROR}>:-Werror>)
 target_compile_definitions(lumenark_flags INTERFACE
   QT_NO_CAST_TO_ASCII
   QT_NO_FOREACH

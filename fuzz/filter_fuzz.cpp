@@ -98,10 +98,11 @@ QString LargeFilter(Trials& trials)
     QString filter = AnyComparison(trials);
     const QString more = (trials.OneIn(2) ? " OR " : " AND ") + AnyComparison(trials);
     filter += more.repeated(trials.Below(950));
+    if (trials.OneIn(2))
+        filter = AnyComparison(trials);
+    static const QStringList levels{"NOT (", "(", "([Car0]='a' AND ", "NOT ([Id]=3 OR "};
     const int deep = trials.Below(110);
-    return trials.OneIn(2)
-               ? QString("NOT (").repeated(deep / 2) + filter + QString(")").repeated(deep / 2)
-               : QString("(").repeated(deep) + filter + QString(")").repeated(deep);
+    return trials.AnyOf(levels).repeated(deep) + filter + QString(deep, u')');
 }
 
 void Damage(QString& filter, Trials& trials)

@@ -25,7 +25,7 @@ OldAlbumReport Convert(const QString& path, const QString& target)
 
 } // namespace
 
-// Needs the sample albums beside the repository; what can be tried without them is in
+// Needs the sample albums; what can be tried without them is in
 // test_old_album_table.
 class TestOldAlbum : public AlbumTest
 {
@@ -35,7 +35,7 @@ private slots:
     void initTestCase()
     {
         if (!HasOldAlbums())
-            QSKIP("the sample albums of the former file format are not beside the repository");
+            QSKIP("LUMENARK_OLD_ALBUMS names no folder of old albums");
     }
 
     void BringsEverythingOver_data()

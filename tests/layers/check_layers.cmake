@@ -40,6 +40,13 @@ foreach(source IN LISTS sources)
       string(APPEND faults "${source}: includes ${CMAKE_MATCH_1}, which opens windows\n")
     endif()
   endforeach()
+  if(NOT source MATCHES "^platform/widgets/.*\\.cpp$")
+    file(STRINGS ${SOURCE_DIR}/src/${source} box_classes
+         REGEX "^#include.*([<\"/](QMessageBox|QInputDialog|QFileDialog|QtWidgets)[>\"]|q(messagebox|inputdialog|filedialog)\\.h)")
+    if(box_classes)
+      string(APPEND faults "${source}: includes boxes past the dialogs' door: ${box_classes}\n")
+    endif()
+  endif()
   file(STRINGS ${SOURCE_DIR}/src/${source} boxes
        REGEX "Q(MessageBox|InputDialog|FileDialog)::(information|warning|critical|question|get)")
   if(boxes)

@@ -5,7 +5,6 @@
 #include "platform/data/RecordSet.h"
 #include "support/AlbumFixture.h"
 
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -29,7 +28,7 @@ QString TextOf(const QJsonValue& value)
 
 bool HasOldAlbums()
 {
-    return QFileInfo::exists(OldAlbumPath("small_jet4"));
+    return !QString(OLD_ALBUM_FOLDER).isEmpty();
 }
 
 QString OldAlbumPath(const QString& name)

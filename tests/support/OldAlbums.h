@@ -6,8 +6,9 @@
 #include <QString>
 #include <QStringList>
 
-// Albums in the former file format, with what they hold. They are no part of the repository and lie
-// in a folder beside it; tests that need them are skipped where it is not.
+// Albums in the former file format, with what they hold. They are no part of the repository: the
+// build's LUMENARK_OLD_ALBUMS names their folder. A test program that needs them skips itself as a
+// whole, in initTestCase, where it names none; a folder that lacks them is a failure.
 bool HasOldAlbums();
 QString OldAlbumPath(const QString& name); // "small_jet4"
 QByteArray OldAlbumBytes(const QString& name);
