@@ -40,10 +40,10 @@ qint64 RecordSet::NextIdentifier()
                       "SELECT max(ifnull((SELECT max(rowid) FROM " + table_ +
                           "),0), ifnull((SELECT seq FROM sqlite_sequence WHERE name=?1),0))");
     highest.Bind(1, QString::fromUtf8(layout_.GetTable()));
-    const qint64 next = highest.Step() ? highest.GetInteger(0) + 1 : 1;
-    if (next > std::numeric_limits<qint32>::max())
+    const qint64 last = highest.Step() ? highest.GetInteger(0) : 0;
+    if (last >= std::numeric_limits<qint32>::max())
         Fail(DatabaseError::Overflow, DatabaseError::tr("The album has used up its identifiers."));
-    return next;
+    return last + 1;
 }
 
 void RecordSet::SetBuffered(int number, FieldValue value)

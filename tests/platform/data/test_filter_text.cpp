@@ -67,6 +67,16 @@ private slots:
         for (const QString& filter :
              {chain + " OR " + chain, QString(100000, u'('), QString("NOT ").repeated(100000)})
             QVERIFY_THROWS_EXCEPTION(DatabaseError, ImageSet->FindFirst(filter));
+        // However deep: found or too complex, and never something that the engine cannot read.
+        for (const char* level : {"NOT (", "([Car0]='a' AND ", "NOT ([Car0]='a' OR "}) {
+            for (int depth = 1; depth < 60; ++depth) {
+                const QString filter =
+                    QString(level).repeated(depth) + "[Car0]='b'" + QString(")").repeated(depth);
+                const int error = ErrorOf([&] { ImageSet->FindFirst(filter); });
+                QCOMPARE(error == 0 ? DatabaseError::TooComplex : error, DatabaseError::TooComplex);
+                QVERIFY(error == 0 || depth > 10);
+            }
+        }
     }
 
 private:

@@ -84,8 +84,10 @@ private slots:
         ChapterSet->AddNew();
         QCOMPARE(ChapterSet->Number(u"Id"), 901);
         ChapterSet->CancelUpdate();
-        album_->Execute("INSERT INTO Chapter (Id,Name) VALUES (2147483647,'Last')");
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, ChapterSet->AddNew());
+        for (const char* last : {"2147483647", "9223372036854775807"}) {
+            album_->Execute(QString("INSERT INTO Chapter (Id,Name) VALUES (%1,%1)").arg(last));
+            QVERIFY_THROWS_EXCEPTION(DatabaseError, ChapterSet->AddNew());
+        }
     }
 
     void RefusesWrongUse()
