@@ -112,7 +112,7 @@ void RecordSet::Translate(const QString& filter)
             queries_.clear();
         auto query = std::make_shared<Query>();
         query->condition = sql.condition;
-        found = queries_.insert(sql.condition, std::move(query));
+        found = queries_.insert(sql.condition, query);
     }
     query_ = *found;
     values_ = std::move(sql.values);
