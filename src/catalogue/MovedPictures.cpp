@@ -4,13 +4,102 @@
 #include "core/Album.h"
 #include "core/PathRoutines.h"
 #include "core/TextRoutines.h"
+#include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/files/FolderListing.h"
 #include "platform/text/LikePattern.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 using namespace GeneralModule;
+
+namespace {
+
+class Repointing
+{
+public:
+    Repointing(const QString& oldFolder, const QString& newFolder, const MovingProgress& progress)
+        : oldFolder_(oldFolder),
+          newFolder_(newFolder),
+          progress_(progress),
+          images_(AlbumDatabase, QStringLiteral("Image")),
+          file_(images_.FieldNumber(u"File")),
+          findHolder_(AlbumDatabase->GetEngine(), "SELECT 1 FROM \"Image\" WHERE \"File\"=?1")
+    {
+    }
+
+    RepointedPictures Run()
+    {
+        WriteBatch batch(AlbumDatabase);
+        if (Take(Turn::DirectlyInFolder, batch) && hasDeeper_)
+            Take(Turn::Deeper, batch);
+        batch.Finish();
+        return done_;
+    }
+
+private:
+    enum class Turn { DirectlyInFolder, Deeper };
+
+    // False when the work shall stop.
+    bool Take(Turn turn, WriteBatch& batch)
+    {
+        const QString pattern = EscapedForLike(oldFolder_) + QStringLiteral("*.*");
+        const QString filter = QStringLiteral("([File] LIKE ") + Quoted(pattern) + QLatin1Char(')');
+        const RecordSet::Walk walk(images_);
+        for (images_.FindFirst(filter); !images_.NoMatch(); images_.FindNext(filter)) {
+            const QString path = images_.Text(file_);
+            const bool isDeeper = FolderOf(path).size() > oldFolder_.size();
+            hasDeeper_ = hasDeeper_ || isDeeper;
+            // What the first turn moved deeper has had its turn.
+            if (isDeeper == (turn == Turn::Deeper) && !moved_.contains(path))
+                Repoint(path, batch);
+            if (!progress_(done_.updated))
+                return false;
+        }
+        return true;
+    }
+
+    void Repoint(const QString& oldPath, WriteBatch& batch)
+    {
+        const QString path = PathIn(newFolder_, FileNameOf(oldPath));
+        if (!QFileInfo(path).isFile())
+            return;
+        if (path != oldPath && IsHeld(path)) {
+            ++done_.alreadyHeld;
+            return;
+        }
+        images_.Edit();
+        images_.Set(file_, path);
+        images_.Update();
+        batch.RowDone();
+        ++done_.updated;
+        if (path.startsWith(oldFolder_, Qt::CaseInsensitive))
+            moved_.insert(path);
+    }
+
+    bool IsHeld(const QString& path)
+    {
+        const QByteArray file = path.toUtf8();
+        findHolder_.BindUtf8(1, file);
+        const bool isHeld = findHolder_.Step();
+        findHolder_.Reset();
+        return isHeld;
+    }
+
+    const QString& oldFolder_;
+    const QString& newFolder_;
+    const MovingProgress& progress_;
+    // A record set of its own: while the windows are kept alive, others move the shared one.
+    RecordSet images_;
+    int file_;
+    Statement findHolder_;
+    QSet<QString> moved_; // paths now, where the second turn may come upon them
+    bool hasDeeper_ = false;
+    RepointedPictures done_;
+};
+
+} // namespace
 
 QStringList PictureFolders()
 {
@@ -26,29 +115,9 @@ QStringList PictureFolders()
     return folders;
 }
 
-int RepointPictures(const QString& oldFolder, const QString& newFolder,
-                    const MovingProgress& progress)
+RepointedPictures RepointPictures(const QString& oldFolder, const QString& newFolder,
+                                  const MovingProgress& progress)
 {
-    // A record set of its own: while the windows are kept alive, others move the shared one.
-    RecordSet images(AlbumDatabase, QStringLiteral("Image"));
-    const int file = images.FieldNumber(u"File");
-    const QString pattern = EscapedForLike(oldFolder) + QStringLiteral("*.*");
-    const QString filter = QStringLiteral("([File] LIKE ") + Quoted(pattern) + QLatin1Char(')');
-    WriteBatch batch(AlbumDatabase);
-    const RecordSet::Walk walk(images);
-    int updated = 0;
-    for (images.FindFirst(filter); !images.NoMatch(); images.FindNext(filter)) {
-        const QString path = PathIn(newFolder, FileNameOf(images.Text(file)));
-        if (QFileInfo(path).isFile()) {
-            images.Edit();
-            images.Set(u"File", path);
-            images.Update();
-            batch.RowDone();
-            ++updated;
-        }
-        if (!progress(updated))
-            break;
-    }
-    batch.Finish();
-    return updated;
+    Repointing work(oldFolder, newFolder, progress);
+    return work.Run();
 }

@@ -13,8 +13,15 @@ QStringList PictureFolders();
 // Told how many references were updated; returns false to stop.
 using MovingProgress = std::function<bool(int updated)>;
 
+struct RepointedPictures
+{
+    int updated = 0;
+    int alreadyHeld = 0; // kept their path, because another picture of the album has the new one
+};
+
 // Every picture below oldFolder (as PictureFolders gives it), also in folders of it, that now lies
-// in newFolder itself gets its new path. Names without a point are left alone. Returns how many
-// got one; what was changed before a stop or an error stays. Throws DatabaseError.
-int RepointPictures(const QString& oldFolder, const QString& newFolder,
-                    const MovingProgress& progress);
+// in newFolder itself gets its new path, unless another picture of the album has that one; those
+// that lie directly in oldFolder have their turn first. Names without a point are left alone. What
+// was changed before a stop or an error stays. Throws DatabaseError.
+RepointedPictures RepointPictures(const QString& oldFolder, const QString& newFolder,
+                                  const MovingProgress& progress);

@@ -70,9 +70,12 @@ void frmReloadPictures::dirNewReferences_Change()
     ui_->lblNewReferences->setText(PathIn(newFolder_, QStringLiteral("*.*")));
 }
 
-void frmReloadPictures::ShowUpdated(int count)
+void frmReloadPictures::ShowUpdated(const RepointedPictures& done)
 {
-    ui_->lblFeedback->setText(QString::number(count) + tr(" picture references updated"));
+    QString text = QString::number(done.updated) + tr(" picture references updated");
+    if (done.alreadyHeld > 0)
+        text += QLatin1Char('\n') + tr("%n already in the album", nullptr, done.alreadyHeld);
+    ui_->lblFeedback->setText(text);
     ui_->lblFeedback->repaint();
 }
 
@@ -85,14 +88,14 @@ void frmReloadPictures::cmdReloadPictures_Click()
         return Tell(tr("Please choose the new folder first: double click on it."),
                     Dialogs::Icon::Warning);
     const BusyPointer busy;
-    ShowUpdated(0);
+    ShowUpdated({});
     ui_->progress->Begin(0, true);
     const auto end = qScopeGuard([this] { ui_->progress->End(); });
-    const int updated = RepointPictures(old->text(), newFolder_, [this](int count) {
+    const RepointedPictures done = RepointPictures(old->text(), newFolder_, [this](int count) {
         const bool goOn = ui_->progress->Advance(count);
         if (ui_->progress->HasShown())
-            ShowUpdated(count);
+            ShowUpdated({.updated = count});
         return goOn;
     });
-    ShowUpdated(updated);
+    ShowUpdated(done);
 }

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+struct RepointedPictures;
+
 namespace Ui {
 class frmReloadPictures;
 }
@@ -25,7 +27,7 @@ private:
     void dirNewReferences_Change();
     void cmdReloadPictures_Click();
 
-    void ShowUpdated(int count);
+    void ShowUpdated(const RepointedPictures& done);
 
     std::unique_ptr<Ui::frmReloadPictures> ui_;
     QString newFolder_; // empty until one is chosen

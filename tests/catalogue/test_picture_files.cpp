@@ -150,8 +150,38 @@ private slots:
         album_->AddImageRow(other);
         const QStringList files = QStringList(other) + AddMoved(folder, folder + "n'e[w]/");
         for (int time = 0; time < 2; ++time) { // then they are there: each counts, none changes
-            QCOMPARE(RepointPictures(folder, folder + "n'e[w]", GoOn), 3);
+            QCOMPARE(RepointPictures(folder, folder + "n'e[w]", GoOn).updated, 3);
             QCOMPARE(Files(), files);
+        }
+    }
+
+    // Three pictures of one name and one that is loaded there already: no two rows get one path.
+    void GivesNoPathTwice()
+    {
+        const QString fresh = album_->PathOf("new/");
+        for (const char* file : {"/old/sub/a.jpg", "/old/b.jpg", "/old/a.jpg", "/old/sub/b.jpg"})
+            album_->AddImageRow(file);
+        for (const char* name : {"a.jpg", "b.jpg"})
+            WriteFile(fresh + name);
+        album_->AddImageRow(fresh + "b.jpg", {{"Legend", "loaded before"}});
+        const QStringList files{"/old/sub/a.jpg", "/old/b.jpg", fresh + "a.jpg", "/old/sub/b.jpg",
+                                fresh + "b.jpg"};
+        frmReloadPictures window;
+        window.show();
+        Find<QListWidget>(window, "lstOldReferences").setCurrentRow(1);
+        Find<QWidget>(window, "dirNewReferences").setProperty("Path", album_->PathOf("new"));
+        Click(window, "cmdReloadPictures");
+        const QString told = Find<QLabel>(window, "lblFeedback").text();
+        QVERIFY2(told.startsWith("1 picture references updated\n3 already"), qPrintable(told));
+        QCOMPARE(Files(), files);
+        // To a folder below the old one each still has one turn.
+        const QString below = album_->PathOf("new/below/");
+        album_->AddImageRow(fresh + "sub/c.jpg");
+        for (const char* name : {"a.jpg", "b.jpg", "c.jpg"})
+            WriteFile(below + name);
+        for (int time = 0; time < 2; ++time) {
+            QCOMPARE(RepointPictures(fresh, below, GoOn).updated, 3);
+            QCOMPARE(Files().filter(below).size(), 3);
         }
     }
 
