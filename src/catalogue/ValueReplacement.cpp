@@ -5,68 +5,146 @@
 #include "core/Album.h"
 #include "core/TextRoutines.h"
 #include "platform/data/WriteBatch.h"
+#include "platform/text/LikePattern.h"
+
+#include <utility>
+#include <vector>
 
 namespace {
 
 using GeneralModule::AlbumDatabase;
 
+constexpr QChar separator = u';';
+const QString negation = QStringLiteral("!");
+
+bool IsSame(const QString& first, const QString& second)
+{
+    return first.compare(second, Qt::CaseInsensitive) == 0;
+}
+
+// A paragraph's filter with the value replaced. Twice in one group a value says no more than once;
+// a "!" begins a new group, where it says something else.
+QString ReplacedInList(const QString& filter, const QString& old, const QString& replacement)
+{
+    if (IsSame(filter, old))
+        return replacement;
+    const QStringList tokens = filter.split(separator);
+    if (!tokens.contains(old, Qt::CaseInsensitive))
+        return filter;
+    QStringList kept;
+    bool isHeld = false; // the group has the replacement
+    for (const QString& token : tokens) {
+        const bool isMeant = IsSame(token, old) || IsSame(token, replacement);
+        if (isMeant && isHeld)
+            continue;
+        isHeld = token != negation && (isHeld || isMeant);
+        kept += IsSame(token, old) ? replacement : token;
+    }
+    return kept.join(separator);
+}
+
 class Replacement
 {
 public:
-    Replacement(const QString& old, const QString& replacement, const ReplacementProgress& progress)
-        : old_(old),
+    Replacement(int column, const QString& old, const QString& replacement,
+                const ReplacementProgress& progress)
+        : column_(column),
+          old_(old),
           replacement_(replacement),
           progress_(progress),
           batch_(AlbumDatabase, WriteBatch::Commits::AtItsEnd)
     {
+        fields_ += QStringLiteral("Car%1").arg(column);
+        if (const auto twin = TwinColumnOf(column))
+            fields_ += QStringLiteral("Car%1").arg(*twin);
     }
 
-    // One pass finds them all: a changed row lies behind, and meets the filter again only where
-    // the two values differ in letter case alone.
-    void ReplaceIn(const QString& tableName, int column)
+    // A picture has one value, whatever it holds.
+    int InPictures()
     {
-        // A record set of its own: while the windows are kept alive, others move the shared one.
-        RecordSet table(AlbumDatabase, tableName);
-        const QString field = QStringLiteral("Car%1").arg(column);
-        const QString filter =
-            QLatin1Char('[') + field + QStringLiteral("]=") + GeneralModule::Quoted(old_);
-        const int number = table.FieldNumber(field);
-        const RecordSet::Walk walk(table);
-        for (table.FindFirst(filter); !table.NoMatch(); table.FindNext(filter)) {
-            table.Edit();
-            table.Set(number, replacement_);
-            table.Update();
-            batch_.RowDone();
-            progress_(++changed_);
-        }
-        progress_(changed_);
+        return ReplaceIn(
+            QStringLiteral("Image"), QStringLiteral("=") + GeneralModule::Quoted(old_),
+            [this](const QString& value) { return IsSame(value, old_) ? replacement_ : value; });
     }
 
-    void ReplaceInValueTable(int column)
+    int InParagraphs()
     {
-        RemoveValueFromTable(column, old_);
-        AddValueToTable(column, replacement_);
+        const QString holdsOld = QLatin1Char('*') + EscapedForLike(old_) + QLatin1Char('*');
+        return ReplaceIn(
+            QStringLiteral("Paragraph"), QStringLiteral(" LIKE ") + GeneralModule::Quoted(holdsOld),
+            [this](const QString& filter) { return ReplacedInList(filter, old_, replacement_); });
+    }
+
+    void InValueTable()
+    {
+        RemoveValueFromTable(column_, old_);
+        AddValueToTable(column_, replacement_);
         batch_.Finish();
     }
 
 private:
+    // One pass finds them all: a changed row lies behind, and meets the condition again only where
+    // the two values differ in letter case alone. Returns how many rows were changed.
+    template<typename Replaced>
+    int ReplaceIn(const QString& tableName, const QString& condition, Replaced replaced)
+    {
+        // A record set of its own: while the windows are kept alive, others move the shared one.
+        RecordSet table(AlbumDatabase, tableName);
+        QStringList conditions;
+        std::vector<int> numbers;
+        for (const QString& field : fields_) {
+            conditions += QLatin1Char('[') + field + QLatin1Char(']') + condition;
+            numbers.push_back(table.FieldNumber(field));
+        }
+        const QString filter = conditions.join(QStringLiteral(" OR "));
+        const int before = changed_;
+        const RecordSet::Walk walk(table);
+        for (table.FindFirst(filter); !table.NoMatch(); table.FindNext(filter)) {
+            if (ReplaceInRow(table, numbers, replaced)) {
+                batch_.RowDone();
+                ++changed_;
+            }
+            progress_(changed_);
+        }
+        progress_(changed_);
+        return changed_ - before;
+    }
+
+    template<typename Replaced>
+    static bool ReplaceInRow(RecordSet& table, const std::vector<int>& fields, Replaced replaced)
+    {
+        std::vector<std::pair<int, QString>> changes;
+        for (const int field : fields) {
+            const QString value = table.TextOrEmpty(field);
+            const QString changed = replaced(value);
+            if (changed != value)
+                changes.emplace_back(field, changed);
+        }
+        if (changes.empty())
+            return false;
+        table.Edit();
+        for (const auto& [field, value] : changes)
+            table.Set(field, value);
+        table.Update();
+        return true;
+    }
+
+    int column_;
     const QString& old_;
     const QString& replacement_;
     const ReplacementProgress& progress_;
+    QStringList fields_; // the column's and its twin's
     WriteBatch batch_;
     int changed_ = 0;
 };
 
 } // namespace
 
-void ReplaceValue(int column, const QString& old, const QString& replacement,
-                  const ReplacementProgress& progress)
+ReplacedValues ReplaceValue(int column, const QString& old, const QString& replacement,
+                            const ReplacementProgress& progress)
 {
-    Replacement work(old, replacement, progress);
-    for (const char* table : {"Image", "Paragraph"}) {
-        work.ReplaceIn(QString::fromLatin1(table), column);
-        if (const auto twin = TwinColumnOf(column))
-            work.ReplaceIn(QString::fromLatin1(table), *twin);
-    }
-    work.ReplaceInValueTable(column);
+    Replacement work(column, old, replacement, progress);
+    const ReplacedValues done{work.InPictures(), work.InParagraphs()};
+    work.InValueTable();
+    return done;
 }
