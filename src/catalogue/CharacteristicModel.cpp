@@ -3,10 +3,39 @@
 
 #include "core/Album.h"
 #include "core/TextRoutines.h"
-#include "platform/text/LikePattern.h"
+
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
 
 using GeneralModule::AlbumDatabase;
 using GeneralModule::Quoted;
+
+namespace {
+
+// UTF-16 units of one character: a base and 30 accents, the most that Unicode's Stream-Safe Text
+// Format (UAX #15) allows, each of two units.
+constexpr qsizetype longestCharacter = 62;
+
+// UTF-16 units of the first characters, as a reader counts them: never half of a surrogate pair,
+// never a letter without the accents that combine with it.
+qsizetype LengthOfFirst(int characters, const QString& text)
+{
+    const qsizetype looked = std::min(text.size(), characters * longestCharacter);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.constData(), looked);
+    qsizetype length = 0;
+    for (int i = 0; i < characters && length < looked; ++i)
+        length = finder.toNextBoundary();
+    return length;
+}
+
+char32_t FirstCodePoint(const QString& text)
+{
+    const bool isPair = text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
+    return isPair ? QChar::surrogateToUcs4(text[0], text[1]) : text[0].unicode();
+}
+
+} // namespace
 
 QString ValueTableOf(int column)
 {
@@ -20,23 +49,25 @@ std::optional<int> TwinColumnOf(int column)
 
 bool IsSpecialMarker(const QString& value)
 {
-    return !IsLike(value, "[A-Z,a-z]*") && !IsLike(value, "#*");
+    if (value.isEmpty())
+        return true;
+    const char32_t first = FirstCodePoint(value);
+    return !QChar::isLetter(first) && first != U',' && (first < U'0' || first > U'9');
 }
 
 QString CleanValue(const QString& typed)
 {
     using GeneralModule::ReplaceText;
     const QString joined = ReplaceText(typed, QStringLiteral(";"), QString(), 1);
-    return ReplaceText(joined, QStringLiteral("'"), QStringLiteral(" "), 1)
-        .left(longestValue)
-        .trimmed();
+    const QString cleaned = ReplaceText(joined, QStringLiteral("'"), QStringLiteral(" "), 1);
+    return cleaned.first(LengthOfFirst(longestValue, cleaned)).trimmed();
 }
 
 QString NormalizedValue(const QString& typed)
 {
     if (typed.isEmpty() || !IsSpecialMarker(typed))
         return typed;
-    return typed.startsWith(noValue) ? noValue : typed.sliced(1);
+    return typed.startsWith(noValue) ? noValue : typed.sliced(LengthOfFirst(1, typed));
 }
 
 QStringList ValuesOf(int column)

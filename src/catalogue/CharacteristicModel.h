@@ -21,7 +21,7 @@ inline constexpr std::array labelledColumns{0, 1, 2, 3, 4, 5, 9, 10, 11};
 // Marks a column without a value.
 inline const QString noValue = QStringLiteral("-");
 
-// Longest value, in characters.
+// Longest value, in characters as a reader counts them: a letter and its accents are one.
 constexpr int longestValue = 20;
 
 // 0 to 3, for a column from 0 to 11.
@@ -43,7 +43,7 @@ QString ValueTableOf(int column);
 // 3, 4, 5 give 6, 7, 8; all others none.
 std::optional<int> TwinColumnOf(int column);
 
-// Markers begin with neither a letter from A to Z in either case, nor a comma, nor a digit. They
+// Markers begin with neither a letter of any script, nor a comma, nor a digit from 0 to 9. They
 // mean something to the program and are not for users to delete or change.
 bool IsSpecialMarker(const QString& value);
 

@@ -47,7 +47,6 @@ frmEditTables::frmEditTables(const QString& picture, QWidget* parent)
 {
     ui_->setupUi(this);
     KeepWindowSize(this, proposedSize);
-    ui_->lblProgress->hide();
     RunGuarded([&] { Form_Load(picture); });
     ConnectControls();
 }
@@ -119,6 +118,7 @@ void frmEditTables::ShowCaptions()
 void frmEditTables::LoadTable()
 {
     column_ = -1;
+    ui_->lblProgress->hide();
     const std::array groups{ui_->optCaracteristic_1, ui_->optCaracteristic_2,
                             ui_->optCaracteristic_3};
     const std::array columns{ui_->optColumn_1, ui_->optColumn_2, ui_->optColumn_3};
@@ -140,9 +140,10 @@ QString frmEditTables::SelectedValue() const
     return selected.isEmpty() ? QString() : selected.constFirst()->text();
 }
 
-bool frmEditTables::IsListed(const QString& value) const
+// In whatever letter case; none when the list does not hold it.
+QListWidgetItem* frmEditTables::ListedItem(const QString& value) const
 {
-    return !ui_->lstCar->findItems(value, Qt::MatchFixedString).isEmpty();
+    return ui_->lstCar->findItems(value, Qt::MatchFixedString).value(0);
 }
 
 void frmEditTables::cmdAddNew_Click()
@@ -168,6 +169,8 @@ void frmEditTables::cmdDelete_Click()
         return Tell(tr("Sorry, you can't delete the special markers"), Dialogs::Icon::Warning);
     RemoveValueFromTable(column_, value);
     delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
+    // The list would choose the neighbour, and a double click delete that one too.
+    ui_->lstCar->setCurrentRow(-1);
 }
 
 void frmEditTables::cmdReplace_Click()
@@ -183,26 +186,35 @@ void frmEditTables::cmdReplace_Click()
         return;
     RunReplacement(old, replacement);
     delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
-    if (!IsListed(replacement)) {
+    if (!ListedItem(replacement))
         ui_->lstCar->addItem(replacement);
-        ui_->lstCar->setCurrentRow(ui_->lstCar->count() - 1);
-    }
+    ui_->lstCar->setCurrentItem(ListedItem(replacement));
 }
 
 void frmEditTables::RunReplacement(const QString& old, const QString& replacement)
 {
     const BusyPointer busy;
-    ui_->lblProgress->show();
+    TellChanged({});
     ui_->progress->Begin(0, false);
-    const auto end = qScopeGuard([this] {
+    auto end = qScopeGuard([this] {
         ui_->progress->End();
         ui_->lblProgress->hide();
     });
-    ReplaceValue(column_, old, replacement, [this](int changed) {
+    const ReplacedValues done = ReplaceValue(column_, old, replacement, [this](int changed) {
         ui_->progress->Advance(changed);
         if (ui_->progress->HasShown())
-            ui_->lblProgress->setText(tr("%1 pictures and paragraphs changed").arg(changed));
+            TellChanged(tr("%1 pictures and paragraphs changed").arg(changed));
     });
+    end.dismiss();
+    ui_->progress->End();
+    TellChanged(
+        tr("Pictures changed: %1, paragraphs changed: %2").arg(done.pictures).arg(done.paragraphs));
+}
+
+void frmEditTables::TellChanged(const QString& text)
+{
+    ui_->lblProgress->setText(text);
+    ui_->lblProgress->show();
 }
 
 void frmEditTables::cmdEditLabels_Click()

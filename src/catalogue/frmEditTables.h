@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class QListWidgetItem;
+
 namespace Ui {
 class frmEditTables;
 }
@@ -33,8 +35,9 @@ private:
     void ShowCaptions();
     void LoadTable();
     void RunReplacement(const QString& old, const QString& replacement);
+    void TellChanged(const QString& text);
     QString SelectedValue() const;
-    bool IsListed(const QString& value) const;
+    QListWidgetItem* ListedItem(const QString& value) const;
 
     std::unique_ptr<Ui::frmEditTables> ui_;
     int column_ = -1; // whose table is shown: 0 to 5 or 9 to 11; -1 when none is chosen
