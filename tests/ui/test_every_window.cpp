@@ -82,6 +82,29 @@ bool IsReachable(const QWidget& widget, const QStringList& way)
            widget.inherits("QRadioButton") || way.contains(widget.objectName());
 }
 
+// Turned by one notch over the control, as the system does it.
+void TurnWheel(QWidget& widget)
+{
+    const QPointF middle = QRectF(widget.rect()).center();
+    QWheelEvent turn(middle, widget.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&turn); // others do not go on to parents
+    qApp->notify(&widget, &turn);
+}
+
+bool TakesWheel(QWidget& widget)
+{
+    auto* box = qobject_cast<QComboBox*>(&widget);
+    if (!box)
+        return false;
+    const QSignalBlocker quiet(box);
+    box->addItems({"first", "second", "third"});
+    const int chosen = box->count() - 2;
+    box->setCurrentIndex(chosen);
+    TurnWheel(box->lineEdit() ? *static_cast<QWidget*>(box->lineEdit()) : *box);
+    return box->currentIndex() != chosen;
+}
+
 QStringList FaultsOf(QWidget& window)
 {
     QStringList faults;
@@ -91,6 +114,8 @@ QStringList FaultsOf(QWidget& window)
             continue;
         if (!HasName(*widget))
             faults += widget->objectName() + " has no name";
+        if (TakesWheel(*widget))
+            faults += widget->objectName() + " takes the wheel";
         if (!widget->isVisible())
             continue;
         const QRect place(widget->mapTo(&window, QPoint()), widget->size());
@@ -249,6 +274,19 @@ private slots:
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, album_->PathOf("empty"));
         Prod(window);
         QVERIFY(!IsAlbumOpen());
+    }
+
+    void WheelOverListBoxScrollsWhatIsAround()
+    {
+        Open("frmLoadFiles"); // the program's first window is enough
+        QScrollArea area;
+        area.setWidget(new QWidget);
+        area.widget()->resize(100, 5000);
+        auto* box = new QComboBox(area.widget());
+        area.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&area));
+        QVERIFY(!TakesWheel(*box));
+        QVERIFY(area.verticalScrollBar()->value() > 0);
     }
 
     void HelpComesAtTheWindowsChapter_data()

@@ -2,6 +2,7 @@
 #include "platform/widgets/WindowSize.h"
 
 #include "platform/shell/UserSettings.h"
+#include "platform/widgets/ListBoxWheel.h"
 
 #include <QEvent>
 #include <QScreen>
@@ -53,4 +54,6 @@ void KeepWindowSize(QWidget* window, QSize proposed)
     const QSize room = window->screen()->availableSize() * 0.94;
     window->resize((kept.isEmpty() ? proposed : kept).boundedTo(room));
     new SizeKeeper(window);
+    // Every window comes here, so that none can be forgotten.
+    KeepWheelFromListBoxes();
 }
