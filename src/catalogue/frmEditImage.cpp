@@ -2,6 +2,7 @@
 #include "catalogue/frmEditImage.h"
 #include "ui_frmEditImage.h"
 
+#include "catalogue/ValueCompletion.h"
 #include "catalogue/frmEditTables.h"
 #include "core/Parameters.h"
 #include "core/PictureFile.h"
@@ -47,7 +48,9 @@ bool IsTyping(const QWidget* focus)
 } // namespace
 
 frmEditImage::frmEditImage(QWidget* parent)
-    : QDialog(parent), ui_(std::make_unique<Ui::frmEditImage>())
+    : QDialog(parent),
+      ui_(std::make_unique<Ui::frmEditImage>()),
+      completion_(new ValueCompletion(this))
 {
     ui_->setupUi(this);
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
@@ -60,6 +63,7 @@ frmEditImage::frmEditImage(QWidget* parent)
             combo->setModel(new QStringListModel(this));
         else
             combo->setModel(ValuesModel(LabelledColumnOf(column)));
+        combo->lineEdit()->setCompleter(completion_);
     }
     ConnectControls();
 }
@@ -173,6 +177,7 @@ void frmEditImage::SetValue(int column, const QString& value)
 
 void frmEditImage::cboCategory_Change(int column)
 {
+    completion_->SetValues(ValuesModel(column)->stringList());
     QComboBox* combo = cboCategory_[std::size_t(column)];
     QString text = combo->currentText();
     for (QString normal = NormalizedValue(text); normal != text; normal = NormalizedValue(text))
@@ -250,11 +255,12 @@ void frmEditImage::cmdEditTables_Click()
 
 bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
 {
+    if (completion_->UseKey(key))
+        return true;
     const bool isPlain = !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     const bool isTyping = IsTyping(focusWidget());
     const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     if (isEnter && isTyping && ui_->cmdNextImage->isVisible()) {
-        // The first Enter would only confirm the completed part of a value.
         cmdNextImage_Click();
         return true;
     }

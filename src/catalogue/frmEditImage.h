@@ -14,6 +14,7 @@ class QComboBox;
 class QKeyEvent;
 class QLabel;
 class QStringListModel;
+class ValueCompletion;
 
 namespace Ui {
 class frmEditImage;
@@ -68,6 +69,7 @@ private:
 
     std::unique_ptr<Ui::frmEditImage> ui_;
     std::array<QComboBox*, columnCount> cboCategory_{};
+    ValueCompletion* completion_;
     PictureRecord shown_;  // as the album holds it
     bool isKnown_ = false; // the album holds the picture
     bool isLoaded_ = false;

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/ValueCompletion.h"
+
+#include <QCollator>
+#include <QKeyEvent>
+#include <QListView>
+#include <QStringListModel>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+constexpr int shownAtOnce = 12; // lines
+
+// By sort keys: comparing the texts themselves takes several times as long, which thousands of
+// values would let one feel.
+QStringList Sorted(const QStringList& values)
+{
+    QCollator collator;
+    collator.setNumericMode(true);
+    std::vector<std::pair<QCollatorSortKey, QString>> keyed;
+    keyed.reserve(std::size_t(values.size()));
+    for (const QString& value : values)
+        keyed.emplace_back(collator.sortKey(value.toCaseFolded()), value);
+    std::sort(keyed.begin(), keyed.end(),
+              [](const auto& left, const auto& right) { return left.first < right.first; });
+    QStringList sorted;
+    sorted.reserve(values.size());
+    for (const auto& [key, value] : keyed)
+        sorted += value;
+    return sorted;
+}
+
+bool IsEnter(const QKeyEvent& key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
+} // namespace
+
+ValueCompletion::ValueCompletion(QObject* parent)
+    : QCompleter(parent), values_(new QStringListModel(this))
+{
+    setModel(values_);
+    setCompletionMode(PopupCompletion);
+    setFilterMode(Qt::MatchContains);
+    setCaseSensitivity(Qt::CaseInsensitive);
+    setMaxVisibleItems(shownAtOnce);
+}
+
+void ValueCompletion::SetValues(const QStringList& values)
+{
+    if (values != source_) {
+        source_ = values;
+        values_->setStringList(Sorted(values));
+    }
+    if (!list_)
+        CreateList();
+}
+
+// Only when it is needed: a window opens many times, and most often nobody types a value.
+void ValueCompletion::CreateList()
+{
+    auto* list = new QListView;
+    list->setUniformItemSizes(true); // or each line would be measured
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setPopup(list);
+    list_ = list;
+}
+
+bool ValueCompletion::UseKey(const QKeyEvent& key)
+{
+    const bool isEscape = key.key() == Qt::Key_Escape;
+    if ((!IsEnter(key) && !isEscape) || !list_ || !list_->isVisible())
+        return false;
+    const bool isChosen = list_->currentIndex().isValid();
+    if (isEscape)
+        list_->setCurrentIndex({}); // the box shows what was typed again
+    list_->hide();
+    return isChosen || isEscape;
+}
+
+bool ValueCompletion::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!list_ || watched != list_ || event->type() != QEvent::KeyPress)
+        return QCompleter::eventFilter(watched, event);
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (UseKey(key))
+        return true;
+    if (!IsEnter(key) || !widget())
+        return QCompleter::eventFilter(watched, event);
+    // The list took it from the box, which may have a use for it.
+    QCoreApplication::sendEvent(widget(), event);
+    return true;
+}
