@@ -5,6 +5,7 @@
 #include "core/Album.h"
 #include "core/PathRoutines.h"
 #include "core/TextRoutines.h"
+#include "platform/files/FilePatterns.h"
 #include "platform/text/LikePattern.h"
 
 #include <QSet>
@@ -85,19 +86,15 @@ void AddMatchingPictures(const QString& filter, PictureList& pictures, int most,
     }
 }
 
-// "([File] LIKE 'folder/*.jpg')". A file list takes several patterns of names, with ";" between
-// them, and what it lists is what a person expects to see; of one pattern this makes the usual
-// filter.
+// "([File] LIKE 'folder/*.jpg')". With ";" in it the selection also stands for each of its
+// patterns, all in that folder: what a file list shows for them is what a person expects to see.
 QString BuildFileFilter(const QString& selection)
 {
     const QString folder = GeneralModule::FolderOf(selection);
-    QStringList parts;
-    for (const QString& pattern :
-         GeneralModule::FileNameOf(selection).split(u';', Qt::SkipEmptyParts))
-        parts += QStringLiteral("[File] LIKE ") + GeneralModule::Quoted(folder + pattern.trimmed());
-    if (parts.isEmpty())
-        parts += QStringLiteral("[File] LIKE ") + GeneralModule::Quoted(selection);
-    return QLatin1Char('(') + parts.join(QLatin1String(" OR ")) + QLatin1Char(')');
+    QStringList conditions;
+    for (const QString& pattern : SplitPatterns(GeneralModule::FileNameOf(selection)))
+        conditions += QStringLiteral("[File] LIKE ") + GeneralModule::Quoted(folder + pattern);
+    return QLatin1Char('(') + conditions.join(QLatin1String(" OR ")) + QLatin1Char(')');
 }
 
 } // namespace
@@ -139,7 +136,7 @@ QString SwapCarGroups(const QString& filter)
 QString PatternOfSelection(const QString& selection)
 {
     return EscapedForLike(GeneralModule::FolderOf(selection)) +
-           GeneralModule::FileNameOf(selection);
+           AsLikePatterns(GeneralModule::FileNameOf(selection));
 }
 
 QString BuildPictureFilter(RecordSet& paragraph)

@@ -23,8 +23,9 @@ QString BuildCarFilter(RecordSet& paragraph);
 // picture may show the two subjects in either order.
 QString SwapCarGroups(const QString& filter);
 
-// The pattern of paths for a selection, which is a folder and behind it a pattern of file names.
-// The folder stands for itself, whatever characters its name holds; without one any path is meant.
+// The pattern of paths for a selection, which is a folder and after it patterns of file names as a
+// file list takes them (FilePatterns.h). The folder stands for itself, whatever characters its name
+// holds; without one any path is meant.
 QString PatternOfSelection(const QString& selection);
 
 // The whole filter: the file-name pattern and the condition in both orders; empty for any picture.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
+#include "platform/files/FilePatterns.h"
 #include "story/FilterValues.h"
 #include "story/PictureFilter.h"
 #include "support/AlbumTest.h"
@@ -100,7 +101,9 @@ private slots:
              "([Car0]='s') AND ([Car6]='x') AND ([Car5]='y') AND ([Car10]='z')"},
             {{{"FileSelection", "*sea*"}}, "([File] LIKE '*sea*')"},
             {{{"FileSelection", "/a;b/*.jpg; *.png"}},
-             "([File] LIKE '/a;b/*.jpg' OR [File] LIKE '/a;b/*.png')"},
+             "([File] LIKE '/a;b/*.jpg; *.png' OR [File] LIKE '/a;b/*.jpg' OR "
+             "[File] LIKE '/a;b/*.png')"},
+            {{{"FileSelection", "/a/*[;#]*"}}, "([File] LIKE '/a/*[;#]*')"},
             {{{"FileSelection", "/it's/*"}, {"Car0", "a"}},
              "([File] LIKE '/it''s/*') AND (([Car0]='a'))"}};
         for (const auto& [fields, filter] : rows) {
@@ -109,6 +112,31 @@ private slots:
         }
         QCOMPARE(SwapCarGroups("[Car3]='a' [Car7]='[Carx' [Car10]='Car4'"),
                  "[Car6]='a' [Car4]='[Carx' [Car10]='Car4'");
+    }
+
+    // Of a folder whose name is no pattern, beside one that it would stand for if it were.
+    void SelectionFindsWhatTheFileListShows()
+    {
+        const QString folder = "/Jane's [2024] #1/";
+        const QStringList names{"a.jpg", "B.JPG",  "c;d.png", "#1.png",  "11.png",  "[x].png",
+                                "x.png", "no dot", "été.Gif", "ÉTÉ.GIF", "a]b.png", "d.png"};
+        for (const QString& name : names) {
+            album_->AddImageRow(folder + name);
+            album_->AddImageRow("/Jane's 2 11/" + name);
+        }
+        for (const char* typed :
+             {"*.*", "*", "*.jpg", "*.JPG; *.gif", "#*", "[x]*", "*]*", "c;d.png", "*;*", "?.png",
+              "été.*", "", ";", "a.jpg;*.*", "*dot", "'"}) {
+            QStringList shown;
+            for (const QString& name : names) {
+                if (FilePatterns(typed).Match(name))
+                    shown += folder + name;
+            }
+            MakeParagraph({{"FileSelection", PatternOfSelection(folder + typed)}});
+            PictureList pictures;
+            BuildPictureList(*ParagraphSet, pictures, 100, [](int) {});
+            QCOMPARE(pictures.GetFiles(), shown);
+        }
     }
 
     void ListsPictures()

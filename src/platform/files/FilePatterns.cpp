@@ -1,19 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/FilePatterns.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 namespace {
 
-QString WithoutListsAndDigits(const QString& pattern)
+// The character alone, or the list of both its letter cases.
+QString AsLikeCharacter(char32_t character)
 {
+    if (character == U'[' || character == U'#')
+        return QStringLiteral("[%1]").arg(QChar(character));
+    const char32_t lower = QChar::toLower(character);
+    const char32_t upper = QChar::toUpper(character);
+    if (lower == upper)
+        return QString::fromUcs4(&character, 1);
+    return QLatin1Char('[') + QString::fromUcs4(&lower, 1) + QString::fromUcs4(&upper, 1) +
+           QLatin1Char(']');
+}
+
+QString AsLikePattern(const QString& pattern)
+{
+    if (pattern.trimmed() == QLatin1String("*.*"))
+        return QStringLiteral("*");
     QString result;
-    for (const QChar character : pattern) {
-        const bool isSpecial = character == u'[' || character == u'#';
-        result += isSpecial ? QStringLiteral("[%1]").arg(character) : QString(character);
-    }
+    for (const char32_t character : pattern.toUcs4())
+        result += AsLikeCharacter(character);
     return result;
 }
 
@@ -21,22 +32,41 @@ QString WithoutListsAndDigits(const QString& pattern)
 
 FilePatterns::FilePatterns(const QString& patterns)
 {
-    for (const QString& part : patterns.split(u';')) {
-        const QString pattern = part.trimmed();
-        if (pattern == QLatin1String("*.*") || pattern == QLatin1String("*"))
-            matchesAll_ = true;
-        else if (!pattern.isEmpty())
-            patterns_.emplace_back(WithoutListsAndDigits(pattern).toStdString(),
-                                   LikePattern::Case::Insensitive);
-    }
+    for (const QString& pattern : SplitPatterns(AsLikePatterns(patterns)))
+        patterns_.emplace_back(pattern.toStdString(), LikePattern::Case::Sensitive);
 }
 
 bool FilePatterns::Match(const QString& name) const
 {
-    if (matchesAll_)
-        return true;
     const QByteArray utf8 = name.toUtf8();
     const std::string_view text(utf8.constData(), std::size_t(utf8.size()));
     return std::any_of(patterns_.begin(), patterns_.end(),
                        [text](const LikePattern& pattern) { return pattern.Matches(text); });
+}
+
+QString AsLikePatterns(const QString& patterns)
+{
+    QStringList parts = patterns.split(u';');
+    for (QString& part : parts)
+        part = AsLikePattern(part);
+    return parts.join(u';');
+}
+
+QStringList SplitPatterns(const QString& patterns)
+{
+    QStringList result{patterns};
+    QString part;
+    bool isInList = false;
+    for (const QChar character : patterns + QLatin1Char(';')) {
+        isInList = character == u'[' || (isInList && character != u']');
+        if (character != u';' || isInList) {
+            part += character;
+            continue;
+        }
+        part = part.trimmed();
+        if (!part.isEmpty() && part != patterns)
+            result += part;
+        part.clear();
+    }
+    return result;
 }

@@ -4,12 +4,13 @@
 #include "platform/text/LikePattern.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
 // Patterns of file names, as file lists take them: "*.jpg;*.gif". * stands for any run of
 // characters and ? for any one, in either letter case; everything else stands for itself. "*.*"
-// fits every name, also one without a point. Without any pattern no name fits.
+// fits every name, also one without a dot. Without any pattern no name fits.
 class FilePatterns
 {
 public:
@@ -19,5 +20,11 @@ public:
 
 private:
     std::vector<LikePattern> patterns_;
-    bool matchesAll_ = false;
 };
+
+// The same patterns as LIKE takes them, whether or not it regards letter case.
+QString AsLikePatterns(const QString& patterns);
+
+// What stands between the ";", and the whole text before it, because the name of a file may hold
+// ";" as well. A ";" in a list of characters does not divide.
+QStringList SplitPatterns(const QString& patterns);

@@ -50,7 +50,8 @@ private slots:
             {"a[1].jpg", "a1.jpg", false},
             {"a[1]*", "a[1].jpg", true}, // brackets are no list,
             {"#*", "1.jpg", false},
-            {"*.jpg;", "a.png", false}, // nor # a digit
+            {"*.jpg;", "a.png", false},   // nor # a digit
+            {"a;b.jpg", "A;B.jpg", true}, // a name may hold ";"
             {"", "a.jpg", false}};
         for (const auto& [patterns, name, fits] : rows)
             QVERIFY2(FilePatterns(patterns).Match(name) == fits, patterns);
