@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "story/PictureFilter.h"
 
-#include "catalogue/CharacteristicModel.h"
 #include "core/Album.h"
 #include "core/PathRoutines.h"
 #include "core/TextRoutines.h"
 #include "platform/files/FilePatterns.h"
 #include "platform/text/LikePattern.h"
+#include "story/FilterValues.h"
 
 #include <QSet>
 
@@ -27,7 +27,7 @@ public:
         bool negated = false;
         bool firstValue = true;
         for (QString token = NextToken(values); !token.isEmpty(); token = NextToken(values)) {
-            if (token == QLatin1String("!")) {
+            if (token == negation) {
                 Open(QStringLiteral("NOT("), QStringLiteral(") AND NOT("));
                 negated = true;
                 // The group just opened takes its first value without OR.
@@ -111,8 +111,10 @@ QString BuildCarFilter(RecordSet& paragraph)
 {
     CarFilterWriter writer;
     for (int column = 0; column < columnCount; ++column) {
-        const QString values = paragraph.TextOrEmpty(QStringLiteral("Car%1").arg(column));
-        if (values != QLatin1String("*"))
+        // Old albums may hold what the editor would not store; it is read as the editor shows it.
+        const QString values =
+            StorableFilter(paragraph.TextOrEmpty(QStringLiteral("Car%1").arg(column)));
+        if (values != anyValue)
             writer.AddColumn(column, values);
     }
     return writer.Finish();

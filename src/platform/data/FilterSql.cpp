@@ -5,8 +5,12 @@
 #include "platform/text/LikePattern.h"
 
 #include <algorithm>
+#include <span>
 
 namespace {
+
+constexpr std::size_t mostValues = 900;    // the oldest engine takes 999 parameters
+constexpr std::size_t fewestLookedUp = 24; // fewer are compared sooner than looked up
 
 bool IsAscii(const QString& text)
 {
@@ -34,21 +38,52 @@ public:
             result_.condition += ')';
             return;
         case FilterNode::Kind::And:
-            return TranslateJoined(node, " AND ");
+            return TranslateJoined(node.operands, " AND ");
         case FilterNode::Kind::Or:
-            return TranslateJoined(node, " OR ");
+            return TranslateOr(node);
         }
     }
 
 private:
-    void TranslateJoined(const FilterNode& node, const char* word)
+    void TranslateOr(const FilterNode& node)
     {
-        result_.condition += '(';
-        for (std::size_t i = 0; i < node.operands.size(); ++i) {
-            if (i > 0)
-                result_.condition += word;
-            Translate(node.operands[i]);
+        if (!TranslateAnyOf(node))
+            TranslateJoined(node.operands, " OR ");
+    }
+
+    // Many values for one field take one parameter, and a look-up per row instead of as many
+    // comparisons. False when it is no such condition.
+    bool TranslateAnyOf(const FilterNode& node)
+    {
+        if (node.operands.size() < fewestLookedUp)
+            return false;
+        const int field = table_.Find(node.operands.front().field);
+        QStringList values;
+        for (const FilterNode& operand : node.operands) {
+            const auto* value = std::get_if<QString>(&operand.value);
+            if (operand.kind != FilterNode::Kind::Equals || !value ||
+                table_.Find(operand.field) != field)
+                return false;
+            values += *value;
         }
+        if (field < 0 || table_.At(field).isNumber || !table_.At(field).ignoresCase)
+            return false;
+        result_.condition += QByteArray(anyOfFunction) + '(' + AddValue(JoinedForAnyOf(values)) +
+                             ',' + QuotedName(table_.At(field).name) + ')';
+        return true;
+    }
+
+    // By halves: one after the other, a long condition would be as deep for the engine as it is
+    // long.
+    void TranslateJoined(std::span<const FilterNode> operands, const char* word)
+    {
+        if (operands.size() == 1)
+            return Translate(operands.front());
+        const std::size_t half = operands.size() / 2;
+        result_.condition += '(';
+        TranslateJoined(operands.first(half), word);
+        result_.condition += word;
+        TranslateJoined(operands.subspan(half), word);
         result_.condition += ')';
     }
 
@@ -80,6 +115,8 @@ private:
 
     QByteArray AddValue(const FieldValue& value)
     {
+        if (result_.values.size() >= mostValues)
+            FailTooComplex(text_);
         result_.values.push_back(value);
         return '?' + QByteArray::number(qsizetype(result_.values.size()) + 1);
     }

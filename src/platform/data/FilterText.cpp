@@ -5,10 +5,10 @@
 
 namespace {
 
-// Both keep below the engine's own limits: its parser holds 100 symbols, of which a level takes up
-// to three; 999 bound values, expressions 1,000 deep.
-constexpr int deepestNesting = 25;
-constexpr int mostComparisons = 900;
+// The engine's parser holds 100 symbols, of which a level takes up to three, and conditions stand in
+// parentheses of the statement's own.
+constexpr int deepestNesting = 20;
+constexpr int mostComparisons = 200'000;
 
 class FilterParser
 {
@@ -37,7 +37,6 @@ private:
     bool TakeSymbol(QChar symbol);
     bool TakeWord(QLatin1String word);
     [[noreturn]] void Fail() const;
-    [[noreturn]] void FailTooComplex() const;
 
     QStringView whole_;
     QStringView rest_;
@@ -101,7 +100,7 @@ FilterNode FilterParser::ParseAnd()
 FilterNode FilterParser::ParseFactor()
 {
     if (++depth_ > deepestNesting)
-        FailTooComplex();
+        FailTooComplex(whole_);
     FilterNode node{FilterNode::Kind::Not, {}, {}, {}};
     if (TakeWord(QLatin1String("NOT"))) {
         node.operands.push_back(ParseFactor());
@@ -119,7 +118,7 @@ FilterNode FilterParser::ParseFactor()
 FilterNode FilterParser::ParseComparison()
 {
     if (++comparisons_ > mostComparisons)
-        FailTooComplex();
+        FailTooComplex(whole_);
     FilterNode node{FilterNode::Kind::Equals, ParseField(), {}, {}};
     if (TakeWord(QLatin1String("LIKE")))
         node.kind = FilterNode::Kind::Like;
@@ -187,16 +186,16 @@ void FilterParser::Fail() const
         DatabaseError::tr("Syntax error in filter '%1' at '%2'.").arg(whole_, rest_));
 }
 
-void FilterParser::FailTooComplex() const
-{
-    throw DatabaseError(DatabaseError::TooComplex,
-                        DatabaseError::tr("The filter is too long: '%1...'")
-                            .arg(whole_.first(std::min<qsizetype>(80, whole_.size()))));
-}
-
 } // namespace
 
 FilterNode ParseFilter(QStringView text)
 {
     return FilterParser(text).Parse();
+}
+
+void FailTooComplex(QStringView filter)
+{
+    throw DatabaseError(DatabaseError::TooComplex,
+                        DatabaseError::tr("The filter is too long: '%1...'")
+                            .arg(filter.first(std::min<qsizetype>(80, filter.size()))));
 }

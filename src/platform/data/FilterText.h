@@ -25,3 +25,6 @@ struct FilterNode
 // Throws DatabaseError BadFilter, with the text that failed, for anything else, an empty text too;
 // TooComplex when it is nested too deep or holds too many comparisons.
 FilterNode ParseFilter(QStringView text);
+
+// Throws TooComplex.
+[[noreturn]] void FailTooComplex(QStringView filter);

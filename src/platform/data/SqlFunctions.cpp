@@ -7,7 +7,11 @@
 
 #include <sqlcipher/sqlite3.h>
 
+#include <algorithm>
+#include <charconv>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -45,6 +49,61 @@ void EngineLike(sqlite3_context* context, int, sqlite3_value** arguments)
     sqlite3_result_int(context, pattern->Matches(TextOf(arguments[1])));
 }
 
+// The values of a list, sorted for looking up. Written as JoinedForAnyOf writes them.
+class ValueSet
+{
+public:
+    explicit ValueSet(std::string_view joined) : joined_(joined)
+    {
+        std::string_view rest = joined_;
+        for (std::size_t end = rest.find(':'); end != std::string_view::npos;
+             end = rest.find(':')) {
+            std::size_t size = 0;
+            std::from_chars(rest.data(), rest.data() + end, size);
+            values_.push_back(rest.substr(end + 1, size));
+            rest.remove_prefix(std::min(end + 1 + size, rest.size()));
+        }
+        std::sort(values_.begin(), values_.end(), IsBefore);
+    }
+    ValueSet(const ValueSet&) = delete;
+    ValueSet& operator=(const ValueSet&) = delete;
+
+    bool Holds(std::string_view text) const
+    {
+        return std::binary_search(values_.begin(), values_.end(), text, IsBefore);
+    }
+
+private:
+    static bool IsBefore(std::string_view first, std::string_view second)
+    {
+        return CompareFolded(first, second) < 0;
+    }
+
+    std::string joined_;
+    std::vector<std::string_view> values_; // in joined_
+};
+
+// What the engine keeps beside the statement's first argument, so that a scan makes it once; made
+// from that argument when there is none yet. None when memory is short.
+const ValueSet* KeptValues(sqlite3_context* context, sqlite3_value* argument)
+{
+    if (const void* kept = sqlite3_get_auxdata(context, 0))
+        return static_cast<const ValueSet*>(kept);
+    sqlite3_set_auxdata(context, 0, new ValueSet(TextOf(argument)),
+                        [](void* kept) { delete static_cast<ValueSet*>(kept); });
+    return static_cast<const ValueSet*>(sqlite3_get_auxdata(context, 0));
+}
+
+void EngineAnyOf(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    if (sqlite3_value_type(arguments[1]) == SQLITE_NULL)
+        return;
+    const auto* values = KeptValues(context, arguments[0]);
+    if (!values)
+        return sqlite3_result_error_nomem(context);
+    sqlite3_result_int(context, values->Holds(TextOf(arguments[1])));
+}
+
 int CompareFoldedTexts(void*, int firstSize, const void* first, int secondSize, const void* second)
 {
     return CompareFolded({static_cast<const char*>(first), std::size_t(firstSize)},
@@ -52,6 +111,16 @@ int CompareFoldedTexts(void*, int firstSize, const void* first, int secondSize, 
 }
 
 } // namespace
+
+// Each value with its length in bytes before it: "4:Anna3:Bob". No character could divide them, for
+// a value may hold any.
+QString JoinedForAnyOf(const QStringList& values)
+{
+    QString joined;
+    for (const QString& value : values)
+        joined += QString::number(value.toUtf8().size()) + QLatin1Char(':') + value;
+    return joined;
+}
 
 void RegisterSqlFunctions(sqlite3* engine)
 {
@@ -64,6 +133,7 @@ void RegisterSqlFunctions(sqlite3* engine)
     };
     add(likeFunction, EngineLike<LikePattern::Case::Insensitive>);
     add(pathLikeFunction, EngineLike<pathCase>);
+    add(anyOfFunction, EngineAnyOf);
     const int code = sqlite3_create_collation_v2(engine, foldedCollation, SQLITE_UTF8, nullptr,
                                                  CompareFoldedTexts, nullptr);
     if (code != SQLITE_OK)
