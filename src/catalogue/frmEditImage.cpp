@@ -2,7 +2,9 @@
 #include "catalogue/frmEditImage.h"
 #include "ui_frmEditImage.h"
 
+#include "catalogue/ColumnTitles.h"
 #include "catalogue/ValueCompletion.h"
+#include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "core/Parameters.h"
 #include "core/PictureFile.h"
@@ -83,6 +85,8 @@ void frmEditImage::ConnectControls()
             Guarded(this, &frmEditImage::cmdDelete_Click));
     connect(ui_->cmdEditTables, &QPushButton::clicked, this,
             Guarded(this, &frmEditImage::cmdEditTables_Click));
+    connect(ui_->cmdEditLabels, &QPushButton::clicked, this,
+            Guarded(this, &frmEditImage::cmdEditLabels_Click));
     connect(ui_->cmdExit, &QPushButton::clicked, this, &QDialog::close);
     for (int column = 0; column < columnCount; ++column) {
         QComboBox* combo = cboCategory_[std::size_t(column)];
@@ -127,16 +131,28 @@ QLabel* frmEditImage::LabelOf(const QString& name) const
 
 void frmEditImage::DisplayCaracteristicNames()
 {
+    DisplayLabels();
+    for (const int column : labelledColumns)
+        ValuesModel(column)->setStringList(ValuesOf(column));
+}
+
+void frmEditImage::DisplayLabels()
+{
     for (int group = 0; group < groupCount; ++group)
         LabelOf(QStringLiteral("lblCaract_%1").arg(group))->setText(CaractLabel(group));
-    for (const int column : labelledColumns) {
-        LabelOf(QStringLiteral("lblCar_%1").arg(column))->setText(ColumnLabel(column));
-        ValuesModel(column)->setStringList(ValuesOf(column));
+    for (const int column : labelledColumns)
+        LabelOf(QStringLiteral("lblCar_%1").arg(column))->setText(SharedTitle(column));
+    for (int column = 0; column < columnCount; ++column) {
+        const QString name = CaractLabel(GroupOf(column)) + QLatin1Char(' ') + ColumnTitle(column);
+        cboCategory_[std::size_t(column)]->setAccessibleName(name.trimmed());
     }
-    for (int column = 0; column < columnCount; ++column)
-        cboCategory_[std::size_t(column)]->setAccessibleName(CaractLabel(GroupOf(column)) +
-                                                             QLatin1Char(' ') +
-                                                             ColumnLabel(LabelledColumnOf(column)));
+    ui_->offer->setVisible(!HasColumnLabels());
+}
+
+void frmEditImage::cmdEditLabels_Click()
+{
+    frmEditLabels(this).exec();
+    DisplayLabels();
 }
 
 QStringListModel* frmEditImage::ValuesModel(int column) const

@@ -55,9 +55,11 @@ private:
     void cmdNextImage_Click();
     void cmdDelete_Click();
     void cmdEditTables_Click();
+    void cmdEditLabels_Click();
 
     void ConnectControls();
     void DisplayCaracteristicNames();
+    void DisplayLabels();
     void ShowPicture();
     void ShowRecord();
     void SavePicture();

@@ -2,6 +2,7 @@
 #include "story/FilterPanel.h"
 #include "ui_FilterPanel.h"
 
+#include "catalogue/ColumnTitles.h"
 #include "core/Parameters.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ClickLabel.h"
@@ -55,6 +56,7 @@ FilterPanel::FilterPanel(QWidget* parent)
     });
     connect(ui_->lstCar, &QListWidget::itemClicked, this,
             Guarded(this, &FilterPanel::lstCar_Click));
+    connect(ui_->cmdEditLabels, &QPushButton::clicked, this, &FilterPanel::LabelsWanted);
     ui_->grdCar->installEventFilter(this);
     ui_->lstCar->installEventFilter(this);
     CloseList();
@@ -120,8 +122,9 @@ void FilterPanel::ShowLabels()
         groups += GeneralModule::CaractLabel(group);
     QStringList labels;
     for (int column = 0; column < columnCount; ++column)
-        labels += GeneralModule::ColumnLabel(LabelledColumnOf(column));
+        labels += ColumnTitle(column);
     const std::vector<TextMarker> markers = ReadTextMarkers();
+    const bool hasLabels = HasColumnLabels();
     ui_->grdCar->setHorizontalHeaderLabels(groups);
     for (int column = 0; column < columnCount; ++column) {
         names_[std::size_t(column)] = markers[std::size_t(column) + 1].title;
@@ -129,6 +132,7 @@ void FilterPanel::ShowLabels()
         label->setText(labels[column]);
         label->setAccessibleName(names_[std::size_t(column)]);
     }
+    ui_->cmdEditLabels->setVisible(!hasLabels);
     CloseList();
 }
 

@@ -33,6 +33,7 @@ public:
 
 signals:
     void ValuesChanged();
+    void LabelsWanted(); // the user wants to name the characteristics
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

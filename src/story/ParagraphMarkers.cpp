@@ -2,6 +2,7 @@
 #include "story/ParagraphMarkers.h"
 
 #include "catalogue/CharacteristicModel.h"
+#include "catalogue/ColumnTitles.h"
 #include "core/Album.h"
 #include "core/Parameters.h"
 #include "core/TextRoutines.h"
@@ -40,10 +41,8 @@ bool CanNameMarker(const QString& label)
     return !label.contains(bad);
 }
 
-// A column without a label goes by its number.
-QString TitleOf(const QString& label, const QString& group, int column)
+QString TitleOf(const QString& name, const QString& group)
 {
-    const QString name = label.isEmpty() ? QStringLiteral("Caracteristic %1").arg(column) : label;
     return group.isEmpty() ? name : name + QStringLiteral(" (") + group + QLatin1Char(')');
 }
 
@@ -88,7 +87,7 @@ std::vector<TextMarker> ReadTextMarkers()
         const QString display = "<<" + label + " (" + group + ")>>";
         const bool isPlain = CanNameMarker(label) && CanNameMarker(group) &&
                              !IsTaken(markers, &TextMarker::display, display);
-        QString title = TitleOf(label, group, column);
+        QString title = TitleOf(ColumnTitle(column), group);
         if (IsTaken(markers, &TextMarker::title, title))
             title += QLatin1Char(' ') + stored;
         markers.push_back({stored, isPlain ? display : stored, title});

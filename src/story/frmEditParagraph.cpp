@@ -2,6 +2,7 @@
 #include "story/frmEditParagraph.h"
 #include "ui_frmEditParagraph.h"
 
+#include "catalogue/frmEditLabels.h"
 #include "core/Album.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
@@ -90,6 +91,8 @@ void frmEditParagraph::ConnectControls()
             Guarded(this, &frmEditParagraph::imgImage_MouseDown));
     connect(ui_->filterPanel, &FilterPanel::ValuesChanged, this,
             Guarded(this, &frmEditParagraph::filterPanel_Change));
+    connect(ui_->filterPanel, &FilterPanel::LabelsWanted, this,
+            Guarded(this, &frmEditParagraph::filterPanel_LabelsWanted));
     connect(ui_->lblText, &ClickLabel::Clicked, this,
             Guarded(this, &frmEditParagraph::lblText_Click));
     ui_->txtParagraphPreview->installEventFilter(this);
@@ -289,6 +292,14 @@ void frmEditParagraph::cmdOrganize_Click()
             place.chapter = ParagraphSet->Number(u"Chapter");
         return place;
     });
+}
+
+// Markers in the text are named anew, so what was typed is saved first.
+void frmEditParagraph::filterPanel_LabelsWanted()
+{
+    SaveParagraph();
+    frmEditLabels(this).exec();
+    FillFromAlbum();
 }
 
 void frmEditParagraph::cmdExit_Click()

@@ -77,6 +77,7 @@ private:
     void cmdNextImage_Click();
     void RefreshPictureList();
     void filterPanel_Change();
+    void filterPanel_LabelsWanted();
     void lblText_Click();
     void txtParagraphPreview_GotFocus();
     void ShowPicture(const QString& file);

@@ -144,6 +144,29 @@ private slots:
         QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "-; Anne");
     }
 
+    void NumbersColumnsUntilTheyHaveNames()
+    {
+        Open(1);
+        const auto caption = [this](const char* name) {
+            return Find<QLabel>(*window_, name).text();
+        };
+        const auto& offer = Find<QPushButton>(*window_, "cmdEditLabels");
+        QCOMPARE(caption("lblCar_0"), "Caracteristic 1");
+        QCOMPARE(caption("lblCar_11"), "Caracteristic 12");
+        QCOMPARE(caption("lblCar_3"), "Caracteristic 4 / 7"); // beside both boxes
+        QCOMPARE(Combo(6).accessibleName(), "Caracteristic 7");
+        TypeInto(0, "Anna");
+        WhenModal("frmEditLabels", [](QWidget& labels) {
+            Find<QLineEdit>(labels, "txtCar_3").setText("First name");
+            Click(labels, "cmdExit");
+        });
+        Click(*window_, "cmdEditLabels");
+        QCOMPARE(caption("lblCar_3"), "First name");
+        QCOMPARE(caption("lblCar_4"), "Caracteristic 5 / 8");
+        QCOMPARE(Combo(0).currentText(), "Anna");
+        QVERIFY(!offer.isVisible());
+    }
+
     void AsksBeforeItLosesAnything()
     {
         Open(1);

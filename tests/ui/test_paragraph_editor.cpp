@@ -277,6 +277,28 @@ private slots:
         QVERIFY(!writing.IsShown("imgImage"));
     }
 
+    void NumbersColumnsUntilTheyHaveNames()
+    {
+        Writing writing;
+        QVERIFY(!writing.IsShown("cmdEditLabels"));
+        GeneralModule::SetColumnLabel(4, {});
+        writing.Click("cmdNextParagraph");
+        QCOMPARE(Find<QLabel>(writing.editor, "lblCar_4").text(), "Caracteristic 5");
+        QCOMPARE(Find<QLabel>(writing.editor, "lblCar_7").text(), "Caracteristic 8");
+        writing.Click("cmdInsertCar");
+        const auto& inserts = Find<QListWidget>(writing.editor, "lstInsertCar");
+        QCOMPARE(inserts.item(12)->text(), "Caracteristic 12");
+        writing.TextBox().setPlainText("typed <<Where (People)>> <[4]>");
+        WhenModal("frmEditLabels", [](QWidget& labels) {
+            Find<QLineEdit>(labels, "txtCar_4").setText("Where");
+            Click(labels, "cmdExit");
+        });
+        writing.Click("cmdEditLabels");
+        QVERIFY(!writing.IsShown("cmdEditLabels"));
+        // What was typed is kept, and the marker has its name.
+        QCOMPARE(writing.Text(), "typed <<Where (People)>> <<Where (People)>>");
+    }
+
     // Labels may change while the picture is edited; what is stored does not.
     void IndexingThePictureOnShow()
     {
