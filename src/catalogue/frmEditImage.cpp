@@ -120,7 +120,7 @@ bool frmEditImage::eventFilter(QObject* watched, QEvent* event)
 void frmEditImage::Form_Load()
 {
     DisplayCaracteristicNames();
-    ShowPicture();
+    ShowPicture(CurrentImage);
     ui_->txtLegend->setFocus();
 }
 
@@ -129,24 +129,36 @@ QLabel* frmEditImage::LabelOf(const QString& name) const
     return findChild<QLabel*>(name);
 }
 
+// Here and below everything is read before a control is touched: what cannot be read leaves the
+// window as it was.
 void frmEditImage::DisplayCaracteristicNames()
 {
+    QHash<int, QStringList> values;
+    for (const int column : labelledColumns)
+        values.insert(column, ValuesOf(column));
     DisplayLabels();
     for (const int column : labelledColumns)
-        ValuesModel(column)->setStringList(ValuesOf(column));
+        ValuesModel(column)->setStringList(values.value(column));
 }
 
 void frmEditImage::DisplayLabels()
 {
+    QHash<QWidget*, QString> texts;
+    QHash<QWidget*, QString> names;
     for (int group = 0; group < groupCount; ++group)
-        LabelOf(QStringLiteral("lblCaract_%1").arg(group))->setText(CaractLabel(group));
+        texts.insert(LabelOf(QStringLiteral("lblCaract_%1").arg(group)), CaractLabel(group));
     for (const int column : labelledColumns)
-        LabelOf(QStringLiteral("lblCar_%1").arg(column))->setText(SharedTitle(column));
+        texts.insert(LabelOf(QStringLiteral("lblCar_%1").arg(column)), SharedTitle(column));
     for (int column = 0; column < columnCount; ++column) {
         const QString name = CaractLabel(GroupOf(column)) + QLatin1Char(' ') + ColumnTitle(column);
-        cboCategory_[std::size_t(column)]->setAccessibleName(name.trimmed());
+        names.insert(cboCategory_[std::size_t(column)], name.trimmed());
     }
-    ui_->offer->setVisible(!HasColumnLabels());
+    const bool hasLabels = HasColumnLabels();
+    for (auto text = texts.cbegin(); text != texts.cend(); ++text)
+        static_cast<QLabel*>(text.key())->setText(text.value());
+    for (auto name = names.cbegin(); name != names.cend(); ++name)
+        name.key()->setAccessibleName(name.value());
+    ui_->offer->setVisible(!hasLabels);
 }
 
 void frmEditImage::cmdEditLabels_Click()
@@ -160,12 +172,14 @@ QStringListModel* frmEditImage::ValuesModel(int column) const
     return static_cast<QStringListModel*>(cboCategory_[std::size_t(column)]->model());
 }
 
-void frmEditImage::ShowPicture()
+void frmEditImage::ShowPicture(const QString& file)
 {
-    ui_->stage->ShowPicture(CurrentImage, ResolvePictureFile(CurrentImage));
-    ui_->lblFileName->setText(CurrentImage);
+    const std::optional<PictureRecord> record = ReadPictureRecord(file);
+    const QString path = ResolvePictureFile(file);
+    CurrentImage = file;
+    ui_->stage->ShowPicture(file, path);
+    ui_->lblFileName->setText(file);
     ui_->cmdNextImage->setVisible(HasNextPicture && HasNextPicture());
-    const std::optional<PictureRecord> record = ReadPictureRecord(CurrentImage);
     isKnown_ = record.has_value();
     shown_ = record.value_or(PictureRecord());
     ShowRecord();
@@ -235,8 +249,7 @@ void frmEditImage::GoToNextPicture()
         close();
         return;
     }
-    CurrentImage = next;
-    ShowPicture();
+    ShowPicture(next);
     ui_->txtLegend->setFocus();
     ui_->txtLegend->selectAll();
 }

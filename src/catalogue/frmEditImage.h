@@ -60,7 +60,7 @@ private:
     void ConnectControls();
     void DisplayCaracteristicNames();
     void DisplayLabels();
-    void ShowPicture();
+    void ShowPicture(const QString& file);
     void ShowRecord();
     void SavePicture();
     void GoToNextPicture();

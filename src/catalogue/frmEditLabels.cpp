@@ -47,10 +47,16 @@ void frmEditLabels::Form_Load()
         txtCaract(group)->setText(CaractLabel(group));
     for (const int column : labelledColumns)
         txtCar(column)->setText(ColumnLabel(column));
+    isLoaded_ = true;
 }
 
 void frmEditLabels::cmdExit_Click()
 {
+    // Labels that could not be read must not be overwritten with nothing.
+    if (!isLoaded_) {
+        close();
+        return;
+    }
     WriteBatch batch(AlbumDatabase);
     for (int group = 0; group < groupCount; ++group)
         SetCaractLabel(group, txtCaract(group)->text());

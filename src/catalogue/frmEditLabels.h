@@ -28,4 +28,5 @@ private:
     QLineEdit* txtCar(int column) const;
 
     std::unique_ptr<Ui::frmEditLabels> ui_;
+    bool isLoaded_ = false;
 };

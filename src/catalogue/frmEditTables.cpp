@@ -16,6 +16,7 @@
 
 #include <QScopeGuard>
 
+#include <algorithm>
 #include <array>
 
 using namespace GeneralModule;
@@ -27,10 +28,22 @@ constexpr QSize proposedSize(820, 600);
 // First column of the tables that each optCaracteristic stands for; the twin groups are one choice.
 constexpr std::array firstColumns{0, 3, 9};
 
+constexpr int widestCaption = 200; // logical pixels
+
 // In a caption "&" would mark an access key.
-QString AsCaption(const QString& label, const QString& whenEmpty)
+void SetCaption(QRadioButton& option, const QString& label, const QString& whenEmpty)
 {
-    return label.isEmpty() ? whenEmpty : QString(label).replace(u'&', QStringLiteral("&&"));
+    const QString shown =
+        option.fontMetrics().elidedText(label, Qt::ElideRight, widestCaption, Qt::TextSingleLine);
+    option.setText(label.isEmpty() ? whenEmpty : QString(shown).replace(u'&', QStringLiteral("&&")));
+}
+
+// The number of the button that is chosen, -1 for none.
+int ChosenOf(const std::array<QRadioButton*, columnsPerGroup>& options)
+{
+    const auto chosen = std::find_if(options.begin(), options.end(),
+                                     [](const QRadioButton* option) { return option->isChecked(); });
+    return chosen == options.end() ? -1 : int(chosen - options.begin());
 }
 
 QString TwinGroupsLabel()
@@ -89,49 +102,65 @@ void frmEditTables::Form_Load(const QString& picture)
 
 void frmEditTables::optCaracteristic_Click()
 {
-    ShowCaptions();
-    LoadTable();
+    ShowTable(true);
 }
 
 void frmEditTables::optColumn_Click()
 {
-    LoadTable();
+    ShowTable(false);
+}
+
+std::array<QRadioButton*, columnsPerGroup> frmEditTables::Groups() const
+{
+    return {ui_->optCaracteristic_1, ui_->optCaracteristic_2, ui_->optCaracteristic_3};
+}
+
+std::array<QRadioButton*, columnsPerGroup> frmEditTables::Columns() const
+{
+    return {ui_->optColumn_1, ui_->optColumn_2, ui_->optColumn_3};
 }
 
 void frmEditTables::ShowCaptions()
 {
-    const std::array groups{ui_->optCaracteristic_1, ui_->optCaracteristic_2,
-                            ui_->optCaracteristic_3};
-    const std::array labels{CaractLabel(0), TwinGroupsLabel(), CaractLabel(3)};
-    const std::array columns{ui_->optColumn_1, ui_->optColumn_2, ui_->optColumn_3};
+    const int chosen = ChosenOf(Groups());
+    const std::array groups{CaractLabel(0), TwinGroupsLabel(), CaractLabel(3)};
+    std::array<QString, columnsPerGroup> columns;
+    for (int i = 0; chosen >= 0 && i < columnsPerGroup; ++i)
+        columns[std::size_t(i)] = ColumnLabel(firstColumns[std::size_t(chosen)] + i);
     for (int i = 0; i < columnsPerGroup; ++i) {
         const auto at = std::size_t(i);
-        groups[at]->setText(AsCaption(labels[at], tr("Caracteristic%1").arg(i + 1)));
-        if (!groups[at]->isChecked())
-            continue;
-        for (int j = 0; j < columnsPerGroup; ++j)
-            columns[std::size_t(j)]->setText(
-                AsCaption(ColumnLabel(firstColumns[at] + j), tr("Column %1").arg(j + 1)));
+        SetCaption(*Groups()[at], groups[at], tr("Caracteristic%1").arg(i + 1));
+        SetCaption(*Columns()[at], columns[at], tr("Column %1").arg(i + 1));
     }
 }
 
-void frmEditTables::LoadTable()
+// A table that cannot be read leaves the one on show, and its options chosen.
+void frmEditTables::ShowTable(bool isGroupNew)
 {
-    column_ = -1;
-    ui_->lblProgress->hide();
-    const std::array groups{ui_->optCaracteristic_1, ui_->optCaracteristic_2,
-                            ui_->optCaracteristic_3};
-    const std::array columns{ui_->optColumn_1, ui_->optColumn_2, ui_->optColumn_3};
-    for (std::size_t i = 0; i < groups.size(); ++i) {
-        for (std::size_t j = 0; j < columns.size(); ++j) {
-            if (groups[i]->isChecked() && columns[j]->isChecked())
-                column_ = firstColumns[i] + int(j);
+    auto stay = qScopeGuard([this] {
+        for (int i = 0; column_ >= 0 && i < columnsPerGroup * columnsPerGroup; ++i) {
+            const auto group = std::size_t(i / columnsPerGroup);
+            const auto column = std::size_t(i % columnsPerGroup);
+            if (firstColumns[group] + int(column) == column_) {
+                Groups()[group]->setChecked(true);
+                Columns()[column]->setChecked(true);
+            }
         }
-    }
-    if (column_ < 0)
+    });
+    const int group = ChosenOf(Groups());
+    const int column = ChosenOf(Columns());
+    const bool isChosen = group >= 0 && column >= 0;
+    const int chosen = isChosen ? firstColumns[std::size_t(group)] + column : -1;
+    const QStringList values = isChosen ? ValuesOf(chosen) : QStringList();
+    if (isGroupNew)
+        ShowCaptions();
+    stay.dismiss();
+    column_ = chosen;
+    ui_->lblProgress->hide();
+    if (!isChosen)
         return;
     ui_->lstCar->clear();
-    ui_->lstCar->addItems(ValuesOf(column_));
+    ui_->lstCar->addItems(values);
 }
 
 QString frmEditTables::SelectedValue() const

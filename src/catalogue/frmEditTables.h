@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "catalogue/CharacteristicModel.h"
+
 #include <QDialog>
 
+#include <array>
 #include <memory>
 
 class QListWidgetItem;
+class QRadioButton;
 
 namespace Ui {
 class frmEditTables;
@@ -32,8 +36,10 @@ private:
     void cmdEditLabels_Click();
 
     void ConnectControls();
+    std::array<QRadioButton*, columnsPerGroup> Groups() const;
+    std::array<QRadioButton*, columnsPerGroup> Columns() const;
     void ShowCaptions();
-    void LoadTable();
+    void ShowTable(bool isGroupNew);
     void RunReplacement(const QString& old, const QString& replacement);
     void TellChanged(const QString& text);
     QString SelectedValue() const;

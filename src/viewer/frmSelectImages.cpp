@@ -7,6 +7,7 @@
 #include "core/ViewerFlags.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
+#include "platform/shell/ProgramFolder.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
@@ -15,11 +16,14 @@ namespace {
 
 constexpr QSize proposedSize(820, 560);
 
-// The folder of the selection, which may have gone since it was made.
+// The folder of the selection, which may have gone since it was made. The program's own, which a new
+// album begins with, holds no pictures.
 QString FolderToBeginWith(const QString& selection)
 {
     const QString folder = GeneralModule::FolderOf(selection);
-    return !folder.isEmpty() && QDir(folder).exists() ? folder : UsersPictureFolder();
+    const bool isUseful =
+        !folder.isEmpty() && QDir(folder).exists() && QDir(folder) != QDir(ProgramFolder());
+    return isUseful ? folder : UsersPictureFolder();
 }
 
 } // namespace
@@ -46,8 +50,8 @@ frmSelectImages::~frmSelectImages() = default;
 
 void frmSelectImages::showEvent(QShowEvent* event)
 {
-    if (!event->spontaneous())
-        RunGuarded([this] { Form_Load(); });
+    if (!event->spontaneous() && !RunGuarded([this] { Form_Load(); }))
+        ui_->dirPicturesToSelect->SetPath(UsersPictureFolder());
     QDialog::showEvent(event);
 }
 

@@ -226,6 +226,34 @@ private slots:
         QCOMPARE(album_->Joined("SELECT Name FROM Car0"), "-");
     }
 
+    // Wherever the engine fails on the way to the next picture, none gets the values of another.
+    void WhatCannotBeReadIsNotSaved()
+    {
+        album_->AddPicture("a.png", {{"Legend", "A"}, {"Car4", "Anna"}});
+        album_->AddPicture("b.png", {{"Legend", "B"}, {"Car4", "Bob"}});
+        album_->Execute("INSERT INTO Car4 VALUES ('Anna'),('Bob')");
+        const auto rows = [this] { return album_->Rows("SELECT * FROM Image"); };
+        const QStringList before = rows();
+        dialogs_.reset();
+        const PatientDialogs patient;
+        bool hasFailed = true;
+        int trials = 0;
+        for (int steps = 0; hasFailed; steps += 5, ++trials) {
+            Open({album_->PathOf("a.png"), album_->PathOf("b.png")});
+            {
+                const FailingEngine failing(steps);
+                Click(*window_, "cmdNextImage");
+                hasFailed = failing.HasFailed();
+            }
+            const bool isFirst = window_->CurrentImage.endsWith("a.png");
+            QCOMPARE(Find<QLineEdit>(*window_, "txtLegend").text(), isFirst ? "A" : "B");
+            QCOMPARE(Combo(4).currentText(), isFirst ? "Anna" : "Bob");
+            window_->close();
+            QCOMPARE(rows(), before);
+        }
+        QVERIFY(trials > 5);
+    }
+
 private:
     // Opens the window on the first file; the others are the selection behind it.
     void Open(const QStringList& files)

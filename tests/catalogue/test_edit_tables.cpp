@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/CharacteristicModel.h"
 #include "catalogue/ValueReplacement.h"
+#include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "core/Album.h"
+#include "core/Parameters.h"
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"
 
-using GeneralModule::AlbumDatabase;
+using namespace GeneralModule;
 
 // The rules of values, and the value tables and labels worked by their windows.
 class TestEditTables : public AlbumTest
@@ -144,6 +146,33 @@ private slots:
         AlbumDatabase->Execute("PRAGMA max_page_count=100000");
         Replace("A", "B");
         QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='B'"), "20000");
+    }
+
+    // A read that fails leaves what is on show, and nothing empty is written.
+    void WhatCannotBeReadStaysAsItIs()
+    {
+        SetColumnLabel(0, "Season");
+        Open();
+        dialogs_.reset();
+        const PatientDialogs patient;
+        const QString before = Values();
+        for (int steps = 0; steps < 60; steps += 3) {
+            {
+                const FailingEngine failing(steps);
+                Click("optColumn_2");
+                if (!failing.HasFailed())
+                    break;
+            }
+            QVERIFY(Find<QRadioButton>(*window_, "optColumn_1").isChecked());
+            QCOMPARE(Values(), before);
+        }
+        std::optional<FailingEngine> failing(20);
+        frmEditLabels labels;
+        QVERIFY(failing->HasFailed());
+        failing.reset();
+        labels.show();
+        ::Click(labels, "cmdExit");
+        QCOMPARE(ColumnLabel(0), "Season");
     }
 
     void EditsLabels()

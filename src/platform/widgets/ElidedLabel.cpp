@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/widgets/PathLabel.h"
+#include "platform/widgets/ElidedLabel.h"
 
 #include "platform/widgets/LiteralText.h"
 
@@ -7,13 +7,19 @@
 #include <QPainter>
 #include <QToolTip>
 
-PathLabel::PathLabel(QWidget* parent) : QLabel(parent)
+ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
-bool PathLabel::event(QEvent* event)
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(QStringLiteral("mmm")),
+            QLabel::minimumSizeHint().height()};
+}
+
+bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
@@ -21,7 +27,7 @@ bool PathLabel::event(QEvent* event)
     return true;
 }
 
-void PathLabel::paintEvent(QPaintEvent*)
+void ElidedLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
