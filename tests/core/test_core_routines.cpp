@@ -209,11 +209,15 @@ private slots:
             WriteFile(first.GetPath(), "first");
             WriteFile(second.GetPath(), "second");
             second.Commit(FileReplacement::Taken::Refuse);
-            QCOMPARE(ReadFile(place), "old");
-            WriteFile(place + "-journal", "of the old file");
             QVERIFY_THROWS_EXCEPTION(std::system_error,
                                      first.Commit(FileReplacement::Taken::Refuse));
+            QCOMPARE(ReadFile(place), "old");
+            // A failure leaves the old file its journal.
+            WriteFile(place + "-journal", "of the old file");
+            QVERIFY(QFile::rename(place, place + "2") && QDir().mkdir(place));
+            QVERIFY_THROWS_EXCEPTION(std::system_error, first.Commit());
             QCOMPARE(ReadFile(place + "-journal"), "of the old file");
+            QVERIFY(QDir().rmdir(place) && QFile::rename(place + "2", place));
             first.Commit();
         }
         QCOMPARE(ReadFile(place), "first");
