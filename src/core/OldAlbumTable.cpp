@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "core/OldAlbumTable.h"
 
-#include "platform/data/SchemaCheck.h"
+#include "core/OwnFields.h"
 
 #include <algorithm>
-#include <functional>
 #include <limits>
 
 namespace {
@@ -14,31 +13,9 @@ constexpr std::size_t mostSetAside = 1000; // rows; only damage makes any
 // could leave no identifiers for new rows.
 constexpr qint64 mostNumbersUnused = 10'000'000;
 
-constexpr char ownFieldType[] = " TEXT COLLATE NOCASE";
-constexpr std::size_t mostFields = 900; // a statement takes 999 values
-
 bool IsValueTable(const QString& table)
 {
     return table.startsWith(QLatin1String("Car"));
-}
-
-// The name under which the engine does it: as it is or, where that is taken or kept for the engine,
-// with an underscore before it. Null when it takes neither.
-QString FirstTaken(const QString& name, const std::function<void(const QByteArray&)>& action)
-{
-    for (const QString& candidate : {name, u'_' + name}) {
-        if (candidate.compare(u"rowid", Qt::CaseInsensitive) == 0)
-            continue; // would hide what record sets find their rows by
-        try {
-            action(QuotedName(candidate.toUtf8()));
-            return candidate;
-        } catch (const DatabaseError& error) {
-            const int number = error.GetNumber();
-            if (number != DatabaseError::Damaged && number != DatabaseError::TooComplex)
-                throw;
-        }
-    }
-    return {};
 }
 
 bool HasText(const OldValue& value)
@@ -87,13 +64,7 @@ void OldAlbumTable::BeginTable(const QStringList& fields, qint64 lastNumber)
 // False where the engine takes neither its name nor the other one.
 bool OldAlbumTable::MakeTable(const QString& firstField)
 {
-    Statement count(database_->GetEngine(), "SELECT count(*) FROM sqlite_master");
-    const bool hasRoom = count.Step() && count.GetInteger(0) < mostSchemaObjects;
-    count.Reset();
-    const QString name = !hasRoom ? QString() : FirstTaken(table_, [&](const QByteArray& quoted) {
-        database_->Execute("CREATE TABLE " + quoted + " (" + QuotedName(firstField.toUtf8()) +
-                           ownFieldType + ')');
-    });
+    const QString name = MakeOwnTable(*database_, table_, firstField);
     if (name.isNull()) {
         report_.AddProblem(OldAlbumReport::tr("Table %1 cannot be taken over.").arg(table_));
         return false;
@@ -120,10 +91,7 @@ void OldAlbumTable::MatchFields(const QStringList& fields)
 
 void OldAlbumTable::AddField(const QString& field, int source)
 {
-    const bool hasRoom = sources_.size() < mostFields;
-    const QString name = !hasRoom ? QString() : FirstTaken(field, [&](const QByteArray& quoted) {
-        database_->Execute("ALTER TABLE " + QuotedTable() + " ADD COLUMN " + quoted + ownFieldType);
-    });
+    const QString name = AddOwnField(*database_, QString::fromUtf8(layout_->GetTable()), field);
     if (name.isNull()) {
         report_.AddProblem(
             OldAlbumReport::tr("Table %1: the field %2 cannot be taken over.").arg(table_, field));
