@@ -30,16 +30,20 @@
         <translation>Impossible de créer l&apos;album « %1 » : %2</translation>
     </message>
     <message>
-        <source>The album cannot be copied to &apos;%1&apos;.</source>
-        <translation>Impossible de copier l&apos;album dans « %1 ».</translation>
-    </message>
-    <message>
-        <source>The album&apos;s file could not be replaced.</source>
-        <translation>Impossible de remplacer le fichier de l&apos;album.</translation>
-    </message>
-    <message>
         <source>The album is being written anew...</source>
         <translation>L&apos;album est en cours de réécriture...</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Mot de passe incorrect</translation>
+    </message>
+    <message>
+        <source>No album is open.</source>
+        <translation>Aucun album n&apos;est ouvert.</translation>
+    </message>
+    <message>
+        <source>The album&apos;s file could not be replaced: %1</source>
+        <translation>Impossible de remplacer le fichier de l&apos;album : %1</translation>
     </message>
 </context>
 <context>
@@ -57,18 +61,24 @@
         <translation>Les deux mots de passe sont différents</translation>
     </message>
     <message>
-        <source>This album has a password. Do you want to remove it ?
-Choose No to change it.</source>
-        <translation>Cet album a un mot de passe. Voulez-vous le supprimer ?
-Choisissez Non pour le changer.</translation>
-    </message>
-    <message>
         <source>The album has no password any more.</source>
         <translation>L&apos;album n&apos;a plus de mot de passe.</translation>
     </message>
     <message>
         <source>The album has its new password. Without it nobody can open the album, so keep it well.</source>
         <translation>L&apos;album a son nouveau mot de passe. Sans lui, personne ne peut ouvrir l&apos;album : gardez-le bien.</translation>
+    </message>
+    <message>
+        <source>This album has a password. Do you want to remove it, or to change it ?</source>
+        <translation>Cet album a un mot de passe. Voulez-vous le supprimer ou le changer ?</translation>
+    </message>
+    <message>
+        <source>Remove Password</source>
+        <translation>Supprimer le mot de passe</translation>
+    </message>
+    <message>
+        <source>Change Password</source>
+        <translation>Changer le mot de passe</translation>
     </message>
 </context>
 <context>
@@ -80,6 +90,17 @@ Choisissez Non pour le changer.</translation>
     <message>
         <source>Autoview Mode</source>
         <translation>Défilement automatique</translation>
+    </message>
+</context>
+<context>
+    <name>ColumnTitles</name>
+    <message>
+        <source>Caracteristic %1</source>
+        <translation>Caractéristique %1</translation>
+    </message>
+    <message>
+        <source>Caracteristic %1 / %2</source>
+        <translation>Caractéristique %1 / %2</translation>
     </message>
 </context>
 <context>
@@ -295,6 +316,14 @@ Choisissez Non pour le changer.</translation>
         <source>The part of the program that reads former albums cannot be started: %1: %2</source>
         <translation>La partie du programme qui lit les anciens albums ne démarre pas : %1 : %2</translation>
     </message>
+    <message>
+        <source>The album cannot be copied to &apos;%1&apos;: %2</source>
+        <translation>Impossible de copier l&apos;album vers « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The album&apos;s file was moved, renamed or replaced while it was open. Please open the album again.</source>
+        <translation>Le fichier de l&apos;album a été déplacé, renommé ou remplacé pendant qu&apos;il était ouvert. Veuillez rouvrir l&apos;album.</translation>
+    </message>
 </context>
 <context>
     <name>FilterPanel</name>
@@ -325,6 +354,14 @@ Choisissez Non pour le changer.</translation>
     <message>
         <source>Click a caracteristic to filter pictures</source>
         <translation>Cliquez une caractéristique pour filtrer les photos</translation>
+    </message>
+    <message>
+        <source>Edit the filter labels</source>
+        <translation>Modifier les libellés du filtre</translation>
+    </message>
+    <message>
+        <source>Name the Caracteristics</source>
+        <translation>Nommer les caractéristiques</translation>
     </message>
 </context>
 <context>
@@ -473,10 +510,6 @@ Appuyez sur F1 pour l&apos;aide</translation>
         <translation>La liste des tables est endommagée ; il peut en manquer.</translation>
     </message>
     <message>
-        <source>Table %1 is no part of an album and was left out.</source>
-        <translation>La table %1 n&apos;appartient pas à un album et a été laissée de côté.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is a database of the former kind, but holds no album.</source>
         <translation>« %1 » est une base de données de l&apos;ancien genre, mais ne contient pas d&apos;album.</translation>
     </message>
@@ -491,18 +524,6 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source>&apos;%1&apos; exists already.</source>
         <translation>« %1 » existe déjà.</translation>
-    </message>
-    <message>
-        <source>The album &apos;%1&apos; cannot be written to the disk.</source>
-        <translation>L&apos;album « %1 » ne peut pas être écrit sur le disque.</translation>
-    </message>
-    <message>
-        <source>The new album cannot take the name &apos;%1&apos;.</source>
-        <translation>Le nouvel album ne peut pas prendre le nom « %1 ».</translation>
-    </message>
-    <message>
-        <source>The folder &apos;%1&apos; cannot be written to: %2</source>
-        <translation>Impossible d&apos;écrire dans le dossier « %1 » : %2</translation>
     </message>
     <message>
         <source>%1, %2 and %3 came over.</source>
@@ -553,10 +574,6 @@ Appuyez sur F1 pour l&apos;aide</translation>
         <translation>Des photos se trouvent à des emplacements d&apos;un autre système, qui ont été gardés tels quels. « Retrouver les photos déplacées » les rattache à leur emplacement actuel. Les dossiers :</translation>
     </message>
     <message>
-        <source>Table %1: the new album has no place for the field %2.</source>
-        <translation>Table %1 : le nouvel album n&apos;a pas de place pour le champ %2.</translation>
-    </message>
-    <message>
         <source>Table %1: the field %2 is missing.</source>
         <translation>Table %1 : le champ %2 manque.</translation>
     </message>
@@ -596,6 +613,30 @@ Appuyez sur F1 pour l&apos;aide</translation>
         <source>The new album is being made...</source>
         <translation>Le nouvel album est en cours de création...</translation>
     </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Mot de passe incorrect</translation>
+    </message>
+    <message>
+        <source>Table %1 cannot be taken over.</source>
+        <translation>La table %1 ne peut pas être reprise.</translation>
+    </message>
+    <message>
+        <source>Table %1 came over as %2.</source>
+        <translation>La table %1 a été reprise sous le nom %2.</translation>
+    </message>
+    <message>
+        <source>Table %1: the field %2 cannot be taken over.</source>
+        <translation>Table %1 : le champ %2 ne peut pas être repris.</translation>
+    </message>
+    <message>
+        <source>Table %1: the field %2 came over as %3.</source>
+        <translation>Table %1 : le champ %2 a été repris sous le nom %3.</translation>
+    </message>
+    <message>
+        <source>Table %1, field %2: values that cannot be read to their end: %3.</source>
+        <translation>Table %1, champ %2 : valeurs impossibles à lire jusqu&apos;au bout : %3.</translation>
+    </message>
 </context>
 <context>
     <name>PageDisplay</name>
@@ -606,6 +647,14 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source> images left</source>
         <translation> photos restantes</translation>
+    </message>
+    <message>
+        <source>The picture files are missing.</source>
+        <translation>Les fichiers des photos sont introuvables.</translation>
+    </message>
+    <message>
+        <source>No picture fits.</source>
+        <translation>Aucune photo ne convient.</translation>
     </message>
 </context>
 <context>
@@ -649,6 +698,13 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source>The album to open; the last one when not given.</source>
         <translation>L&apos;album à ouvrir ; le dernier quand il n&apos;est pas indiqué.</translation>
+    </message>
+</context>
+<context>
+    <name>QtDialogs</name>
+    <message>
+        <source>&apos;%1&apos; exists already. Do you want to replace it ?</source>
+        <translation>« %1 » existe déjà. Voulez-vous le remplacer ?</translation>
     </message>
 </context>
 <context>
@@ -841,6 +897,18 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source>The picture could not be saved. Leave without saving ?</source>
         <translation>La photo n&apos;a pas pu être enregistrée. Quitter sans enregistrer ?</translation>
+    </message>
+    <message>
+        <source>The caracteristics of this album have no names yet.</source>
+        <translation>Les caractéristiques de cet album n&apos;ont pas encore de nom.</translation>
+    </message>
+    <message>
+        <source>Edit the filter labels</source>
+        <translation>Modifier les libellés du filtre</translation>
+    </message>
+    <message>
+        <source>Name the Caracteristics</source>
+        <translation>Nommer les caractéristiques</translation>
     </message>
 </context>
 <context>
@@ -1171,6 +1239,10 @@ Quitter sans enregistrer ?</translation>
         <source>%1 pictures and paragraphs changed</source>
         <translation>%1 photos et paragraphes modifiés</translation>
     </message>
+    <message>
+        <source>Pictures changed: %1, paragraphs changed: %2</source>
+        <translation>Photos modifiées : %1, paragraphes modifiés : %2</translation>
+    </message>
 </context>
 <context>
     <name>frmFullScreen</name>
@@ -1472,6 +1544,18 @@ Quitter sans enregistrer ?</translation>
         <source>%1 file(s) left out: no pictures</source>
         <translation>%1 fichier(s) laissé(s) de côté : pas des photos</translation>
     </message>
+    <message>
+        <source>My Album.alb</source>
+        <translation>Mon album.alb</translation>
+    </message>
+    <message>
+        <source>My Album %1.alb</source>
+        <translation>Mon album %1.alb</translation>
+    </message>
+    <message>
+        <source>This chapter is no longer in the album.</source>
+        <translation>Ce chapitre n&apos;est plus dans l&apos;album.</translation>
+    </message>
 </context>
 <context>
     <name>frmOrganizeParagraphs</name>
@@ -1584,7 +1668,7 @@ Quitter sans enregistrer ?</translation>
     </message>
     <message>
         <source>Next Pictures</source>
-        <translation>Photos suivantes</translation>
+        <translation>Suivantes</translation>
     </message>
     <message>
         <source>Click to view less (but bigger) images on one screen</source>
@@ -1608,7 +1692,7 @@ Quitter sans enregistrer ?</translation>
     </message>
     <message>
         <source>Start Autoview</source>
-        <translation>Démarrer le défilement</translation>
+        <translation>Défilement</translation>
     </message>
     <message>
         <source>Click to edit paragraph text and to filter pictures</source>
@@ -1616,11 +1700,11 @@ Quitter sans enregistrer ?</translation>
     </message>
     <message>
         <source>Edit Paragraph</source>
-        <translation>Modifier le paragraphe</translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Refresh Selection</source>
-        <translation>Actualiser la sélection</translation>
+        <translation>Actualiser</translation>
     </message>
     <message>
         <source>Click to hide the buttons (ESC=Exit)</source>
@@ -1644,7 +1728,7 @@ Quitter sans enregistrer ?</translation>
     </message>
     <message>
         <source>Stop Autoview</source>
-        <translation>Arrêter le défilement</translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Click to stop autoview</source>
@@ -1716,6 +1800,13 @@ Quitter sans enregistrer ?</translation>
     <message>
         <source>Please choose the new folder first: double click on it.</source>
         <translation>Veuillez d&apos;abord choisir le nouveau dossier : double-cliquez dessus.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already in the album</source>
+        <translation>
+            <numerusform>%n déjà dans l&apos;album</numerusform>
+            <numerusform>%n déjà dans l&apos;album</numerusform>
+        </translation>
     </message>
 </context>
 <context>

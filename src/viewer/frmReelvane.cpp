@@ -107,9 +107,11 @@ bool frmReelvane::IsInFront() const
 void frmReelvane::setVisible(bool visible)
 {
     const bool hasStory = CurrentChapter != 0;
+    // One of the two is of use, and a small screen has room for one.
     ui_->cmdRefresh->setVisible(!hasStory);
+    ui_->cmdEditParagraph->setVisible(hasStory);
     for (QPushButton* button : {ui_->cmdPreviousChapter, ui_->cmdPreviousParagraph,
-                                ui_->cmdNextParagraph, ui_->cmdNextChapter, ui_->cmdEditParagraph})
+                                ui_->cmdNextParagraph, ui_->cmdNextChapter})
         button->setEnabled(hasStory);
     if (visible && !isVisible())
         (hasStory ? ui_->cmdNextParagraph : ui_->cmdNextImages)->setFocus();

@@ -34,13 +34,19 @@ std::vector<Message> ReadMessages(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return messages;
     QXmlStreamReader xml(&file);
+    bool isCounted = false;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
+        if (xml.name() == QLatin1String("message"))
+            isCounted = xml.attributes().hasAttribute("numerus"); // has a form for each number
         if (xml.name() == QLatin1String("source")) {
             messages.push_back({xml.readElementText()});
         } else if (xml.name() == QLatin1String("translation")) {
             messages.back().isUnfinished = xml.attributes().hasAttribute("type");
+            if (!isCounted)
+                messages.back().translation = xml.readElementText();
+        } else if (xml.name() == QLatin1String("numerusform")) {
             messages.back().translation = xml.readElementText();
         }
     }

@@ -156,7 +156,7 @@ private slots:
         dialogs_.reset();
         const PatientDialogs patient;
         const QString before = Values();
-        for (int steps = 0; steps < 60; steps += 3) {
+        for (int steps = 0; steps < 60; ++steps) {
             {
                 const FailingEngine failing(steps);
                 Click("optColumn_2");
@@ -166,7 +166,7 @@ private slots:
             QVERIFY(Find<QRadioButton>(*window_, "optColumn_1").isChecked());
             QCOMPARE(Values(), before);
         }
-        std::optional<FailingEngine> failing(20);
+        std::optional<FailingEngine> failing(3);
         frmEditLabels labels;
         QVERIFY(failing->HasFailed());
         failing.reset();

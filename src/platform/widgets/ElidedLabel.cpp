@@ -7,16 +7,26 @@
 #include <QPainter>
 #include <QToolTip>
 
+namespace {
+
+constexpr int widestHint = 160; // logical pixels that a short text gets whole
+
+} // namespace
+
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
+QSize ElidedLabel::sizeHint() const
+{
+    return QLabel::sizeHint().boundedTo({widestHint, QWIDGETSIZE_MAX});
+}
+
 QSize ElidedLabel::minimumSizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(QStringLiteral("mmm")),
-            QLabel::minimumSizeHint().height()};
+    return QLabel::minimumSizeHint().boundedTo({widestHint, QWIDGETSIZE_MAX});
 }
 
 bool ElidedLabel::event(QEvent* event)

@@ -30,9 +30,10 @@ public:
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        // Not before: icons and the album's own labels are there only now. Without this the
-        // smallest size that the form gives would let a longer language's buttons be cut off.
-        if (event->type() == QEvent::Show)
+        // Not before: icons are there only now, and the album's own labels may come and change
+        // later. Without this the smallest size that the form gives would let a longer language's
+        // captions be cut off.
+        if (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest)
             window_->setMinimumSize(window_->minimumSize().expandedTo(window_->minimumSizeHint()));
         const bool full = window_->isMaximized() || window_->isFullScreen();
         if (event->type() == QEvent::Hide && !full) {
