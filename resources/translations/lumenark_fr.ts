@@ -69,8 +69,8 @@
         <translation>L&apos;album a son nouveau mot de passe. Sans lui, personne ne peut ouvrir l&apos;album : gardez-le bien.</translation>
     </message>
     <message>
-        <source>This album has a password. Do you want to remove it, or to change it ?</source>
-        <translation>Cet album a un mot de passe. Voulez-vous le supprimer ou le changer ?</translation>
+        <source>This album has a password. Do you want to remove it or to change it?</source>
+        <translation>Cet album a un mot de passe. Voulez-vous le supprimer ou le changer ?</translation>
     </message>
     <message>
         <source>Remove Password</source>
@@ -703,8 +703,8 @@ Appuyez sur F1 pour l&apos;aide</translation>
 <context>
     <name>QtDialogs</name>
     <message>
-        <source>&apos;%1&apos; exists already. Do you want to replace it ?</source>
-        <translation>« %1 » existe déjà. Voulez-vous le remplacer ?</translation>
+        <source>&apos;%1&apos; exists already. Do you want to replace it?</source>
+        <translation>« %1 » existe déjà. Voulez-vous le remplacer ?</translation>
     </message>
 </context>
 <context>

@@ -35,14 +35,16 @@ void SetCaption(QRadioButton& option, const QString& label, const QString& whenE
 {
     const QString shown =
         option.fontMetrics().elidedText(label, Qt::ElideRight, widestCaption, Qt::TextSingleLine);
-    option.setText(label.isEmpty() ? whenEmpty : QString(shown).replace(u'&', QStringLiteral("&&")));
+    option.setText(label.isEmpty() ? whenEmpty
+                                   : QString(shown).replace(u'&', QStringLiteral("&&")));
 }
 
 // The number of the button that is chosen, -1 for none.
 int ChosenOf(const std::array<QRadioButton*, columnsPerGroup>& options)
 {
-    const auto chosen = std::find_if(options.begin(), options.end(),
-                                     [](const QRadioButton* option) { return option->isChecked(); });
+    const auto chosen =
+        std::find_if(options.begin(), options.end(),
+                     [](const QRadioButton* option) { return option->isChecked(); });
     return chosen == options.end() ? -1 : int(chosen - options.begin());
 }
 

@@ -166,8 +166,8 @@ Album& OpenedAlbum()
     return *opened;
 }
 
-// Released first: while boxes are up nothing may be changed in the wrong album, and an album that is
-// made of an old one may take the place of the one that was open.
+// Released first: while boxes are up nothing may be changed in the wrong album, and an album that
+// is made of an old one may take the place of the one that was open.
 bool OpenAlbum(const QString& path, const QString& password)
 {
     ReleaseAlbum();

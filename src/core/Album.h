@@ -9,8 +9,8 @@
 
 namespace GeneralModule {
 
-// The album that is open: its database, and the record sets over its tables. Each set has one current
-// row that all windows share, so a routine positions a set before it reads or writes.
+// The album that is open: its database, and the record sets over its tables. Each set has one
+// current row that all windows share, so a routine positions a set before it reads or writes.
 struct Album
 {
     // Opens all of it or throws DatabaseError.

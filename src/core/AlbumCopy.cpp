@@ -13,7 +13,8 @@ namespace {
 QString FreeName(const QFileInfo& album, const QString& note)
 {
     for (int number = 1;; ++number) {
-        const QString mark = number == 1 ? note : QStringLiteral("%1 %2").arg(note, QString::number(number));
+        const QString mark =
+            number == 1 ? note : QStringLiteral("%1 %2").arg(note, QString::number(number));
         const QString name =
             QStringLiteral("%1 (%2).%3").arg(album.completeBaseName(), mark, album.suffix());
         if (!album.dir().exists(name))

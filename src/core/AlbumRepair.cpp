@@ -199,8 +199,8 @@ private:
 
 namespace GeneralModule {
 
-// Tried first and taken back, because a sound album needs no copy, and a copy cannot be made any more
-// once changes are on their way.
+// Tried first and taken back, because a sound album needs no copy, and a copy cannot be made any
+// more once changes are on their way.
 RepairReport RepairAlbum()
 {
     {

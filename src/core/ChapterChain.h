@@ -31,9 +31,9 @@ qint32 CreateChapter(const QString& name, const QString& after);
 // DuplicateKey for a name that another chapter has.
 bool RenameChapter(qint32 chapter, const QString& newName);
 
-// The chapter before it in reading order, 0 for the first one: the one that leads here, which is not
-// always the one that its own PreviousChapter names. Of a chapter that the reading order does not
-// reach the one that it names itself.
+// The chapter before it in reading order, 0 for the first one: the one that leads here, which is
+// not always the one that its own PreviousChapter names. Of a chapter that the reading order does
+// not reach the one that it names itself.
 qint32 ChapterLeadingTo(qint32 chapter);
 
 enum class ChapterDeletion { Deleted, HasParagraphs, NotFound };

@@ -41,9 +41,9 @@ void AddParagraph(ParagraphPlace& place);
 // such chapter.
 void CreateFirstParagraph(ParagraphPlace& place);
 
-// Saves and goes to a new paragraph after this one, and returns what it holds. It inherits the filter that this one had in
-// the album before the save, on purpose. Its neighbours link to it once it is saved itself, not
-// before: every way out of the editor saves.
+// Saves and goes to a new paragraph after this one, and returns what it holds. It inherits the
+// filter that this one had in the album before the save, on purpose. Its neighbours link to it once
+// it is saved itself, not before: every way out of the editor saves.
 ParagraphContent CreateNextParagraph(ParagraphPlace& place, const ParagraphContent& content);
 
 // Saves, deletes, and goes to the next paragraph, else to the previous one, else to none. Links to

@@ -54,7 +54,7 @@ private:
     StoryPage* const& page_;
     PictureList list_;
     std::exception_ptr failure_; // that is not yet reported
-    bool hasFound_ = false; // pictures, whether their files are there or not
+    bool hasFound_ = false;      // pictures, whether their files are there or not
     std::vector<ShownPicture> displayed_;
     QString text_; // before its markers are filled
 };

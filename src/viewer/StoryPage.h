@@ -49,8 +49,8 @@ public:
     QString GetLegend() const;
     void SetLegendAlignment(Qt::Alignment alignment);
 
-    // What a box says when the mouse rests on it; but nothing covers a picture on a whole screen, or
-    // while autoview runs.
+    // What a box says when the mouse rests on it; but nothing covers a picture on a whole screen,
+    // or while autoview runs.
     void SetPictureToolTip(const QString& text);
 
 signals:

@@ -16,7 +16,7 @@ enum class ViewerCommand {
     ZoomOut,
     ZoomIn,
     SwitchAutoview,
-    FullScreen, // there and back
+    FullScreen,  // there and back
     PressButton, // that has the focus
     Close,
 };

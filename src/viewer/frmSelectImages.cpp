@@ -16,8 +16,8 @@ namespace {
 
 constexpr QSize proposedSize(820, 560);
 
-// The folder of the selection, which may have gone since it was made. The program's own, which a new
-// album begins with, holds no pictures.
+// The folder of the selection, which may have gone since it was made. The program's own, which a
+// new album begins with, holds no pictures.
 QString FolderToBeginWith(const QString& selection)
 {
     const QString folder = GeneralModule::FolderOf(selection);

@@ -11,8 +11,8 @@
 
 #include <functional>
 
-// A fresh world for one test, as on a first start: a folder that goes with it, settings of its own, a
-// fixed random seed, and no album. Everything is released at the end.
+// A fresh world for one test, as on a first start: a folder that goes with it, settings of its own,
+// a fixed random seed, and no album. Everything is released at the end.
 class World
 {
 public:
@@ -58,8 +58,8 @@ private:
     QString album_;
 };
 
-// While one lives, the engine of the open album fails after that many of its own steps and from then
-// on, as when another program locks the album or a network drive goes away.
+// While one lives, the engine of the open album fails after that many of its own steps and from
+// then on, as when another program locks the album or a network drive goes away.
 class FailingEngine
 {
 public:

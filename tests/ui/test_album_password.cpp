@@ -130,7 +130,7 @@ private slots:
         QVERIFY(AlbumHasPassword());
         for (const auto answer : {Answer::Cancel, Answer::Yes}) {
             dialogs_->ExpectBox(
-                "This album has a password. Do you want to remove it, or to change it ?",
+                "This album has a password. Do you want to remove it or to change it?",
                 Icon::Question, Buttons::YesNoCancel, answer);
             if (answer == Answer::Yes)
                 dialogs_->ExpectBox("The album has no password any more.");

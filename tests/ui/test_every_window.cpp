@@ -30,10 +30,11 @@ using namespace GeneralModule;
 
 namespace {
 
-constexpr std::array everyWindow{
-    "frmOpenChapter", "frmReelvane",       "frmFullScreen",   "frmEditParagraph", "frmOrganizeParagraphs",
-    "frmEditImage",   "frmEditTables",     "frmEditLabels",   "frmLoadFiles",     "frmReloadPictures",
-    "frmSelectImages", "frmAbout",         "frmRepairAlbum"};
+constexpr std::array everyWindow{"frmOpenChapter",    "frmReelvane",           "frmFullScreen",
+                                 "frmEditParagraph",  "frmOrganizeParagraphs", "frmEditImage",
+                                 "frmEditTables",     "frmEditLabels",         "frmLoadFiles",
+                                 "frmReloadPictures", "frmSelectImages",       "frmAbout",
+                                 "frmRepairAlbum"};
 
 // Parts of a control, such as the list of a combo box, are named by the control.
 bool IsPartOfControl(const QWidget& widget)
@@ -178,10 +179,10 @@ void Prod(QWidget& window)
         action();
         QCoreApplication::processEvents();
     };
-    for (const int key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
-                          Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Plus,
-                          Qt::Key_Minus, Qt::Key_Delete, Qt::Key_E, Qt::Key_N, Qt::Key_T,
-                          Qt::Key_F11, Qt::Key_Escape})
+    for (const int key :
+         {Qt::Key_Return, Qt::Key_Space, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down,
+          Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Delete, Qt::Key_E,
+          Qt::Key_N, Qt::Key_T, Qt::Key_F11, Qt::Key_Escape})
         act([&] {
             QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key(key));
         });

@@ -282,8 +282,8 @@ private slots:
         OpenViewer browsing;
         browsing.AddPictures(1, {2000, 1000});
         browsing.Open(0);
-        for (const char* name : {"cmdPreviousChapter", "cmdPreviousParagraph", "cmdNextParagraph",
-                                 "cmdNextChapter"})
+        for (const char* name :
+             {"cmdPreviousChapter", "cmdPreviousParagraph", "cmdNextParagraph", "cmdNextChapter"})
             QVERIFY(!Find<QPushButton>(browsing.viewer, name).isEnabled());
         QTest::mouseClick(browsing.Boxes().first(), Qt::LeftButton);
         QCOMPARE(browsing.Legend(), "p00.png"); // for want of a legend

@@ -31,10 +31,10 @@ QString WithoutControls(QString text, bool keepsLines)
 // apart by a guess.
 QString AsToolTip(const QString& text)
 {
-    return text.isEmpty() ? text
-                          : Qt::convertFromPlainText(
-                                WithoutControls(Cut(text, longestToolTip), true),
-                                Qt::WhiteSpaceNormal);
+    return text.isEmpty()
+               ? text
+               : Qt::convertFromPlainText(WithoutControls(Cut(text, longestToolTip), true),
+                                          Qt::WhiteSpaceNormal);
 }
 
 QString AsWindowTitle(const QString& text)

@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr int inputWidth = 420;       // logical pixels; a chapter's name or a path's end is seen whole
-constexpr int widestPrompt = 700;     // logical pixels; a longer one goes on in the next line
+constexpr int inputWidth = 420;   // logical pixels; a chapter's name or a path's end is seen whole
+constexpr int widestPrompt = 700; // logical pixels; a longer one goes on in the next line
 constexpr qsizetype longestText = 3000; // characters; no screen holds more of a message
 
 QString Cut(const QString& text)
@@ -198,8 +198,8 @@ QString QtDialogs::AskSaveFile(const FileChoice& choice)
         const QString path = WithExtension(chosen, choice.filter);
         // The dialog has asked about the name that was typed, which is not this one.
         if (path == chosen || !QFileInfo::exists(path) ||
-            Ask({QCoreApplication::translate(
-                     "QtDialogs", "'%1' exists already. Do you want to replace it ?")
+            Ask({QCoreApplication::translate("QtDialogs",
+                                             "'%1' exists already. Do you want to replace it?")
                      .arg(path),
                  Icon::Warning, Buttons::YesNo, Answer::No}) == Answer::Yes)
             return path;

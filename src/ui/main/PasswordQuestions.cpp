@@ -42,8 +42,8 @@ void AskForNewPassword()
     Answer answer = Answer::No;
     if (AlbumHasPassword())
         answer = Dialogs::Door().Ask(
-            {.text = PasswordTexts::tr("This album has a password. Do you want to remove it, or "
-                                       "to change it ?"),
+            {.text = PasswordTexts::tr("This album has a password. Do you want to remove it or "
+                                       "to change it?"),
              .icon = Dialogs::Icon::Question,
              .buttons = Dialogs::Buttons::YesNoCancel,
              .defaultAnswer = Answer::Cancel,

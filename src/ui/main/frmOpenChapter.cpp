@@ -194,8 +194,8 @@ void frmOpenChapter::FillChapterList(const QString& selected)
 void frmOpenChapter::RefreshState()
 {
     const MainWindowState state =
-        DescribeMainWindow({AlbumOpen(), AlbumOpen() && !ImageSet->IsEmpty(), ui_->lstChapter->count(),
-                            ui_->lstChapter->currentRow()});
+        DescribeMainWindow({AlbumOpen(), AlbumOpen() && !ImageSet->IsEmpty(),
+                            ui_->lstChapter->count(), ui_->lstChapter->currentRow()});
     setWindowTitle(state.caption);
     ui_->lblWarning->setText(state.warning);
     ui_->lblWarning->setVisible(!state.warning.isEmpty());
@@ -254,8 +254,8 @@ void frmOpenChapter::FillRecentAlbums()
 
 void frmOpenChapter::mnuOpenScript_Click()
 {
-    const QString path = Dialogs::Door().AskOpenFile(
-        {tr("Open Album"), tr("Album|*.alb"), FolderToBeginWith()});
+    const QString path =
+        Dialogs::Door().AskOpenFile({tr("Open Album"), tr("Album|*.alb"), FolderToBeginWith()});
     if (path.isEmpty())
         return RefreshState();
     OpenChosen(path);

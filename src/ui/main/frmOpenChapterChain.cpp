@@ -77,7 +77,8 @@ void frmOpenChapter::cmdCreateChapter_Click()
 void frmOpenChapter::mnuRename_Click()
 {
     const QString name = SelectedChapter();
-    // Found before the box comes up: another program may give the name to another chapter meanwhile.
+    // Found before the box comes up: another program may give the name to another chapter
+    // meanwhile.
     const std::optional<qint32> chapter = name.isEmpty() ? std::nullopt : FindChapter(name);
     if (!chapter)
         return;

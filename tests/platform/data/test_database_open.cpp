@@ -44,8 +44,8 @@ namespace {
 // Goes through everything that the windows read; errors are what is expected of a damaged file.
 void ReadAll()
 {
-    for (RecordSet* set : {&*ParamsSet, &*ParagraphSet, &*ImageSet, &*ChapterSet,
-                           &*LinkedImagesSet}) {
+    for (RecordSet* set :
+         {&*ParamsSet, &*ParagraphSet, &*ImageSet, &*ChapterSet, &*LinkedImagesSet}) {
         ErrorOf([set] {
             const RecordSet::Walk walk(*set);
             for (set->MoveFirst(); !set->AtEnd(); set->MoveNext()) {
