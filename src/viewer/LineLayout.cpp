@@ -80,6 +80,7 @@ std::optional<UnitRect> LineLayout::PlaceAlone(UnitSize natural)
 void CentreLines(std::vector<UnitRect>& pictures, float totalWidth)
 {
     std::vector<float> shifts;
+    shifts.reserve(pictures.size());
     for (const UnitRect& picture : pictures)
         shifts.push_back(ShiftToMiddle(pictures, picture, totalWidth));
     for (std::size_t i = 0; i < pictures.size(); ++i)

@@ -82,6 +82,7 @@ QRect PlaceOfSinglePicture(const QString& path, const ScreenShape& shape)
 std::vector<QImage> DecodePictures(const std::vector<ShownPicture>& pictures, qreal pixelRatio)
 {
     std::vector<PictureRequest> requests;
+    requests.reserve(pictures.size());
     for (const ShownPicture& picture : pictures)
         requests.push_back({picture.path, (QSizeF(picture.place.size()) * pixelRatio).toSize()});
     return ReadPictures(requests);

@@ -30,7 +30,7 @@ void FillRecentMenu(QMenu& menu, const std::function<void(const QString& path)>&
     menu.clear();
     const QStringList albums = RecentAlbums();
     for (int place = 0; place < albums.size(); ++place) {
-        const QString path = albums[place];
+        const QString& path = albums[place];
         QAction* entry = menu.addAction(CaptionOf(path, place, menu.fontMetrics()));
         entry->setObjectName(QStringLiteral("mnuRecent_%1").arg(place));
         // Later: opening fills this menu anew, and with it goes the entry that was chosen.
