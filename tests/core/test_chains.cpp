@@ -260,8 +260,8 @@ private slots:
         const QStringList files{"story.alb"};
         bool hasFailed = true;
         int trials = 0;
-        for (int steps = 0; hasFailed; steps += 7, ++trials) {
-            const FailingEngine failing(steps);
+        for (int steps = 0; hasFailed; ++steps, ++trials) {
+            const FailingEngine failing(steps, steps % 2 == 0);
             const int error = ErrorOf([] { RepairAlbum(); });
             hasFailed = failing.HasFailed();
             QCOMPARE(error != 0, hasFailed);

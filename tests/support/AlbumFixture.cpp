@@ -124,10 +124,14 @@ void AlbumFixture::Execute(const QString& sql) const
     Rows(sql);
 }
 
-FailingEngine::FailingEngine(int steps) : steps_(steps)
+FailingEngine::FailingEngine(int steps, bool isOnce) : steps_(steps), isOnce_(isOnce)
 {
-    const auto count = [](void* left) { return int(--*static_cast<int*>(left) < 0); };
-    sqlite3_progress_handler(AlbumDatabase->GetEngine(), 1, count, &steps_);
+    const auto count = [](void* self) {
+        auto* failing = static_cast<FailingEngine*>(self);
+        --failing->steps_;
+        return int(failing->isOnce_ ? failing->steps_ == -1 : failing->steps_ < 0);
+    };
+    sqlite3_progress_handler(AlbumDatabase->GetEngine(), 1, count, this);
 }
 
 FailingEngine::~FailingEngine()

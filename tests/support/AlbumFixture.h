@@ -58,12 +58,12 @@ private:
     QString album_;
 };
 
-// While one lives, the engine of the open album fails after that many of its own steps and from
-// then on, as when another program locks the album or a network drive goes away.
+// While one lives, the engine of the open album fails after that many of its own steps, once or
+// from then on, as when another program locks the album or a network drive goes away.
 class FailingEngine
 {
 public:
-    explicit FailingEngine(int steps);
+    explicit FailingEngine(int steps, bool isOnce = false);
     ~FailingEngine();
     FailingEngine(const FailingEngine&) = delete;
     FailingEngine& operator=(const FailingEngine&) = delete;
@@ -72,6 +72,7 @@ public:
 
 private:
     int steps_;
+    bool isOnce_;
 };
 
 // The number of the error that an action ends with, and what it says; 0 when there is none.
