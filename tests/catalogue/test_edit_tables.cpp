@@ -160,7 +160,7 @@ private slots:
         for (int steps = 0;; ++steps) {
             {
                 const FailingEngine failing(steps);
-                Click("optColumn_2");
+                Find<QRadioButton>(*window_, "optColumn_2").click();
                 if (!failing.HasFailed()) {
                     QVERIFY(steps > 1);
                     break;
