@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 #include "core/AlbumRepair.h"
-#include "core/ChainMending.h"
 #include "core/ChapterChain.h"
 #include "support/AlbumTest.h"
 #include "support/Rows.h"
@@ -11,43 +10,6 @@
 using namespace GeneralModule;
 
 namespace {
-
-// The story as its links tell it, "One:123 Two:45"; "broken" where a chapter or a paragraph is not
-// where the links on both its sides say, or is not reached.
-QString StoryOf(const AlbumFixture& album)
-{
-    QMap<QString, QStringList> chapters;
-    QMap<QString, QStringList> paragraphs;
-    QStringList story;
-    QString next = "0";
-    for (const QString& row : album.Rows("SELECT Id,PreviousChapter,NextChapter,FirstParagraph,"
-                                         "Name FROM Chapter")) {
-        const QStringList chapter = row.split(u'|');
-        chapters[chapter[0]] = chapter;
-        if (chapter[1] == "0")
-            next = chapter[0];
-    }
-    for (const QString& row : album.Rows("SELECT Id,PreviousParagraph,NextParagraph,Chapter,Text "
-                                         "FROM Paragraph"))
-        paragraphs[row.section(u'|', 0, 0)] = row.split(u'|');
-    for (QString last = "0"; next != "0";) {
-        const QStringList chapter = chapters.take(next);
-        if (chapter.isEmpty() || chapter[1] != last)
-            return "broken";
-        last = std::exchange(next, chapter[2]);
-        QString text = chapter[4] + ':';
-        QString previous = "0";
-        for (QString id = chapter[3]; id != "0";) {
-            const QStringList paragraph = paragraphs.take(id);
-            if (paragraph.isEmpty() || paragraph[1] != previous || paragraph[3] != last)
-                return "broken";
-            previous = std::exchange(id, paragraph[2]);
-            text += paragraph[4];
-        }
-        story += text;
-    }
-    return chapters.isEmpty() && paragraphs.isEmpty() ? story.join(u' ') : "broken";
-}
 
 // Two chapters with three and two paragraphs, texts "1" to "5".
 void WriteStory(AlbumFixture& album)
@@ -137,19 +99,6 @@ private slots:
         }
     }
 
-    void DeletesOnlyEmptyChapters()
-    {
-        AddFour();
-        album_->AddParagraph(2, "text");
-        QCOMPARE(DeleteChapter("B"), ChapterDeletion::HasParagraphs);
-        QCOMPARE(DeleteChapter("C"), ChapterDeletion::Deleted);
-        QCOMPARE(Links(), QStringList({"1|0|2", "2|1|4", "4|2|0"}));
-        QCOMPARE(DeleteChapter("A"), ChapterDeletion::Deleted);
-        QCOMPARE(DeleteChapter("D"), ChapterDeletion::Deleted);
-        QCOMPARE(Links(), QStringList("2|0|0"));
-        QCOMPARE(DeleteChapter("D"), ChapterDeletion::NotFound);
-    }
-
     void FindsTheNameMeant()
     {
         // What signs of a pattern could be taken for stands first in the table.
@@ -184,30 +133,6 @@ private slots:
         }
     }
 
-    void MendsChains()
-    {
-        using Chain = std::vector<ChainLink>;
-        const std::pair<Chain, QString> chains[] = {
-            {{}, ""},
-            {{{1, 0, 2}, {2, 1, 3}, {3, 2, 0}}, " 1 2 3"},
-            {{{1, 0, 2}, {2, 1, 0}, {3, 1, 2}}, " 1 3 2"}, // put in but not linked back
-            {{{1, 0, 2}, {2, 1, 0}, {3, 9, 2}}, " 1 3 2"}, // a piece that leads into the chain
-            {{{1, 0, 2}, {2, 1, 0}, {3, 0, 4}, {4, 3, 0}}, " 1 2 3 4"}, // two heads
-            {{{1, 3, 2}, {2, 1, 3}, {3, 2, 1}}, " 1 2 3"},              // ring
-            {{{1, 0, 0}, {2, 3, 3}, {3, 2, 2}}, " 1 2 3"},              // chain and ring
-            {{{1, 0, 1}, {2, 2, 2}}, " 1 2"}};                          // self link
-        for (const auto& [rows, expected] : chains) {
-            QString order;
-            qint32 previous = 0;
-            for (const ChainLink& link : MendChain(rows)) {
-                QCOMPARE(link.previous, previous);
-                previous = link.id;
-                order += ' ' + QString::number(link.id);
-            }
-            QCOMPARE(order, expected);
-        }
-    }
-
     void MendsWhatIsBroken_data()
     {
         const QString whole = "One:123 Two:45";
@@ -218,6 +143,19 @@ private slots:
              {"dangling next", "UPDATE Paragraph SET NextParagraph=99 WHERE Id=1", whole},
              {"dangling previous", "UPDATE Paragraph SET PreviousParagraph=99 WHERE Id=2", whole},
              {"cycle", "UPDATE Paragraph SET NextParagraph=1 WHERE Id=3", whole},
+             {"ring",
+              "UPDATE Paragraph SET PreviousParagraph=2 WHERE Id=1; UPDATE Paragraph SET "
+              "NextParagraph=1 WHERE Id=2",
+              whole},
+             {"two heads",
+              "UPDATE Paragraph SET NextParagraph=0 WHERE Id=1; UPDATE Paragraph SET "
+              "PreviousParagraph=0 WHERE Id=2",
+              whole},
+             {"put in but not linked back",
+              "UPDATE Paragraph SET NextParagraph=3 WHERE Id=1; UPDATE Paragraph SET "
+              "NextParagraph=0 "
+              "WHERE Id=2; UPDATE Paragraph SET NextParagraph=2, PreviousParagraph=1 WHERE Id=3",
+              "One:132 Two:45"},
              {"into the next chapter", "UPDATE Paragraph SET NextParagraph=4 WHERE Id=3", whole},
              {"wrong first", "UPDATE Chapter SET FirstParagraph=5 WHERE Id=1", whole},
              {"no first paragraph", "UPDATE Chapter SET FirstParagraph=0", whole},
@@ -239,10 +177,10 @@ private slots:
         QVERIFY(nothing.IsEmpty() && nothing.copy.isEmpty());
         QCOMPARE(Everything(*album_), sound);
         album_->Execute(damage);
-        QCOMPARE(StoryOf(*album_), "broken");
+        QCOMPARE(album_->Story(), "broken");
         const QStringList before = album_->Rows("SELECT Id,Text FROM Paragraph");
         const RepairReport report = RepairAlbum();
-        QTEST(StoryOf(*album_), "story");
+        QTEST(album_->Story(), "story");
         QCOMPARE(album_->Rows("SELECT Id,Text FROM Paragraph"), before);
         QVERIFY(!report.IsEmpty());
         QCOMPARE(report.copy, album_->PathOf("story (before repair).alb"));
@@ -271,7 +209,7 @@ private slots:
             QCOMPARE(QDir(album_->PathOf("")).entryList({"*.alb"}, QDir::Files), files);
         }
         QVERIFY(trials > 10);
-        QCOMPARE(StoryOf(*album_), "One:123 Two:45");
+        QCOMPARE(album_->Story(), "One:123 Two:45");
     }
 
     // Albums of random links: whatever they say, the result is whole and nothing is lost.
@@ -300,7 +238,7 @@ private slots:
             album.Execute(sql + "COMMIT");
             const QStringList texts = album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id");
             RepairAlbum();
-            QVERIFY2(StoryOf(album) != "broken", qPrintable(QString::number(round)));
+            QVERIFY2(album.Story() != "broken", qPrintable(QString::number(round)));
             QCOMPARE(album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id"), texts);
         }
     }

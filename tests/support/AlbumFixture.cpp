@@ -124,6 +124,41 @@ void AlbumFixture::Execute(const QString& sql) const
     Rows(sql);
 }
 
+QString AlbumFixture::Story() const
+{
+    QMap<QString, QStringList> chapters;
+    QMap<QString, QStringList> paragraphs;
+    QStringList story;
+    QString next = "0";
+    for (const QString& row : Rows("SELECT Id,PreviousChapter,NextChapter,FirstParagraph,"
+                                   "Name FROM Chapter")) {
+        const QStringList chapter = row.split(u'|');
+        chapters[chapter[0]] = chapter;
+        if (chapter[1] == "0")
+            next = chapter[0];
+    }
+    for (const QString& row : Rows("SELECT Id,PreviousParagraph,NextParagraph,Chapter,Text "
+                                   "FROM Paragraph"))
+        paragraphs[row.section(u'|', 0, 0)] = row.split(u'|');
+    for (QString last = "0"; next != "0";) {
+        const QStringList chapter = chapters.take(next);
+        if (chapter.isEmpty() || chapter[1] != last)
+            return "broken";
+        last = std::exchange(next, chapter[2]);
+        QString text = chapter[4] + ':';
+        QString previous = "0";
+        for (QString id = chapter[3]; id != "0";) {
+            const QStringList paragraph = paragraphs.take(id);
+            if (paragraph.isEmpty() || paragraph[1] != previous || paragraph[3] != last)
+                return "broken";
+            previous = std::exchange(id, paragraph[2]);
+            text += paragraph[4];
+        }
+        story += text;
+    }
+    return chapters.isEmpty() && paragraphs.isEmpty() ? story.join(u' ') : "broken";
+}
+
 FailingEngine::FailingEngine(int steps, bool isOnce) : steps_(steps), isOnce_(isOnce)
 {
     const auto count = [](void* self) {

@@ -53,6 +53,9 @@ public:
     QStringList Rows(const QString& sql) const;
     QString Joined(const QString& sql) const { return Rows(sql).join(QString("; ")); }
     void Execute(const QString& sql) const;
+    // The story as its links tell it, "One:123 Two:45", each paragraph by its text; "broken" where
+    // a chapter or a paragraph is not where the links on both its sides say, or is not reached.
+    QString Story() const;
 
 private:
     QString album_;
