@@ -2,7 +2,6 @@
 #include "core/Album.h"
 #include "core/OldAlbumConversion.h"
 #include "core/Settings.h"
-#include "fuzz/OldAlbumTrial.h"
 #include "support/AlbumTest.h"
 #include "support/OldAlbums.h"
 #include "support/Rows.h"
@@ -273,23 +272,6 @@ private slots:
                                                            .password = password,
                                                            .check = breakOff}));
             QCOMPARE(Listing(), before);
-        }
-    }
-
-    void SurvivesDamagedCopies()
-    {
-        constexpr int count = 40; // old_album_fuzz tries thousands
-        const QTemporaryDir folder;
-        std::mt19937 random(7);
-        for (const char* album : {"small_jet3", "small_jet4"}) {
-            const QByteArray sound = OldAlbumBytes(album);
-            int reported = 0;
-            for (int i = 0; i < count; ++i) {
-                const TrialResult result = TryConversion(DamagedCopy(sound, random), folder.path());
-                QCOMPARE(result.fault, QString());
-                reported += !result.isWhole;
-            }
-            QVERIFY(reported > count / 10);
         }
     }
 

@@ -14,7 +14,10 @@ private slots:
     void GoesThroughRowsAndFindsThem()
     {
         AddFour();
-        QCOMPARE(Files(), QStringList({"/c", "/a", "/b", "/d"}));
+        QStringList files;
+        for (ImageSet->MoveFirst(); !ImageSet->AtEnd(); ImageSet->MoveNext())
+            files += ImageSet->Text(u"File");
+        QCOMPARE(files, QStringList({"/c", "/a", "/b", "/d"}));
         QCOMPARE(ImageSet->RecordCount(), 4);
         QVERIFY(ImageSet->AtEnd());
         QVERIFY_THROWS_EXCEPTION(DatabaseError, ImageSet->MoveNext());
@@ -250,15 +253,6 @@ private:
     {
         for (const char* file : {"/c", "/a", "/b", "/d"})
             album_->AddImageRow(file, {{"Car0", "x"}, {"Legend", QString("on ") + file}});
-    }
-
-    QStringList Files()
-    {
-        QStringList files;
-        const RecordSet::Walk walk(*ImageSet);
-        for (ImageSet->MoveFirst(); !ImageSet->AtEnd(); ImageSet->MoveNext())
-            files += ImageSet->Text(u"File");
-        return files;
     }
 
     static void AddParam(int number)

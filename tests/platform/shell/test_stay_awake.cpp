@@ -46,6 +46,8 @@ private slots:
                 });
         QVERIFY(QDBusConnection::connectToPeer(server_->address(), line_).isConnected());
         QTRY_VERIFY(atDesktop_);
+        QVERIFY(atDesktop_->registerObject("/org/freedesktop/ScreenSaver", &desktop_,
+                                           QDBusConnection::ExportAllSlots));
     }
 
     void cleanup()
@@ -57,7 +59,6 @@ private slots:
 
     void AsksAndLetsGo()
     {
-        OfferDesktop();
         StayAwake nowhere("there is no such line"); // does nothing
         nowhere.Set(true);
         nowhere.Set(false);
@@ -78,7 +79,6 @@ private slots:
 
     void ChangesOfMindOvertakeTheAnswer()
     {
-        OfferDesktop();
         StayAwake awake(line_);
         awake.Set(true);
         awake.Set(false);
@@ -91,12 +91,6 @@ private slots:
     }
 
 private:
-    void OfferDesktop()
-    {
-        QVERIFY(atDesktop_->registerObject("/org/freedesktop/ScreenSaver", &desktop_,
-                                           QDBusConnection::ExportAllSlots));
-    }
-
     const QString line_ = "line";
     Desktop desktop_;
     std::unique_ptr<QDBusServer> server_;

@@ -10,33 +10,25 @@ class TestLikePattern : public QObject
     Q_OBJECT
 
 private slots:
+    // pattern_fuzz compares many more with a plain matcher.
     void Matches()
     {
         const std::tuple<const char*, const char*, bool> rows[] = {
             {"*.JPG", "/a/Sea.jpg", true}, // letter case does not count,
             {"*É*", "/a/été.jpg", true},   // nor for accented letters,
             {"*e*", "/a/ÉTÉ", false},      // but accents do
-            {"", "a", false},
-            {"a*b", "ab", true},
             {"/a*.*", "/a/b/c.jpg", true},
-            {"/a/*.*", "/a/readme", false},
-            {"aba*aba", "ababa", false}, // head and tail must not overlap
-            {"*sea*boat*", "boat at sea", false},
+            {"aba*aba", "ababa", false},     // head and tail must not overlap
             {"*ab*abc", "ab abx abc", true}, // the later place of a middle part
             {"caf?", "café", true},          // one character, not one byte
-            {"?.jpg", "\U0001F305.jpg", true},
             {"*é", "é\xBF", false}, // a stray byte is a character of its own, seen from either end
             {"*?é", "\xA9é", true},
-            {"IMG_##", "IMG_07", true},
             {"IMG_##", "IMG_0x", false},
             {"[a-c,x]1", "B1", true},
             {"[!a-c]1", "b1", false},
             {"[!]", "!", true},
-            {"a[]b", "ab", true}, // an empty list stands for nothing
-            {"what[?]", "whats", false},
-            {"a]", "a]", true},
+            {"a[]b", "ab", true},  // an empty list stands for nothing
             {"[ab", "[ab", false}, // lists without an end, or whose end comes first
-            {"a[", "a[", false},
             {"[z-a]", "z", false}};
         for (const auto& [pattern, text, fits] : rows) {
             const LikePattern like(pattern, LikePattern::Case::Insensitive);
@@ -53,15 +45,6 @@ private slots:
         QVERIFY(!IsLike("Éa", "[A-Z]*"));
         QVERIFY(IsLike(",x", "[A-Z,a-z]*"));
         QVERIFY(!IsLike("", "[A-Z,a-z]*"));
-    }
-
-    void EscapedTextMatchesOnlyItself()
-    {
-        const QString folder = "/pictures/[2001] #1 * what?/";
-        const QByteArray pattern = EscapedForLike(folder).toUtf8();
-        const LikePattern like(pattern.toStdString(), LikePattern::Case::Insensitive);
-        QVERIFY(like.Matches(folder.toStdString()));
-        QVERIFY(!like.Matches("/pictures/2 11 x whats/"));
     }
 
     // A pattern of runs against a text that almost fits: trying every split would take for ever.
