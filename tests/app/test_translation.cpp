@@ -53,24 +53,21 @@ std::vector<Message> ReadMessages(const QString& path)
     return messages;
 }
 
-// What the code puts together with other texts must stay: %1, %2, blanks at the ends, the colon or
-// apostrophe before what follows, the bar and patterns of a file dialog.
-QStringList Fixtures(const QString& text)
-{
-    static const QRegularExpression fixed(R"(%\d|^\s|\s$|\s'$|\|.*)");
-    QStringList found;
-    for (auto match = fixed.globalMatch(text); match.hasNext();)
-        found += match.next().captured();
-    found.sort();
-    return found;
-}
-
 QStringList Captures(const QString& text, const char* pattern)
 {
     QStringList found;
     const QRegularExpression expression(QString::fromLatin1(pattern));
     for (auto match = expression.globalMatch(text); match.hasNext();)
         found += match.next().captured(1);
+    return found;
+}
+
+// What the code puts together with other texts must stay: %1, %2, blanks at the ends, the colon or
+// apostrophe before what follows, the bar and patterns of a file dialog.
+QStringList Fixtures(const QString& text)
+{
+    QStringList found = Captures(text, R"((%\d|^\s|\s$|\s'$|\|.*))");
+    found.sort();
     return found;
 }
 

@@ -7,8 +7,6 @@
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"
 
-#include <sqlcipher/sqlite3.h>
-
 #include <stdexcept>
 
 using GeneralModule::AlbumDatabase;
@@ -83,15 +81,14 @@ private slots:
         frmLoadFiles window;
         window.show();
         Find<QWidget>(window, "dirPicturesToLoad").setProperty("Path", Folder());
-        sqlite3* other = nullptr;
-        QCOMPARE(sqlite3_open(album_->GetAlbum().toUtf8(), &other), SQLITE_OK);
-        QCOMPARE(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+        const auto other = Database::Open(album_->GetAlbum());
+        other->Execute("BEGIN IMMEDIATE");
         dialogs_->ExpectBoxBeginning("3260 The album is being changed", Icon::Critical);
         Click(window, "cmdLoad");
         QVERIFY(dialogs_->IsDone());
         QCOMPARE(Find<QLabel>(window, "lblFeedback").text(), "Loading pictures...");
         QVERIFY(!QApplication::overrideCursor());
-        sqlite3_close(other);
+        other->Execute("ROLLBACK");
         Click(window, "cmdLoad");
         QCOMPARE(Find<QLabel>(window, "lblFeedback").text(), "1 picture(s) loaded");
     }

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 #include "core/Parameters.h"
-#include "core/PathRoutines.h"
 #include "core/PictureFile.h"
 #include "core/PictureList.h"
 #include "core/Settings.h"
 #include "core/StartUp.h"
-#include "core/TextRoutines.h"
 #include "platform/files/FileReplacement.h"
 #include "support/AlbumTest.h"
 
@@ -55,30 +53,6 @@ class TestCoreRoutines : public AlbumTest
     Q_OBJECT
 
 private slots:
-    void ReplacesText()
-    {
-        QCOMPARE(ReplaceText("aa", "a", "aa", 1), "aaaa");
-        QCOMPARE(ReplaceText("a.a.a", "a", "b", 2), "a.b.b");
-        QCOMPARE(ReplaceText("aA", "A", "", 1), "a");
-        QCOMPARE(ReplaceText("abc", "", "x", 1), "abc");
-        QCOMPARE(ReplaceText("abc", "c", "x", 9), "abc");
-        QCOMPARE(LikeSafe("Jane's trip"), "Jane?s trip");
-        QCOMPARE(Quoted("it's"), "'it''s'");
-    }
-
-    void CutsPaths()
-    {
-        const QStringList rows[] = {{"/a/b.jpg", "/a/", "b.jpg", ""},
-                                    {"C:\\Photos\\a.jpg", "C:\\Photos\\", "a.jpg", "C:"},
-                                    {"a.jpg", "", "a.jpg", "a.jpg"},
-                                    {"", "", "", ""},
-                                    {"/a/b/", "/a/b/", "", ""}};
-        for (const QStringList& row : rows) {
-            const QString& path = row.first();
-            QCOMPARE(QStringList({path, FolderOf(path), FileNameOf(path), DriveOf(path)}), row);
-        }
-    }
-
     void KeepsParameters()
     {
         QCOMPARE(GetParam("TimerDelay"), "");
@@ -116,15 +90,6 @@ private slots:
         QCOMPARE(ResolvePictureFile("/cd/it's.jpg"), "/cd/it's.jpg");
         QCOMPARE(album_->Joined("SELECT SourceFile FROM Image"), "");
         QCOMPARE(ResolvePictureFile("/not/in/the/album_->jpg"), "/not/in/the/album_->jpg");
-    }
-
-    void KeepsSettings()
-    {
-        const QString path = "C:\\Fotos\\été; \"x\" = 1.alb";
-        SaveLastAlbum(path);
-        QCOMPARE(GetLastAlbum(), path);
-        QVERIFY(QFileInfo::exists(album_->PathOf("settings/QVRLumenark.ini")));
-        QCOMPARE(GetUserSetting("User", "Nothing"), "");
     }
 
     void HelpSpeaksTheUsersLanguage()

@@ -77,22 +77,21 @@ private slots:
     void ChoosesFiles()
     {
         const QTemporaryDir folder;
-        WhenModal("QFileDialog", [](QWidget& window) {
-            auto& dialog = dynamic_cast<QFileDialog&>(window);
+        const auto choose = [](QWidget& window, const char* name) {
+            window.findChild<QLineEdit*>()->setText(name);
+            dynamic_cast<QDialog&>(window).done(QDialog::Accepted);
+        };
+        WhenModal("QFileDialog", [&choose](QWidget& window) {
+            const auto& dialog = dynamic_cast<QFileDialog&>(window);
             QCOMPARE(dialog.windowTitle(), "Create a new Album");
             QCOMPARE(dialog.nameFilters(), QStringList("Album (*.alb)"));
             QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
-            dialog.findChild<QLineEdit*>()->setText("mine");
-            static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+            choose(window, "mine");
         });
         QCOMPARE(dialogs_.AskSaveFile({"Create a new Album", "Album|*.alb", folder.path()}),
                  folder.filePath("mine.alb"));
         // A dot in the name is no extension, and the name that comes of it may be taken.
         WriteFile(folder.filePath("Rome 12.5.alb"));
-        const auto choose = [](QWidget& window, const char* name) {
-            window.findChild<QLineEdit*>()->setText(name);
-            dynamic_cast<QDialog&>(window).done(QDialog::Accepted);
-        };
         WhenModal("QFileDialog", [&choose](QWidget& window) {
             WhenModal("QMessageBox", [&choose](QWidget& box) {
                 WhenModal("QFileDialog", [&](QWidget& again) { choose(again, "Rome 12.6"); });

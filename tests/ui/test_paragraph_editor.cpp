@@ -189,14 +189,6 @@ private slots:
         }
     }
 
-    void EscapeClosesTheListOfMarkers()
-    {
-        Writing writing;
-        writing.Click("cmdInsertCar");
-        QTest::keyClick(&Find<QListWidget>(writing.editor, "lstInsertCar"), Qt::Key_Escape);
-        QVERIFY(writing.editor.isVisible() && !writing.IsShown("lstInsertCar"));
-    }
-
     void Filter()
     {
         Writing writing;
@@ -286,8 +278,10 @@ private slots:
         QCOMPARE(Find<QLabel>(writing.editor, "lblCar_4").text(), "Caracteristic 5");
         QCOMPARE(Find<QLabel>(writing.editor, "lblCar_7").text(), "Caracteristic 8");
         writing.Click("cmdInsertCar");
-        const auto& inserts = Find<QListWidget>(writing.editor, "lstInsertCar");
+        auto& inserts = Find<QListWidget>(writing.editor, "lstInsertCar");
         QCOMPARE(inserts.item(12)->text(), "Caracteristic 12");
+        QTest::keyClick(&inserts, Qt::Key_Escape); // closes only the list
+        QVERIFY(writing.editor.isVisible() && !inserts.isVisible());
         writing.TextBox().setPlainText("typed <<Where (People)>> <[4]>");
         WhenModal("frmEditLabels", [](QWidget& labels) {
             Find<QLineEdit>(labels, "txtCar_4").setText("Where");
