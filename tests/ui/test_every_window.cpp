@@ -1,40 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue/frmCDBuffer.h"
-#include "catalogue/frmEditImage.h"
-#include "catalogue/frmEditLabels.h"
-#include "catalogue/frmEditTables.h"
-#include "catalogue/frmLoadFiles.h"
-#include "catalogue/frmReloadPictures.h"
-#include "core/Album.h"
-#include "core/Parameters.h"
-#include "core/StartUp.h"
-#include "platform/widgets/HelpWindow.h"
-#include "story/frmEditParagraph.h"
-#include "story/frmOrganizeParagraphs.h"
-#include "support/AlbumTest.h"
+#include "EveryWindow.h"
 #include "support/ModalDriver.h"
-#include "support/Rows.h"
-#include "ui/main/frmAbout.h"
-#include "ui/main/frmOpenChapter.h"
-#include "ui/main/frmRepairAlbum.h"
-#include "viewer/frmFullScreen.h"
-#include "viewer/frmReelvane.h"
-#include "viewer/frmSelectImages.h"
 
 #include <QAccessible>
-#include <QSettings>
-#include <QTextDocument>
 #include <QTranslator>
 
 using namespace GeneralModule;
 
 namespace {
-
-constexpr std::array everyWindow{"frmOpenChapter",    "frmReelvane",           "frmFullScreen",
-                                 "frmEditParagraph",  "frmOrganizeParagraphs", "frmEditImage",
-                                 "frmEditTables",     "frmEditLabels",         "frmLoadFiles",
-                                 "frmReloadPictures", "frmSelectImages",       "frmAbout",
-                                 "frmRepairAlbum"};
 
 // Parts of a control, such as the list of a combo box, are named by the control.
 bool IsPartOfControl(const QWidget& widget)
@@ -130,81 +103,10 @@ QStringList FaultsOf(QWidget& window)
     return faults;
 }
 
-// Where the toolkit reads more into a text than what stands there.
-bool IsMisread(const QString& text)
-{
-    if (!Qt::mightBeRichText(text))
-        return false;
-    QTextDocument document;
-    document.setHtml(text);
-    return document.toPlainText().contains(QChar::ObjectReplacementCharacter);
-}
-
-QStringList MisreadTexts(QWidget& window)
-{
-    QStringList faults;
-    QList<QWidget*> widgets = window.findChildren<QWidget*>();
-    widgets.prepend(&window);
-    for (const QWidget* widget : widgets) {
-        if (IsMisread(widget->toolTip()))
-            faults += widget->objectName() + "'s tool tip";
-        const auto* label = qobject_cast<const QLabel*>(widget);
-        if (label && label->textFormat() != Qt::PlainText && Qt::mightBeRichText(label->text()))
-            faults += widget->objectName() + "'s text";
-        const auto* view = qobject_cast<const QAbstractItemView*>(widget);
-        for (int row = 0; view && view->model() && row < view->model()->rowCount(); ++row) {
-            for (int column = 0; column < view->model()->columnCount(); ++column) {
-                if (IsMisread(view->model()->index(row, column).data(Qt::ToolTipRole).toString()))
-                    faults += widget->objectName() + "'s item";
-            }
-        }
-    }
-    if (window.windowTitle().remove("[*][*]").contains("[*]"))
-        faults += "title";
-    return faults;
-}
-
-// Presses and clicks whatever a window has, and closes what comes up over it.
-void Prod(QWidget& window)
-{
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, [&window] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (modal && modal != &window)
-            modal->close();
-    });
-    closer.start(20);
-    const auto act = [&window](const auto& action) {
-        window.show();
-        action();
-        QCoreApplication::processEvents();
-    };
-    for (const int key :
-         {Qt::Key_Return, Qt::Key_Space, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down,
-          Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Delete, Qt::Key_E,
-          Qt::Key_N, Qt::Key_T, Qt::Key_F11, Qt::Key_Escape})
-        act([&] {
-            QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key(key));
-        });
-    for (QWidget* control : window.findChildren<QWidget*>()) {
-        const QString name = control->objectName();
-        const bool isOurs = !name.isEmpty() && !name.startsWith("qt_") && name != "cmdSysInfo";
-        for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
-            if (isOurs && control->isVisible() && control->isEnabled())
-                act([&] { QTest::mouseClick(control, button); });
-        }
-    }
-    for (QAction* entry : window.findChildren<QAction*>()) {
-        const QString name = entry->objectName();
-        if (entry->isEnabled() && name.startsWith("mnu") && !name.startsWith("mnuRecent"))
-            act([entry] { entry->trigger(); });
-    }
-}
-
 } // namespace
 
 // What holds for every window of the program.
-class TestEveryWindow : public AlbumTest
+class TestEveryWindow : public EveryWindowTest
 {
     Q_OBJECT
 
@@ -238,46 +140,6 @@ private slots:
         }
     }
 
-    // Whatever an album says is text and nothing else, and leaves every window in its size.
-    void HostileTextsStayTexts_data()
-    {
-        AddRows<QString>({"text"}, {{"markup", "<img src=\"/dev/zero\"><h1>Anna & Co</h1>"},
-                                    {"signs of the toolkit", "Salt & Pepper [*] %1 %2 %n"},
-                                    {"right to left", "\u202eשלום & <b>"},
-                                    {"NUL", QString("a") + QChar(0) + "b\n<img src=x>"},
-                                    {"a megabyte", QString("long & <b> ").repeated(100000)}});
-    }
-
-    void HostileTextsStayTexts()
-    {
-        QFETCH(QString, text);
-        FillWith(text);
-        isStoryRead_ = true;
-        for (const char* name : everyWindow) {
-            QWidget& window = Open(name);
-            QVERIFY(!window.grab().isNull());
-            QVERIFY2(MisreadTexts(window).isEmpty(),
-                     qPrintable(name + (": " + MisreadTexts(window).join(", "))));
-            const QSize least = window.minimumSizeHint();
-            QVERIFY2(least == least.boundedTo({1280, 720}), name);
-        }
-    }
-
-    // As after an opening that failed.
-    void NothingCrashesWithoutAnAlbum_data() { HelpComesAtTheWindowsChapter_data(); }
-
-    void NothingCrashesWithoutAnAlbum()
-    {
-        QFETCH(QString, name);
-        dialogs_.reset();
-        const PatientDialogs patient;
-        QWidget& window = Open(name);
-        ReleaseAlbum();
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, album_->PathOf("empty"));
-        Prod(window);
-        QVERIFY(!IsAlbumOpen());
-    }
-
     void WheelOverListBoxScrollsWhatIsAround()
     {
         Open("frmLoadFiles"); // the program's first window is enough
@@ -291,12 +153,7 @@ private slots:
         QVERIFY(area.verticalScrollBar()->value() > 0);
     }
 
-    void HelpComesAtTheWindowsChapter_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char* name : everyWindow)
-            QTest::newRow(name) << name;
-    }
+    void HelpComesAtTheWindowsChapter_data() { AddEveryWindow(); }
 
     void HelpComesAtTheWindowsChapter()
     {
@@ -345,100 +202,6 @@ private slots:
         place.setValue(0); // the contents follow
         QVERIFY(contents.currentRow() < 1);
     }
-
-private:
-    void FillWith(const QString& text)
-    {
-        chapter_ = album_->AddChapter(text);
-        QMap<QString, QString> values;
-        for (int column = 0; column < 12; ++column)
-            values["Car" + QString::number(column)] = text;
-        paragraph_ = album_->AddParagraph(chapter_, text, values);
-        values["Legend"] = text;
-        picture_ = album_->AddPicture("a<b>&[*]%1.jpg", values);
-        for (const char* label : {"Car0", "Car4", "Car9", "Caract0", "Caract1", "Caract3"})
-            SetParam(label, text);
-        for (const char* table : {"Car0", "Car4", "Car9"}) {
-            RecordSet set(AlbumDatabase, table);
-            set.AddNew();
-            set.Set(u"Name", text);
-            set.Update();
-        }
-    }
-
-    // Shown, with an album behind it that has a chapter, a paragraph and pictures.
-    QWidget& Open(const QString& name)
-    {
-        if (picture_.isEmpty() || !QFile::exists(picture_)) {
-            chapter_ = album_->AddChapter("Chapter");
-            paragraph_ = album_->AddParagraph(chapter_, "Text");
-            picture_ = album_->AddPicture("a.jpg");
-            album_->AddPicture("b.jpg");
-        }
-        QWidget* window = MakeByName(name);
-        window->show();
-        window->activateWindow();
-        if (!QTest::qWaitForWindowActive(window))
-            qFatal("the window does not come");
-        QCoreApplication::processEvents(); // the labels may need more room
-        return *window;
-    }
-
-    QWidget* MakeByName(const QString& name)
-    {
-        if (name == "frmOpenChapter")
-            return Make<frmOpenChapter>(album_->GetAlbum());
-        if (name == "frmReelvane")
-            return MakeViewer();
-        if (name == "frmFullScreen") // the viewer owns it
-            return new frmFullScreen(*MakeViewer());
-        if (name == "frmEditParagraph")
-            return MakeAt<frmEditParagraph>();
-        if (name == "frmOrganizeParagraphs")
-            return MakeAt<frmOrganizeParagraphs>();
-        if (name == "frmEditTables")
-            return Make<frmEditTables>(picture_, nullptr);
-        if (name == "frmHelp")
-            return Make<HelpWindow>(HelpFile(), nullptr);
-        if (name == "frmEditImage") {
-            auto* window = Make<frmEditImage>();
-            window->CurrentImage = picture_;
-            return window;
-        }
-        return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
-                       frmAbout, frmRepairAlbum>(name);
-    }
-
-    frmReelvane* MakeViewer()
-    {
-        auto* viewer = Make<frmReelvane>();
-        viewer->CurrentChapter = isStoryRead_ ? chapter_ : 0;
-        return viewer;
-    }
-
-    // The one whose class has that name.
-    template<typename... Windows>
-    QWidget* MakeAny(const QString& name)
-    {
-        QWidget* made = nullptr;
-        ((name == Windows::staticMetaObject.className() ? void(made = Make<Windows>()) : void()),
-         ...);
-        return made;
-    }
-
-    template<typename Window>
-    Window* MakeAt()
-    {
-        auto* window = Make<Window>();
-        window->CurrentChapter = chapter_;
-        window->CurrentParagraph = paragraph_;
-        return window;
-    }
-
-    qint32 chapter_ = 0;
-    qint32 paragraph_ = 0;
-    QString picture_;
-    bool isStoryRead_ = false;
 };
 
 QTEST_MAIN(TestEveryWindow)

@@ -214,7 +214,7 @@ void FileReplacement::SetJournalsAside()
     }
 }
 
-void FileReplacement::PutJournalsBack() noexcept
+void FileReplacement::PutJournalsBack()
 {
     std::error_code error;
     MoveJournals(Inside(folder_, asideName), target_, error);

@@ -36,7 +36,7 @@ public:
 private:
     void MakeFile();
     void SetJournalsAside();
-    void PutJournalsBack() noexcept;
+    void PutJournalsBack();
 
     QString target_;
     QString folder_;
