@@ -13,14 +13,31 @@ public:
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+        const bool isRelease = event->type() == QEvent::KeyRelease;
+        const bool isPress =
+            event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+        if (!isRelease && !isPress)
             return false;
         const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() != Qt::Key_Escape || !key->isAutoRepeat())
+        if (key->key() != Qt::Key_Escape)
+            return false;
+        if (isRelease)
+            lastRelease_ = key->timestamp();
+        if (!isPress || !IsRepetition(*key))
             return false;
         event->accept(); // as an override: not for the shortcuts
         return true;
     }
+
+private:
+    // When a window has just closed, X11 repeats a key as a release and a press of the same moment
+    // without the toolkit's noticing. 0 is the time of an event that some program made.
+    bool IsRepetition(const QKeyEvent& press) const
+    {
+        return press.isAutoRepeat() || (lastRelease_ != 0 && press.timestamp() == lastRelease_);
+    }
+
+    quint64 lastRelease_ = 0; // milliseconds of the window system
 };
 
 } // namespace
