@@ -4,6 +4,7 @@
 #include "Tour.h"
 #include "Translations.h"
 
+#include "core/Album.h"
 #include "core/StartUp.h"
 #include "platform/widgets/HeldEscape.h"
 #include "platform/widgets/HelpWindow.h"
@@ -100,6 +101,8 @@ int main(int argc, char** argv)
     InstallHeldEscapeFilter();
     const Arguments arguments = ReadArguments();
     frmOpenChapter mainWindow(arguments.album);
+    if (GeneralModule::HasGoneToOtherWindow())
+        return 0;
     mainWindow.show();
     if (!arguments.tour.isEmpty())
         new Tour(arguments.tour, &mainWindow);

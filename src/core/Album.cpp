@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 
+#include "core/AlbumPassword.h"
 #include "core/OldAlbum.h"
 #include "core/RecentAlbums.h"
 #include "core/Settings.h"
 #include "platform/data/DatabaseFile.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/files/FileClaim.h"
 #include "platform/files/FileReplacement.h"
 #include "platform/shell/ProgramFolder.h"
 
@@ -74,6 +76,8 @@ void FillEmptySelections(Album& album)
 
 void CleanUpParagraphs(Album& album)
 {
+    if (album.database->IsReadOnly())
+        return;
     try {
         FillEmptySelections(album);
     } catch (const DatabaseError& error) {
@@ -85,6 +89,33 @@ void CleanUpParagraphs(Album& album)
 }
 
 std::unique_ptr<Album> opened;
+std::unique_ptr<FileClaim> claim; // on the open album's file
+std::function<void()> callHandler;
+bool hasGoneToOtherWindow = false;
+
+// False when the user does not want a second window on the album.
+bool ClaimAlbum(const QString& path)
+{
+    using Answer = Dialogs::Answer;
+    claim = std::make_unique<FileClaim>(path, [] {
+        if (callHandler)
+            callHandler();
+    });
+    if (claim->IsOurs())
+        return true;
+    const Answer answer = Dialogs::Door().Ask(
+        {.text = AlbumTexts::tr("This album is open in another window already:\n%1")
+                     .arg(QDir::toNativeSeparators(path)),
+         .icon = Dialogs::Icon::Question,
+         .buttons = Dialogs::Buttons::YesNoCancel,
+         .defaultAnswer = Answer::Yes,
+         .yes = AlbumTexts::tr("Go to That Window"),
+         .no = AlbumTexts::tr("Open Here Too")});
+    hasGoneToOtherWindow = answer == Answer::Yes;
+    if (hasGoneToOtherWindow)
+        claim->CallHolder();
+    return answer == Answer::No;
+}
 
 void TellWhyNot(const DatabaseError& error)
 {
@@ -100,6 +131,9 @@ void TellWhyNot(const DatabaseError& error)
 // Tries the given password first, and then asks.
 bool OpenWithPassword(const QString& path, QString password)
 {
+    ClearBrokenPasswordChange(path);
+    if (!ClaimAlbum(path))
+        return false;
     while (true) {
         try {
             auto album = std::make_unique<Album>(path, password);
@@ -159,6 +193,17 @@ bool IsAlbumOpen()
     return opened != nullptr;
 }
 
+bool IsAlbumReadOnly()
+{
+    return opened && opened->database->IsReadOnly();
+}
+
+QString ReadOnlyReason()
+{
+    return AlbumTexts::tr(
+        "This album can be read, but not changed: its file or its folder is read-only.");
+}
+
 Album& OpenedAlbum()
 {
     if (!opened)
@@ -171,14 +216,29 @@ Album& OpenedAlbum()
 bool OpenAlbum(const QString& path, const QString& password)
 {
     ReleaseAlbum();
-    if (KindOfDatabaseFile(path) == DatabaseFileKind::OldAlbum)
-        return OpenOldAlbum(path);
-    return OpenWithPassword(path, password);
+    hasGoneToOtherWindow = false;
+    const bool isOpen = KindOfDatabaseFile(path) == DatabaseFileKind::OldAlbum
+                            ? OpenOldAlbum(path)
+                            : OpenWithPassword(path, password);
+    if (!isOpen)
+        claim.reset();
+    return isOpen;
 }
 
 void ReleaseAlbum()
 {
     opened.reset();
+    claim.reset();
+}
+
+bool HasGoneToOtherWindow()
+{
+    return hasGoneToOtherWindow;
+}
+
+void SetCallHandler(const std::function<void()>& onCalled)
+{
+    callHandler = onCalled;
 }
 
 bool CreateAlbumFile(const QString& path)

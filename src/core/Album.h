@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace GeneralModule {
@@ -25,6 +26,12 @@ struct Album
 };
 
 bool IsAlbumOpen();
+
+// Whether the open album can only be read: its file or its folder cannot be written. False while
+// none is open.
+bool IsAlbumReadOnly();
+// What to tell whoever wants to change it.
+QString ReadOnlyReason();
 
 // Throws DatabaseError NoAlbum while none is open.
 Album& OpenedAlbum();
@@ -56,8 +63,15 @@ inline constexpr OpenedSet<&Album::linkedImages> LinkedImagesSet;
 // password, unless the one given fits, until it does or the answer is empty. False, with a message
 // shown unless the user gave up, when the album could not be opened. No album is open while boxes
 // are up, nor after a failure. Of an album in the former file format a new one is made, if the user
-// agrees, and that is the one that is opened and remembered.
+// agrees, and that is the one that is opened and remembered. Where another copy of the program has
+// the album open, the user may go there instead.
 bool OpenAlbum(const QString& path, const QString& password = {});
+
+// Whether the last OpenAlbum ended with the user going to another window that has the album open.
+bool HasGoneToOtherWindow();
+
+// Runs when another copy of the program sends the user to the window that has the album open.
+void SetCallHandler(const std::function<void()>& onCalled);
 
 // Copies the template to path, over a file that is there. False, with a message shown, when that
 // fails; an existing file then stays as it was.

@@ -13,4 +13,8 @@ bool AlbumHasPassword();
 // DatabaseError when that fails; the album is then as it was.
 void SetAlbumPassword(const QString& password);
 
+// Clears away what a change of the album's password that was broken off has left beside it, and
+// says so. The album itself is then as it was before that change, or as it is after it.
+void ClearBrokenPasswordChange(const QString& album);
+
 } // namespace GeneralModule

@@ -6,6 +6,7 @@
 #include "platform/data/WriteBatch.h"
 #include "platform/text/LikePattern.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 namespace {
@@ -40,6 +41,48 @@ void WalkChapters(const Visit& visit)
         visited.insert(links.id);
         isFound = FindById(*ChapterSet, links.next);
     }
+}
+
+// Of the current row; empty where it is missing or no valid text.
+QString StoredName()
+{
+    try {
+        const QString name = ChapterSet->TextOrEmpty(u"Name");
+        return name.contains(QChar::ReplacementCharacter) ? QString() : name;
+    } catch (const DatabaseError& error) {
+        if (error.GetNumber() != DatabaseError::TypeMismatch)
+            throw;
+        return {};
+    }
+}
+
+QString UnnamedTitle(int number)
+{
+    return number == 1 ? QCoreApplication::translate("ChapterChain", "(no name)")
+                       : QCoreApplication::translate("ChapterChain", "(no name %1)").arg(number);
+}
+
+// Calls visit on the identifier and the name as it is listed of each chapter, until it returns
+// false; the set stands on the chapter.
+template<typename Visit>
+void WalkNames(const Visit& visit)
+{
+    int unnamed = 0;
+    WalkChapters([&](const ChapterLinks& links) {
+        const QString name = StoredName();
+        return visit(links.id, name.isEmpty() ? UnnamedTitle(++unnamed) : name);
+    });
+}
+
+std::optional<qint32> FindListed(const QString& title)
+{
+    std::optional<qint32> found;
+    WalkNames([&](qint32 chapter, const QString& listed) {
+        if (listed == title)
+            found = chapter;
+        return !found;
+    });
+    return found;
 }
 
 // The links of the chapter of that name as the reading order has them: an insertion leaves the
@@ -93,11 +136,27 @@ namespace GeneralModule {
 QStringList ChapterNames()
 {
     QStringList names;
-    WalkChapters([&names](const ChapterLinks&) {
-        names += ChapterSet->TextOrEmpty(u"Name");
+    WalkNames([&names](qint32, const QString& name) {
+        names += name;
         return true;
     });
     return names;
+}
+
+QString ChapterTitle(qint32 chapter)
+{
+    if (!FindById(*ChapterSet, chapter))
+        return {};
+    QString title = StoredName();
+    if (!title.isEmpty())
+        return title;
+    title = UnnamedTitle(1); // of one that is not listed
+    WalkNames([&](qint32 visited, const QString& listed) {
+        if (visited == chapter)
+            title = listed;
+        return visited != chapter;
+    });
+    return title;
 }
 
 qint32 ChapterLeadingTo(qint32 chapter)
@@ -133,12 +192,12 @@ std::optional<qint32> FindChapter(const QString& name)
     const RecordSet::Walk walk(*ChapterSet);
     for (const QString& filter : {isPattern ? like : exact, exact}) {
         ChapterSet->FindFirst(filter);
-        while (!ChapterSet->NoMatch() && ChapterSet->TextOrEmpty(u"Name") != name)
+        while (!ChapterSet->NoMatch() && StoredName() != name)
             ChapterSet->FindNext(filter);
         if (!ChapterSet->NoMatch())
             return ChapterSet->Number(u"Id");
     }
-    return std::nullopt;
+    return FindListed(name);
 }
 
 qint32 CreateChapter(const QString& name, const QString& after)

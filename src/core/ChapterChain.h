@@ -12,8 +12,13 @@
 namespace GeneralModule {
 
 // Names from the first chapter on, along NextChapter. A link to no chapter, or back to one that was
-// listed, ends the list; chapters that the first one does not lead to are not in it.
+// listed, ends the list; chapters that the first one does not lead to are not in it. Where the
+// album holds no name, or none that is valid text, "(no name)" stands for it, then "(no name 2)":
+// chapters are found by these too.
 QStringList ChapterNames();
+
+// The name of one chapter as it is listed; empty when there is no such chapter.
+QString ChapterTitle(qint32 chapter);
 
 // A name begins with a letter from A to Z, in upper case, or a digit.
 bool IsChapterName(const QString& name);

@@ -68,7 +68,8 @@ qint16 GetTimerDelay()
 
 void SaveTimerDelay(qint16 milliseconds)
 {
-    SetParam(timerDelay, QString::number(milliseconds));
+    if (!IsAlbumReadOnly())
+        SetParam(timerDelay, QString::number(milliseconds));
 }
 
 QString GetLastFileSelection()
@@ -79,7 +80,8 @@ QString GetLastFileSelection()
 
 void SetLastFileSelection(const QString& selection)
 {
-    SetParam(lastFileSelection, selection);
+    if (!IsAlbumReadOnly())
+        SetParam(lastFileSelection, selection);
 }
 
 } // namespace GeneralModule

@@ -23,10 +23,12 @@ void SetCaractLabel(int group, const QString& label);
 // Delay of autoview in milliseconds, 0 when none is stored. A value that does not fit is held at
 // the nearest one that does.
 qint16 GetTimerDelay();
+// Not kept in an album that can only be read.
 void SaveTimerDelay(qint16 milliseconds);
 
 // The picture folder and pattern chosen last; every file in the program's folder when none was.
 QString GetLastFileSelection();
+// Not kept in an album that can only be read.
 void SetLastFileSelection(const QString& selection);
 
 } // namespace GeneralModule

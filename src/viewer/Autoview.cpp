@@ -67,8 +67,8 @@ bool Autoview::Switch()
              .title = QCoreApplication::translate("Autoview", "Autoview Mode")});
         if (answer.isNull())
             return false;
-        GeneralModule::SaveTimerDelay(DelayFromAnswer(answer));
-        delay_ = GeneralModule::GetTimerDelay();
+        delay_ = DelayFromAnswer(answer);
+        GeneralModule::SaveTimerDelay(delay_);
     }
     Set(!AutoviewOn);
     return true;

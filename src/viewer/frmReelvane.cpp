@@ -3,10 +3,12 @@
 #include "ui_frmReelvane.h"
 
 #include "catalogue/frmEditImage.h"
+#include "core/Album.h"
 #include "core/PictureFile.h"
 #include "core/ViewerFlags.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/KeyPreview.h"
+#include "platform/widgets/OfferedControl.h"
 #include "platform/widgets/SettledResize.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
@@ -110,6 +112,8 @@ void frmReelvane::setVisible(bool visible)
     // One of the two is of use, and a small screen has room for one.
     ui_->cmdRefresh->setVisible(!hasStory);
     ui_->cmdEditParagraph->setVisible(hasStory);
+    OfferUnless(*ui_->cmdEditParagraph, true,
+                GeneralModule::IsAlbumReadOnly() ? GeneralModule::ReadOnlyReason() : QString());
     for (QPushButton* button : {ui_->cmdPreviousChapter, ui_->cmdPreviousParagraph,
                                 ui_->cmdNextParagraph, ui_->cmdNextChapter})
         button->setEnabled(hasStory);

@@ -3,7 +3,9 @@
 #include "viewer/frmReelvane.h"
 
 #include "core/Album.h"
+#include "core/ChapterChain.h"
 #include "core/ViewerFlags.h"
+#include "platform/dialogs/Dialogs.h"
 #include "platform/widgets/LiteralText.h"
 #include "story/ParagraphChain.h"
 #include "story/PictureFilter.h"
@@ -12,7 +14,6 @@
 
 #include <QScopeGuard>
 
-using GeneralModule::ChapterSet;
 using GeneralModule::FindById;
 using GeneralModule::ParagraphSet;
 
@@ -37,8 +38,7 @@ void frmReelvane::DisplayChapter()
 
 void frmReelvane::DisplayEmptyChapter()
 {
-    const bool isKnown = FindById(*ChapterSet, CurrentChapter);
-    const QString name = isKnown ? ChapterSet->TextOrEmpty(u"Name") : QString();
+    const QString name = GeneralModule::ChapterTitle(CurrentChapter);
     DisplayForm->window()->setWindowTitle(AsWindowTitle(name));
     DisplayUndefined(QStringLiteral("*"), mostListed);
     display_.SetText(tr("Click HERE to create first paragraph of the new chapter '") + name +
@@ -52,9 +52,9 @@ void frmReelvane::DisplayParagraph()
 {
     if (CurrentParagraph == 0 || !FindById(*ParagraphSet, CurrentParagraph))
         return;
-    const qint32 chapter = ParagraphSet->Number(u"Chapter");
-    if (chapter > 0 && FindById(*ChapterSet, chapter))
-        DisplayForm->window()->setWindowTitle(AsWindowTitle(ChapterSet->TextOrEmpty(u"Name")));
+    const QString title = GeneralModule::ChapterTitle(ParagraphSet->Number(u"Chapter"));
+    if (!title.isEmpty())
+        DisplayForm->window()->setWindowTitle(AsWindowTitle(title));
     display_.Arrange(ParagraphSet->TextOrEmpty(u"Text"));
     display_.FindPictures(*ParagraphSet, mostListed);
     GeneralModule::PictureAtRandom = true;
@@ -169,9 +169,11 @@ bool frmReelvane::HasParagraphToEdit()
 
 void frmReelvane::EditCurrentParagraph()
 {
+    const auto pause = autoview_.Pause();
+    if (CurrentChapter != 0 && GeneralModule::IsAlbumReadOnly())
+        return Tell(GeneralModule::ReadOnlyReason(), Dialogs::Icon::Information);
     if (!HasParagraphToEdit())
         return;
-    const auto pause = autoview_.Pause();
     frmEditParagraph editor(DisplayForm->window());
     editor.CurrentChapter = CurrentChapter;
     editor.CurrentParagraph = CurrentParagraph;

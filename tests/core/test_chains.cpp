@@ -115,6 +115,22 @@ private slots:
         }
     }
 
+    void ChaptersWithoutAName()
+    {
+        AddFour();
+        album_->Execute("UPDATE Chapter SET Name=NULL WHERE Id=1");
+        album_->Execute("UPDATE Chapter SET Name=CAST(x'41FF' AS TEXT) WHERE Id=2");
+        album_->Execute("UPDATE Chapter SET Name=x'00FF' WHERE Id=4");
+        for (int round = 0; round < 2; ++round) // the second time names come with their rows
+            QCOMPARE(ChapterNames().join(';'), "(no name);(no name 2);C;(no name 3)");
+        QCOMPARE(ChapterTitle(4), "(no name 3)");
+        QCOMPARE(FindChapter("C"), std::optional(3));
+        QVERIFY(MoveChapterUp("(no name 3)"));
+        QVERIFY(RenameChapter(FindChapter("(no name 3)").value(), "Named"));
+        QCOMPARE(DeleteChapter("(no name 2)"), ChapterDeletion::Deleted);
+        QCOMPARE(ChapterNames().join(';'), "(no name);Named;C");
+    }
+
     void ListEndsAtBrokenLinks()
     {
         AddFour();

@@ -1,9 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
+#include "core/Settings.h"
+#include "platform/data/CipherFile.h"
 #include "platform/data/DatabaseFile.h"
+#include "platform/files/FileReplacement.h"
 #include "support/AlbumTest.h"
 #include "ui/main/PasswordQuestions.h"
+
+#include <QScopeGuard>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace GeneralModule;
 
@@ -22,6 +32,14 @@ class TestAlbumPassword : public AlbumTest
 {
     Q_OBJECT
 
+    bool OpensWithKey(const QByteArray& key)
+    {
+        return ErrorOf([&] {
+                   Statement(CipherFile(album_->GetAlbum(), key).Get(), "SELECT 1 FROM Image")
+                       .Step();
+               }) == 0;
+    }
+
 private slots:
     void SetsChangesAndRemoves()
     {
@@ -36,14 +54,19 @@ private slots:
         };
         const QStringList before = everything();
         QVERIFY(!AlbumHasPassword());
-        for (const QString& password : {QString("it's \"odd\" é"), QString("second")}) {
+        // The last one reads like a key that is written out.
+        for (const QString& password :
+             {QString("it's \"odd\" é"), QString("second"), "x'" + QString(64, u'a') + '\''}) {
             SetAlbumPassword(password);
             QVERIFY(AlbumHasPassword());
             QCOMPARE(Legend(), "a secret place");
             QCOMPARE(KindOfDatabaseFile(album_->GetAlbum()), DatabaseFileKind::Encrypted);
             QVERIFY(!ReadFile(album_->GetAlbum()).contains("secret place"));
+            QVERIFY(OpensWithKey(CipherKeys(password).first()));
+            QVERIFY(!password.startsWith('x') || !OpensWithKey(password.toUtf8()));
             const QString prompt = "Please give the password for : " + album_->GetAlbum();
-            for (const QString& given : {QString("wrong; --"), password.toUpper(), password})
+            for (const QString& given : {QString("wrong; --"), password.toUpper(),
+                                         password.normalized(QString::NormalizationForm_D)})
                 dialogs_->ExpectInput(prompt, given);
             QVERIFY(OpenAlbum(album_->GetAlbum()));
             dialogs_->ExpectInput(prompt, "");
@@ -59,6 +82,48 @@ private slots:
         ParagraphSet->AddNew(); // identifiers go on where they were
         QCOMPARE(ParagraphSet->Number(u"Id"), 3);
         QCOMPARE(QDir(album_->PathOf("")).entryList(QDir::Files), QStringList("story.alb"));
+    }
+
+    // Made when passwords were taken byte for byte as they were typed.
+    void AlbumsWithPasswordsAsTypedStillOpen()
+    {
+        const QString path = album_->PathOf("earlier.alb");
+        const QString typed = QString("pâte").normalized(QString::NormalizationForm_D);
+        WriteFile(path);
+        {
+            const CipherFile plain(album_->GetAlbum(), {});
+            Statement attach(plain.Get(), "ATTACH ?1 AS target KEY ?2");
+            attach.Bind(1, path);
+            attach.Bind(2, typed);
+            attach.Run();
+            Statement(plain.Get(), "SELECT sqlcipher_export('target')").Run();
+        }
+        QVERIFY(OpenAlbum(path, QString("pâte")));
+        SetAlbumPassword({});
+        QVERIFY(!AlbumHasPassword());
+    }
+
+    void ClearsWhatABrokenChangeLeft()
+    {
+        const QString album = album_->GetAlbum();
+        const pid_t child = fork();
+        if (child == 0) {
+            new FileReplacement(album);
+            _exit(0);
+        }
+        waitpid(child, nullptr, 0);
+        const auto leftovers = [this] {
+            return QDir(album_->PathOf(".")).entryList({".lumenark*"}, QDir::Dirs | QDir::Hidden);
+        };
+        QCOMPARE(leftovers().size(), 1);
+        QVERIFY(OpenAlbum(album)); // nothing is looked for without a reason
+        QCOMPARE(leftovers().size(), 1);
+        SaveUserSetting("User", "PasswordChange", album);
+        dialogs_->ExpectBoxBeginning("The last change of this album's password was broken off.",
+                                     Icon::Information);
+        QVERIFY(OpenAlbum(album));
+        QCOMPARE(leftovers().size(), 0);
+        QVERIFY(OpenAlbum(album));
     }
 
     void ReplacesTheFileThatIsMeant()
@@ -103,6 +168,17 @@ private slots:
         other->Execute("BEGIN IMMEDIATE");
         fails(3260);
         other->Execute("ROLLBACK");
+        {
+            // As on a disk that is full.
+            signal(SIGXFSZ, SIG_IGN);
+            const rlimit small{4096, RLIM_INFINITY};
+            const auto lift = qScopeGuard([] {
+                const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
+                setrlimit(RLIMIT_FSIZE, &none);
+            });
+            setrlimit(RLIMIT_FSIZE, &small);
+            fails(3043);
+        }
         // An index that lacks a row counts fewer rows than the copy then has.
         album_->Execute(
             "PRAGMA writable_schema=1; CREATE TABLE Kept AS SELECT * FROM sqlite_master "

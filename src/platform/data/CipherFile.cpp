@@ -23,9 +23,34 @@ void SetFormat(sqlite3* engine, const QByteArray& schema, int format)
         ThrowEngineError(engine, code);
 }
 
+// The library takes a text such as x'0123...' for the key itself, of 32 bytes or of 48 with its
+// salt, and not for a password. A line feed at its end makes it a password like any other.
+QByteArray OrdinaryKey(const QByteArray& password)
+{
+    const bool isRawLength = password.size() == 2 * 32 + 3 || password.size() == 2 * 48 + 3;
+    const bool isRaw = isRawLength && (password.startsWith("x'") || password.startsWith("X'")) &&
+                       password.endsWith('\'');
+    return isRaw ? password + '\n' : password;
+}
+
 } // namespace
 
-CipherFile::CipherFile(const QString& path, const QString& password, int format)
+// The spellings after the first are for albums whose password was taken as it was typed.
+QList<QByteArray> CipherKeys(const QString& password)
+{
+    QList<QByteArray> keys;
+    for (const QString& spelling : {password.normalized(QString::NormalizationForm_C), password,
+                                    password.normalized(QString::NormalizationForm_D)}) {
+        const QByteArray typed = spelling.toUtf8();
+        for (const QByteArray& key : {OrdinaryKey(typed), typed}) {
+            if (!key.isEmpty() && !keys.contains(key))
+                keys += key;
+        }
+    }
+    return keys;
+}
+
+CipherFile::CipherFile(const QString& path, const QByteArray& key, int format)
     : engine_(nullptr, sqlite3_close_v2)
 {
     sqlite3* opened = nullptr;
@@ -34,7 +59,7 @@ CipherFile::CipherFile(const QString& path, const QString& password, int format)
     engine_.reset(opened);
     if (code != SQLITE_OK)
         ThrowEngineError(opened, code);
-    if (!password.isEmpty() && !SetCipherKey(opened, password, format))
+    if (!key.isEmpty() && !SetCipherKey(opened, key, format))
         ThrowEngineError(opened, SQLITE_NOTADB);
 }
 
@@ -42,7 +67,8 @@ void CipherFile::ExportTo(const QString& target, const QString& password)
 {
     Statement attach(Get(), "ATTACH ?1 AS target KEY ?2");
     attach.Bind(1, target);
-    attach.Bind(2, password);
+    const QByteArray key = CipherKeys(password).value(0);
+    attach.BindUtf8(2, key);
     attach.Run();
     if (!password.isEmpty())
         SetFormat(Get(), "target", usualFormat);
@@ -50,9 +76,8 @@ void CipherFile::ExportTo(const QString& target, const QString& password)
     Statement(Get(), "DETACH target").Run();
 }
 
-bool SetCipherKey(sqlite3* engine, const QString& password, int format)
+bool SetCipherKey(sqlite3* engine, const QByteArray& key, int format)
 {
-    const QByteArray key = password.toUtf8();
     if (key.isEmpty() || sqlite3_key(engine, key.constData(), int(key.size())) != SQLITE_OK)
         return false;
     SetFormat(engine, "main", format);

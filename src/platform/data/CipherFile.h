@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <memory>
@@ -16,9 +18,9 @@ struct sqlite3;
 class CipherFile
 {
 public:
-    // Never makes a file. Throws DatabaseError. The password shows to be wrong only at the first
-    // read.
-    CipherFile(const QString& path, const QString& password, int format = usualFormat);
+    // Never makes a file. Throws DatabaseError. A key shows to be wrong only at the first read; the
+    // empty one is for a file without a password.
+    CipherFile(const QString& path, const QByteArray& key, int format = usualFormat);
 
     sqlite3* Get() const { return engine_.get(); }
 
@@ -33,8 +35,12 @@ private:
     std::unique_ptr<sqlite3, int (*)(sqlite3*)> engine_;
 };
 
+// The keys that a typed password may stand for; new files get the first. Letters with accents can
+// be typed as one character or as two, which read the same. None for an empty password.
+QList<QByteArray> CipherKeys(const QString& password);
+
 // Gives a connection that has read nothing yet its key. False when the library refuses it.
-bool SetCipherKey(sqlite3* engine, const QString& password, int format);
+bool SetCipherKey(sqlite3* engine, const QByteArray& key, int format);
 
 // The generation of the cipher library, 3 or 4.
 int CipherGeneration(sqlite3* engine);

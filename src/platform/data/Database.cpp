@@ -29,11 +29,6 @@ bool NeedsPassword(const QString& path)
     case DatabaseFileKind::Unopenable:
         throw DatabaseError(DatabaseError::CannotOpen,
                             DatabaseError::tr("'%1' is not a file that can be opened.").arg(shown));
-    case DatabaseFileKind::ReadOnly:
-        throw DatabaseError(
-            DatabaseError::ReadOnly,
-            DatabaseError::tr("'%1' cannot be changed: the file or its folder is read-only.")
-                .arg(shown));
     case DatabaseFileKind::Empty:
         throw DatabaseError(DatabaseError::NotADatabase,
                             DatabaseError::tr("'%1' is an empty file.").arg(shown));
@@ -60,20 +55,39 @@ int Authorize(void*, int action, const char*, const char*, const char*, const ch
     return source || reachesOut ? SQLITE_DENY : SQLITE_OK;
 }
 
+// Whether a change broke off, which the engine undoes at the next opening.
+bool IsHalfChanged(const QString& path)
+{
+    return QFileInfo(path + QStringLiteral("-journal")).size() > 0;
+}
+
 } // namespace
 
 std::shared_ptr<Database> Database::Open(const QString& path, const QString& password)
 {
     const bool locked = NeedsPassword(path);
     std::shared_ptr<Database> database(new Database(path));
-    database->Connect();
-    if (locked)
-        database->Unlock(password);
-    database->Prepare();
+    try {
+        database->Connect();
+        if (locked)
+            database->Unlock(password);
+        database->Prepare();
+    } catch (const DatabaseError& error) {
+        const bool isFileTrouble = error.GetNumber() == DatabaseError::DiskError ||
+                                   error.GetNumber() == DatabaseError::CannotOpen ||
+                                   error.GetNumber() == DatabaseError::ReadOnly;
+        if (!database->IsReadOnly() || !isFileTrouble || !IsHalfChanged(path))
+            throw;
+        throw DatabaseError(
+            DatabaseError::ReadOnly,
+            DatabaseError::tr("A change of '%1' broke off and must be undone first, "
+                              "but the file or its folder is read-only.")
+                .arg(QDir::toNativeSeparators(path)));
+    }
     return database;
 }
 
-Database::Database(const QString& path) : path_(path) {}
+Database::Database(const QString& path) : path_(path), isReadOnly_(IsReadOnlyDatabaseFile(path)) {}
 
 Database::~Database()
 {
@@ -84,8 +98,9 @@ void Database::Connect()
 {
     sqlite3_close_v2(engine_);
     engine_ = nullptr;
+    const int mode = isReadOnly_ ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
     const int code = sqlite3_open_v2(QFile::encodeName(path_).constData(), &engine_,
-                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+                                     mode | SQLITE_OPEN_NOMUTEX, nullptr);
     if (code != SQLITE_OK)
         ThrowEngineError(engine_, code);
     sqlite3_busy_timeout(engine_, busyMilliseconds);
@@ -109,21 +124,24 @@ void Database::Connect()
 void Database::Unlock(const QString& password)
 {
     password_ = password;
-    if (TryKey(CipherFile::usualFormat))
-        return;
-    if (!password.isEmpty() && CipherGeneration(engine_) > 3) {
-        Connect();
-        if (TryKey(CipherFile::libraryFormat))
+    const bool hasTwoFormats = CipherGeneration(engine_) > 3;
+    for (const QByteArray& key : CipherKeys(password)) {
+        if (TryKey(key, CipherFile::usualFormat) ||
+            (hasTwoFormats && TryKey(key, CipherFile::libraryFormat)))
             return;
     }
     throw DatabaseError(DatabaseError::WrongPassword,
                         DatabaseError::tr("The password is wrong or missing."));
 }
 
-bool Database::TryKey(int format)
+bool Database::TryKey(const QByteArray& key, int format)
 {
+    // A connection that a key has failed on may keep settings of that key.
+    if (!cipherKey_.isEmpty())
+        Connect();
+    cipherKey_ = key;
     cipherFormat_ = format;
-    return SetCipherKey(engine_, password_, format) && IsReadable();
+    return SetCipherKey(engine_, key, format) && IsReadable();
 }
 
 bool Database::IsReadable()
@@ -154,8 +172,12 @@ void Database::CheckSize()
 
 void Database::Prepare()
 {
+    // All checks under one lock: another program may change the file, or make it longer, at any
+    // time.
+    Execute("BEGIN");
     CheckSchema(engine_);
     CheckSize();
+    Execute("COMMIT");
     RegisterSqlFunctions(engine_);
     // One file that is safe to copy once closed, and nothing lost when the power goes.
     Execute("PRAGMA journal_mode=DELETE");

@@ -13,9 +13,11 @@ struct sqlite3;
 class Database
 {
 public:
-    // Opens an existing file for reading and writing. The password counts only for a file that has
-    // one. Throws DatabaseError: NoSuchFile, CannotOpen, ReadOnly, NotADatabase, WrongPassword
-    // (also when the password is missing), Damaged, InUse. Never makes a file.
+    // Opens an existing file for reading and writing, or for reading only where it or its folder
+    // cannot be written. The password counts only for a file that has one. Throws DatabaseError:
+    // NoSuchFile, CannotOpen, ReadOnly (when a change that broke off would have to be undone
+    // first), NotADatabase, WrongPassword (also when the password is missing), Damaged, InUse.
+    // Never makes a file.
     static std::shared_ptr<Database> Open(const QString& path, const QString& password = {});
 
     ~Database();
@@ -25,9 +27,13 @@ public:
     const QString& GetPath() const { return path_; }
     // What opened the file; empty for one without a password.
     const QString& GetPassword() const { return password_; }
-    // See CipherFile; means nothing for a file without a password.
+    // See CipherFile; both mean nothing for a file without a password.
+    const QByteArray& GetCipherKey() const { return cipherKey_; }
     int GetCipherFormat() const { return cipherFormat_; }
     sqlite3* GetEngine() const { return engine_; }
+
+    // Whatever would change it then throws ReadOnly.
+    bool IsReadOnly() const { return isReadOnly_; }
 
     // Goes up with every row that this program changes in the album; a row read under an earlier
     // count may be stale.
@@ -46,7 +52,7 @@ private:
 
     void Connect();
     void Unlock(const QString& password);
-    bool TryKey(int format);
+    bool TryKey(const QByteArray& key, int format);
     bool IsReadable();
     void CheckSize();
     qint64 GetPragma(const QByteArray& name);
@@ -54,6 +60,8 @@ private:
 
     QString path_;
     QString password_;
+    QByteArray cipherKey_;
+    bool isReadOnly_ = false;
     int cipherFormat_ = 0;
     sqlite3* engine_ = nullptr;
     int openBatches_ = 0;

@@ -55,6 +55,14 @@ bool ForEachBlock(const EngineFile& source, const Take& take)
     return true;
 }
 
+QString WhyNotCopied(const QFile& copy, bool isWritten)
+{
+    if (copy.error() != QFile::NoError)
+        return copy.errorString();
+    return isWritten ? DatabaseError::tr("what was written reads differently.")
+                     : DatabaseError::tr("the album's own file cannot be read.");
+}
+
 } // namespace
 
 void CopyDatabaseFile(const Database& database, const QString& target)
@@ -73,11 +81,12 @@ void CopyDatabaseFile(const Database& database, const QString& target)
                                      QFile::permissions(database.GetPath()));
     if (!isCreated)
         removeCopy.dismiss(); // whatever is there is not ours
-    if (!isCreated || !ForEachBlock(source, write) || !copy.flush() || !copy.seek(0) ||
-        !ForEachBlock(source, isEqual)) {
-        throw DatabaseError(DatabaseError::DiskError,
-                            DatabaseError::tr("The album cannot be copied to '%1': %2")
-                                .arg(QDir::toNativeSeparators(target), copy.errorString()));
+    const bool isWritten = isCreated && ForEachBlock(source, write) && copy.flush();
+    if (!isWritten || !copy.seek(0) || !ForEachBlock(source, isEqual)) {
+        throw DatabaseError(
+            DatabaseError::DiskError,
+            DatabaseError::tr("The album cannot be copied to '%1': %2")
+                .arg(QDir::toNativeSeparators(target), WhyNotCopied(copy, isWritten)));
     }
     removeCopy.dismiss();
 }

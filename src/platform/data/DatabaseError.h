@@ -32,6 +32,7 @@ public:
         BadFilter = 3075,
         NoSuchTable = 3078,
         RecordDeleted = 3167,
+        ChangedMeanwhile = 3197,
         InUse = 3260,
         NoSuchField = 3265,
         NotADatabase = 3343,

@@ -37,7 +37,7 @@ void ExportDatabase(const Database& database, const QString& target, const QStri
     // Connections of its own: the one that the program works on may not reach other files, and may
     // be at work in another thread.
     const auto connect = [&database] {
-        return CipherFile(database.GetPath(), database.GetPassword(), database.GetCipherFormat());
+        return CipherFile(database.GetPath(), database.GetCipherKey(), database.GetCipherFormat());
     };
     const CipherFile lock = connect();
     Statement(lock.Get(), "BEGIN IMMEDIATE").Run(); // until the connection closes

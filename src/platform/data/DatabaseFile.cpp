@@ -99,9 +99,11 @@ DatabaseFileKind KindOfDatabaseFile(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return DatabaseFileKind::Unopenable;
-    const DatabaseFileKind kind = KindOfContents(file);
-    const bool usable = kind == DatabaseFileKind::Plain || kind == DatabaseFileKind::Encrypted;
-    if (usable && (IsProtected(info) || !QFileInfo(info.absolutePath()).isWritable()))
-        return DatabaseFileKind::ReadOnly;
-    return kind;
+    return KindOfContents(file);
+}
+
+bool IsReadOnlyDatabaseFile(const QString& path)
+{
+    const QFileInfo file(path);
+    return IsProtected(file) || !QFileInfo(file.absolutePath()).isWritable();
 }

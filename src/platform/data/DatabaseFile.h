@@ -7,7 +7,6 @@
 enum class DatabaseFileKind {
     Missing,
     Unopenable,   // a folder, a device, or a file that may not be read
-    ReadOnly,     // it or its folder cannot be written
     Empty,        // 0 bytes: the engine would take it for a new database
     Plain,        // an album without a password
     Encrypted,    // may be an album with a password; only trying tells
@@ -16,3 +15,7 @@ enum class DatabaseFileKind {
 };
 
 DatabaseFileKind KindOfDatabaseFile(const QString& path);
+
+// Whether the file or its folder cannot be written; the engine keeps a journal beside the file
+// while it changes it.
+bool IsReadOnlyDatabaseFile(const QString& path);

@@ -27,6 +27,12 @@ QByteArray SelectedNames(const TableLayout& layout, const Marks& fields)
     throw DatabaseError(number, text);
 }
 
+[[noreturn]] void FailUnreadable()
+{
+    Fail(DatabaseError::TypeMismatch,
+         DatabaseError::tr("The album holds a value of a wrong type."));
+}
+
 } // namespace
 
 RecordSet::RecordSet(std::shared_ptr<Database> database, const QString& table)
@@ -150,7 +156,7 @@ void RecordSet::AcceptRow()
         open_ = true;
         return;
     }
-    // Also when a value is of a wrong type: an open statement holds a lock and takes no values.
+    // Also when memory runs out: an open statement holds a lock and takes no values.
     const auto reset = qScopeGuard([this] { query_->statement.Reset(); });
     for (int field = 0; query_->selected.any() && field < layout_.Count(); ++field) {
         const int column = query_->columns[std::size_t(field)];
@@ -254,7 +260,7 @@ QString RecordSet::Text(int field)
     if (ReadsFromStatement(field)) {
         const int column = query_->columns[std::size_t(field)];
         const std::string_view text = query_->statement.GetUtf8(column);
-        if (text.data())
+        if (text.data() && !query_->statement.IsBlob(column))
             return QString::fromUtf8(text.data(), qsizetype(text.size()));
     }
     const FieldValue& value = Value(field);
@@ -262,6 +268,8 @@ QString RecordSet::Text(int field)
         return *text;
     if (const auto* number = std::get_if<qint64>(&value))
         return QString::number(*number);
+    if (std::holds_alternative<UnreadableValue>(value))
+        FailUnreadable();
     Fail(DatabaseError::InvalidUseOfNull,
          DatabaseError::tr("A field that holds nothing was read as a text."));
 }
@@ -273,6 +281,8 @@ qint32 RecordSet::Number(int field)
         Fail(DatabaseError::InvalidUseOfNull,
              DatabaseError::tr("A field that holds nothing was read as a number."));
     const auto* number = std::get_if<qint64>(&value);
+    if (std::holds_alternative<UnreadableValue>(value))
+        FailUnreadable();
     if (!number)
         Fail(DatabaseError::TypeMismatch,
              DatabaseError::tr("A field that holds a text was read as a number."));

@@ -12,9 +12,26 @@ void ThrowMoved()
                                           "it was open. Please open the album again."));
 }
 
+namespace {
+
+// Copying everything to another file tells only by its message why it failed.
+int CodeOf(sqlite3* engine, int code)
+{
+    if (code != SQLITE_ERROR)
+        return code & 0xFF;
+    for (const int known : {SQLITE_FULL, SQLITE_IOERR, SQLITE_CANTOPEN, SQLITE_BUSY, SQLITE_LOCKED,
+                            SQLITE_READONLY, SQLITE_CORRUPT, SQLITE_NOMEM}) {
+        if (qstrcmp(sqlite3_errmsg(engine), sqlite3_errstr(known)) == 0)
+            return known;
+    }
+    return code;
+}
+
+} // namespace
+
 void ThrowEngineError(sqlite3* engine, int code)
 {
-    switch (code & 0xFF) {
+    switch (CodeOf(engine, code)) {
     case SQLITE_NOTADB:
         throw DatabaseError(DatabaseError::NotADatabase,
                             DatabaseError::tr("This file is not an album."));
@@ -149,6 +166,11 @@ bool Statement::IsNull(int column) const
     return sqlite3_column_type(handle_, column) == SQLITE_NULL;
 }
 
+bool Statement::IsBlob(int column) const
+{
+    return sqlite3_column_type(handle_, column) == SQLITE_BLOB;
+}
+
 qint64 Statement::GetInteger(int column) const
 {
     return sqlite3_column_int64(handle_, column);
@@ -168,8 +190,7 @@ FieldValue Statement::GetValue(int column) const
     case SQLITE_INTEGER:
         return GetInteger(column);
     case SQLITE_BLOB:
-        throw DatabaseError(DatabaseError::TypeMismatch,
-                            DatabaseError::tr("The album holds a value of a wrong type."));
+        return UnreadableValue();
     default: {
         const std::string_view text = GetUtf8(column);
         if (!text.data())

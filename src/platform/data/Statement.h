@@ -12,8 +12,14 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
+// A value that is neither number nor text. Only whoever asks for it is refused: one bad field must
+// not keep its row from being found.
+struct UnreadableValue
+{
+};
+
 // A field's value: nothing (Null), a whole number or a text.
-using FieldValue = std::variant<std::monostate, qint64, QString>;
+using FieldValue = std::variant<std::monostate, qint64, QString, UnreadableValue>;
 
 // Turns the engine's last result code into the error that the program knows, and throws it.
 [[noreturn]] void ThrowEngineError(sqlite3* engine, int code);
@@ -51,10 +57,10 @@ public:
     void Run();
 
     bool IsNull(int column) const;
+    bool IsBlob(int column) const;
     qint64 GetInteger(int column) const;
     // Valid until the next Step or Reset.
     std::string_view GetUtf8(int column) const;
-    // Throws TypeMismatch for a value that is neither number nor text.
     FieldValue GetValue(int column) const;
 
 private:

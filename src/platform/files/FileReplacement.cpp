@@ -108,8 +108,9 @@ void RemoveFolder(const QString& folder, std::unique_ptr<QLockFile> lock)
     QDir().rmdir(folder);
 }
 
-void ClearFolders(const QString& parent)
+bool ClearFolders(const QString& parent)
 {
+    bool isAnyCleared = false;
     const QStringList names =
         QDir(parent).entryList({QLatin1String(folderPattern) + u'*'},
                                QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot);
@@ -118,9 +119,12 @@ void ClearFolders(const QString& parent)
         const QFileInfo mark(Inside(folder, lockName));
         if (!mark.isFile() || mark.isSymLink())
             continue;
-        if (auto lock = LockFolder(folder))
+        if (auto lock = LockFolder(folder)) {
             RemoveFolder(folder, std::move(lock));
+            isAnyCleared = true;
+        }
     }
+    return isAnyCleared;
 }
 
 // Journals of a file that is replaced would be played back into the new one.
@@ -244,4 +248,9 @@ void FileReplacement::Commit(Taken taken)
     } catch (const std::system_error&) {
     }
 #endif
+}
+
+bool FileReplacement::ClearLeftovers(const QString& place)
+{
+    return ClearFolders(QFileInfo(ResolvePlace(place)).absolutePath());
 }

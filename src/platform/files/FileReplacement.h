@@ -33,6 +33,10 @@ public:
     // what was at the place is as it was.
     void Commit(Taken taken = Taken::Replace);
 
+    // Removes what replacements that were broken off have left beside the place. Call where that
+    // may be so, since it looks through the whole folder. Returns whether anything was there.
+    static bool ClearLeftovers(const QString& place);
+
 private:
     void MakeFile();
     void SetJournalsAside();

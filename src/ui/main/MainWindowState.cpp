@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/MainWindowState.h"
 
+#include "core/Album.h"
+
 namespace {
 
 QString WarningFor(const AlbumFacts& facts)
 {
     if (!facts.isOpen)
         return MainWindowState::tr("Please OPEN or CREATE an ALBUM\nPress F1 for Help");
+    if (facts.isReadOnly)
+        return GeneralModule::ReadOnlyReason();
     if (!facts.hasPictures)
         return MainWindowState::tr("Please LOAD and INDEX Pictures\nPress F1 for Help");
     if (facts.chapters == 0)
@@ -26,6 +30,7 @@ MainWindowState DescribeMainWindow(const AlbumFacts& facts)
     state.offersPictureCommands = facts.isOpen && facts.hasPictures;
     const bool hasSelection = facts.selected >= 0 && facts.selected < facts.chapters;
     state.offersChapterCommands = facts.isOpen && hasSelection;
+    state.isReadOnly = facts.isOpen && facts.isReadOnly;
     state.canMoveUp = state.offersChapterCommands && facts.selected > 0;
     state.canMoveDown = state.offersChapterCommands && facts.selected + 1 < facts.chapters;
     return state;

@@ -9,6 +9,7 @@
 struct AlbumFacts
 {
     bool isOpen = false;
+    bool isReadOnly = false;
     bool hasPictures = false;
     int chapters = 0;  // entries of the chapter list
     int selected = -1; // index of the selected one, -1 for none
@@ -24,6 +25,7 @@ public:
     bool offersAlbumCommands = false;
     bool offersPictureCommands = false;
     bool offersChapterCommands = false;
+    bool isReadOnly = false; // nothing that changes the album is offered
     bool canMoveUp = false;
     bool canMoveDown = false;
 };

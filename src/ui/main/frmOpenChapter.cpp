@@ -10,6 +10,7 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
+#include "platform/widgets/OfferedControl.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/MainWindowState.h"
@@ -52,10 +53,26 @@ frmOpenChapter::frmOpenChapter(const QString& album) : ui_(std::make_unique<Ui::
     KeepWindowSize(this, proposedSize);
     ConnectControls();
     DecorateWarning();
+    SetCallHandler([this] { ComeToFront(); });
     Form_Load(album);
 }
 
-frmOpenChapter::~frmOpenChapter() = default;
+frmOpenChapter::~frmOpenChapter()
+{
+    SetCallHandler({});
+}
+
+// Where the desktop lets no window come forward by itself, it marks the window in its task bar.
+void frmOpenChapter::ComeToFront()
+{
+    if (isMinimized())
+        showNormal();
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* front = modal ? modal : this;
+    front->raise();
+    front->activateWindow();
+    QApplication::alert(front);
+}
 
 void frmOpenChapter::ConnectControls()
 {
@@ -194,7 +211,7 @@ void frmOpenChapter::FillChapterList(const QString& selected)
 void frmOpenChapter::RefreshState()
 {
     const MainWindowState state =
-        DescribeMainWindow({AlbumOpen(), AlbumOpen() && !ImageSet->IsEmpty(),
+        DescribeMainWindow({AlbumOpen(), IsAlbumReadOnly(), AlbumOpen() && !ImageSet->IsEmpty(),
                             ui_->lstChapter->count(), ui_->lstChapter->currentRow()});
     setWindowTitle(state.caption);
     ui_->lblWarning->setText(state.warning);
@@ -203,24 +220,37 @@ void frmOpenChapter::RefreshState()
     for (QPushButton* button : {ui_->cmdLoadPictures, ui_->cmdDisplayUndefined,
                                 ui_->cmdCreateChapter, ui_->cmdReadChapter})
         button->setVisible(state.offersAlbumCommands);
-    ui_->cmdCreateChapter->setEnabled(state.offersAlbumCommands);
-    ui_->mnuCreateChapter->setEnabled(state.offersAlbumCommands);
-    ui_->cmdLoadPictures->setEnabled(state.offersAlbumCommands);
-    ui_->mnuLoadPictures->setEnabled(state.offersAlbumCommands);
-    ui_->mnuReloadPictures->setEnabled(state.offersPictureCommands);
-    ui_->cmdDisplayUndefined->setEnabled(state.offersPictureCommands);
-    for (QAction* entry : {ui_->mnuUndefined, ui_->mnuSelectedUndefined, ui_->mnuAllPictures,
-                           ui_->mnuSelectedPictures})
+    for (QAction* entry : {ui_->mnuAllPictures, ui_->mnuSelectedPictures})
         entry->setEnabled(state.offersPictureCommands);
     ui_->cmdReadChapter->setEnabled(state.offersChapterCommands);
-    for (QAction* entry : {ui_->mnuReadChapter, ui_->mnuRename, ui_->mnuDeleteChapter})
-        entry->setEnabled(state.offersChapterCommands);
-    ui_->cmdMoveUp->setEnabled(state.canMoveUp);
-    ui_->cmdMoveDown->setEnabled(state.canMoveDown);
-    ui_->mnuRepair->setEnabled(state.offersAlbumCommands);
-    ui_->mnuPassword->setEnabled(state.offersAlbumCommands);
+    ui_->mnuReadChapter->setEnabled(state.offersChapterCommands);
+    OfferChanges(state);
     if (ui_->lstChapter->isVisible())
         ui_->lstChapter->setFocus();
+}
+
+// In an album that can only be read, whatever would change it says why it does not.
+void frmOpenChapter::OfferChanges(const MainWindowState& state)
+{
+    const auto offer = [&state](auto* control, bool isOffered) {
+        OfferUnless(*control, isOffered, state.isReadOnly ? ReadOnlyReason() : QString());
+    };
+    offer(ui_->cmdCreateChapter, state.offersAlbumCommands);
+    offer(ui_->mnuCreateChapter, state.offersAlbumCommands);
+    offer(ui_->cmdLoadPictures, state.offersAlbumCommands);
+    offer(ui_->mnuLoadPictures, state.offersAlbumCommands);
+    offer(ui_->mnuReloadPictures, state.offersPictureCommands);
+    offer(ui_->cmdDisplayUndefined, state.offersPictureCommands);
+    offer(ui_->mnuUndefined, state.offersPictureCommands);
+    offer(ui_->mnuSelectedUndefined, state.offersPictureCommands);
+    offer(ui_->mnuRename, state.offersChapterCommands);
+    offer(ui_->mnuDeleteChapter, state.offersChapterCommands);
+    offer(ui_->cmdMoveUp, state.canMoveUp);
+    offer(ui_->cmdMoveDown, state.canMoveDown);
+    offer(ui_->mnuRepair, state.offersAlbumCommands);
+    offer(ui_->mnuPassword, state.offersAlbumCommands);
+    for (QMenu* menu : menuBar()->findChildren<QMenu*>())
+        menu->setToolTipsVisible(state.isReadOnly);
 }
 
 bool frmOpenChapter::eventFilter(QObject* watched, QEvent* event)

@@ -8,6 +8,7 @@
 class QAction;
 class QPushButton;
 struct DroppedFiles;
+struct MainWindowState;
 
 namespace Ui {
 class frmOpenChapter;
@@ -39,6 +40,7 @@ private:
     // Selects the chapter of that name, else keeps the selection by its name.
     void FillChapterList(const QString& selected = {});
     void RefreshState();
+    void OfferChanges(const MainWindowState& state);
 
     void mnuOpenScript_Click();
     void mnuCreateScript_Click();
@@ -63,6 +65,7 @@ private:
     void ConnectControls();
     void Connect(QPushButton* button, QAction* entry, void (frmOpenChapter::*handler)(),
                  const char* icon);
+    void ComeToFront();
     void DecorateWarning();
     void TintWarning();
     // From whichever way the album was chosen.

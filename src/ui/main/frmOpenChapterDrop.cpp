@@ -46,6 +46,8 @@ void frmOpenChapter::TakeDropped(const DroppedFiles& files)
     else if (!AlbumOpen())
         Tell(tr("Please open or create an album first, then drop the pictures."),
              Dialogs::Icon::Warning);
+    else if (IsAlbumReadOnly())
+        Tell(ReadOnlyReason(), Dialogs::Icon::Warning);
     else
         LoadDropped(files);
 }

@@ -1,11 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
+#include "core/Parameters.h"
 #include "core/Settings.h"
+#include "platform/files/FileClaim.h"
 #include "support/AlbumTest.h"
 #include "support/Rows.h"
 
 #include <sqlcipher/sqlite3.h>
+
+#include <QScopeGuard>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace GeneralModule;
 
@@ -50,10 +58,65 @@ private slots:
             WriteFile(album_->PathOf(name), contents);
             CheckRefused(*album_, album_->PathOf(name), number);
         }
+    }
+
+    // As on a CD, or where its owner protected the file.
+    void ProtectedAlbumsAreReadOnly()
+    {
+        album_->AddImageRow("/a.jpg", {{"Legend", "here"}});
+        album_->AddParagraph(album_->AddChapter("One"), "text");
+        album_->Execute("UPDATE Paragraph SET FileSelection=NULL");
         const QString path = album_->PathOf("protected.alb");
         QVERIFY(QFile::copy(album_->GetAlbum(), path));
         QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup));
-        CheckRefused(*album_, path, 3027);
+        const QByteArray before = ReadFile(path);
+        QVERIFY(OpenAlbum(path));
+        QVERIFY(IsAlbumReadOnly());
+        QCOMPARE(ImageSet->Text(u"Legend"), "here");
+        SaveTimerDelay(5); // which is not worth an error
+        QCOMPARE(ErrorOf([] { SetParam("x", "y"); }), 3027);
+        QCOMPARE(ReadFile(path), before);
+        QVERIFY(OpenAlbum(album_->GetAlbum()));
+        QVERIFY(!IsAlbumReadOnly());
+    }
+
+    // The file grows all the time while another program loads pictures.
+    void AGrowingAlbumIsWhole()
+    {
+        const QString path = album_->GetAlbum();
+        ReleaseAlbum();
+        const pid_t loader = fork();
+        if (loader == 0) {
+            const std::shared_ptr<Database> database = Database::Open(path);
+            while (true) {
+                database->Execute("BEGIN IMMEDIATE");
+                database->Execute("INSERT INTO Image (File,Legend) VALUES "
+                                  "(hex(randomblob(9)),hex(randomblob(40000)))");
+                usleep(5000);
+                database->Execute("COMMIT");
+            }
+        }
+        const auto end = qScopeGuard([loader] {
+            kill(loader, SIGKILL);
+            waitpid(loader, nullptr, 0);
+        });
+        for (int opened = 0; opened < 150; ++opened)
+            QCOMPARE(ErrorOf([&path] { Database::Open(path); }), 0);
+    }
+
+    void AnotherWindowHasTheAlbumOpen()
+    {
+        const QString path = album_->GetAlbum();
+        ReleaseAlbum();
+        int calls = 0;
+        FileClaim other(path, [&calls] { ++calls; });
+        for (const auto answer : {Answer::Cancel, Answer::Yes, Answer::No}) {
+            dialogs_->ExpectBox("This album is open in another window already:\n" + path,
+                                Icon::Question, Buttons::YesNoCancel, answer);
+            QCOMPARE(OpenAlbum(path), answer == Answer::No);
+            QCOMPARE(HasGoneToOtherWindow(), answer == Answer::Yes);
+        }
+        QTRY_COMPARE(calls, 1);
     }
 
     // What the check of the schema might miss cannot run either.
@@ -196,6 +259,12 @@ private slots:
         AlbumDatabase->Execute("ROLLBACK");
         QVERIFY(QFileInfo(path + "-journal").size() > 0);
 
+        constexpr auto mayRead = QFile::ReadOwner;
+        QVERIFY(QFile::setPermissions(path, mayRead));
+        dialogs_->ExpectBoxBeginning("Error 3027 A change of '" + path + "' broke off",
+                                     Icon::Warning);
+        QVERIFY(!OpenAlbum(path));
+        QVERIFY(QFile::setPermissions(path, mayRead | QFile::WriteOwner));
         QVERIFY(OpenAlbum(path));
         QCOMPARE(ImageSet->RecordCount(), 1);
         QCOMPARE(ImageSet->Text(u"Legend"), "before");
