@@ -114,10 +114,11 @@ void SaveAndGoOn_Ours(benchmark::State& state)
     Engine();
     ParagraphPlace place{40, 39 * perChapter + 1};
     for (auto _ : state) {
-        ParagraphContent content = LoadParagraph(place.paragraph);
+        const ParagraphContent shown = LoadParagraph(place.paragraph);
+        ParagraphContent content = shown;
         content.text = NewText();
         content.values[4] = content.values[4] == anyValue ? QStringLiteral("Anna;Paul") : anyValue;
-        SaveAndStep(place, content, ChainStep::Next);
+        SaveAndStep(place, {shown, content}, ChainStep::Next);
         benchmark::DoNotOptimize(LoadParagraph(place.paragraph));
     }
 }
@@ -127,9 +128,8 @@ void CreateNextAndSave_Ours(benchmark::State& state)
     Engine();
     ParagraphPlace place{60, 59 * perChapter + perChapter / 2};
     for (auto _ : state) {
-        ParagraphContent content = LoadParagraph(place.paragraph);
-        content.text = NewText();
-        CreateNextParagraph(place, content);
+        const ParagraphContent shown = LoadParagraph(place.paragraph);
+        CreateNextParagraph(place, {shown, {NewText(), shown.values}});
     }
 }
 

@@ -60,7 +60,8 @@ bool MakeStory(const QTemporaryDir& folder)
     }
     ParagraphPlace place{GeneralModule::CreateChapter(QStringLiteral("One"), {}), 0};
     CreateFirstParagraph(place);
-    CreateNextParagraph(place, LoadParagraph(place.paragraph));
+    const ParagraphContent shown = LoadParagraph(place.paragraph);
+    CreateNextParagraph(place, {shown, shown});
     return pictures.size() == pictureCount;
 }
 

@@ -45,6 +45,28 @@
         <source>The album&apos;s file could not be replaced: %1</source>
         <translation>Impossible de remplacer le fichier de l&apos;album : %1</translation>
     </message>
+    <message>
+        <source>This album is open in another window already:
+%1</source>
+        <translation>Cet album est déjà ouvert dans une autre fenêtre :
+%1</translation>
+    </message>
+    <message>
+        <source>Go to That Window</source>
+        <translation>Aller à cette fenêtre</translation>
+    </message>
+    <message>
+        <source>Open Here Too</source>
+        <translation>Ouvrir ici aussi</translation>
+    </message>
+    <message>
+        <source>This album can be read, but not changed: its file or its folder is read-only.</source>
+        <translation>Cet album peut être lu, mais pas modifié : son fichier ou son dossier est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>The last change of this album&apos;s password was broken off. What it left beside the album has been removed.</source>
+        <translation>Le dernier changement du mot de passe de cet album s&apos;est interrompu. Ce qu&apos;il avait laissé à côté de l&apos;album a été supprimé.</translation>
+    </message>
 </context>
 <context>
     <name>AlbumPassword</name>
@@ -70,7 +92,7 @@
     </message>
     <message>
         <source>This album has a password. Do you want to remove it or to change it?</source>
-        <translation>Cet album a un mot de passe. Voulez-vous le supprimer ou le changer ?</translation>
+        <translation>Cet album a un mot de passe. Voulez-vous le supprimer ou le changer&#xa0;?</translation>
     </message>
     <message>
         <source>Remove Password</source>
@@ -90,6 +112,17 @@
     <message>
         <source>Autoview Mode</source>
         <translation>Défilement automatique</translation>
+    </message>
+</context>
+<context>
+    <name>ChapterChain</name>
+    <message>
+        <source>(no name)</source>
+        <translation>(sans nom)</translation>
+    </message>
+    <message>
+        <source>(no name %1)</source>
+        <translation>(sans nom %1)</translation>
     </message>
 </context>
 <context>
@@ -163,10 +196,6 @@
     <message>
         <source>&apos;%1&apos; is not a file that can be opened.</source>
         <translation>« %1 » n&apos;est pas un fichier qui puisse être ouvert.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; cannot be changed: the file or its folder is read-only.</source>
-        <translation>« %1 » ne peut pas être modifié : le fichier ou son dossier est en lecture seule.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is an empty file.</source>
@@ -323,6 +352,49 @@
     <message>
         <source>The album&apos;s file was moved, renamed or replaced while it was open. Please open the album again.</source>
         <translation>Le fichier de l&apos;album a été déplacé, renommé ou remplacé pendant qu&apos;il était ouvert. Veuillez rouvrir l&apos;album.</translation>
+    </message>
+    <message>
+        <source>A change of &apos;%1&apos; broke off and must be undone first, but the file or its folder is read-only.</source>
+        <translation>Une modification de « %1 » s&apos;est interrompue et doit d&apos;abord être annulée, mais le fichier ou son dossier est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>what was written reads differently.</source>
+        <translation>ce qui a été écrit se relit différemment.</translation>
+    </message>
+    <message>
+        <source>the album&apos;s own file cannot be read.</source>
+        <translation>le fichier de l&apos;album lui-même est illisible.</translation>
+    </message>
+</context>
+<context>
+    <name>EditConflict</name>
+    <message>
+        <source>(nothing)</source>
+        <translation>(rien)</translation>
+    </message>
+    <message>
+        <source>%1 was changed in another window after it was opened here.
+
+The other version:
+%2
+
+Your version:
+%3</source>
+        <translation>%1 : modification dans une autre fenêtre après l&apos;ouverture ici.
+
+L&apos;autre version :
+%2
+
+Votre version :
+%3</translation>
+    </message>
+    <message>
+        <source>Keep Mine</source>
+        <translation>Garder la mienne</translation>
+    </message>
+    <message>
+        <source>Take the Other</source>
+        <translation>Prendre l&apos;autre</translation>
     </message>
 </context>
 <context>
@@ -663,6 +735,10 @@ Appuyez sur F1 pour l&apos;aide</translation>
         <source>This paragraph is no longer in the album.</source>
         <translation>Ce paragraphe n&apos;est plus dans l&apos;album.</translation>
     </message>
+    <message>
+        <source>This paragraph has just been changed in another window. Please try again.</source>
+        <translation>Ce paragraphe vient d&apos;être modifié dans une autre fenêtre. Veuillez réessayer.</translation>
+    </message>
 </context>
 <context>
     <name>ParagraphMoves</name>
@@ -704,7 +780,7 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <name>QtDialogs</name>
     <message>
         <source>&apos;%1&apos; exists already. Do you want to replace it?</source>
-        <translation>« %1 » existe déjà. Voulez-vous le remplacer ?</translation>
+        <translation>« %1 » existe déjà. Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -910,6 +986,10 @@ Appuyez sur F1 pour l&apos;aide</translation>
         <source>Name the Caracteristics</source>
         <translation>Nommer les caractéristiques</translation>
     </message>
+    <message>
+        <source>This picture</source>
+        <translation>Cette photo</translation>
+    </message>
 </context>
 <context>
     <name>frmEditLabels</name>
@@ -980,6 +1060,10 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source>Exit</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>One of these labels</source>
+        <translation>Une de ces étiquettes</translation>
     </message>
 </context>
 <context>
@@ -1127,6 +1211,24 @@ Quitter sans enregistrer ?</translation>
     <message>
         <source> images left</source>
         <translation> photos restantes</translation>
+    </message>
+    <message>
+        <source>This paragraph</source>
+        <translation>Ce paragraphe</translation>
+    </message>
+    <message>
+        <source>This paragraph was changed in another window after it was opened here.
+
+The other version:
+%1
+
+Delete it all the same?</source>
+        <translation>Ce paragraphe a été modifié dans une autre fenêtre après son ouverture ici.
+
+L&apos;autre version :
+%1
+
+Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>

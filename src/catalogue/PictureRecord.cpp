@@ -2,6 +2,7 @@
 #include "catalogue/PictureRecord.h"
 
 #include "core/Album.h"
+#include "core/EditConflict.h"
 #include "core/TextRoutines.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/dialogs/Dialogs.h"
@@ -13,6 +14,7 @@
 
 using GeneralModule::AlbumDatabase;
 using GeneralModule::ImageSet;
+using GeneralModule::IsConflict;
 using GeneralModule::Quoted;
 
 namespace {
@@ -86,6 +88,37 @@ std::optional<PictureRecord> ReadPictureRecord(const QString& file)
     return record;
 }
 
+PictureRecord MergeRecord(const PictureRecord& shown, const PictureRecord& edited,
+                          const PictureRecord& stored, bool prefersEdited)
+{
+    const auto merge = [prefersEdited](const QString& before, const QString& mine,
+                                       const QString& theirs) {
+        const bool takesMine =
+            mine != before && (prefersEdited || !IsConflict(before, mine, theirs));
+        return takesMine ? mine : theirs;
+    };
+    PictureRecord merged{merge(shown.legend, edited.legend, stored.legend), {}};
+    for (std::size_t column = 0; column < columnCount; ++column)
+        merged.values[column] =
+            merge(shown.values[column], edited.values[column], stored.values[column]);
+    return merged;
+}
+
+bool HasConflict(const PictureRecord& shown, const PictureRecord& edited,
+                 const PictureRecord& stored)
+{
+    return MergeRecord(shown, edited, stored, true) != MergeRecord(shown, edited, stored, false);
+}
+
+QString DescribeRecord(const PictureRecord& record)
+{
+    QStringList parts{record.legend};
+    parts.append(QStringList(record.values.begin(), record.values.end()));
+    parts.removeAll(QString());
+    parts.removeAll(noValue);
+    return parts.join(QStringLiteral(", "));
+}
+
 PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
                                 const PictureRecord& edited)
 {
@@ -112,7 +145,7 @@ PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
         ImageSet->Set(u"Legend", saved.legend);
     ImageSet->Update();
     batch.Finish();
-    return saved;
+    return ReadPictureRecord(file).value_or(saved);
 }
 
 bool TakeOutPicture(const QString& file, bool deleteFile)

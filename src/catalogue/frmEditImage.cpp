@@ -6,12 +6,15 @@
 #include "catalogue/ValueCompletion.h"
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
+#include "core/Album.h"
+#include "core/EditConflict.h"
 #include "core/Parameters.h"
 #include "core/PictureFile.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/KeyPreview.h"
+#include "platform/widgets/OfferedControl.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 
@@ -68,6 +71,8 @@ frmEditImage::frmEditImage(QWidget* parent)
         combo->lineEdit()->setCompleter(completion_);
     }
     ConnectControls();
+    if (IsAlbumReadOnly())
+        ShowOnly();
 }
 
 frmEditImage::~frmEditImage() = default;
@@ -95,6 +100,17 @@ void frmEditImage::ConnectControls()
         combo->installEventFilter(this);
     }
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
+}
+
+// What is known of a picture can be read in an album that cannot be changed, too.
+void frmEditImage::ShowOnly()
+{
+    for (QComboBox* combo : cboCategory_)
+        OfferUnless(*combo, false, ReadOnlyReason());
+    for (QPushButton* button : {ui_->cmdDelete, ui_->cmdEditTables, ui_->cmdEditLabels})
+        OfferUnless(*button, false, ReadOnlyReason());
+    ui_->txtLegend->setReadOnly(true);
+    ui_->txtLegend->setToolTip(ReadOnlyReason());
 }
 
 void frmEditImage::showEvent(QShowEvent* event)
@@ -181,19 +197,25 @@ void frmEditImage::ShowPicture(const QString& file)
     ui_->lblFileName->setText(file);
     ui_->cmdNextImage->setVisible(HasNextPicture && HasNextPicture());
     isKnown_ = record.has_value();
-    shown_ = record.value_or(PictureRecord());
-    ShowRecord();
+    ShowStored(record.value_or(PictureRecord()));
     if (!isKnown_)
         Tell(tr("Internal Error : Image File ") + CurrentImage + tr(" not found"),
              Dialogs::Icon::Critical);
 }
 
-void frmEditImage::ShowRecord()
+void frmEditImage::ShowStored(const PictureRecord& record)
+{
+    shown_ = record;
+    ShowRecord(record);
+    controls_ = ControlValues();
+}
+
+void frmEditImage::ShowRecord(const PictureRecord& record)
 {
     for (int column = 0; column < columnCount; ++column)
-        SetValue(column, shown_.values[std::size_t(column)]);
-    if (ui_->txtLegend->text() != shown_.legend)
-        ui_->txtLegend->setText(shown_.legend);
+        SetValue(column, record.values[std::size_t(column)]);
+    if (ui_->txtLegend->text() != record.legend)
+        ui_->txtLegend->setText(record.legend);
 }
 
 // A value that the table does not offer is shown all the same, with no entry selected, so that
@@ -216,15 +238,45 @@ void frmEditImage::cboCategory_Change(int column)
         combo->setEditText(text);
 }
 
-void frmEditImage::SavePicture()
+PictureRecord frmEditImage::ControlValues() const
+{
+    PictureRecord record{ui_->txtLegend->text(), {}};
+    for (std::size_t column = 0; column < columnCount; ++column)
+        record.values[column] = cboCategory_[column]->currentText();
+    return record;
+}
+
+// What nobody has touched is as it was shown, whatever a control of one line makes of it.
+PictureRecord frmEditImage::GetRecord() const
+{
+    return MergeRecord(controls_, ControlValues(), shown_, true);
+}
+
+// False when the user wants to stay.
+bool frmEditImage::SettleConflict()
+{
+    const PictureRecord edited = GetRecord();
+    const PictureRecord stored = ReadPictureRecord(CurrentImage).value_or(shown_);
+    if (!HasConflict(shown_, edited, stored))
+        return true;
+    const ConflictChoice choice =
+        AskAboutConflict(tr("This picture"), DescribeRecord(edited), DescribeRecord(stored));
+    if (choice == ConflictChoice::Stay)
+        return false;
+    const PictureRecord merged =
+        MergeRecord(shown_, edited, stored, choice == ConflictChoice::KeepMine);
+    ShowStored(stored);
+    ShowRecord(merged);
+    return true;
+}
+
+bool frmEditImage::SavePicture()
 {
     if (CurrentImage.isEmpty() || !isKnown_)
-        return;
-    PictureRecord edited;
-    for (int column = 0; column < columnCount; ++column)
-        edited.values[std::size_t(column)] = cboCategory_[std::size_t(column)]->currentText();
-    edited.legend = ui_->txtLegend->text();
-    const PictureRecord saved = SavePictureRecord(CurrentImage, shown_, edited);
+        return true;
+    if (!SettleConflict())
+        return false;
+    const PictureRecord saved = SavePictureRecord(CurrentImage, shown_, GetRecord());
     for (int column = 0; column < columnCount; ++column) {
         QComboBox* combo = cboCategory_[std::size_t(column)];
         const QString& value = saved.values[std::size_t(column)];
@@ -232,14 +284,14 @@ void frmEditImage::SavePicture()
         if (isNew && IndexOf(ValuesModel(column)->stringList(), value) < 0)
             combo->addItem(value);
     }
-    shown_ = saved;
-    ShowRecord();
+    ShowStored(saved);
+    return true;
 }
 
 void frmEditImage::cmdNextImage_Click()
 {
-    SavePicture();
-    GoToNextPicture();
+    if (SavePicture())
+        GoToNextPicture();
 }
 
 void frmEditImage::GoToNextPicture()
@@ -275,11 +327,11 @@ void frmEditImage::cmdDelete_Click()
 // Saved first, so that a value just typed stands in its table, and a replacement reaches it.
 void frmEditImage::cmdEditTables_Click()
 {
-    SavePicture();
+    if (!SavePicture())
+        return;
     frmEditTables(CurrentImage, this).exec();
     DisplayCaracteristicNames();
-    shown_ = ReadPictureRecord(CurrentImage).value_or(shown_);
-    ShowRecord();
+    ShowStored(ReadPictureRecord(CurrentImage).value_or(shown_));
 }
 
 bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
@@ -309,8 +361,7 @@ void frmEditImage::reject()
 bool frmEditImage::SaveBeforeLeaving()
 {
     try {
-        SavePicture();
-        return true;
+        return SavePicture();
     } catch (const DatabaseError& error) {
         const Dialogs::Answer answer = Dialogs::Door().Ask(
             {.text = error.GetDescription() + QLatin1Char('\n') +

@@ -58,11 +58,17 @@ private:
     void cmdEditLabels_Click();
 
     void ConnectControls();
+    void ShowOnly();
     void DisplayCaracteristicNames();
     void DisplayLabels();
     void ShowPicture(const QString& file);
-    void ShowRecord();
-    void SavePicture();
+    void ShowStored(const PictureRecord& record);
+    void ShowRecord(const PictureRecord& record);
+    PictureRecord ControlValues() const;
+    PictureRecord GetRecord() const;
+    bool SettleConflict();
+    // False when another window has changed the same and the user wants to stay; nothing is saved.
+    bool SavePicture();
     void GoToNextPicture();
     bool SaveBeforeLeaving();
     void SetValue(int column, const QString& value);
@@ -72,7 +78,8 @@ private:
     std::unique_ptr<Ui::frmEditImage> ui_;
     std::array<QComboBox*, columnCount> cboCategory_{};
     ValueCompletion* completion_;
-    PictureRecord shown_;  // as the album holds it
-    bool isKnown_ = false; // the album holds the picture
+    PictureRecord controls_; // shown_ as the controls give it back
+    PictureRecord shown_;    // as the album holds it
+    bool isKnown_ = false;   // the album holds the picture
     bool isLoaded_ = false;
 };

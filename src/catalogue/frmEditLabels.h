@@ -21,12 +21,28 @@ public:
     ~frmEditLabels() override;
 
 private:
+    struct Label
+    {
+        QLineEdit* box;
+        QString loaded; // as the album held it
+        QString shown;  // the same as the box gives it back
+        int group = -1; // or column
+        int column = -1;
+
+        QString Read() const;
+        void Write() const;
+    };
+
     void Form_Load();
+    void Load(Label label);
+    std::vector<Label> EditedLabels() const;
+    // Takes away what is to stay as another window made it. False when the user wants to stay.
+    bool SettleConflicts(std::vector<Label>& edited);
     void cmdExit_Click();
 
     QLineEdit* txtCaract(int group) const;
     QLineEdit* txtCar(int column) const;
 
     std::unique_ptr<Ui::frmEditLabels> ui_;
-    bool isLoaded_ = false;
+    std::vector<Label> labels_;
 };

@@ -72,9 +72,45 @@ Neighbours CurrentNeighbours()
     return {LinkIn(*ParagraphSet, u"PreviousParagraph"), LinkIn(*ParagraphSet, u"NextParagraph")};
 }
 
+[[noreturn]] void FailChanged()
+{
+    throw DatabaseError(
+        DatabaseError::ChangedMeanwhile,
+        QCoreApplication::translate("ParagraphChain",
+                                    "This paragraph has just been changed in another window. "
+                                    "Please try again."));
+}
+
+// The set must be in the middle of an edit.
+void WriteChanges(const ParagraphContent& stored, const ParagraphContent& content)
+{
+    if (content.text != stored.text)
+        SetText(u"Text", content.text);
+    for (int column = 0; column < columnCount; ++column) {
+        const QString& value = content.values[std::size_t(column)];
+        if (value != stored.values[std::size_t(column)])
+            SetText(CarField(column), StorableFilter(value));
+    }
+}
+
 qint32 IfThere(qint32 paragraph)
 {
     return paragraph > 0 && FindById(*ParagraphSet, paragraph) ? paragraph : 0;
+}
+
+// A new paragraph is linked to when it is saved, not when it is made. Where another window made one
+// after the same paragraph and has saved it meanwhile, that one follows this one from now on;
+// otherwise neither the chain nor a list would show it any more.
+Neighbours MakeRoom(const ParagraphPlace& place, Neighbours stored)
+{
+    if (IfThere(stored.previous) == 0)
+        return stored;
+    const qint32 follower = LinkIn(*ParagraphSet, u"NextParagraph");
+    if (follower == place.paragraph || follower == stored.next || IfThere(follower) == 0)
+        return stored;
+    const bool isAtSamePlace = CurrentNeighbours().previous == stored.previous &&
+                               LinkIn(*ParagraphSet, u"Chapter") == place.chapter;
+    return isAtSamePlace ? Neighbours{stored.previous, follower} : stored;
 }
 
 // A chapter that begins with another paragraph keeps it: the one deleted was then not part of what
@@ -93,19 +129,24 @@ ParagraphContent LoadParagraph(qint32 paragraph)
     return {ParagraphSet->TextOrEmpty(u"Text"), ReadCarValues()};
 }
 
-void SaveParagraph(const ParagraphPlace& place, const ParagraphContent& content)
+void SaveParagraph(const ParagraphPlace& place, const ParagraphDraft& draft)
 {
     if (place.paragraph <= 0)
         return;
     RequireParagraph(place.paragraph);
-    WriteBatch batch(AlbumDatabase);
-    const Neighbours neighbours = CurrentNeighbours();
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    const ParagraphContent stored = LoadParagraph(place.paragraph);
+    if (HasConflict(draft, stored))
+        FailChanged();
+    const Neighbours former = CurrentNeighbours();
+    const Neighbours neighbours = MakeRoom(place, former);
+    RequireParagraph(place.paragraph);
     ParagraphSet->Edit();
-    SetText(u"Text", content.text);
-    for (int column = 0; column < columnCount; ++column)
-        SetText(CarField(column), StorableFilter(content.values[std::size_t(column)]));
+    WriteChanges(stored, MergeDraft(draft, stored, true));
     if (LinkIn(*ParagraphSet, u"Chapter") != place.chapter)
         ParagraphSet->Set(u"Chapter", place.chapter);
+    if (neighbours.next != former.next)
+        ParagraphSet->Set(u"NextParagraph", neighbours.next);
     ParagraphSet->Update();
 
     SetParagraphLink(neighbours.next, u"PreviousParagraph", place.paragraph);
@@ -135,20 +176,24 @@ void CreateFirstParagraph(ParagraphPlace& place)
 {
     if (!FindById(*ChapterSet, place.chapter))
         return;
-    WriteBatch batch(AlbumDatabase);
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    if (const qint32 first = IfThere(LinkIn(*ChapterSet, u"FirstParagraph"))) {
+        place.paragraph = first;
+        return;
+    }
     AddParagraph(place);
     SetFirstParagraph(place.chapter, place.paragraph);
     batch.Finish();
 }
 
-ParagraphContent CreateNextParagraph(ParagraphPlace& place, const ParagraphContent& content)
+ParagraphContent CreateNextParagraph(ParagraphPlace& place, const ParagraphDraft& draft)
 {
     RequireParagraph(place.paragraph);
     const qint32 old = place.paragraph;
     const qint32 oldNext = LinkIn(*ParagraphSet, u"NextParagraph");
     const CarValues inherited = ReadCarValues();
-    WriteBatch batch(AlbumDatabase);
-    SaveParagraph(place, content);
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    SaveParagraph(place, draft);
     AddParagraph(place);
     RequireParagraph(place.paragraph);
     ParagraphSet->Edit();
@@ -161,10 +206,11 @@ ParagraphContent CreateNextParagraph(ParagraphPlace& place, const ParagraphConte
     return {{}, inherited};
 }
 
-void DeleteParagraph(ParagraphPlace& place, const ParagraphContent& content)
+void DeleteParagraph(ParagraphPlace& place)
 {
-    WriteBatch batch(AlbumDatabase);
-    SaveParagraph(place, content);
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    const ParagraphContent content = LoadParagraph(place.paragraph);
+    SaveParagraph(place, {content, content}); // its neighbours may not lead to it yet
     RequireParagraph(place.paragraph);
     const Neighbours stored = CurrentNeighbours();
     ParagraphSet->Delete();
@@ -179,9 +225,9 @@ void DeleteParagraph(ParagraphPlace& place, const ParagraphContent& content)
     place.paragraph = next > 0 ? next : previous;
 }
 
-void SaveAndStep(ParagraphPlace& place, const ParagraphContent& content, ChainStep step)
+void SaveAndStep(ParagraphPlace& place, const ParagraphDraft& draft, ChainStep step)
 {
-    SaveParagraph(place, content);
+    SaveParagraph(place, draft);
     const bool isBackward = step == ChainStep::First || step == ChainStep::Previous;
     const QStringView field = isBackward ? u"PreviousParagraph" : u"NextParagraph";
     if (step == ChainStep::First || step == ChainStep::Last) {

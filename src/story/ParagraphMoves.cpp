@@ -167,7 +167,7 @@ std::vector<ParagraphLine> ListParagraphs(qint32 chapter)
 
 QString ChapterNameOf(qint32 chapter)
 {
-    return FindById(*ChapterSet, chapter) ? ChapterSet->TextOrEmpty(u"Name") : QString();
+    return GeneralModule::ChapterTitle(chapter);
 }
 
 qint32 PreviousChapterOf(qint32 chapter)

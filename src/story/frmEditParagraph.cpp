@@ -4,6 +4,7 @@
 
 #include "catalogue/frmEditLabels.h"
 #include "core/Album.h"
+#include "core/EditConflict.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/KeyPreview.h"
@@ -166,14 +167,22 @@ void frmEditParagraph::FillFromAlbum()
     ShowContent(content);
 }
 
-// The text box keeps caret and history where it holds the text already.
 void frmEditParagraph::ShowContent(const ParagraphContent& content)
+{
+    SetControls(content);
+    isShown_ = true;
+    loaded_ = content;
+    shown_ = GetContent();
+}
+
+// The text box keeps caret and history where it holds the text already.
+void frmEditParagraph::SetControls(const ParagraphContent& content)
 {
     const QString text = ToDisplayMarkers(content.text, markers_);
     if (!isShown_ || ui_->txtParagraph->GetText() != text)
         ui_->txtParagraph->SetText(text);
-    ui_->filterPanel->SetValues(content.values);
-    isShown_ = true;
+    if (!isShown_ || ui_->filterPanel->GetValues() != content.values)
+        ui_->filterPanel->SetValues(content.values);
 }
 
 void frmEditParagraph::GoTo(const ParagraphPlace& place)
@@ -214,10 +223,67 @@ ParagraphContent frmEditParagraph::GetContent() const
     return {ToStoredMarkers(ui_->txtParagraph->GetText(), markers_), ui_->filterPanel->GetValues()};
 }
 
-void frmEditParagraph::SaveParagraph()
+// As the text box shows it.
+QString frmEditParagraph::Describe(const ParagraphContent& content) const
 {
-    if (isShown_)
-        ::SaveParagraph(GetPlace(), GetContent());
+    return DescribeContent({ToDisplayMarkers(content.text, markers_), content.values});
+}
+
+// A part that nobody has touched is the same as it was loaded, whatever the controls make of it.
+ParagraphDraft frmEditParagraph::GetDraft() const
+{
+    ParagraphDraft draft{loaded_, GetContent()};
+    if (draft.edited.text == shown_.text)
+        draft.edited.text = loaded_.text;
+    for (std::size_t column = 0; column < columnCount; ++column) {
+        if (draft.edited.values[column] == shown_.values[column])
+            draft.edited.values[column] = loaded_.values[column];
+    }
+    return draft;
+}
+
+bool frmEditParagraph::SaveParagraph()
+{
+    if (!isShown_ || CurrentParagraph <= 0)
+        return true;
+    if (!SettleConflict())
+        return false;
+    ::SaveParagraph(GetPlace(), GetDraft());
+    ShowSaved();
+    return true;
+}
+
+bool frmEditParagraph::SettleConflict()
+{
+    const ParagraphDraft draft = GetDraft();
+    const ParagraphContent stored = LoadParagraph(CurrentParagraph);
+    if (!HasConflict(draft, stored))
+        return true;
+    using GeneralModule::ConflictChoice;
+    const ConflictChoice choice = GeneralModule::AskAboutConflict(
+        tr("This paragraph"), Describe(draft.edited), Describe(stored));
+    if (choice == ConflictChoice::Stay)
+        return false;
+    const ParagraphContent merged = MergeDraft(draft, stored, choice == ConflictChoice::KeepMine);
+    ShowContent(stored);
+    SetControls(merged);
+    return true;
+}
+
+// What another window has written to other parts meanwhile is shown too. A filter that waits for
+// its first value goes on waiting.
+void frmEditParagraph::ShowSaved()
+{
+    const ParagraphContent edited = GetContent();
+    ParagraphContent saved = LoadParagraph(CurrentParagraph);
+    loaded_ = saved;
+    for (std::size_t column = 0; column < columnCount; ++column) {
+        if (StorableFilter(edited.values[column]) == StorableFilter(saved.values[column]))
+            saved.values[column] = edited.values[column];
+    }
+    if (edited.text != saved.text || edited.values != saved.values)
+        SetControls(saved);
+    shown_ = GetContent();
 }
 
 void frmEditParagraph::cmdFirstParagraph_Click()
@@ -243,10 +309,14 @@ void frmEditParagraph::cmdEndOfChapter_Click()
 // Where there is no further paragraph, caret and preview stay as they are.
 void frmEditParagraph::StepTo(ChainStep step, const QPushButton* button)
 {
+    if (!SettleConflict())
+        return;
     ParagraphPlace place = GetPlace();
-    SaveAndStep(place, GetContent(), step);
+    SaveAndStep(place, GetDraft(), step);
     if (place != GetPlace())
         GoTo(place);
+    else
+        ShowSaved();
     // Who came by mouse goes on writing; a button that was pressed by a key has the focus.
     if (!isPreview_ && focusWidget() != button)
         ui_->txtParagraph->setFocus();
@@ -254,8 +324,10 @@ void frmEditParagraph::StepTo(ChainStep step, const QPushButton* button)
 
 void frmEditParagraph::cmdCreateNext_Click()
 {
+    if (!SettleConflict())
+        return;
     ParagraphPlace place = GetPlace();
-    const ParagraphContent created = CreateNextParagraph(place, GetContent());
+    const ParagraphContent created = CreateNextParagraph(place, GetDraft());
     // Not read back: it links to its neighbours once it is saved, so nobody may lose sight of it.
     CurrentParagraph = place.paragraph;
     isShown_ = false;
@@ -264,22 +336,36 @@ void frmEditParagraph::cmdCreateNext_Click()
     ui_->txtParagraph->setFocus();
 }
 
+bool frmEditParagraph::ConfirmDeletion()
+{
+    const auto ask = [](const QString& question, Dialogs::Icon icon) {
+        return Dialogs::Door().Ask({question, icon, Dialogs::Buttons::OkCancel}) ==
+               Dialogs::Answer::Ok;
+    };
+    if (!ask(tr("Are you sure you want to DELETE current paragraph ?"), Dialogs::Icon::Question))
+        return false;
+    const ParagraphContent stored = LoadParagraph(CurrentParagraph);
+    return stored == loaded_ ||
+           ask(tr("This paragraph was changed in another window after it was opened here.\n\n"
+                  "The other version:\n%1\n\nDelete it all the same?")
+                   .arg(Describe(stored)),
+               Dialogs::Icon::Warning);
+}
+
 void frmEditParagraph::cmdDelete_Click()
 {
-    const Dialogs::Answer answer =
-        Dialogs::Door().Ask({tr("Are you sure you want to DELETE current paragraph ?"),
-                             Dialogs::Icon::Question, Dialogs::Buttons::OkCancel});
-    if (answer != Dialogs::Answer::Ok)
+    if (!ConfirmDeletion())
         return;
     ParagraphPlace place = GetPlace();
-    DeleteParagraph(place, GetContent());
+    DeleteParagraph(place);
     CurrentParagraph = place.paragraph;
     GoToOrLeave([&place] { return place; });
 }
 
 void frmEditParagraph::cmdOrganize_Click()
 {
-    SaveParagraph();
+    if (!SaveParagraph())
+        return;
     frmOrganizeParagraphs organiser(this);
     organiser.CurrentChapter = CurrentChapter;
     organiser.CurrentParagraph = CurrentParagraph;
@@ -297,7 +383,8 @@ void frmEditParagraph::cmdOrganize_Click()
 // Markers in the text are named anew, so what was typed is saved first.
 void frmEditParagraph::filterPanel_LabelsWanted()
 {
-    SaveParagraph();
+    if (!SaveParagraph())
+        return;
     frmEditLabels(this).exec();
     FillFromAlbum();
 }
@@ -318,8 +405,7 @@ void frmEditParagraph::reject()
 bool frmEditParagraph::SaveOrGiveUp()
 {
     try {
-        SaveParagraph();
-        return true;
+        return SaveParagraph();
     } catch (const std::exception& error) {
         return Dialogs::Door().Ask({tr("The paragraph cannot be saved: %1\n\nLeave without saving?")
                                         .arg(QString::fromUtf8(error.what())),

@@ -52,9 +52,17 @@ private:
     void GoToOrLeave(const std::function<ParagraphPlace()>& findPlace);
     void LeaveUnsaved();
     void ShowContent(const ParagraphContent& content);
+    void SetControls(const ParagraphContent& content);
     void ClearPreview();
     ParagraphContent GetContent() const;
-    void SaveParagraph();
+    QString Describe(const ParagraphContent& content) const;
+    ParagraphDraft GetDraft() const;
+    // False when another window has changed the same and the user wants to stay; then nothing is
+    // saved, and whatever the save was to be for must not happen.
+    bool SaveParagraph();
+    bool SettleConflict();
+    void ShowSaved();
+    bool ConfirmDeletion();
     bool SaveOrGiveUp();
 
     void cmdFirstParagraph_Click();
@@ -89,7 +97,9 @@ private:
     std::unique_ptr<Ui::frmEditParagraph> ui_;
     PictureBox* imgImage_;
     std::vector<TextMarker> markers_;
-    QStringList pictures_; // still to be shown in the preview
+    ParagraphContent loaded_; // as the album held it
+    ParagraphContent shown_;  // the same as the controls give it back
+    QStringList pictures_;    // still to be shown in the preview
     bool isPreview_ = false;
     bool isShown_ = false; // the controls hold CurrentParagraph
 };

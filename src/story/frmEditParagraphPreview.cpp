@@ -42,6 +42,8 @@ void frmEditParagraph::ClearPreview()
 
 void frmEditParagraph::cmdPreview_Click()
 {
+    if (!SettleConflict())
+        return;
     SetPreviewMode(true);
     ui_->cmdNextImage->setFocus();
     RefreshPictureList();
@@ -49,8 +51,9 @@ void frmEditParagraph::cmdPreview_Click()
 
 void frmEditParagraph::RefreshPictureList()
 {
+    if (!SaveParagraph())
+        return;
     const BusyPointer busy;
-    SaveParagraph();
     pictures_.clear();
     ui_->lblFeedback->clear();
     ShowPicture({});
@@ -114,8 +117,8 @@ void frmEditParagraph::chkLinkedImage_Click()
 void frmEditParagraph::imgImage_MouseDown()
 {
     const QString file = imgImage_->GetTag();
-    SaveParagraph();
-    EditPicture(file);
+    if (SaveParagraph())
+        EditPicture(file);
 }
 
 // Everything may have changed there: the picture, labels, values, and the paragraph with them.

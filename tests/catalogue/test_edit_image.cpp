@@ -117,6 +117,27 @@ private slots:
         QCOMPARE(album_->Joined("SELECT Name FROM Car1"), "-");
     }
 
+    void WhatAnotherWindowWritesIsKept()
+    {
+        const QStringList files = Open(1);
+        album_->Execute("UPDATE Image SET Legend='two\nlines', Car1='theirs'");
+        TypeInto(0, "Anna");
+        QTest::keyClick(window_, Qt::Key_Escape);
+        QCOMPARE(album_->Joined("SELECT Legend,Car0,Car1 FROM Image"), "two\nlines|Anna|theirs");
+        Open(files);
+        TypeInto(1, "mine");
+        album_->Execute("UPDATE Image SET Car1='others'");
+        for (const auto answer : {Answer::Cancel, Answer::No}) {
+            dialogs_->ExpectBox("This picture was changed in another window after it was opened "
+                                "here.\n\nThe other version:\ntwo\nlines, Anna, others\n\n"
+                                "Your version:\ntwo\nlines, Anna, mine",
+                                Icon::Question, Buttons::YesNoCancel, answer);
+            QTest::keyClick(window_, Qt::Key_Escape);
+            QCOMPARE(window_->isVisible(), answer == Answer::Cancel);
+        }
+        QCOMPARE(album_->Joined("SELECT Car0,Car1 FROM Image"), "Anna|others");
+    }
+
     void FollowsRenamedValuesAndLabels()
     {
         album_->Execute("INSERT INTO Car4 VALUES ('Anna')");

@@ -35,6 +35,15 @@ ParagraphContent Content(const QString& text, const QString& firstValue = anyVal
     return content;
 }
 
+// As a person edits it who sees what is stored.
+ParagraphDraft Edited(const ParagraphPlace& place, const QString& text,
+                      const QString& firstValue = anyValue)
+{
+    const bool isThere = GeneralModule::FindById(*GeneralModule::ParagraphSet, place.paragraph);
+    return {isThere ? LoadParagraph(place.paragraph) : ParagraphContent(),
+            Content(text, firstValue)};
+}
+
 // Three chapters: 1 with paragraphs 1 2 3, 2 with 4, 3 with none.
 class ThreeChapters : public AlbumFixture
 {
@@ -79,12 +88,12 @@ private slots:
         album.Execute("UPDATE Paragraph SET PreviousParagraph=1, Chapter=7 WHERE Id=3");
         album.Execute("UPDATE Paragraph SET Chapter=9 WHERE Id=2");
         album.Execute("UPDATE Chapter SET FirstParagraph=3");
-        SaveParagraph({1, 2}, Content("B", "Anna;Paul"));
+        SaveParagraph({1, 2}, Edited({1, 2}, "B", "Anna;Paul"));
         QCOMPARE(album.Joined(chainSql), "1|1|0|2|a; 2|1|1|3|B; 3|7|2|0|c");
         QCOMPARE(album.Rows("SELECT Car0,Car11 FROM Paragraph WHERE Id=2"),
                  QStringList("Anna;Paul|*"));
         QCOMPARE(album.Joined(headSql), "3");
-        SaveParagraph({1, 1}, Content("A"));
+        SaveParagraph({1, 1}, Edited({1, 1}, "A"));
         QCOMPARE(album.Joined(headSql), "1");
     }
 
@@ -93,21 +102,47 @@ private slots:
         OneChapter album({"a", "b"});
         album.Execute("UPDATE Paragraph SET Car0='Stored',Car7='x;y' WHERE Id=1");
         ParagraphPlace& place = album.place;
-        CreateNextParagraph(place, Content("A", "Unsaved"));
+        CreateNextParagraph(place, Edited(place, "A", "Unsaved"));
         QCOMPARE(place, (ParagraphPlace{1, 3}));
         // The old neighbours still lead to each other.
         QCOMPARE(album.Joined(chainSql), "1|1|0|2|A; 2|1|1|0|b; 3|1|1|2|");
         QCOMPARE(album.Rows("SELECT Car0,Car7 FROM Paragraph ORDER BY Id"),
                  QStringList({"Unsaved|*", "*|*", "Stored|x;y"}));
-        SaveAndStep(place, Content("new"), ChainStep::Next);
+        SaveAndStep(place, Edited(place, "new"), ChainStep::Next);
         QCOMPARE(place.paragraph, 2);
         QCOMPARE(album.Joined(chainSql), "1|1|0|3|A; 2|1|3|0|b; 3|1|1|2|new");
 
-        CreateNextParagraph(place, Content("b"));
+        CreateNextParagraph(place, Edited(place, "b"));
         QCOMPARE(album.Joined("SELECT PreviousParagraph,NextParagraph FROM Paragraph WHERE Id>3"),
                  "2|0");
-        SaveParagraph(place, Content("end"));
+        SaveParagraph(place, Edited(place, "end"));
         QCOMPARE(album.Joined("SELECT NextParagraph FROM Paragraph WHERE Id=2"), "4");
+    }
+
+    // Both windows open the same paragraph, each makes one after it, and saves it later.
+    void TwoWindowsLoseNoParagraph()
+    {
+        for (const QStringList& texts : {QStringList{"a"}, QStringList{"a", "b"}}) {
+            OneChapter album(texts);
+            ParagraphPlace other = album.place;
+            CreateNextParagraph(album.place, Edited(album.place, "a"));
+            CreateNextParagraph(other, Edited(other, "a"));
+            QVERIFY(other != album.place);
+            SaveParagraph(album.place, Edited(album.place, "x"));
+            SaveParagraph(other, Edited(other, "y"));
+            SaveParagraph(album.place, Edited(album.place, "x"));
+            QCOMPARE(album.Story(), texts.size() == 1 ? "One:ayx" : "One:ayxb");
+        }
+        OneChapter empty({});
+        ParagraphPlace first{1, 0};
+        ParagraphPlace second{1, 0};
+        CreateFirstParagraph(first);
+        CreateFirstParagraph(second);
+        QCOMPARE(second, first);
+        QCOMPARE(ErrorOf([&] {
+                     SaveParagraph(first, {Content("before"), Content("mine")});
+                 }),
+                 int(DatabaseError::ChangedMeanwhile));
     }
 
     void Delete()
@@ -115,22 +150,22 @@ private slots:
         OneChapter album({"a", "b", "c"});
         album.Link(1, "/p.jpg");
         ParagraphPlace& place = album.place;
-        CreateNextParagraph(place, Content("a")); // goes before its neighbours lead to it
-        DeleteParagraph(place, Content("gone"));
+        CreateNextParagraph(place, Edited(place, "a")); // goes before its neighbours lead to it
+        DeleteParagraph(place);
         QCOMPARE(place.paragraph, 2);
         QCOMPARE(album.Joined(chainSql), "1|1|0|2|a; 2|1|1|3|b; 3|1|2|0|c");
         place.paragraph = 1;
-        DeleteParagraph(place, Content("a"));
+        DeleteParagraph(place);
         QCOMPARE(place.paragraph, 2);
         QCOMPARE(album.Joined(chainSql), "2|1|0|3|b; 3|1|2|0|c");
         QCOMPARE(album.Joined(headSql), "2");
         QCOMPARE(album.Joined("SELECT * FROM LinkedImages"), "1|/p.jpg");
 
         place.paragraph = 3;
-        DeleteParagraph(place, Content("c"));
+        DeleteParagraph(place);
         QCOMPARE(place.paragraph, 2);
         QCOMPARE(album.Joined(chainSql), "2|1|0|0|b");
-        DeleteParagraph(place, Content("b"));
+        DeleteParagraph(place);
         QCOMPARE(place, (ParagraphPlace{1, 0}));
         QCOMPARE(album.Joined(headSql), "0");
 
@@ -147,7 +182,7 @@ private slots:
         for (const auto& [from, step, to] : steps) {
             OneChapter story({"a", "b", "c", "d"});
             story.place.paragraph = from;
-            SaveAndStep(story.place, Content("typed"), step);
+            SaveAndStep(story.place, Edited(story.place, "typed"), step);
             QCOMPARE(story.place, (ParagraphPlace{1, to}));
             QCOMPARE(story.Rows("SELECT Id FROM Paragraph WHERE Text='typed'"),
                      QStringList(QString::number(from)));
@@ -159,12 +194,12 @@ private slots:
         OneChapter story({"a"});
         const auto& database = GeneralModule::AlbumDatabase;
         const int changes = database->ChangeCount();
-        SaveParagraph(story.place, LoadParagraph(1));
+        SaveParagraph(story.place, {LoadParagraph(1), LoadParagraph(1)});
         QCOMPARE(database->ChangeCount(), changes); // what is there is not written again
-        SaveParagraph(story.place, Content("a", "!"));
+        SaveParagraph(story.place, Edited(story.place, "a", "!"));
         QCOMPARE(story.Joined("SELECT Car0 FROM Paragraph"), "*");
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, SaveParagraph({1, 5}, Content("b")));
-        SaveParagraph({1, 0}, Content("b"));
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, SaveParagraph({1, 5}, Edited({1, 5}, "b")));
+        SaveParagraph({1, 0}, Edited({1, 0}, "b"));
         QCOMPARE(story.Joined(chainSql), "1|1|0|0|a");
     }
 
@@ -176,18 +211,18 @@ private slots:
         QCOMPARE(WalkParagraphs(2, u"NextParagraph"), (std::vector<qint32>{2, 3, 1}));
         QCOMPARE(WalkParagraphs(3, u"PreviousParagraph"), (std::vector<qint32>{3, 2, 1}));
         ParagraphPlace& place = album.place;
-        SaveAndStep(place, Content("a"), ChainStep::Previous);
+        SaveAndStep(place, Edited(place, "a"), ChainStep::Previous);
         QCOMPARE(place.paragraph, 1);
         // The neighbour that is not there is not looked for elsewhere.
         QCOMPARE(album.Joined(chainSql), "1|1|77|2|a; 2|1|1|3|b; 3|1|2|1|c");
 
         album.Execute("UPDATE Paragraph SET NextParagraph=55 WHERE Id=3");
         place.paragraph = 3;
-        DeleteParagraph(place, Content("c"));
+        DeleteParagraph(place);
         QCOMPARE(place.paragraph, 2);
         QCOMPARE(album.Joined(chainSql), "1|1|77|2|a; 2|1|1|0|b");
         place.paragraph = 1;
-        DeleteParagraph(place, Content("a"));
+        DeleteParagraph(place);
         QCOMPARE(album.Joined(headSql), "2");
     }
 

@@ -137,13 +137,70 @@ private slots:
         QCOMPARE(paragraphs(), "first; second; third");
         remove(Dialogs::Answer::Ok);
         QCOMPARE(writing.Text(), "second");
-        remove(Dialogs::Answer::Ok);
-        QCOMPARE(paragraphs(), "third");
+        writing.Execute("UPDATE Paragraph SET Text='not read yet' WHERE Id=2");
+        for (const auto answer : {Dialogs::Answer::Cancel, Dialogs::Answer::Ok}) {
+            dialogs.ExpectBox("Are you sure you want to DELETE current paragraph ?",
+                              Dialogs::Icon::Question, Dialogs::Buttons::OkCancel,
+                              Dialogs::Answer::Ok);
+            dialogs.ExpectBox(
+                "This paragraph was changed in another window after it was opened "
+                "here.\n\nThe other version:\nnot read yet\n\nDelete it all the same?",
+                Dialogs::Icon::Warning, Dialogs::Buttons::OkCancel, answer);
+            writing.Click("cmdDelete");
+            QCOMPARE(paragraphs(), answer == Dialogs::Answer::Ok ? "third" : "not read yet; third");
+        }
 
         remove(Dialogs::Answer::Ok);
         QCOMPARE(paragraphs(), "");
         QVERIFY(!writing.editor.isVisible()); // there is nothing left to write
         QCOMPARE(writing.editor.CurrentParagraph, 0);
+    }
+
+    // Two windows on one album: what the other one writes meanwhile is not lost by looking, and
+    // where both changed the same the user is asked.
+    void WhatAnotherWindowWrites()
+    {
+        using Answer = Dialogs::Answer;
+        Writing writing;
+        ScriptedDialogs dialogs;
+        const auto stored = [&] { return writing.Stored("Text || ' ' || Car4 || ' ' || Car5", 1); };
+        writing.Execute("UPDATE Paragraph SET Text='theirs', Car5='Old' WHERE Id=1");
+        writing.Click("cmdNextParagraph"); // nothing was typed
+        QCOMPARE(stored(), "theirs Lake;Gone Old");
+        writing.Click("cmdPreviousParagraph");
+        QTest::keyClicks(&writing.TextBox(), "mine ");
+        writing.Execute("UPDATE Paragraph SET Car4='Town' WHERE Id=1");
+        writing.Click("cmdFirstParagraph"); // stays, and saves
+        QCOMPARE(stored(), "mine theirs Town Old");
+        QCOMPARE(Find<QTableWidget>(writing.editor, "grdCar").item(3, 1)->text(), "Town");
+
+        QTest::keyClicks(&writing.TextBox(), "my ");
+        writing.Execute("UPDATE Paragraph SET Text='new', Car5='*' WHERE Id=1");
+        const auto expectQuestion = [&](Answer answer) {
+            dialogs.ExpectBox("This paragraph was changed in another window after it was opened "
+                              "here.\n\nThe other version:\nnew\nTown\nnot Big\n\nYour version:\n"
+                              "mine my theirs\nTown\nOld\nnot Big",
+                              Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, answer);
+        };
+        for (const char* way :
+             {"cmdNextParagraph", "cmdCreateNext", "cmdOrganize", "cmdPreview", "cmdExit"}) {
+            expectQuestion(Answer::Cancel);
+            writing.Click(way);
+            QVERIFY(writing.editor.isVisible());
+            QCOMPARE(writing.Text(), "mine my theirs");
+        }
+        QCOMPARE(stored(), "new Town *");
+        expectQuestion(Answer::No);
+        writing.Click("cmdFirstParagraph");
+        QCOMPARE(writing.Text(), "new");
+        QTest::keyClicks(&writing.TextBox(), "a ");
+        writing.Execute("UPDATE Paragraph SET Text='newer' WHERE Id=1");
+        dialogs.ExpectBox("This paragraph was changed in another window after it was opened here."
+                          "\n\nThe other version:\nnewer\nTown\nnot Big\n\nYour version:\na new\n"
+                          "Town\nnot Big",
+                          Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, Answer::Yes);
+        writing.Click("cmdExit");
+        QCOMPARE(stored(), "a new Town *");
     }
 
     void LeavingAsksWhenItCannotSave()
