@@ -147,7 +147,7 @@ bool Database::TryKey(const QByteArray& key, int format)
 bool Database::IsReadable()
 {
     try {
-        Execute("SELECT count(*) FROM sqlite_master");
+        Execute("PRAGMA schema_version"); // reads the first page, but leaves the schema unread
         return true;
     } catch (const DatabaseError& error) {
         if (error.GetNumber() == DatabaseError::NotADatabase)

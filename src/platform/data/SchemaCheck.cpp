@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/data/SchemaCheck.h"
 
+#include "platform/data/SchemaText.h"
 #include "platform/data/Statement.h"
 #include "platform/data/TableLayout.h"
 
 #include <sqlcipher/sqlite3.h>
 
-#include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSet>
 
+#include <optional>
 #include <string_view>
 
 namespace {
@@ -38,52 +40,63 @@ qint64 PageCount(sqlite3* engine)
     return statement.Step() ? statement.GetInteger(0) : 0;
 }
 
-// The end of what begins here and is neither word nor sign: a quoted name or text, or a comment.
-std::size_t EndOfQuoted(std::string_view sql)
+// An index that keeps a key unique has no definition.
+bool IsKnownObject(const QByteArray& type, const QByteArray& sql)
 {
-    std::string_view end;
-    if (sql.starts_with("--"))
-        end = "\n";
-    else if (sql.starts_with("/*"))
-        end = "*/";
-    else if (sql.front() == '[')
-        end = "]";
-    else if (std::string_view("'\"`").find(sql.front()) != std::string_view::npos)
-        end = sql.substr(0, 1);
-    else
-        return 0;
-    const std::size_t found = sql.find(end, sql.front() == '/' ? 2 : 1);
-    return found == std::string_view::npos ? sql.size() : found + end.size();
+    return (type == "table" && IsPlainTable(sql)) ||
+           (type == "index" && (sql.isEmpty() || IsPlainIndex(sql)));
 }
 
-// The definition without its quoted names and texts and its comments.
-QString Bare(const QByteArray& definition)
+struct SchemaWatch
 {
-    QByteArray bare;
-    std::string_view sql(definition.constData(), std::size_t(definition.size()));
-    while (!sql.empty()) {
-        const std::size_t quoted = EndOfQuoted(sql);
-        bare += quoted > 0 ? ' ' : sql.front();
-        sql.remove_prefix(quoted > 0 ? quoted : 1);
+    sqlite3* engine;
+    int definitions = 0;
+    std::optional<QByteArray> refused = {}; // the name of the first
+};
+
+std::optional<QByteArray> TextOf(sqlite3_stmt* row, const char* column)
+{
+    for (int i = 0; i < sqlite3_column_count(row); ++i) {
+        if (qstricmp(sqlite3_column_name(row, i), column) != 0)
+            continue;
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(row, i));
+        return QByteArray(text, text ? sqlite3_column_bytes(row, i) : 0);
     }
-    return QString::fromUtf8(bare);
+    return std::nullopt;
 }
 
-// The engine writes a definition back with exactly this beginning, whatever the author typed. It
-// does not tell of checks, and older ones do not know computed columns; both words cannot be names
-// unless they are quoted.
-bool IsPlainTable(const QByteArray& type, const QByteArray& sql)
+// The engine tells of each row of the schema before it parses the definition there. The parser
+// looks for interruptions at the first blank, which comes before anything that can do harm.
+int LookAtRow(unsigned, void* context, void* row, void*)
 {
-    static const QRegularExpression computing(QStringLiteral(R"(\b(CHECK|AS)\b)"),
-                                              QRegularExpression::CaseInsensitiveOption |
-                                                  QRegularExpression::UseUnicodePropertiesOption);
-    return type == "table" && sql.startsWith("CREATE TABLE ") && !Bare(sql).contains(computing);
+    auto& watch = *static_cast<SchemaWatch*>(context);
+    auto* statement = static_cast<sqlite3_stmt*>(row);
+    const std::optional<QByteArray> sql = TextOf(statement, "sql");
+    if (!sql) // a row of the statistics that the engine reads afterwards
+        return 0;
+    const bool isPlain = sql->isEmpty() || IsPlainTable(*sql) || IsPlainIndex(*sql);
+    if (isPlain && ++watch.definitions <= mostSchemaObjects)
+        return 0;
+    if (!watch.refused)
+        watch.refused = TextOf(statement, "name").value_or(QByteArray());
+    sqlite3_interrupt(watch.engine);
+    return 0;
 }
 
-bool IsIndex(const QByteArray& type, const QByteArray& sql)
+// Has the engine read the schema, which it does once and then keeps until the file changes.
+void LoadSchema(sqlite3* engine)
 {
-    return type == "index" && (sql.isEmpty() || sql.startsWith("CREATE INDEX ") ||
-                               sql.startsWith("CREATE UNIQUE INDEX "));
+    SchemaWatch watch{engine};
+    sqlite3_trace_v2(engine, SQLITE_TRACE_ROW, LookAtRow, &watch);
+    const auto end = qScopeGuard([engine] { sqlite3_trace_v2(engine, 0, nullptr, nullptr); });
+    try {
+        const Statement any(engine, "SELECT 1 FROM sqlite_master");
+    } catch (const DatabaseError&) {
+        if (!watch.refused)
+            throw;
+    }
+    if (watch.refused)
+        Refuse(*watch.refused);
 }
 
 bool IsKnownCollation(const char* name)
@@ -112,8 +125,7 @@ void CheckColumns(sqlite3* engine, const QByteArray& table)
     bool isKnown = false;
     Statement columns(engine, "PRAGMA table_info(" + QuotedName(table) + ')');
     for (; columns.Step(); isKnown = true) {
-        const bool callsFunction = Bare(TextAt(columns, 4)).contains(u'('); // as a default value
-        if (callsFunction || !IsKnownCollation(CollationOf(engine, table, TextAt(columns, 1))))
+        if (!IsKnownCollation(CollationOf(engine, table, TextAt(columns, 1))))
             Refuse(table);
     }
     if (!isKnown)
@@ -126,8 +138,6 @@ void CheckIndexes(sqlite3* engine, const QByteArray& table)
     Statement indexes(engine, "PRAGMA index_list(" + QuotedName(table) + ')');
     while (indexes.Step()) {
         const QByteArray name = TextAt(indexes, 1);
-        if (indexes.GetInteger(4) != 0) // partial
-            Refuse(name);
         Statement columns(engine, "PRAGMA index_xinfo(" + QuotedName(name) + ')');
         while (columns.Step()) {
             if (columns.GetInteger(1) == expression ||
@@ -150,16 +160,14 @@ QList<QByteArray> ReadTables(sqlite3* engine)
     while (objects.Step()) {
         const QByteArray type = TextAt(objects, 0);
         const QByteArray name = TextAt(objects, 1);
-        const QByteArray sql = TextAt(objects, 2);
         const qint64 root = objects.GetInteger(3);
-        const bool isTable = IsPlainTable(type, sql);
-        if ((!isTable && !IsIndex(type, sql)) || roots.size() >= mostSchemaObjects)
+        if (!IsKnownObject(type, TextAt(objects, 2)))
             Refuse(name);
         if (root < 1 || root > pages || roots.contains(root) || names.contains(name.toLower()))
             FailDamaged();
         roots.insert(root);
         names.insert(name.toLower());
-        if (isTable)
+        if (type == "table")
             tables += name;
     }
     return tables;
@@ -171,6 +179,7 @@ QList<QByteArray> ReadTables(sqlite3* engine)
 // known to the engine, no table is left out, even where a file gives its tables wrong names.
 void CheckSchema(sqlite3* engine)
 {
+    LoadSchema(engine);
     for (const QByteArray& table : ReadTables(engine)) {
         CheckColumns(engine, table);
         CheckIndexes(engine, table);
