@@ -798,6 +798,10 @@ Appuyez sur F1 pour l&apos;aide</translation>
         <translation>Les liens de l&apos;album sont en ordre ; rien n&apos;a été changé.</translation>
     </message>
     <message>
+        <source>Chapters and paragraphs given a new number, theirs being out of range: %1</source>
+        <translation>Chapitres et paragraphes renumérotés, leur numéro étant hors limites : %1</translation>
+    </message>
+    <message>
         <source>Chapters linked anew: %1</source>
         <translation>Chapitres reliés de nouveau : %1</translation>
     </message>

@@ -5,6 +5,7 @@
 #include "core/AlbumCopy.h"
 #include "core/ChainMending.h"
 #include "core/ChapterChain.h"
+#include "core/Renumbering.h"
 #include "platform/data/WriteBatch.h"
 
 #include <QDir>
@@ -50,6 +51,7 @@ class Repair
 public:
     RepairReport Run()
     {
+        report_.renumbered = RenumberRows(AlbumDatabase->GetEngine());
         RepairChapters();
         ReadParagraphs();
         AdoptByLinks();
@@ -224,6 +226,10 @@ QString DescribeRepair(const RepairReport& report)
     QStringList lines;
     if (report.IsEmpty())
         lines += RepairReport::tr("The links of the album are in order; nothing was changed.");
+    if (report.renumbered > 0)
+        lines += RepairReport::tr(
+                     "Chapters and paragraphs given a new number, theirs being out of range: %1")
+                     .arg(report.renumbered);
     if (report.chapterLinks > 0)
         lines += RepairReport::tr("Chapters linked anew: %1").arg(report.chapterLinks);
     if (report.firstParagraphs > 0)

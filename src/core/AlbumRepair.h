@@ -13,16 +13,21 @@ struct RepairReport
 
 public:
     QString copy;            // path of the album's copy as it was before; empty when all was well
+    int renumbered = 0;      // rows whose identifier no link can hold
     int chapterLinks = 0;    // chapters whose links were wrong
     int firstParagraphs = 0; // chapters that named a wrong first paragraph
     int paragraphLinks = 0;  // paragraphs whose links were wrong
     int adopted = 0;         // paragraphs of no chapter that have one now
 
-    bool IsEmpty() const { return chapterLinks + firstParagraphs + paragraphLinks + adopted == 0; }
+    bool IsEmpty() const
+    {
+        return renumbered + chapterLinks + firstParagraphs + paragraphLinks + adopted == 0;
+    }
 };
 
 // Checks the chains of chapters and paragraphs of the open album and makes them whole: afterwards
-// the chapters are one chain, and each chapter's paragraphs are one. Only links change. A paragraph
+// the chapters are one chain, and each chapter's paragraphs are one. Only links change, and
+// identifiers that no link can hold: 0, below it, and above what a new row may have. A paragraph
 // of no chapter goes to the chapter of the paragraphs that it is linked with, or else to a new one
 // at the end. Where something was wrong a copy of the album as it was is kept beside it. Throws
 // DatabaseError; then nothing is changed and no copy is left.

@@ -2,6 +2,7 @@
 #include "core/OldAlbumTable.h"
 
 #include "core/OwnFields.h"
+#include "platform/data/Identifiers.h"
 
 #include <algorithm>
 #include <limits>
@@ -343,14 +344,18 @@ void OldAlbumTable::InsertUnderAnotherName(Row row)
 // Rows without an identifier of their own come last, when all others are known.
 void OldAlbumTable::InsertSetAside()
 {
+    if (setAside_.empty())
+        return;
     const auto place = std::find(inserted_.begin(), inserted_.end(), layout_->GetIdentity());
+    NewIdentifiers identifiers(database_->GetEngine(), layout_->GetTable());
     for (Row& row : setAside_) {
-        row[std::size_t(place - inserted_.begin())] = ++highest_;
+        const qint64 identifier = identifiers.Next();
+        row[std::size_t(place - inserted_.begin())] = identifier;
         if (!TryInsert(row))
             InsertUnderAnotherName(row);
         report_.AddProblem(
             OldAlbumReport::tr("Table %1: a row without an identifier of its own became number %2.")
-                .arg(table_, QString::number(highest_)));
+                .arg(table_, QString::number(identifier)));
     }
 }
 
@@ -371,9 +376,9 @@ qint64 OldAlbumTable::Finish()
     if (batch_) {
         if (layout_ && layout_->GetIdentity() >= 0) {
             if (lastNumber_ <= highest_ + mostNumbersUnused)
-                highest_ = std::max(highest_, lastNumber_);
-            InsertSetAside();
+                highest_ = std::clamp(lastNumber_, highest_, highestIdentifier);
             SetLastNumber();
+            InsertSetAside();
         }
         ReportOwnFields();
         batch_->Finish();

@@ -17,7 +17,7 @@ namespace GeneralModule {
 // place of what the template holds there. Identifiers stay as they are. Where the new album allows
 // a text or an identifier only once and the old one has it twice, nothing is lost:
 // - a chapter or parameter gets a number behind its name;
-// - a row whose identifier is missing or taken gets a new one, above all others;
+// - a row whose identifier is missing or taken gets a new one, above all others where it can;
 // - a value of a characteristic's table that is there already is the same value.
 // Fields and whole tables of the user's own, which the template lacks, are added to the new album
 // as texts. What was changed or could not be read goes into the report.

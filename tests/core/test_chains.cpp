@@ -205,6 +205,32 @@ private slots:
         QVERIFY(RepairAlbum().IsEmpty()); // and once is enough
     }
 
+    void RenumbersWhatIsOutOfRange()
+    {
+        WriteStory(*album_);
+        album_->Execute(
+            "UPDATE Chapter SET Id=-7 WHERE Id=2; UPDATE Chapter SET NextChapter=-7 WHERE Id=1;"
+            "UPDATE Paragraph SET Chapter=-7 WHERE Chapter=2;"
+            "UPDATE Paragraph SET Id=9223372036854775807 WHERE Id=2;"
+            "UPDATE Paragraph SET NextParagraph=9223372036854775807 WHERE Id=1;"
+            "UPDATE Paragraph SET PreviousParagraph=9223372036854775807 WHERE Id=3;"
+            "UPDATE Paragraph SET Id=0 WHERE Id=5; UPDATE Paragraph SET NextParagraph=0 WHERE Id=4;"
+            "UPDATE sqlite_sequence SET seq=9223372036854775807 WHERE name='Paragraph';"
+            "INSERT INTO LinkedImages VALUES(9223372036854775807,'/2.jpg'),(0,'/0.jpg'),"
+            "(8,'/8.jpg')");
+        // The links of row 8, which is gone, must not become a new row's.
+        ParagraphSet->AddNew();
+        QCOMPARE(ParagraphSet->Number(u"Id"), 9);
+        const RepairReport report = RepairAlbum();
+        QCOMPARE(report.renumbered, 3);
+        QVERIFY(DescribeRepair(report).contains("out of range: 3"));
+        QCOMPARE(album_->Story(), "One:123 Two:45");
+        QCOMPARE(album_->Joined("SELECT Id,Text FROM Paragraph"), "1|1; 3|3; 4|4; 9|5; 10|2");
+        QCOMPARE(album_->Joined("SELECT * FROM LinkedImages"), "10|/2.jpg; 0|/0.jpg; 8|/8.jpg");
+        QCOMPARE(album_->Joined("SELECT seq FROM sqlite_sequence WHERE name='Paragraph'"), "10");
+        QVERIFY(RepairAlbum().IsEmpty());
+    }
+
     // An album that cannot be read is not a broken one.
     void RepairChangesAllOrNothing()
     {

@@ -91,6 +91,15 @@ private slots:
         take.Take("Paragraph", {"Id"}, 0xFFFFFFF0, {{"12"}});
         ParagraphSet->AddNew();
         QCOMPARE(ParagraphSet->Number(u"Id"), 13);
+        // From the highest on they go down, but never to one that a link may still name.
+        take.world.Execute("INSERT INTO LinkedImages VALUES(2147483644,'/a.jpg')");
+        take.Take("Paragraph", {"Id"}, 0x80000001, {{"5"}, {"2147483647"}, {"NULL"}, {"NULL"}});
+        QCOMPARE(take.world.Joined("SELECT Id FROM Paragraph"),
+                 "5; 2147483645; 2147483646; 2147483647");
+        QCOMPARE(take.world.Joined("SELECT seq FROM sqlite_sequence WHERE name='Paragraph'"),
+                 "2147483647");
+        ParagraphSet->AddNew();
+        QCOMPARE(ParagraphSet->Number(u"Id"), 2147483643);
     }
 
     // Whatever the user called them, in the table of pictures and in a table of their own.

@@ -128,7 +128,6 @@ private:
     const FieldValue* Buffered(int field) const;
 
     void SetBuffered(int field, FieldValue value);
-    qint64 NextIdentifier();
     void UpdateEdited();
     void UpdateAdded();
     QByteArray UpdateSql() const;

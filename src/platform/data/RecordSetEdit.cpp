@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The half of RecordSet that changes rows.
+#include "platform/data/Identifiers.h"
 #include "platform/data/RecordSet.h"
 
 #include <sqlcipher/sqlite3.h>
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -29,21 +29,9 @@ void RecordSet::AddNew()
     buffer_ = Buffer{};
     buffer_->adding = true;
     if (layout_.GetIdentity() >= 0)
-        buffer_->values.emplace_back(layout_.GetIdentity(), NextIdentifier());
-}
-
-// Above every identifier that ever was, deleted ones too: links to deleted rows may still lie
-// about.
-qint64 RecordSet::NextIdentifier()
-{
-    Statement highest(database_->GetEngine(),
-                      "SELECT max(ifnull((SELECT max(rowid) FROM " + table_ +
-                          "),0), ifnull((SELECT seq FROM sqlite_sequence WHERE name=?1),0))");
-    highest.Bind(1, QString::fromUtf8(layout_.GetTable()));
-    const qint64 last = highest.Step() ? highest.GetInteger(0) : 0;
-    if (last >= std::numeric_limits<qint32>::max())
-        Fail(DatabaseError::Overflow, DatabaseError::tr("The album has used up its identifiers."));
-    return last + 1;
+        buffer_->values.emplace_back(
+            layout_.GetIdentity(),
+            NewIdentifiers(database_->GetEngine(), layout_.GetTable()).Next());
 }
 
 void RecordSet::SetBuffered(int number, FieldValue value)
