@@ -222,6 +222,10 @@
         <translation>L&apos;album n&apos;a pas pu être réécrit.</translation>
     </message>
     <message>
+        <source>A part of the pattern is too long in filter &apos;%1&apos;.</source>
+        <translation>Une partie du modèle est trop longue dans le filtre « %1 ».</translation>
+    </message>
+    <message>
         <source>Invalid pattern in filter &apos;%1&apos;.</source>
         <translation>Modèle incorrect dans le filtre « %1 ».</translation>
     </message>
@@ -238,8 +242,8 @@
         <translation>Erreur de syntaxe dans le filtre « %1 », à « %2 ».</translation>
     </message>
     <message>
-        <source>The filter is too long: &apos;%1...&apos;</source>
-        <translation>Le filtre est trop long : « %1... »</translation>
+        <source>The filter is too long: &apos;%1&apos;</source>
+        <translation>Le filtre est trop long : « %1 »</translation>
     </message>
     <message>
         <source>There is no current record.</source>

@@ -9,13 +9,8 @@ QString ReplaceText(const QString& text, const QString& find, const QString& rep
 {
     if (find.isEmpty())
         return text;
-    QString result = text;
-    qsizetype position = std::max(start, 1) - 1;
-    while ((position = result.indexOf(find, position)) >= 0) {
-        result.replace(position, find.size(), replacement);
-        position += replacement.size();
-    }
-    return result;
+    const qsizetype kept = std::min<qsizetype>(std::max(start, 1) - 1, text.size());
+    return text.first(kept) + text.sliced(kept).replace(find, replacement);
 }
 
 QString LikeSafe(const QString& name)

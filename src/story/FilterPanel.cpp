@@ -16,7 +16,8 @@
 namespace {
 
 constexpr int tokenRole = Qt::UserRole;
-constexpr int labelPadding = 3; // logical pixels; texts of both cells begin at one place
+constexpr int longestInCell = 1000; // characters; more than any screen is wide
+constexpr int labelPadding = 3;     // logical pixels; texts of both cells begin at one place
 
 // Each group is a column of the grid; a characteristic takes two cells, its label above its values.
 int LabelRow(int column)
@@ -157,7 +158,7 @@ void FilterPanel::ShowFilter(int column)
     label->setFont(font);
     QTableWidgetItem* item = ui_->grdCar->item(LabelRow(column) + 1, GroupOf(column));
     const QString description = DescribeFilter(value);
-    item->setText(description);
+    item->setText(description.left(longestInCell));
     item->setToolTip(AsToolTip(names_[std::size_t(column)] + QStringLiteral(": ") + description));
 }
 
@@ -210,11 +211,11 @@ void FilterPanel::CloseList()
 
 void FilterPanel::MarkChosen()
 {
-    const QString& value = values_[std::size_t(openColumn_)];
+    const HeldTokens held(values_[std::size_t(openColumn_)]);
     for (int row = 0; row < ui_->lstCar->count(); ++row) {
         QListWidgetItem* item = ui_->lstCar->item(row);
         const QString token = item->data(tokenRole).toString();
-        const bool chosen = HoldsToken(value, token);
+        const bool chosen = held.Contain(token);
         if (token != anyValue)
             item->setCheckState(chosen ? Qt::Checked : Qt::Unchecked);
         QFont font = item->font();

@@ -9,6 +9,9 @@
 
 namespace {
 
+// The list below the grid cannot hold a hundred thousand, and nobody would look through them.
+constexpr std::size_t mostUnknownChoices = 1000;
+
 bool IsRealValue(const QString& token)
 {
     return token != negation;
@@ -44,7 +47,7 @@ QStringList TableValues(int column)
 QStringList FilterTokens(const QString& filter)
 {
     QStringList tokens;
-    QString rest = filter == anyValue ? QString() : filter;
+    QStringView rest = filter == anyValue ? QStringView() : filter;
     for (QString token = NextToken(rest); !token.isEmpty(); token = NextToken(rest))
         tokens += token;
     return tokens;
@@ -69,9 +72,15 @@ QString StorableFilter(const QString& filter)
     return kept == tokens ? filter : kept.join(u';');
 }
 
-bool HoldsToken(const QString& filter, const QString& token)
+HeldTokens::HeldTokens(const QString& filter)
 {
-    return FilterTokens(filter).contains(token, Qt::CaseInsensitive);
+    for (const QString& token : FilterTokens(filter))
+        folded_.insert(token.toCaseFolded());
+}
+
+bool HeldTokens::Contain(const QString& token) const
+{
+    return folded_.contains(token.toCaseFolded());
 }
 
 QString ToggleToken(const QString& filter, const QString& token)
@@ -110,14 +119,19 @@ std::vector<FilterChoice> FilterChoices(int column, const QString& filter)
 {
     std::vector<FilterChoice> choices{
         {QCoreApplication::translate("FilterValues", "* (Reset)"), anyValue}, {negation, negation}};
-    const QStringList known = TableValues(column);
-    for (const QString& value : known)
+    QSet<QString> listed;
+    for (const QString& value : TableValues(column)) {
         choices.push_back({value, value});
-    QStringList unknown = FilterTokens(filter);
-    unknown.removeDuplicates();
-    for (const QString& value : unknown) {
-        if (IsRealValue(value) && !known.contains(value, Qt::CaseInsensitive))
-            choices.push_back({value, value, false});
+        listed.insert(value.toCaseFolded());
+    }
+    const std::size_t most = choices.size() + mostUnknownChoices;
+    for (const QString& value : FilterTokens(filter)) {
+        if (!IsRealValue(value) || listed.contains(value.toCaseFolded()))
+            continue;
+        if (choices.size() == most)
+            break;
+        choices.push_back({value, value, false});
+        listed.insert(value.toCaseFolded());
     }
     return choices;
 }

@@ -3,6 +3,7 @@
 
 #include "catalogue/CharacteristicModel.h"
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -27,7 +28,16 @@ bool Restricts(const QString& filter);
 // As it may be stored: a "!" that no value follows is left out, and "*" stands for no value at all.
 QString StorableFilter(const QString& filter);
 
-bool HoldsToken(const QString& filter, const QString& token);
+// The tokens of a filter, for asking about many.
+class HeldTokens
+{
+public:
+    explicit HeldTokens(const QString& filter);
+    bool Contain(const QString& token) const; // in any letter case
+
+private:
+    QSet<QString> folded_;
+};
 
 // Adds the value, or takes it away where the filter holds it, in any letter case. "!" turns the
 // whole filter round; alone it waits for the first value. "*" resets.
@@ -37,7 +47,8 @@ QString ToggleToken(const QString& filter, const QString& token);
 QString DescribeFilter(const QString& filter);
 
 // What can be chosen for a column: reset, "!", the values of its table in alphabetical order with
-// the special markers first, and values that the filter holds but the table no longer does.
+// the special markers first, and values that the filter holds but the table no longer does, the
+// first thousand of them.
 struct FilterChoice
 {
     QString text;

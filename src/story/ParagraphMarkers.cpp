@@ -29,6 +29,14 @@ std::optional<QString> FieldOf(const QString& marker)
     return std::nullopt;
 }
 
+// What stands from there to the closing sign; empty when that is further off than in any marker, of
+// which "Picture Legend" is the longest. Looking further would read a long text again and again.
+QString MarkerAt(const QString& text, qsizetype inside)
+{
+    const QString start = text.mid(inside, 14 + closing.size());
+    return start.first(std::max<qsizetype>(0, start.indexOf(closing)));
+}
+
 QString ValueOf(const QString& field, bool isKnownPicture)
 {
     return isKnownPicture ? GeneralModule::ImageSet->TextOrEmpty(field) : QString();
@@ -118,13 +126,13 @@ QString FillPictureMarkers(const QString& text, const QString& pictureFile)
     qsizetype done = 0;
     while (true) {
         const qsizetype begin = text.indexOf(opening, done);
-        const qsizetype end = begin < 0 ? -1 : text.indexOf(closing, begin + opening.size());
-        if (end < 0)
+        if (begin < 0)
             return filled + text.sliced(done);
         const qsizetype inside = begin + opening.size();
-        const std::optional<QString> field = FieldOf(text.sliced(inside, end - inside));
+        const QString marker = MarkerAt(text, inside);
+        const std::optional<QString> field = FieldOf(marker);
         filled += text.sliced(done, begin - done);
         filled += field ? ValueOf(*field, isKnownPicture) : opening;
-        done = field ? end + closing.size() : inside;
+        done = field ? inside + marker.size() + closing.size() : inside;
     }
 }

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "story/ParagraphText.h"
 
+#include "platform/widgets/TextWrapping.h"
 #include "story/PastedText.h"
 
 #include <QKeyEvent>
+#include <QMimeData>
+
+#include <algorithm>
 
 namespace {
 
 constexpr double pointSize = 13; // for writing at length
+// Characters of markup; taking out more piece by piece keeps a person waiting.
+constexpr qsizetype longestCleanedSingly = 5000;
 
 // Undo must be able to go back behind a paste and its cleaning, so it does not clean again.
 bool Cleans(const QKeyEvent& key)
@@ -36,9 +42,18 @@ ParagraphText::ParagraphText(QWidget* parent) : QPlainTextEdit(parent)
     document()->setDocumentMargin(12);
 }
 
+// Never laid out word by word while an endless one is there, neither the old text nor the new.
 void ParagraphText::SetText(const QString& text)
 {
+    WrapFor(text);
     setPlainText(text);
+    setWordWrapMode(WrapModeFor(text));
+}
+
+void ParagraphText::WrapFor(const QString& text)
+{
+    if (wordWrapMode() != QTextOption::WrapAnywhere)
+        setWordWrapMode(WrapModeFor(text));
 }
 
 QString ParagraphText::GetText() const
@@ -51,8 +66,17 @@ QString ParagraphText::GetText() const
 
 void ParagraphText::Insert(const QString& text)
 {
+    WrapFor(text);
     insertPlainText(text);
     ensureCursorVisible();
+    WrapFor(GetText());
+}
+
+void ParagraphText::insertFromMimeData(const QMimeData* source)
+{
+    WrapFor(source->text());
+    QPlainTextEdit::insertFromMimeData(source);
+    WrapFor(GetText());
 }
 
 void ParagraphText::keyPressEvent(QKeyEvent* event)
@@ -62,12 +86,24 @@ void ParagraphText::keyPressEvent(QKeyEvent* event)
     QPlainTextEdit::keyPressEvent(event);
 }
 
+void ParagraphText::ReplaceAll(const QString& text, qsizetype caret)
+{
+    QTextCursor cursor(document());
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(text);
+    cursor.setPosition(int(std::min(caret, text.size())));
+    setTextCursor(cursor);
+}
+
 // Edits the document instead of replacing its text. Positions in the raw text are the document's.
 void ParagraphText::CleanPasted()
 {
     const QString text = document()->toRawText();
-    if (CleanPastedText(text) == text)
+    const QString clean = CleanPastedText(text);
+    if (clean == text)
         return;
+    if (text.size() - clean.size() > longestCleanedSingly)
+        return ReplaceAll(clean, CleanPastedText(text.left(textCursor().position())).size());
     QTextCursor cursor(document());
     cursor.beginEditBlock();
     for (const PastedMarkup& markup : PastedMarkups()) {

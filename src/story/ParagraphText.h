@@ -23,7 +23,10 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
 
 private:
+    void WrapFor(const QString& text);
     void CleanPasted();
+    void ReplaceAll(const QString& text, qsizetype caret);
 };

@@ -22,7 +22,7 @@ constexpr int feedbackStep = 500;
 class CarFilterWriter
 {
 public:
-    void AddColumn(int column, QString values)
+    void AddColumn(int column, QStringView values)
     {
         bool negated = false;
         bool firstValue = true;
@@ -99,12 +99,12 @@ QString BuildFileFilter(const QString& selection)
 
 } // namespace
 
-QString NextToken(QString& values)
+QString NextToken(QStringView& values)
 {
     const qsizetype end = values.indexOf(u';');
-    const QString token = end < 0 ? values : values.first(end);
-    values = end < 0 ? QString() : values.sliced(end + 1);
-    return token;
+    const QStringView token = end < 0 ? values : values.first(end);
+    values = end < 0 ? QStringView() : values.sliced(end + 1);
+    return token.toString();
 }
 
 QString BuildCarFilter(RecordSet& paragraph)

@@ -12,8 +12,9 @@
 // of their file names. For each characteristic it stores "*" for any value, or values joined by ";"
 // one of which the picture must have; after a value "!" it must have none of them.
 
-// Cuts the first value off the list, with the ";" behind it, and returns it.
-QString NextToken(QString& values);
+// Takes the first value off the list, with the ";" behind it, and returns it. A view, because a
+// list may be long: cutting it off the text itself would move the rest at every step.
+QString NextToken(QStringView& values);
 
 // The condition on characteristics of the paragraph on which the set stands; empty when all are
 // "*".

@@ -40,7 +40,10 @@ QFont LegendFont(const QWidget* widget, double pointSize)
 
 int TextHeight(const QFont& font, const QString& text, int width)
 {
-    return QFontMetrics(font).boundingRect(QRect(0, 0, width, 1), Qt::TextWordWrap, text).height();
+    constexpr qsizetype longest = 10'000; // characters; no screen has room for as many
+    return QFontMetrics(font)
+        .boundingRect(QRect(0, 0, width, 1), Qt::TextWordWrap, text.left(longest))
+        .height();
 }
 
 } // namespace

@@ -85,9 +85,30 @@ private slots:
         QVERIFY(texts.removeOne("Élise")); // where it stands is the locale's matter
         QCOMPARE(texts, QStringList({"Anna", "bob", "zoe", "gone", "(x)"}));
         QCOMPARE(unknown, QStringList({"gone", "(x)"}));
-        QVERIFY(HoldsToken("!;ANNA;gone", "Anna"));
-        QVERIFY(!HoldsToken("!;ANNA;gone", "Ann"));
-        QVERIFY(!HoldsToken("*", "*"));
+        const HeldTokens held("!;ANNA;gone");
+        QVERIFY(held.Contain("Anna") && !held.Contain("Ann"));
+        QVERIFY(!HeldTokens("*").Contain("*"));
+    }
+
+    // As long as damage or malice makes them.
+    void EndlessFiltersTakeNoTime()
+    {
+        QStringList tokens;
+        for (int i = 0; i < 300'000; ++i)
+            tokens += QString("value %1").arg(i);
+        const QString filter = tokens.join(u';');
+        MakeParagraph({{"Car0", filter}});
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(FilterTokens(filter), tokens);
+        QCOMPARE(FilterChoices(0, filter).size(), FilterChoices(0, "*").size() + 1000);
+        QString told;
+        PictureList pictures;
+        const int error =
+            ErrorOf([&] { BuildPictureList(*ParagraphSet, pictures, 100, [](int) {}); }, &told);
+        QCOMPARE(error, 3360);
+        QVERIFY2(told.startsWith("The filter is too long") && told.size() < 400, qPrintable(told));
+        QVERIFY2(timer.elapsed() < 15000, qPrintable(QString::number(timer.elapsed())));
     }
 
     // Of a folder whose name is no pattern, beside one that it would stand for if it were.

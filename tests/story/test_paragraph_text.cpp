@@ -144,6 +144,29 @@ private slots:
             QTest::keySequence(&box, QKeySequence::Undo);
         QCOMPARE(box.GetText(), QString("before after"));
     }
+
+    // Without a place to break a line at, or with nothing but markup.
+    void AMegabyteCanBeEdited()
+    {
+        const QString endless(1'000'000, u'x');
+        ParagraphText box;
+        box.show();
+        QElapsedTimer timer;
+        timer.start();
+        box.SetText(endless);
+        box.SetText("short");
+        QCOMPARE(box.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+        box.Insert(endless);
+        QTest::keyClick(&box, 'q');
+        QCOMPARE(box.GetText(), endless + "qshort");
+        box.SetText(QString("a <P>").repeated(200'000));
+        QTest::keyClick(&box, 'q');
+        QCOMPARE(box.GetText(), 'q' + QString("a ").repeated(200'000));
+        for (int i = 0; i < 2; ++i) // the typing, the cleaning
+            QTest::keySequence(&box, QKeySequence::Undo);
+        QCOMPARE(box.GetText(), QString("a <P>").repeated(200'000));
+        QVERIFY2(timer.elapsed() < 30000, qPrintable(QString::number(timer.elapsed())));
+    }
 };
 
 QTEST_MAIN(TestParagraphText)

@@ -105,12 +105,22 @@ private:
         if (field.isNumber)
             FailMismatch(node.field);
         const QByteArray pattern = std::get<QString>(node.value).toUtf8();
-        if (!LikePattern(pattern.toStdString(), LikePattern::Case::Insensitive).IsValid()) {
-            throw DatabaseError(DatabaseError::InvalidPattern,
-                                DatabaseError::tr("Invalid pattern in filter '%1'.").arg(text_));
-        }
+        RequireUsable(LikePattern(pattern.toStdString(), LikePattern::Case::Insensitive));
         result_.condition += QByteArray(field.ignoresCase ? likeFunction : pathLikeFunction) + '(' +
                              AddValue(node.value) + ',' + QuotedName(field.name) + ')';
+    }
+
+    void RequireUsable(const LikePattern& pattern) const
+    {
+        if (pattern.IsTooCostly())
+            throw DatabaseError(
+                DatabaseError::TooComplex,
+                DatabaseError::tr("A part of the pattern is too long in filter '%1'.")
+                    .arg(Excerpt(text_)));
+        if (!pattern.IsValid())
+            throw DatabaseError(
+                DatabaseError::InvalidPattern,
+                DatabaseError::tr("Invalid pattern in filter '%1'.").arg(Excerpt(text_)));
     }
 
     QByteArray AddValue(const FieldValue& value)
@@ -125,9 +135,9 @@ private:
     {
         const int field = table_.Find(name);
         if (field < 0) {
-            throw DatabaseError(
-                DatabaseError::UnknownFieldInFilter,
-                DatabaseError::tr("Unknown field '%1' in filter '%2'.").arg(name, text_));
+            throw DatabaseError(DatabaseError::UnknownFieldInFilter,
+                                DatabaseError::tr("Unknown field '%1' in filter '%2'.")
+                                    .arg(Excerpt(name), Excerpt(text_)));
         }
         return table_.At(field);
     }
@@ -137,7 +147,7 @@ private:
         throw DatabaseError(
             DatabaseError::TypeMismatch,
             DatabaseError::tr("Field '%1' is compared with a value of another type in '%2'.")
-                .arg(field, text_));
+                .arg(Excerpt(field), Excerpt(text_)));
     }
 
     QStringView text_;

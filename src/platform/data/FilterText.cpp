@@ -181,9 +181,9 @@ qint64 FilterParser::ParseNumber()
 
 void FilterParser::Fail() const
 {
-    throw DatabaseError(
-        DatabaseError::BadFilter,
-        DatabaseError::tr("Syntax error in filter '%1' at '%2'.").arg(whole_, rest_));
+    throw DatabaseError(DatabaseError::BadFilter,
+                        DatabaseError::tr("Syntax error in filter '%1' at '%2'.")
+                            .arg(Excerpt(whole_), Excerpt(rest_)));
 }
 
 } // namespace
@@ -196,6 +196,12 @@ FilterNode ParseFilter(QStringView text)
 void FailTooComplex(QStringView filter)
 {
     throw DatabaseError(DatabaseError::TooComplex,
-                        DatabaseError::tr("The filter is too long: '%1...'")
-                            .arg(filter.first(std::min<qsizetype>(80, filter.size()))));
+                        DatabaseError::tr("The filter is too long: '%1'").arg(Excerpt(filter)));
+}
+
+QString Excerpt(QStringView filter)
+{
+    constexpr qsizetype longest = 200;
+    const QString text = filter.left(longest).toString();
+    return text.size() == filter.size() ? text : text + QLatin1String("...");
 }

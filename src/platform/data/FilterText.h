@@ -28,3 +28,5 @@ FilterNode ParseFilter(QStringView text);
 
 // Throws TooComplex.
 [[noreturn]] void FailTooComplex(QStringView filter);
+// What a message shows of a filter, which may be a megabyte long.
+QString Excerpt(QStringView filter);

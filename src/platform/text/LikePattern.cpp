@@ -3,10 +3,26 @@
 
 #include "platform/text/TextFold.h"
 
+#include <algorithm>
+
+namespace {
+
+// What one place of a text may take, for a part that can only be tried at each: as many characters
+// as the longest file name has, each of which may be listed in both letter cases.
+constexpr std::size_t mostAtOnePlace = 255;
+
+bool HasNoCase(char32_t character)
+{
+    return QChar::toLower(character) == character && QChar::toUpper(character) == character;
+}
+
+} // namespace
+
 LikePattern::LikePattern(std::string_view utf8Pattern, Case caseRule)
     : foldsCase_(caseRule == Case::Insensitive)
 {
     Parse(utf8Pattern);
+    PrepareMiddle();
 }
 
 void LikePattern::Parse(std::string_view pattern)
@@ -15,7 +31,8 @@ void LikePattern::Parse(std::string_view pattern)
         const char32_t character = TakeUtf8(pattern);
         switch (character) {
         case U'*':
-            segments_.emplace_back();
+            if (segments_.size() == 1 || !segments_.back().empty()) // several runs are one
+                segments_.emplace_back();
             break;
         case U'?':
             segments_.back().push_back({Kind::AnyCharacter});
@@ -60,6 +77,10 @@ bool LikePattern::ParseList(std::string_view& pattern)
             return false;
         element.ranges.push_back({first, last});
     }
+    const Range& only = element.ranges.front();
+    if (element.ranges.size() == 1 && only.first == only.last && !element.negated &&
+        HasNoCase(only.first)) // a wildcard that stands for itself
+        element = {Kind::Character, only.first};
     segments_.back().push_back(std::move(element));
     return true;
 }
@@ -119,12 +140,58 @@ bool LikePattern::TakeTail(std::string_view& text) const
     return TakeSegment(tail, end);
 }
 
+void LikePattern::PrepareMiddle()
+{
+    overlaps_.resize(segments_.size());
+    for (std::size_t i = 1; i + 1 < segments_.size(); ++i) {
+        std::size_t cost = 0;
+        bool isPlain = true;
+        for (const Element& element : segments_[i]) {
+            cost += std::max<std::size_t>(1, element.ranges.size() / 2);
+            isPlain = isPlain && element.kind == Kind::Character;
+        }
+        if (isPlain)
+            overlaps_[i] = OverlapsOf(segments_[i]);
+        else
+            tooCostly_ = tooCostly_ || cost > mostAtOnePlace;
+    }
+}
+
+// For each number of characters, how many of them at the end are also the segment's beginning.
+LikePattern::Overlaps LikePattern::OverlapsOf(const Segment& segment)
+{
+    Overlaps overlaps(segment.size() + 1);
+    for (std::size_t i = 1, same = 0; i < segment.size(); ++i) {
+        while (same > 0 && segment[i].character != segment[same].character)
+            same = overlaps[same];
+        same += segment[i].character == segment[same].character ? 1 : 0;
+        overlaps[i + 1] = same;
+    }
+    return overlaps;
+}
+
+bool LikePattern::SkipPlain(const Segment& segment, const Overlaps& overlaps,
+                            std::string_view& text) const
+{
+    std::size_t taken = 0;
+    while (taken < segment.size()) {
+        if (text.empty())
+            return false;
+        const char32_t character = TakeUtf8(text);
+        while (taken > 0 && !Fits(segment[taken], character))
+            taken = overlaps[taken];
+        taken += Fits(segment[taken], character) ? 1 : 0;
+    }
+    return true;
+}
+
 // Cuts the text behind the first place where the segment fits. The first place is enough: it leaves
 // the most text for the segments that follow.
-bool LikePattern::SkipBehind(const Segment& segment, std::string_view& text) const
+bool LikePattern::SkipBehind(std::size_t number, std::string_view& text) const
 {
-    if (segment.empty())
-        return true;
+    const Segment& segment = segments_[number];
+    if (!overlaps_[number].empty())
+        return SkipPlain(segment, overlaps_[number], text);
     while (!text.empty()) {
         std::string_view rest = text;
         if (TakeSegment(segment, rest)) {
@@ -138,14 +205,14 @@ bool LikePattern::SkipBehind(const Segment& segment, std::string_view& text) con
 
 bool LikePattern::Matches(std::string_view text) const
 {
-    if (!valid_ || !TakeSegment(segments_.front(), text))
+    if (!IsValid() || !TakeSegment(segments_.front(), text))
         return false;
     if (segments_.size() == 1)
         return text.empty();
     if (!TakeTail(text))
         return false;
     for (std::size_t i = 1; i + 1 < segments_.size(); ++i) {
-        if (!SkipBehind(segments_[i], text))
+        if (!SkipBehind(i, text))
             return false;
     }
     return true;

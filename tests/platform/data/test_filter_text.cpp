@@ -35,20 +35,23 @@ private slots:
         AddPictures();
         album_->AddChapter("One");
         ImageSet->FindFirst("[Car0]='Bert'");
-        const std::pair<QString, int> rows[] = {{"[Car0]='O'Neil'", 3075},
-                                                {"[Car0]='x", 3075},
-                                                {"NOT()", 3075},
-                                                {"([Car0]='x'", 3075},
-                                                {"[Car0]='x' [Car1]='y'", 3075},
-                                                {"1=1; DROP TABLE Image", 3075},
-                                                {"[File] LIKE 5", 3075},
-                                                {"[Colour]='x'", 3070},
-                                                {"[Car0]=5", 3464},
-                                                {"[File] LIKE '[a'", 93}};
+        const std::pair<QString, int> rows[] = {
+            {"[Car0]='O'Neil'", 3075},
+            {"[Car0]='x", 3075},
+            {"NOT()", 3075},
+            {"([Car0]='x'", 3075},
+            {"[Car0]='x' [Car1]='y'", 3075},
+            {"1=1; DROP TABLE Image", 3075},
+            {"[File] LIKE 5", 3075},
+            {"[Colour]='x'", 3070},
+            {"[Car0]=5", 3464},
+            {"[File] LIKE '[a'", 93},
+            // Long is only what runs stand on both sides of.
+            {"[File] LIKE '*" + QString(256, u'?') + "*'", 3360}};
         for (const auto& [filter, number] : rows) {
             QString told;
             QCOMPARE(ErrorOf([&] { ImageSet->FindFirst(filter); }, &told), number);
-            QVERIFY2(told.contains(filter), qPrintable(told));
+            QVERIFY2(told.contains(filter.left(200)) && told.size() < 300, qPrintable(told));
             // The set is as usable as before, on the row that it stood on.
             QCOMPARE(ImageSet->Text(u"Car0"), "Bert");
         }

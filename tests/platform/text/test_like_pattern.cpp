@@ -20,7 +20,9 @@ private slots:
             {"/a*.*", "/a/b/c.jpg", true},
             {"aba*aba", "ababa", false},     // head and tail must not overlap
             {"*ab*abc", "ab abx abc", true}, // the later place of a middle part
-            {"caf?", "café", true},          // one character, not one byte
+            {"*aabaaa*", "aabaabaaa", true}, // which begins inside one that did not fit
+            {"*abab*c", "abaababc", true},
+            {"caf?", "café", true}, // one character, not one byte
             {"*é", "é\xBF", false}, // a stray byte is a character of its own, seen from either end
             {"*?é", "\xA9é", true},
             {"IMG_##", "IMG_0x", false},
@@ -57,6 +59,13 @@ private slots:
         QElapsedTimer timer;
         timer.start();
         QVERIFY(!like.Matches(std::string(20000, 'a')));
+        const std::string letters(2000, 'a');
+        const LikePattern longPart('*' + letters + "b*", LikePattern::Case::Sensitive);
+        QVERIFY(!longPart.Matches(std::string(200'000, 'a')));
+        QVERIFY(longPart.Matches(letters + letters + "bc"));
+        const LikePattern runs(std::string(1'000'000, '*') + 'b', LikePattern::Case::Sensitive);
+        for (int i = 0; i < 1000; ++i)
+            QVERIFY(!runs.Matches("a"));
         QVERIFY(timer.elapsed() < 5000);
     }
 
