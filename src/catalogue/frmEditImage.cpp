@@ -110,6 +110,9 @@ void frmEditImage::ShowOnly()
     for (QPushButton* button : {ui_->cmdDelete, ui_->cmdEditTables, ui_->cmdEditLabels})
         OfferUnless(*button, false, ReadOnlyReason());
     ui_->txtLegend->setReadOnly(true);
+    QPalette legend = ui_->txtLegend->palette();
+    legend.setColor(QPalette::Base, legend.color(QPalette::Window));
+    ui_->txtLegend->setPalette(legend);
     ui_->txtLegend->setToolTip(ReadOnlyReason());
 }
 

@@ -139,9 +139,7 @@ private:
         QString name = base;
         for (int number = 2; FindChapter(name); ++number)
             name = QStringLiteral("%1 %2").arg(base, QString::number(number));
-        QString last;
-        if (!chapters_.isEmpty() && FindById(*ChapterSet, chapters_.last()))
-            last = ChapterSet->TextOrEmpty(u"Name");
+        const QString last = chapters_.isEmpty() ? QString() : ChapterTitle(chapters_.last());
         chapters_.append(CreateChapter(name, last));
         return chapters_.last();
     }

@@ -8,6 +8,7 @@
 #include "core/PictureFile.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/PictureBox.h"
+#include "platform/widgets/TextWrapping.h"
 #include "story/ParagraphLinks.h"
 #include "story/PictureFilter.h"
 
@@ -93,8 +94,10 @@ void frmEditParagraph::lblText_Click()
 
 void frmEditParagraph::FillPreviewText()
 {
-    ui_->txtParagraphPreview->setPlainText(
-        FillPictureMarkers(GetContent().text, imgImage_->GetTag()));
+    const QString text = FillPictureMarkers(GetContent().text, imgImage_->GetTag());
+    ui_->txtParagraphPreview->clear(); // which costs nothing to wrap anew
+    ui_->txtParagraphPreview->setWordWrapMode(WrapModeFor(text));
+    ui_->txtParagraphPreview->setPlainText(text);
 }
 
 void frmEditParagraph::ShowPicture(const QString& file)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The paragraph editor and the organiser, worked by their controls.
+#include "catalogue/frmEditLabels.h"
 #include "core/Parameters.h"
 #include "story/frmEditParagraph.h"
 #include "support/AlbumFixture.h"
@@ -201,6 +202,27 @@ private slots:
                           Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, Answer::Yes);
         writing.Click("cmdExit");
         QCOMPARE(stored(), "a new Town *");
+    }
+
+    void LabelsThatAnotherWindowNames()
+    {
+        Writing writing;
+        ScriptedDialogs dialogs;
+        frmEditLabels labels;
+        labels.show();
+        writing.Execute("UPDATE Params SET Value='theirs' WHERE Param IN ('Car4','Caract1')");
+        Find<QLineEdit>(labels, "txtCar_4").setText("mine");
+        Find<QLineEdit>(labels, "txtCar_5").setText("own");
+        for (const auto answer : {Dialogs::Answer::Cancel, Dialogs::Answer::No}) {
+            dialogs.ExpectBox("One of these labels was changed in another window after it was "
+                              "opened here.\n\nThe other version:\ntheirs\n\nYour version:\nmine",
+                              Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, answer);
+            ::Click(labels, "cmdExit");
+            QCOMPARE(labels.isVisible(), answer == Dialogs::Answer::Cancel);
+        }
+        QCOMPARE(writing.Joined("SELECT Value FROM Params WHERE Param IN ('Car4','Car5','Caract1') "
+                                "ORDER BY Param"),
+                 "theirs; own; theirs");
     }
 
     void LeavingAsksWhenItCannotSave()
