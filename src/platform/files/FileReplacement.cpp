@@ -28,7 +28,8 @@ constexpr char lockName[] = "lumenark-work"; // tells our folders from others of
 constexpr char fileName[] = "new";           // all that is made in the folder begins so
 constexpr char asideName[] = "old";          // and all that is set aside in it so
 constexpr std::array journalEndings{"-journal", "-wal", "-shm"};
-constexpr int mostLinks = 40; // in a row; as many as systems follow
+constexpr int mostFolders = 10; // that others may take away
+constexpr int mostLinks = 40;   // in a row; as many as systems follow
 
 fs::path ToPath(const QString& path)
 {
@@ -117,8 +118,12 @@ bool ClearFolders(const QString& parent)
     for (const QString& name : names) {
         const QString folder = parent + u'/' + name;
         const QFileInfo mark(Inside(folder, lockName));
-        if (!mark.isFile() || mark.isSymLink())
+        if (!mark.isFile() || mark.isSymLink()) {
+            // One that a program was ended in when it had just made it, or nearly removed it, is
+            // empty; removing goes no further. Who works there makes another.
+            QDir().rmdir(folder);
             continue;
+        }
         if (auto lock = LockFolder(folder)) {
             RemoveFolder(folder, std::move(lock));
             isAnyCleared = true;
@@ -158,10 +163,13 @@ FileReplacement::FileReplacement(const QString& place) : target_(ResolvePlace(pl
     const QString parent = QFileInfo(target_).absolutePath();
     RequireReplaceable(QFileInfo(target_));
     ClearFolders(parent);
-    folder_ = MakeFolder(parent);
+    // Until it holds the lock, another program may take the folder for one that was left.
+    for (int trial = 0; !lock_ && trial < mostFolders && !QFileInfo::exists(folder_); ++trial) {
+        folder_ = MakeFolder(parent);
+        lock_ = LockFolder(folder_);
+    }
     path_ = Inside(folder_, fileName);
     try {
-        lock_ = LockFolder(folder_);
         if (!lock_)
             Fail(EIO);
         MakeFile();
