@@ -167,6 +167,18 @@ void Trials::SetInput(const QByteArray& input)
         ShowInput();
 }
 
+void Trials::AddInput(const QByteArray& line)
+{
+    currentInput += line + '\n';
+    const qsizetype surplus = currentInput.size() - mostShown / 2;
+    if (surplus > 0)
+        currentInput.remove(0, currentInput.indexOf('\n', surplus - 1) + 1);
+    if (onlyTrial_ >= 0) {
+        std::printf("  %s\n", Escaped(line).constData());
+        std::fflush(stdout);
+    }
+}
+
 const QByteArray& Trials::GetInput()
 {
     return currentInput;

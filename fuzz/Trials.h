@@ -40,6 +40,8 @@ public:
     // written to a file of the current folder where it is too large to be shown.
     void SetInput(const QByteArray& input);
     static const QByteArray& GetInput();
+    // One line more of an input that consists of steps; of many, the last ones are shown.
+    void AddInput(const QByteArray& line);
     // Inputs that the routines took. A target that reaches nothing but refusals tests little.
     void CountAccepted() { ++accepted_; }
     void Fault(const QString& what);
