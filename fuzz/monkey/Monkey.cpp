@@ -62,7 +62,7 @@ void Monkey::Tick()
         return;
     }
     // Armed before the action: what it opens runs an event loop of its own.
-    QTimer::singleShot(trials_.OneIn(12) ? trials_.Below(120) : 0, this, &Monkey::Tick);
+    QTimer::singleShot(isOver || trials_.OneIn(12) ? trials_.Below(120) : 0, this, &Monkey::Tick);
     sinceTick_.start();
     if (isOver)
         return CloseFront();
@@ -80,6 +80,8 @@ void Monkey::CloseFront()
 {
     QWidget* popup = QApplication::activePopupWidget();
     QWidget* front = popup ? popup : QApplication::activeModalWidget();
+    if (front->inherits("LongWorkDialog"))
+        return; // goes when its work is done
     Note("close", *front);
     if (++refusals_ > mostRefusals) {
         trials_.Fault(QStringLiteral("does not close"));
