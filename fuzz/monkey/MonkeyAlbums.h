@@ -10,8 +10,8 @@ inline const QString albumPassword = QStringLiteral("it's locked");
 // names of the albums.
 QStringList MakeAlbums(const QString& folder);
 
-// Whether its chains were whole when it was made.
+// Whether the chains of the album, or of the one that it is a copy of, were whole when it was made.
 inline bool IsWhole(const QString& name)
 {
-    return name != u"broken.alb";
+    return !name.startsWith(QLatin1String("broken"));
 }

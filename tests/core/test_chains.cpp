@@ -5,8 +5,6 @@
 #include "support/AlbumTest.h"
 #include "support/Rows.h"
 
-#include <random>
-
 using namespace GeneralModule;
 
 namespace {
@@ -67,36 +65,6 @@ private slots:
         album_->Execute("UPDATE Chapter SET NextChapter=77 WHERE Id=4");
         QVERIFY(MoveChapterUp("D"));
         QCOMPARE(Links(), QStringList({"1|0|4", "2|4|0", "3|4|77", "4|1|3"}));
-    }
-
-    // Creating links forward only, and whatever comes after must cope with it.
-    void NoChapterVanishes()
-    {
-        std::mt19937 random(7);
-        QStringList story;
-        for (int round = 0; round < 600; ++round) {
-            const qsizetype at = story.isEmpty() ? 0 : qsizetype(random()) % story.size();
-            const QString chosen = story.value(at);
-            switch (random() % (story.size() < 5 ? 2 : 6)) {
-            case 0:
-            case 1:
-                CreateChapter(QString::number(round), chosen);
-                story.insert(story.isEmpty() ? 0 : at + 1, QString::number(round));
-                break;
-            case 2:
-                QCOMPARE(DeleteChapter(chosen), ChapterDeletion::Deleted);
-                story.removeAt(at);
-                break;
-            case 3:
-                QCOMPARE(MoveChapterUp(chosen), at > 0);
-                story.move(at, qMax(0, at - 1));
-                break;
-            default:
-                QCOMPARE(MoveChapterDown(chosen), at + 1 < story.size());
-                story.move(at, qMin(story.size() - 1, at + 1));
-            }
-            QCOMPARE(ChapterNames(), story);
-        }
     }
 
     void FindsTheNameMeant()
@@ -252,37 +220,6 @@ private slots:
         }
         QVERIFY(trials > 10);
         QCOMPARE(album_->Story(), "One:123 Two:45");
-    }
-
-    // Albums of random links: whatever they say, the result is whole and nothing is lost.
-    void AnyAlbumIsWholeAfterwards()
-    {
-        std::mt19937 random(17);
-        for (int round = 0; round < 60; ++round) {
-            AlbumFixture album;
-            const int chapters = int(random() % 5);
-            const int paragraphs = int(random() % 12);
-            const auto any = [&random](int most) { return int(random() % unsigned(most + 3)) - 1; };
-            QString sql = "BEGIN;";
-            for (int i = 1; i <= chapters; ++i)
-                sql += QString("INSERT INTO Chapter VALUES (%1,%2,%3,%4,'C%1');")
-                           .arg(i)
-                           .arg(any(paragraphs))
-                           .arg(any(chapters))
-                           .arg(any(chapters));
-            for (int i = 1; i <= paragraphs; ++i)
-                sql += QString("INSERT INTO Paragraph (Id,Chapter,PreviousParagraph,"
-                               "NextParagraph,Text) VALUES (%1,%2,%3,%4,'t%1');")
-                           .arg(i)
-                           .arg(any(chapters))
-                           .arg(any(paragraphs))
-                           .arg(any(paragraphs));
-            album.Execute(sql + "COMMIT");
-            const QStringList texts = album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id");
-            RepairAlbum();
-            QVERIFY2(album.Story() != "broken", qPrintable(QString::number(round)));
-            QCOMPARE(album.Rows("SELECT Id,Text FROM Paragraph ORDER BY Id"), texts);
-        }
     }
 
 private:

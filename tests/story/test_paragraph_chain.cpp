@@ -174,21 +174,6 @@ private slots:
         QCOMPARE(place.paragraph, 5);
     }
 
-    void StepsSaveFirst()
-    {
-        const std::tuple<int, ChainStep, int> steps[] = {
-            {3, ChainStep::First, 1}, {3, ChainStep::Previous, 2}, {1, ChainStep::Previous, 1},
-            {1, ChainStep::Next, 2},  {4, ChainStep::Next, 4},     {2, ChainStep::Last, 4}};
-        for (const auto& [from, step, to] : steps) {
-            OneChapter story({"a", "b", "c", "d"});
-            story.place.paragraph = from;
-            SaveAndStep(story.place, Edited(story.place, "typed"), step);
-            QCOMPARE(story.place, (ParagraphPlace{1, to}));
-            QCOMPARE(story.Rows("SELECT Id FROM Paragraph WHERE Text='typed'"),
-                     QStringList(QString::number(from)));
-        }
-    }
-
     void WhatSavingRefuses()
     {
         OneChapter story({"a"});
@@ -224,41 +209,6 @@ private slots:
         place.paragraph = 1;
         DeleteParagraph(place);
         QCOMPARE(album.Joined(headSql), "2");
-    }
-
-    void Moves()
-    {
-        struct Row
-        {
-            ParagraphPlace from;
-            bool down;
-            int chapterAfter; // 0: nothing moves
-            const char* story;
-        };
-        const Row rows[] = {
-            {{1, 1}, true, 1, "One:bac Two:d Three:"},  {{1, 2}, true, 1, "One:acb Two:d Three:"},
-            {{1, 3}, true, 2, "One:ab Two:cd Three:"},  {{2, 4}, true, 3, "One:abc Two: Three:d"},
-            {{1, 2}, false, 1, "One:bac Two:d Three:"}, {{1, 3}, false, 1, "One:acb Two:d Three:"},
-            {{2, 4}, false, 1, "One:abcd Two: Three:"}, {{1, 1}, false, 0, "One:abc Two:d Three:"}};
-        for (const auto& [from, down, chapterAfter, story] : rows) {
-            const ThreeChapters album;
-            ParagraphPlace place = from;
-            const bool moves = chapterAfter > 0;
-            QCOMPARE(down ? MoveParagraphDown(place) : MoveParagraphUp(place), moves);
-            QCOMPARE(place, (ParagraphPlace{moves ? chapterAfter : from.chapter, from.paragraph}));
-            QCOMPARE(album.Story(), story);
-        }
-        // There and back through all chapters.
-        const ThreeChapters album;
-        ParagraphPlace place{1, 3};
-        for (int i = 0; i < 3; ++i)
-            QVERIFY(MoveParagraphDown(place));
-        QCOMPARE(album.Story(), "One:ab Two:d Three:c");
-        QVERIFY(!MoveParagraphDown(place)); // the last of the last chapter
-        for (int i = 0; i < 3; ++i)
-            QVERIFY(MoveParagraphUp(place));
-        QCOMPARE(place, (ParagraphPlace{1, 3}));
-        QCOMPARE(album.Story(), "One:abc Two:d Three:");
     }
 
     void BrokenLinks()
