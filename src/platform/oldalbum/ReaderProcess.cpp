@@ -79,8 +79,10 @@ std::optional<ReaderProcess::Frame> ReaderProcess::Next(int& patience)
         if (have >= qsizetype(OldAlbumStream::frameHead)) {
             const char* head = buffer_.constData() + used_;
             const auto size = qFromLittleEndian<quint32>(head + 1);
-            if (size > largestFrame)
+            if (size > largestFrame) {
+                process_.kill(); // nobody waits for what else it may have to say
                 return std::nullopt;
+            }
             if (have >= qsizetype(OldAlbumStream::frameHead + size)) {
                 used_ += qsizetype(OldAlbumStream::frameHead + size);
                 return Frame{OldAlbumStream::Frame(static_cast<unsigned char>(*head)),
