@@ -66,9 +66,11 @@ void Monkey::Tick()
     sinceTick_.start();
     if (isOver)
         return CloseFront();
-    --left_;
     QWidget* popup = QApplication::activePopupWidget();
     QWidget* front = Front(window_);
+    if (front->inherits("LongWorkDialog") && !trials_.OneIn(20))
+        return;
+    --left_;
     ++visits_[front->metaObject()->className()];
     if (popup)
         ActOnPopup(*popup);
