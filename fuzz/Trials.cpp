@@ -139,12 +139,13 @@ Trials::Trials(int argc, char** argv, int mostSeconds) : mostSeconds_(mostSecond
         std::fflush(stdout);
         _exit(1);
     });
-    time_.start();
 }
 
 bool Trials::Next()
 {
     const bool isFirst = trial_ < 0;
+    if (isFirst)
+        time_.start(); // what is made ready before is not counted
     trial_ = isFirst && onlyTrial_ >= 0 ? onlyTrial_ : trial_ + 1;
     LimitTime(0);
     if (faults_ >= mostFaults || (!isFirst && onlyTrial_ >= 0) ||
