@@ -33,12 +33,12 @@ void Run(const QByteArray& statements)
     }
 }
 
-ParagraphContent Content(const QString& text)
+ParagraphDraft Edited(const ParagraphPlace& place, const QString& text)
 {
     ParagraphContent content;
     content.text = text;
     content.values.fill(anyValue);
-    return content;
+    return {LoadParagraph(place.paragraph), content};
 }
 
 void RemoveCopy(const RepairReport& report)
@@ -206,7 +206,7 @@ private:
         const QString text = NewText();
         model_.Save(place.paragraph, text);
         const std::size_t at = StoryModel::IndexOf(chapter, place.paragraph);
-        CreateNextParagraph(place, Content(text));
+        CreateNextParagraph(place, Edited(place, text));
         chapter.paragraphs.insert(chapter.paragraphs.begin() + std::ptrdiff_t(at) + 1,
                                   {place.paragraph, {}});
         model_.unsaved = place.paragraph;
@@ -217,7 +217,7 @@ private:
     {
         Note("delete paragraph", place.paragraph);
         const qint32 expected = model_.Delete(place.paragraph);
-        DeleteParagraph(place, Content(NewText()));
+        DeleteParagraph(place);
         Expect(place.paragraph == expected, "another place after a deletion");
     }
 
@@ -228,7 +228,7 @@ private:
         const QString text = NewText();
         model_.Save(place.paragraph, text);
         const qint32 expected = model_.Step(place.paragraph, step);
-        SaveAndStep(place, Content(text), step);
+        SaveAndStep(place, Edited(place, text), step);
         Expect(place.paragraph == expected, "another place after a step");
     }
 
@@ -302,7 +302,8 @@ void WorkOnBrokenLinks(Trials& trials, int chapters, int paragraphs)
         else if (work == 3)
             MoveParagraphDown(place);
         else if (FindById(*ParagraphSet, place.paragraph))
-            SaveAndStep(place, LoadParagraph(place.paragraph), ChainStep(trials.Below(4)));
+            SaveAndStep(place, Edited(place, QString::number(trials.Below(100))),
+                        ChainStep(trials.Below(4)));
         ChapterNames();
         ListParagraphs(place.chapter);
     }

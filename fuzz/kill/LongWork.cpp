@@ -121,12 +121,12 @@ qint32 UnsavedParagraph(qint32& chapter)
     return newest;
 }
 
-ParagraphContent Content(int step)
+ParagraphDraft Edited(const ParagraphPlace& place, int step)
 {
     ParagraphContent content;
     content.text = QStringLiteral("written in step %1").arg(step);
     content.values.fill(anyValue);
-    return content;
+    return {LoadParagraph(place.paragraph), content};
 }
 
 void ChangeParagraphs(const QString&, int step)
@@ -135,7 +135,7 @@ void ChangeParagraphs(const QString&, int step)
     ParagraphPlace place;
     place.paragraph = UnsavedParagraph(place.chapter);
     if (place.paragraph != 0)
-        return SaveParagraph(place, Content(step));
+        return SaveParagraph(place, Edited(place, step));
     place.chapter = 1 + qint32(random() % 6);
     const std::vector<ParagraphLine> lines = ListParagraphs(place.chapter);
     if (lines.empty())
@@ -143,10 +143,10 @@ void ChangeParagraphs(const QString&, int step)
     place.paragraph = lines[random() % lines.size()].paragraph;
     switch (random() % 6) {
     case 0:
-        CreateNextParagraph(place, Content(step));
+        CreateNextParagraph(place, Edited(place, step));
         break;
     case 1:
-        DeleteParagraph(place, Content(step));
+        DeleteParagraph(place);
         break;
     case 2:
     case 3:
@@ -156,7 +156,7 @@ void ChangeParagraphs(const QString&, int step)
         MoveParagraphUp(place);
         break;
     default:
-        SaveParagraph(place, Content(step));
+        SaveParagraph(place, Edited(place, step));
     }
 }
 

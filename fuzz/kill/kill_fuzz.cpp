@@ -115,6 +115,7 @@ QFile::Permissions RightsOfOthers(const QString& path)
 void OpenToWork(const Target& target, const QString& folder, const QString& password)
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder + "/../settings");
+    qputenv("XDG_CACHE_HOME", (folder + "/../cache").toUtf8());
     if (target.work.album == LongWork::Album::Open &&
         !OpenAlbum(folder + '/' + target.work.place, password))
         throw std::runtime_error("the album does not open");

@@ -19,6 +19,7 @@ using namespace GeneralModule;
 World::World()
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, PathOf("settings"));
+    qputenv("XDG_CACHE_HOME", PathOf("cache").toUtf8());
     SeedRandom(1);
     AutoviewOn = false;
     PictureAtRandom = false;
