@@ -27,3 +27,6 @@ target_compile_definitions(PkgConfig::SQLCIPHER INTERFACE SQLITE_HAS_CODEC)
 
 # The reader of albums in the former file format. Its header is C, and warns by our standards.
 pkg_check_modules(LIBMDB REQUIRED IMPORTED_TARGET libmdb)
+
+# Where a deflated profile in a PNG file says how long it is.
+find_package(ZLIB REQUIRED)

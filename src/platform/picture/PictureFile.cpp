@@ -2,9 +2,11 @@
 #include "platform/picture/PictureFile.h"
 
 #include <QFileInfo>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 
 namespace {
 
@@ -34,8 +36,12 @@ const std::array<Signature, 9>& Signatures()
     return signatures;
 }
 
-// JPEG and most PNG come line by line, so the limit there is patience: about four seconds.
-constexpr qint64 mostPixelsByLine = 512LL << 20;
+// No photograph comes near.
+constexpr qint64 mostFileBytes = 512LL << 20;
+
+// JPEG and most PNG come line by line, so the limit there is patience: about two seconds.
+constexpr qint64 mostPixelsOfJpeg = 512LL << 20;
+constexpr qint64 mostPixelsOfPng = 256LL << 20;
 constexpr qint64 mostPixelsWhole = 128LL << 20;
 
 // A block of 8x8 pixels takes at least one bit of a JPEG, so no more than 512 pixels come out of a
@@ -43,15 +49,26 @@ constexpr qint64 mostPixelsWhole = 128LL << 20;
 constexpr qint64 pixelsPerJpegByte = 512;
 constexpr qint64 mostPixelsOfCutJpeg = 64LL << 20;
 
-bool IsProgressiveFrame(uchar marker)
-{
-    return marker == 0xC2 || marker == 0xC6 || marker == 0xCA || marker == 0xCE;
-}
+// The decoder reads a header of any length, a byte at a time.
+constexpr qint64 mostPnmHeaderBytes = 4096;
 
-bool IsFrame(uchar marker)
+// After the signature three numbers, apart from each other by blanks and comments.
+bool HasSensiblePnmHeader(QFile& file)
 {
-    // Three in the range of the frames are none: two kinds of tables and a reserved one.
-    return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+    const QByteArray head = file.peek(mostPnmHeaderBytes);
+    int numbers = 0;
+    bool inComment = false;
+    bool inNumber = false;
+    for (const char byte : head.mid(2)) {
+        inComment = byte == '#' || (inComment && byte != '\n');
+        const bool isBlank = inComment || std::isspace(uchar(byte)) != 0;
+        numbers += inNumber && isBlank;
+        inNumber = !isBlank;
+        if (numbers == 3) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -62,7 +79,7 @@ bool OpenPictureFile(QFile& file, const QString& path)
         return false;
     }
     file.setFileName(path);
-    return file.open(QIODevice::ReadOnly);
+    return file.size() <= mostFileBytes && file.open(QIODevice::ReadOnly);
 }
 
 QByteArray PictureFormatOf(QFile& file)
@@ -72,7 +89,10 @@ QByteArray PictureFormatOf(QFile& file)
         return head.startsWith(signature.start) &&
                head.mid(signature.laterAt).startsWith(signature.later);
     });
-    return found == Signatures().end() ? QByteArray() : QByteArray(found->format);
+    const QByteArray format =
+        found == Signatures().end() ? QByteArray() : QByteArray(found->format);
+    const bool isPnm = format == "ppm" || format == "pgm";
+    return isPnm && !HasSensiblePnmHeader(file) ? QByteArray() : format;
 }
 
 bool IsPlausibleSize(const QByteArray& format, QSize size, qint64 fileBytes)
@@ -84,31 +104,26 @@ bool IsPlausibleSize(const QByteArray& format, QSize size, qint64 fileBytes)
     if (format == "jpeg" && pixels > std::max(mostPixelsOfCutJpeg, fileBytes * pixelsPerJpegByte)) {
         return false;
     }
-    const bool byLine = format == "jpeg" || format == "png";
-    return pixels <= (byLine ? mostPixelsByLine : mostPixelsWhole);
+    if (format == "png") {
+        return pixels <= mostPixelsOfPng;
+    }
+    return pixels <= (format == "jpeg" ? mostPixelsOfJpeg : mostPixelsWhole);
 }
 
-bool JpegNeedsWholePicture(const QByteArray& jpeg)
+bool IsInterlacedPng(QFile& file)
 {
-    const auto byteAt = [&jpeg](qsizetype at) { return uchar(at < jpeg.size() ? jpeg[at] : 0); };
-    int colours = 0;
-    qsizetype at = 2;
-    while (at + 4 < jpeg.size() && byteAt(at) == 0xFF) {
-        const uchar marker = byteAt(at + 1);
-        if (marker == 0xFF) { // padding
-            ++at;
-            continue;
-        }
-        if (IsProgressiveFrame(marker)) {
-            return true;
-        }
-        if (marker == 0xDA) { // start of the first scan
-            return byteAt(at + 4) < colours;
-        }
-        if (IsFrame(marker)) {
-            colours = byteAt(at + 9);
-        }
-        at += 2 + (byteAt(at + 2) << 8 | byteAt(at + 3));
+    constexpr qsizetype headerBytes = 29; // with the first chunk up to this mark
+    const QByteArray head = file.peek(headerBytes);
+    return head.size() == headerBytes && head.back() != 0;
+}
+
+qint64 WebpBytes(QFile& file)
+{
+    constexpr qint64 headBytes = 8; // which the length does not count
+    const QByteArray head = file.peek(headBytes);
+    if (head.size() < headBytes) {
+        return file.size();
     }
-    return false;
+    const qint64 claimed = headBytes + qFromLittleEndian<quint32>(head.constData() + 4);
+    return std::min(claimed, file.size());
 }

@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/picture/PictureReader.h"
 
+#include "platform/picture/FileWindow.h"
+#include "platform/picture/GifFile.h"
+#include "platform/picture/JpegFile.h"
 #include "platform/picture/PictureFile.h"
+#include "platform/picture/PictureScaling.h"
+#include "platform/picture/PngDevice.h"
+#include "platform/picture/TiffFile.h"
 
 #include <QBuffer>
 #include <QColorSpace>
@@ -15,31 +21,23 @@
 #include <atomic>
 #include <exception>
 #include <limits>
+#include <memory>
 #include <mutex>
 
 namespace {
 
-// Megabytes for one picture that cannot be decoded by line: 128 megapixels. The decoders' own limit
-// of 128 refuses scans and stitched pictures that fit well into memory.
-constexpr int mostMegabytesWhole = 512;
+// For one picture while it is decoded, the file's bytes included where they are in memory. With
+// what the program takes besides, reading any file stays below 512 MiB.
+constexpr int mostMebibytes = 432;
+constexpr qint64 mostBytes = qint64(mostMebibytes) << 20;
 
-// A picture above this many pixels that is held whole is decoded while no other such picture is, so
-// that the memory does not grow with the number of cores.
-constexpr qint64 largeWhole = 32LL << 20;
+// A picture that takes more than this is decoded while no other such picture is, so that the memory
+// does not grow with the number of cores.
+constexpr qint64 bytesOfLarge = 128LL << 20;
 
 // Larger than any screen; guards the allocation only.
 constexpr int mostTargetSide = 1 << 15;
-constexpr qint64 mostTargetPixels = 128LL << 20;
-
-// No photograph comes near; what lies above it would be read into memory for nothing.
-constexpr qint64 mostJpegBytes = 1LL << 30;
-
-// To a format that needs no conversion at each paint.
-void ConvertToDraw(QImage& image)
-{
-    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                            : QImage::Format_RGB32);
-}
+constexpr qint64 mostTargetPixels = 64LL << 20;
 
 void ConvertToScreenColours(QImage& image)
 {
@@ -74,12 +72,12 @@ public:
             return;
         }
         const QByteArray format = PictureFormatOf(file_);
-        if (format.isEmpty()) {
+        if (format.isEmpty() || (format == "tiff" && TiffDecoderBytes(file_) > mostBytes)) {
             return;
         }
+        format_ = format;
         reader_.setAutoDetectImageFormat(false);
-        reader_.setFormat(format);
-        reader_.setDevice(&file_);
+        SetDevice();
     }
     Q_DISABLE_COPY_MOVE(OpenPicture)
 
@@ -87,7 +85,7 @@ public:
     QSize Size()
     {
         const QSize size = HeaderSize();
-        if (!IsPlausibleSize(reader_.format(), size, file_.size())) {
+        if (!IsPlausibleSize(format_, size, file_.size()) || DecoderBytes(size) > mostBytes) {
             return {};
         }
         return IsTurned() ? size.transposed() : size;
@@ -95,29 +93,66 @@ public:
 
     QImage Read(QSize target)
     {
-        if (IsJpeg() && !LoadIntoMemory()) {
+        if (IsJpeg() && !LoadScans()) {
             return {};
         }
+        const QSize size = HeaderSize();
         std::unique_lock<std::mutex> alone(LargeMutex(), std::defer_lock);
-        if (IsLargeWhole()) {
+        if (DecoderBytes(size) > bytesOfLarge) {
             alone.lock();
         }
-        // Counts before the turn. Decoders that cannot scale give all pixels, which are then scaled
-        // smoothly.
-        reader_.setScaledSize(IsTurned() ? target.transposed() : target);
-        QImage image = reader_.read();
-        if (!image.isNull()) {
-            ConvertToDraw(image);
-            ConvertToScreenColours(image);
-            Turn(image, reader_.transformation());
+        const QSize unturned = IsTurned() ? target.transposed() : target;
+        if (IsScaledByDecoder(size, unturned)) {
+            reader_.setScaledSize(unturned);
         }
+        QImage image = Prepared(size);
+        if (!reader_.read(&image)) {
+            return {};
+        }
+        CompletePalette(image);
+        image = ScaledToDraw(image, unturned);
+        ConvertToScreenColours(image);
+        Turn(image, reader_.transformation());
         return image;
     }
 
 private:
+    void SetDevice()
+    {
+        if (IsJpeg()) {
+            bytes_ = ReadJpegHead(file_);
+            return ReadFromMemory();
+        }
+        if (format_ == "gif") {
+            bytes_ = ReadFirstOfGif(file_);
+            return ReadFromMemory();
+        }
+        if (format_ == "png") {
+            isInterlaced_ = IsInterlacedPng(file_);
+            device_ = std::make_unique<PngDevice>(file_);
+        } else if (format_ == "webp") {
+            device_ = std::make_unique<FileWindow>(file_, WebpBytes(file_));
+        } else if (format_ == "tiff") {
+            device_ = std::make_unique<FileWindow>(file_, file_.size());
+        }
+        reader_.setDevice(device_ ? device_.get() : &file_);
+        reader_.setFormat(format_);
+    }
+
+    // From memory the JPEG decoder is about a tenth faster, too: from a file it asks for 4 KiB at a
+    // time.
+    void ReadFromMemory()
+    {
+        auto buffer = std::make_unique<QBuffer>(&bytes_);
+        buffer->open(QIODevice::ReadOnly);
+        reader_.setDevice(buffer.get());
+        reader_.setFormat(format_);
+        device_ = std::move(buffer);
+    }
+
     QSize HeaderSize()
     {
-        if (reader_.format().isEmpty()) {
+        if (format_.isEmpty()) {
             return {};
         }
         const QSize size = reader_.size();
@@ -128,35 +163,65 @@ private:
         return {size.width(), qAbs(size.height())};
     }
 
-    bool IsJpeg() const { return reader_.format() == "jpeg"; }
+    bool IsJpeg() const { return format_ == "jpeg"; }
 
     bool IsTurned() const
     {
         return (reader_.transformation() & QImageIOHandler::TransformationRotate90) != 0;
     }
 
-    bool IsLargeWhole()
+    // While it reads; other decoders hold the whole picture first. The size counts before the turn.
+    bool IsScaledByDecoder(QSize size, QSize target) const
     {
-        const QSize size = HeaderSize();
-        return qint64(size.width()) * size.height() > largeWhole &&
-               (!IsJpeg() || JpegNeedsWholePicture(bytes_));
+        return IsJpeg() || (IsPngByLine() && target.width() <= size.width() &&
+                            target.height() <= size.height());
     }
 
-    // From memory the JPEG decoder is about a tenth faster: from a file it asks for 4 KiB at a
-    // time.
-    bool LoadIntoMemory()
+    bool IsPngByLine() const
     {
-        file_.seek(0);
-        if (file_.size() > mostJpegBytes) {
-            return false;
+        const QImage::Format pixels = reader_.imageFormat();
+        return format_ == "png" && !isInterlaced_ &&
+               (pixels == QImage::Format_RGB32 || pixels == QImage::Format_ARGB32);
+    }
+
+    // What the decoder of bitmaps draws over. It leaves out pixels that the file leaves out, and
+    // would show what the memory held before.
+    QImage Prepared(QSize size) const
+    {
+        if (format_ != "bmp") {
+            return {};
         }
-        bytes_ = file_.readAll();
-        buffer_.setBuffer(&bytes_);
-        buffer_.open(QIODevice::ReadOnly);
-        const QByteArray format = reader_.format();
-        reader_.setDevice(&buffer_);
-        reader_.setFormat(format);
-        return true;
+        QImage image(size, reader_.imageFormat());
+        image.fill(0);
+        return image;
+    }
+
+    // At most, beside the picture in its final size.
+    qint64 DecoderBytes(QSize size)
+    {
+        if (IsJpeg()) {
+            return file_.size() + JpegWholeBytes(bytes_);
+        }
+        if (IsPngByLine()) {
+            return 0;
+        }
+        // Decoders count fewer bits as these.
+        constexpr qint64 fewestBytes = 4;
+        constexpr int bitsPerByte = 8;
+        const int bits = QImage::toPixelFormat(reader_.imageFormat()).bitsPerPixel();
+        const qint64 count = qint64(size.width()) * size.height();
+        const qint64 bytes = count * std::max<qint64>(bits / bitsPerByte, fewestBytes);
+        if (format_ == "webp") { // the file, its profile, and the picture once more
+            return bytes + 2 * device_->size() + count * fewestBytes;
+        }
+        return format_ == "tiff" ? bytes + TiffDecoderBytes(file_) : bytes;
+    }
+
+    bool LoadScans()
+    {
+        AppendJpegScans(bytes_, file_);
+        ReadFromMemory();
+        return HasSensibleScans(bytes_);
     }
 
     static std::mutex& LargeMutex()
@@ -166,8 +231,10 @@ private:
     }
 
     QFile file_;
-    QByteArray bytes_;
-    QBuffer buffer_;
+    QByteArray format_;
+    QByteArray bytes_; // of a JPEG, as far as it is read, or a GIF
+    bool isInterlaced_ = false;
+    std::unique_ptr<QIODevice> device_; // none where the decoder reads the file itself
     QImageReader reader_;
 };
 
@@ -180,7 +247,7 @@ bool IsPlausibleTarget(QSize size)
 QImage DecodeTo(const QString& path, QSize size)
 {
     static std::once_flag limitSet;
-    std::call_once(limitSet, [] { QImageReader::setAllocationLimit(mostMegabytesWhole); });
+    std::call_once(limitSet, [] { QImageReader::setAllocationLimit(mostMebibytes); });
 
     OpenPicture picture(path);
     if (!IsPlausibleTarget(size) || picture.Size().isEmpty()) {
@@ -193,7 +260,11 @@ QImage DecodeTo(const QString& path, QSize size)
 
 PictureInfo ReadPictureInfo(const QString& path)
 {
-    return {OpenPicture(path).Size()};
+    try {
+        return {OpenPicture(path).Size()};
+    } catch (const std::exception&) { // out of memory: as good as damaged
+        return {};
+    }
 }
 
 QImage ReadPicture(const QString& path, QSize size)

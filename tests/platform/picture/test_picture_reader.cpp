@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PictureBytes.h"
+#include "platform/picture/JpegFile.h"
 #include "platform/picture/PictureFile.h"
 #include "platform/picture/PictureReader.h"
 #include "support/AlbumFixture.h"

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "platform/picture/PictureScaling.h"
+
+#include <QColorSpace>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+constexpr qint64 pixelsPerBand = 4LL << 20;
+
+// A view of lines first to end - 1; image must outlive it.
+QImage LinesOf(const QImage& image, int first, int end)
+{
+    QImage lines(image.constScanLine(first), image.width(), end - first, image.bytesPerLine(),
+                 image.format());
+    if (image.colorCount() > 0)
+        lines.setColorTable(image.colorTable());
+    return lines;
+}
+
+QImage ScaledAtOnce(QImage image, QSize size)
+{
+    ConvertToDraw(image);
+    if (image.size() != size) {
+        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        ConvertToDraw(image);
+    }
+    return image;
+}
+
+} // namespace
+
+void CompletePalette(QImage& image)
+{
+    constexpr int mostPaletteBits = 8;
+    if (image.pixelFormat().colorModel() != QPixelFormat::Indexed ||
+        image.depth() > mostPaletteBits)
+        return;
+    QList<QRgb> palette = image.colorTable();
+    const qsizetype colours = qsizetype(1) << image.depth();
+    if (palette.size() >= colours)
+        return;
+    palette.resize(colours, qRgb(0, 0, 0));
+    image.setColorTable(palette);
+}
+
+void ConvertToDraw(QImage& image)
+{
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                            : QImage::Format_RGB32);
+}
+
+QImage ScaledToDraw(const QImage& image, QSize size)
+{
+    const qint64 pixels = qint64(image.width()) * image.height();
+    const qint64 bands = std::min<qint64>(pixels / pixelsPerBand, size.height());
+    if (bands <= 1 || size.height() >= image.height())
+        return ScaledAtOnce(image, size);
+    QImage scaled(size, image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                : QImage::Format_RGB32);
+    if (scaled.isNull())
+        return {};
+    const auto lineAt = [&](qint64 line) { return int(line * image.height() / size.height()); };
+    for (qint64 band = 0; band < bands; ++band) {
+        const int first = int(band * size.height() / bands);
+        const int end = int((band + 1) * size.height() / bands);
+        const QImage part =
+            ScaledAtOnce(LinesOf(image, lineAt(first), lineAt(end)), {size.width(), end - first});
+        if (part.isNull())
+            return {};
+        for (int line = first; line < end; ++line)
+            std::memcpy(scaled.scanLine(line), part.constScanLine(line - first),
+                        std::size_t(size.width()) * sizeof(QRgb));
+    }
+    scaled.setColorSpace(image.colorSpace());
+    return scaled;
+}

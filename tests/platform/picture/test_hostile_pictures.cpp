@@ -1,0 +1,392 @@
+// SPDX-License-Identifier: MIT
+#include "PictureBytes.h"
+#include "PngBytes.h"
+#include "platform/picture/GifFile.h"
+#include "platform/picture/JpegFile.h"
+#include "platform/picture/PictureFile.h"
+#include "platform/picture/PictureReader.h"
+#include "platform/picture/PictureScaling.h"
+#include "platform/picture/PngDevice.h"
+#include "platform/picture/TiffFile.h"
+#include "support/AlbumFixture.h"
+
+#include <QBuffer>
+#include <QDataStream>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdlib>
+#include <functional>
+#include <new>
+
+namespace {
+
+thread_local bool isMemoryGone = false;
+
+void* Allocate(std::size_t bytes)
+{
+    void* memory = isMemoryGone ? nullptr : std::malloc(std::max<std::size_t>(bytes, 1));
+    if (!memory)
+        throw std::bad_alloc();
+    return memory;
+}
+
+} // namespace
+
+void* operator new(std::size_t bytes)
+{
+    return Allocate(bytes);
+}
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+namespace {
+
+constexpr qint64 mebibyte = 1 << 20;
+constexpr qint64 largestFile = 512 * mebibyte;
+
+// As the kernel counts this process, in MiB; 0 where it does not.
+qint64 StatusMebibytes(const char* name)
+{
+    for (const QByteArray& line : ReadFile("/proc/self/status").split('\n')) {
+        if (line.startsWith(name))
+            return line.mid(qstrlen(name)).simplified().split(' ').first().toLongLong() / 1024;
+    }
+    return 0;
+}
+
+// How far the memory in use rose while work was done.
+qint64 PeakMebibytesOf(const std::function<void()>& work)
+{
+    QFile reset(QStringLiteral("/proc/self/clear_refs"));
+    if (!reset.open(QIODevice::WriteOnly) || reset.write("5") != 1)
+        return 0;
+    reset.close();
+    const qint64 before = StatusMebibytes("VmRSS:");
+    work();
+    return StatusMebibytes("VmHWM:") - before;
+}
+
+QByteArray LittleEndian(quint32 number)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream << number;
+    return bytes;
+}
+
+struct TiffEntry
+{
+    quint16 tag;
+    quint16 type; // 3: two bytes, 4: four bytes, 1: one byte
+    quint32 count;
+    quint32 value; // or where the values lie
+};
+
+// A gray picture of 100x100, with entries that come first or take the place of its own.
+QByteArray Tiff(const QList<TiffEntry>& changes)
+{
+    constexpr quint32 pixelsAt = 400;
+    QMap<quint16, TiffEntry> entries;
+    for (const TiffEntry& entry : {TiffEntry{256, 4, 1, 100},
+                                   {257, 4, 1, 100},
+                                   {258, 3, 1, 8},
+                                   {259, 3, 1, 1},
+                                   {262, 3, 1, 1},
+                                   {273, 4, 1, pixelsAt},
+                                   {278, 4, 1, 100},
+                                   {279, 4, 1, 10000}})
+        entries[entry.tag] = entry;
+    for (const TiffEntry& entry : changes)
+        entries[entry.tag] = entry;
+    QByteArray tiff("II*\0\x08\0\0\0", 8);
+    tiff += LittleEndian(quint32(entries.size())).left(2);
+    for (const TiffEntry& entry : std::as_const(entries))
+        tiff += LittleEndian(entry.tag | quint32(entry.type) << 16) + LittleEndian(entry.count) +
+                LittleEndian(entry.value);
+    return tiff.leftJustified(pixelsAt, '\0') + QByteArray(10000, '\x80');
+}
+
+// Eight bits a pixel, with fewer colours than the pixels name.
+QByteArray IndexedBitmap(QSize size, quint32 colours, char index)
+{
+    const quint32 pixelsAt = 54 + colours * 4;
+    QByteArray bytes = "BM" + LittleEndian(0) + LittleEndian(0) + LittleEndian(pixelsAt);
+    bytes += LittleEndian(40) + LittleEndian(quint32(size.width())) +
+             LittleEndian(quint32(size.height())) + LittleEndian(1 | 8 << 16);
+    bytes += LittleEndian(0) + LittleEndian(0) + LittleEndian(0) + LittleEndian(0) +
+             LittleEndian(colours) + LittleEndian(0);
+    bytes += QByteArray(colours * 4, '\xFF');
+    return bytes + QByteArray(size.width() * size.height(), index);
+}
+
+} // namespace
+
+// Files that are made to take the reader's memory and time.
+class TestHostilePictures : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void TextsOfPngNeverReachTheDecoder()
+    {
+        const QByteArray bomb = DeflatedText(QByteArray(60 * mebibyte, 'x'));
+        const QByteArray hugeProfile =
+            DeflatedText(QByteArray("\x70\0\0\0", 4) + QByteArray(124, 'p'));
+        const QByteArray international = "key" + QByteArray("\0\1\0\0\0", 5) + bomb.mid(5);
+        const std::tuple<QByteArray, bool> rows[] = {
+            {PngChunk("zTXt", "x", 0x7FFFFFFF), false}, // the file's end
+            {PngChunk("sPLT", "x", 0x60000000), false},
+            {PngChunk("zTXt", bomb).repeated(5), true},
+            {PngChunk("iTXt", international).repeated(5), true},
+            {PngChunk("iCCP", hugeProfile), true},
+            {PngChunk("iCCP", bomb), true}};
+        for (const auto& [chunks, isReadable] : rows) {
+            for (const char* before : {"IDAT", "IEND"}) {
+                QByteArray bytes = png_;
+                const QString path = Save(bytes.insert(PngChunkAt(bytes, before), chunks));
+                QImage image;
+                const qint64 peak = PeakMebibytesOf([&] {
+                    const bool isExpected = isReadable || qstrcmp(before, "IEND") == 0;
+                    QCOMPARE(ReadPictureInfo(path).IsReadable(), isExpected);
+                    image = ReadPicture(path, {20, 15});
+                });
+                QVERIFY2(peak < 48, qPrintable(QString::number(peak)));
+                QCOMPARE(image.isNull(), !isReadable && qstrcmp(before, "IDAT") == 0);
+            }
+        }
+    }
+
+    void PngKeepsWhatPixelsNeed()
+    {
+        const QByteArray header = png_.left(PngChunkAt(png_, "pHYs"));
+        const QByteArray resolution = PngChunk("pHYs", QByteArray(9, '\1'));
+        const QByteArray profile =
+            PngChunk("iCCP", DeflatedText(QByteArray("\0\0\1\0", 4) + QByteArray(252, 'p')));
+        const QByteArray pixels = PngChunk("IDAT", "pixels");
+        const QByteArray end = PngChunk("IEND", {});
+        const QByteArray text = PngChunk("tEXt", QByteArray("a\0b", 3));
+        QCOMPARE(Given(header + text + profile + resolution + text + profile + pixels + text +
+                       resolution + pixels + end + text),
+                 header + profile + resolution + pixels + pixels + end);
+        QCOMPARE(Given(header + pixels + end.chopped(4)), header + pixels + end);
+        // Cut off: what is there can be shown.
+        QCOMPARE(Given(header + pixels.chopped(6)), header + pixels.chopped(6));
+        QCOMPARE(Given(header + PngChunk("pHYs", "x", 9000) + pixels), header + end);
+        QCOMPARE(Given(header + pixels), header + pixels + end);
+        // A million of empty pieces are enough.
+        const QByteArray empty = PngChunk("IDAT", {});
+        QVERIFY(Given(header + empty.repeated(1100000)).size() < empty.size() * 1050000);
+    }
+
+    void NothingIsReadAfterThePicture()
+    {
+        for (const char* format : {"png", "webp", "jpeg", "gif", "bmp", "ppm"}) {
+            const QByteArray bytes =
+                qstrcmp(format, "gif") == 0 ? TwoFrameGif() : Encoded(picture_, format);
+            const QString path = Save(bytes, 300 * mebibyte);
+            QImage image;
+            const qint64 peak = PeakMebibytesOf([&] {
+                QVERIFY2(ReadPictureInfo(path).IsReadable(), format);
+                image = ReadPicture(path, {20, 15});
+            });
+            QVERIFY2(!image.isNull(), format);
+            // A JPEG is in memory until its end is found.
+            const bool isLoaded = qstrcmp(format, "jpeg") == 0;
+            QVERIFY2(peak < (isLoaded ? 450 : 48), format);
+            const QString tooLarge = Save(bytes, largestFile + 1);
+            QVERIFY2(!ReadPictureInfo(tooLarge).IsReadable(), format);
+            QVERIFY2(ReadPicture(tooLarge, {20, 15}).isNull(), format);
+        }
+        QVERIFY(
+            !ReadPictureInfo(Save("P6 #" + QByteArray(5000, 'x') + "\n1 1 255\n123")).IsReadable());
+        QVERIFY(ReadPictureInfo(Save("P6 #1 2 3\n1 1 255\n123")).IsReadable());
+    }
+
+    void SegmentsOfJpegStayOut()
+    {
+        const QByteArray comment = QByteArray("\xFF\xFE\xFF\xFF", 4) + QByteArray(0xFFFD, 'x');
+        const QByteArray program = QByteArray("\xFF\xE5\xFF\xFF", 4) + QByteArray(0xFFFD, 'x');
+        const QByteArray many = (comment + program).repeated(200);
+        for (const bool progressive : {false, true}) {
+            const QByteArray jpeg = WithOrientation(Encoded(picture_, "jpeg", progressive), 6);
+            QByteArray bytes = jpeg;
+            bytes.insert(bytes.lastIndexOf("\xFF\xD9"), many);
+            bytes.insert(bytes.indexOf("\xFF\xDB"), many);
+            QBuffer file(&bytes);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QByteArray kept = ReadJpegHead(file);
+            AppendJpegScans(kept, file);
+            QVERIFY2(kept.size() <= jpeg.size(), qPrintable(QString::number(kept.size())));
+            QCOMPARE(ReadPicture(Save(bytes), {30, 40}), ReadPicture(Save(jpeg), {30, 40}));
+        }
+    }
+
+    void JpegInScansTellsItsCost()
+    {
+        const QByteArray plain = Encoded(picture_, "jpeg");
+        QByteArray jpeg = Encoded(picture_, "jpeg", true);
+        QCOMPARE(JpegWholeBytes(plain), 0);
+        // 40x30, colours at half the size: 3x2 units of 4 + 1 + 1 blocks.
+        QCOMPARE(JpegWholeBytes(jpeg), 3 * 2 * 6 * 128);
+        QVERIFY(!ReadPictureInfo(Save(WithClaimedSize(jpeg, {20000, 20000}), 100 * mebibyte))
+                     .IsReadable());
+        QVERIFY(ReadPictureInfo(Save(WithClaimedSize(jpeg, {9000, 9000}), 100 * mebibyte))
+                    .IsReadable());
+
+        QVERIFY(HasSensibleScans(jpeg));
+        const qsizetype scan = jpeg.lastIndexOf("\xFF\xDA");
+        jpeg = WithClaimedSize(jpeg, {8000, 8000});
+        jpeg.insert(scan, jpeg.mid(scan, 10).repeated(400));
+        QVERIFY(!HasSensibleScans(jpeg));
+        QVERIFY(ReadPicture(Save(jpeg), {20, 15}).isNull());
+    }
+
+    void TiffTellsItsCost()
+    {
+        QVERIFY(ReadPictureInfo(Save(Tiff({}))).IsReadable());
+        QCOMPARE(TiffBytes(Tiff({{1000, 1, 3000, 0}})) - TiffBytes(Tiff({})), 3000 * 5 + 5 * 0);
+        // One strip, deflated: as decoded and as stored.
+        const qint64 plain = TiffBytes(Tiff({}));
+        QCOMPARE(TiffBytes(Tiff({{259, 3, 1, 8}})) - plain, 10000 + Tiff({}).size());
+
+        QList<TiffEntry> overlapping;
+        for (const quint16 tag : {700, 33723, 34377, 34675, 37724})
+            overlapping += TiffEntry{tag, 1, quint32(250 * mebibyte), 1000};
+        const QList<TiffEntry> largeTile{
+            {322, 4, 1, 30000}, {323, 4, 1, 30000}, {324, 4, 1, 400}, {325, 4, 1, 5000}};
+        const QList<TiffEntry> manySamples{{259, 3, 1, 8}, {277, 3, 1, 65535}};
+        for (const QList<TiffEntry>& changes : {overlapping, largeTile, manySamples}) {
+            const QString path = Save(Tiff(changes), 300 * mebibyte);
+            const qint64 peak = PeakMebibytesOf([&] {
+                QVERIFY(!ReadPictureInfo(path).IsReadable());
+                QVERIFY(ReadPicture(path, {20, 15}).isNull());
+            });
+            QVERIFY2(peak < 48, qPrintable(QString::number(peak)));
+        }
+    }
+
+    void GifEndsAfterItsFirstPicture()
+    {
+        const QByteArray gif = TwoFrameGif();
+        const QByteArray comment = "!\xFE" + ("\xFF" + QByteArray(255, 'x')).repeated(5) + '\0';
+        const QByteArray transparency("\x21\xF9\x04\0\0\0\0\0", 8);
+        constexpr int headBytes = 19;
+        constexpr int pictureBytes = 15;
+        QByteArray bytes = gif;
+        bytes.insert(headBytes, comment + transparency + comment);
+        QBuffer file(&bytes);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(ReadFirstOfGif(file),
+                 gif.left(headBytes) + transparency + gif.mid(headBytes, pictureBytes) + ';');
+    }
+
+    void MissingColoursAreBlack()
+    {
+        // Drawn as it is, a little smaller, and much smaller: three ways through the decoder.
+        const QString path = Save(IndexedBitmap({64, 60}, 1, '\xFE'));
+        for (const QSize size : {QSize(64, 60), QSize(50, 50), QSize(8, 8), QSize(90, 90)}) {
+            const QImage image = ReadPicture(path, size);
+            QCOMPARE(image.size(), size);
+            QCOMPARE(image.pixelColor(size.width() / 2, size.height() / 2), QColor(Qt::black));
+        }
+        QImage mono(8, 8, QImage::Format_Mono);
+        mono.setColorTable({qRgb(255, 255, 255)});
+        CompletePalette(mono);
+        QCOMPARE(mono.colorTable(), QList<QRgb>({qRgb(255, 255, 255), qRgb(0, 0, 0)}));
+    }
+
+    void PixelsThatAreLeftOutHaveTheFirstColour()
+    {
+        QByteArray bytes = IndexedBitmap({64, 60}, 1, '\0');
+        bytes.replace(30, 4, LittleEndian(1));          // run lengths,
+        bytes = bytes.left(58) + QByteArray("\0\1", 2); // of which none comes
+        QImage expected(64, 60, QImage::Format_RGB32);
+        expected.fill(Qt::white);
+        QCOMPARE(ReadPicture(Save(bytes), {64, 60}), expected);
+    }
+
+    void LargePicturesScaleInBands()
+    {
+        QImage image(4000, 5003, QImage::Format_Grayscale8);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                image.scanLine(y)[x] = uchar((x + y) / 40);
+        }
+        const QSize size(301, 207);
+        const QImage expected = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QImage scaled;
+        const qint64 peak = PeakMebibytesOf([&] { scaled = ScaledToDraw(image, size); });
+        QVERIFY2(peak < 60, qPrintable(QString::number(peak))); // 80 when converted whole
+        QCOMPARE(scaled.format(), QImage::Format_RGB32);
+        QCOMPARE(scaled.size(), size);
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x)
+                QVERIFY(qAbs(qRed(scaled.pixel(x, y)) - qRed(expected.pixel(x, y))) <= 2);
+        }
+    }
+
+    void LackOfMemoryIsNoError()
+    {
+        const QString path = Save(png_);
+        isMemoryGone = true;
+        const bool isReadable = ReadPictureInfo(path).IsReadable();
+        const bool isDrawn = !ReadPicture(path, {20, 15}).isNull();
+        isMemoryGone = false;
+        QVERIFY(!isReadable);
+        QVERIFY(!isDrawn);
+        QVERIFY(ReadPictureInfo(path).IsReadable());
+    }
+
+private:
+    // Followed by zeros up to that many bytes, which take no place on the disk.
+    QString Save(const QByteArray& bytes, qint64 fileBytes = 0) const
+    {
+        const QString path = folder_.filePath("picture");
+        WriteFile(path, bytes);
+        if (fileBytes > bytes.size() && !QFile::resize(path, fileBytes))
+            qFatal("The file cannot be made larger");
+        return path;
+    }
+
+    static QByteArray Given(QByteArray file)
+    {
+        QBuffer buffer(&file);
+        buffer.open(QIODevice::ReadOnly);
+        return PngDevice(buffer).readAll();
+    }
+
+    static QByteArray WithClaimedSize(QByteArray progressive, QSize size)
+    {
+        const qsizetype frame = progressive.indexOf("\xFF\xC2");
+        progressive[frame + 1] = '\xC0';
+        QByteArray bytes = WithClaimedJpegSize(progressive, size);
+        bytes[frame + 1] = '\xC2';
+        return bytes;
+    }
+
+    static qint64 TiffBytes(QByteArray file)
+    {
+        QBuffer buffer(&file);
+        buffer.open(QIODevice::ReadOnly);
+        return TiffDecoderBytes(buffer);
+    }
+
+    QTemporaryDir folder_;
+    const QImage picture_ = [] {
+        QImage image(40, 30, QImage::Format_RGB32);
+        image.fill(QColor(200, 120, 40));
+        return image;
+    }();
+    const QByteArray png_ = Encoded(picture_, "png");
+};
+
+QTEST_GUILESS_MAIN(TestHostilePictures)
+#include "test_hostile_pictures.moc"
