@@ -402,6 +402,13 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>FileList</name>
+    <message>
+        <source>%1 file(s) of the folder &apos;%2&apos; left out: their names are not valid text.</source>
+        <translation>%1 fichier(s) du dossier « %2 » laissé(s) de côté : leurs noms ne sont pas du texte valide.</translation>
+    </message>
+</context>
+<context>
     <name>FilterPanel</name>
     <message>
         <source>Picture filter</source>
@@ -449,6 +456,13 @@ Votre version :
     <message>
         <source>* (Reset)</source>
         <translation>* (Effacer)</translation>
+    </message>
+</context>
+<context>
+    <name>FolderList</name>
+    <message>
+        <source>%1 folder(s) in &apos;%2&apos; left out: their names are not valid text.</source>
+        <translation>%1 dossier(s) de « %2 » laissé(s) de côté : leurs noms ne sont pas du texte valide.</translation>
     </message>
 </context>
 <context>
@@ -1653,6 +1667,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>%1 file(s) left out: no pictures</source>
         <translation>%1 fichier(s) laissé(s) de côté : pas des photos</translation>
+    </message>
+    <message>
+        <source>%1 file(s) left out: their names are not valid text</source>
+        <translation>%1 fichier(s) laissé(s) de côté : leurs noms ne sont pas du texte valide</translation>
     </message>
     <message>
         <source>My Album.alb</source>

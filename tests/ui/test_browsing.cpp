@@ -9,6 +9,9 @@
 
 #include <QMimeData>
 
+#include <filesystem>
+#include <fstream>
+
 using namespace GeneralModule;
 
 // Pictures outside the story, and every other way to them and to albums than the file dialogs.
@@ -153,12 +156,17 @@ private slots:
         QVERIFY(QDir(album_->PathOf({})).mkdir("more"));
         for (const char* name : {"one.jpg", "more/two.PNG", "more/note.txt"})
             QVERIFY(QFile::copy(held, album_->PathOf(name)));
+        const std::string noText = album_->PathOf("more").toStdString() + "/\xff.jpg";
+        QVERIFY(std::ofstream(noText).good());
         Start();
         dialogs_->ExpectBox("2 picture(s) loaded\n1 picture(s) were in the album already\n"
-                            "2 file(s) left out: no pictures");
+                            "2 file(s) left out: no pictures\n"
+                            "2 file(s) left out: their names are not valid text");
         QVERIFY(Drop({held, album_->PathOf("one.jpg"), album_->PathOf("more"),
-                      album_->PathOf("more/note.txt"), "https://example.org/three.jpg"}));
+                      album_->PathOf("more/note.txt"), "https://example.org/three.jpg",
+                      "file:///nowhere/%FF.jpg"}));
         QVERIFY(dialogs_->IsDone());
+        QVERIFY(std::filesystem::remove(noText));
         QCOMPARE(album_->Rows("SELECT File,Legend,Car0 FROM Image ORDER BY File"),
                  QStringList({held + "|kept|-", album_->PathOf("more/two.PNG") + "||-",
                               album_->PathOf("one.jpg") + "||-"}));

@@ -20,15 +20,16 @@ fs::path ToNative(const QString& path)
     return fs::path(std::u8string(utf8.begin(), utf8.end()));
 }
 
-// Empty for a name that is no valid text.
-QString NameOf(const fs::path& path)
+void AddName(FolderListing& listing, const fs::path& path)
 {
     const std::u8string name = path.filename().u8string();
-    const auto* bytes = reinterpret_cast<const char*>(name.data());
-    const QString text = QString::fromUtf8(bytes, qsizetype(name.size()));
+    const QByteArrayView bytes(reinterpret_cast<const char*>(name.data()), qsizetype(name.size()));
+    const QString text = QString::fromUtf8(bytes);
+    if (text.startsWith(u'.'))
+        return;
     const bool isDoubtful = text.contains(QChar::ReplacementCharacter);
-    return isDoubtful && text.toUtf8() != QByteArrayView(bytes, qsizetype(name.size())) ? QString()
-                                                                                        : text;
+    const bool isUsable = !isDoubtful || text.toUtf8() == bytes;
+    (isUsable ? listing.names : listing.unusable).append(text);
 }
 
 bool ComesBefore(const QString& first, const QString& second)
@@ -46,11 +47,8 @@ FolderListing List(const QString& folder, IsMeant isMeant)
     fs::directory_iterator entry(ToNative(folder), error);
     for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
         std::error_code unknown;
-        if (!isMeant(*entry, unknown))
-            continue;
-        const QString name = NameOf(entry->path());
-        if (!name.isEmpty() && !name.startsWith(u'.'))
-            listing.names.append(name);
+        if (isMeant(*entry, unknown))
+            AddName(listing, entry->path());
     }
     if (error) {
         listing.error =

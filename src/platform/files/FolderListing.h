@@ -6,12 +6,14 @@
 
 struct FolderListing
 {
-    QStringList names; // sorted without regard to case
-    QString error;     // why the folder could not be read to its end; empty when it could
+    QStringList names;    // sorted without regard to case
+    QStringList unusable; // those that are no valid text, as near as text can come to them
+    QString error;        // why the folder could not be read to its end; empty when it could
 };
 
 // The files or the folders that lie directly in a folder, links to such among them. Hidden ones
-// are left out, and so are names that are no valid text, by which no file could be found again.
+// are left out. By a name that is no valid text no file could be found again, so such are told
+// apart.
 FolderListing ListFiles(const QString& folder);
 FolderListing ListFolders(const QString& folder);
 

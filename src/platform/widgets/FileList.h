@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QListView>
+#include <QSet>
 #include <QStringList>
 
 class QStringListModel;
@@ -18,7 +19,7 @@ public:
 
     const QString& GetPath() const { return path_; }
     // Reads the folder. When that fails half way a message box tells why, and what was read is
-    // shown.
+    // shown. Another tells of files whose names cannot be shown, once for a folder.
     void SetPath(const QString& path);
 
     const QString& GetPattern() const { return pattern_; }
@@ -34,6 +35,7 @@ private:
 
     QString path_;
     QString pattern_ = QStringLiteral("*.*");
-    QStringList files_; // of the folder, whatever the pattern
+    QStringList files_;    // of the folder, whatever the pattern
+    QSet<QString> toldOf_; // folders
     QStringListModel* model_;
 };

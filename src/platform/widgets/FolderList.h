@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QSet>
 #include <QTreeWidget>
 
 // Shows one folder: the folders that it lies in, itself, and below it the folders that it holds. A
@@ -16,7 +17,8 @@ public:
 
     // Without a separator at its end, but for a root.
     const QString& GetPath() const { return path_; }
-    // A folder that cannot be read is told in a message box, and the one on show stays.
+    // A folder that cannot be read is told in a message box, and the one on show stays. Another
+    // tells of folders whose names cannot be shown, once for each that holds such.
     void SetPath(const QString& path);
 
 signals:
@@ -32,4 +34,5 @@ private:
     void Open(const QTreeWidgetItem* item);
 
     QString path_;
+    QSet<QString> toldOf_; // folders
 };

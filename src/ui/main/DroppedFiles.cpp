@@ -14,14 +14,24 @@ const QString albumPatterns = QStringLiteral("*.alb;*.mdb");
 const QString picturePatterns =
     QStringLiteral("*.jpg;*.jpeg;*.gif;*.bmp;*.png;*.tif;*.tiff;*.webp");
 
+// Names of files are any bytes, and so a URL's may be.
+bool IsValidText(const QUrl& url)
+{
+    const QByteArray bytes = QByteArray::fromPercentEncoding(url.toEncoded());
+    return QString::fromUtf8(bytes).toUtf8() == bytes;
+}
+
 class Sorter
 {
 public:
-    void Add(const QString& path)
+    void Add(const QUrl& url)
     {
-        const QFileInfo info(path);
+        // Empty, and so no file, for one that is elsewhere.
+        const QFileInfo info(url.toLocalFile());
         if (info.isDir())
             AddFolder(QDir::toNativeSeparators(info.absoluteFilePath()));
+        else if (!info.isFile() && !IsValidText(url))
+            ++files_.unusable;
         else if (!info.isFile())
             ++files_.others;
         else
@@ -33,10 +43,13 @@ public:
 private:
     void AddFolder(const QString& folder)
     {
-        for (const QString& name : ListFiles(folder).names) {
+        const FolderListing listing = ListFiles(folder);
+        for (const QString& name : listing.names) {
             if (isPicture_.Match(name))
                 AddPicture(folder, name);
         }
+        for (const QString& name : listing.unusable)
+            files_.unusable += isPicture_.Match(name);
     }
 
     void AddFile(const QFileInfo& info)
@@ -67,6 +80,6 @@ DroppedFiles SortDroppedFiles(const QList<QUrl>& urls)
 {
     Sorter sorter;
     for (const QUrl& url : urls)
-        sorter.Add(url.toLocalFile()); // empty, and so no file, for one that is elsewhere
+        sorter.Add(url);
     return sorter.Take();
 }

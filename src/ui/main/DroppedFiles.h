@@ -13,7 +13,8 @@ struct DroppedFiles
     QStringList albums;                  // full paths
     QMap<QString, QStringList> pictures; // names by folder
     int pictureCount = 0;
-    int others = 0; // neither, or not on this computer
+    int unusable = 0; // names that are not valid text
+    int others = 0;   // neither, or not on this computer
 };
 
 // A dropped folder stands for the picture files that lie directly in it.

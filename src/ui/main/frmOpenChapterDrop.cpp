@@ -14,6 +14,19 @@
 
 using namespace GeneralModule;
 
+namespace {
+
+// What is told of dropped files, and a line for those that nothing can be done with.
+QString WithUnusable(QStringList lines, const DroppedFiles& files)
+{
+    if (files.unusable > 0)
+        lines += frmOpenChapter::tr("%1 file(s) left out: their names are not valid text")
+                     .arg(files.unusable);
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
 void frmOpenChapter::dragEnterEvent(QDragEnterEvent* event)
 {
     // A window in front of this one may hold something that is not saved.
@@ -41,8 +54,9 @@ void frmOpenChapter::TakeDropped(const DroppedFiles& files)
     else if (!files.albums.isEmpty())
         OpenChosen(files.albums.first());
     else if (files.pictureCount == 0)
-        Tell(tr("There is neither an album nor a picture among these files."),
-             Dialogs::Icon::Warning);
+        Tell(
+            WithUnusable({tr("There is neither an album nor a picture among these files.")}, files),
+            Dialogs::Icon::Warning);
     else if (!AlbumOpen())
         Tell(tr("Please open or create an album first, then drop the pictures."),
              Dialogs::Icon::Warning);
@@ -81,5 +95,5 @@ void frmOpenChapter::LoadDropped(const DroppedFiles& files)
         lines += tr("%1 picture(s) left out, because you stopped").arg(files.pictureCount - done);
     if (files.others > 0)
         lines += tr("%1 file(s) left out: no pictures").arg(files.others);
-    Tell(lines.join(QLatin1Char('\n')));
+    Tell(WithUnusable(lines, files));
 }

@@ -62,9 +62,6 @@ private slots:
                   QString(251, u'x') + ".jpg"};
         for (const QString& name : names)
             WriteFile(folder.filePath(name));
-        // Valid only as bytes: nothing could find this file again by its text.
-        const std::string invalid = folder.path().toStdString() + "/\xff.jpg";
-        QVERIFY(std::ofstream(invalid).good());
         const FolderListing listing = ListFiles(folder.path());
         QCOMPARE(listing.error, QString());
         QVERIFY(listing.names.indexOf("semi;colon.jpg") < listing.names.indexOf("Zoe.jpg"));
@@ -72,7 +69,36 @@ private slots:
         sorted.sort();
         names.sort();
         QCOMPARE(sorted, names);
-        QVERIFY(std::filesystem::remove(invalid));
+        QCOMPARE(listing.unusable, QStringList());
+    }
+
+    // Valid only as bytes: nothing could find these again by their text.
+    void CountsNamesThatAreNoText()
+    {
+        const QTemporaryDir folder;
+        const std::filesystem::path path = folder.path().toStdString();
+        for (const char* name : {"\xff.jpg", "\xe9t\xe9.txt", ".\xff"})
+            QVERIFY(std::ofstream(path / name).good());
+        QVERIFY(std::filesystem::create_directory(path / "d\xff"));
+        QCOMPARE(ListFiles(folder.path()).unusable.size(), 2);
+        QCOMPARE(ListFolders(folder.path()).unusable, QStringList(u8"d\ufffd"));
+
+        FileList files;
+        FolderList folders;
+        ScriptedDialogs dialogs;
+        dialogs.ExpectBox("2 file(s) of the folder '" + folder.path() +
+                              "' left out: their names are not valid text.",
+                          Dialogs::Icon::Warning);
+        dialogs.ExpectBox("1 folder(s) in '" + folder.path() +
+                              "' left out: their names are not valid text.",
+                          Dialogs::Icon::Warning);
+        for (int time = 0; time < 2; ++time) { // told of once
+            files.SetPath(folder.path());
+            folders.SetPath(folder.path());
+        }
+        QVERIFY(dialogs.IsDone());
+        QCOMPARE(files.Count(), 0);
+        std::filesystem::remove_all(path);
     }
 
     void TellsFilesFromFolders()
