@@ -35,10 +35,11 @@ void PutBig(QByteArray& bytes, qsizetype at, Number number)
         qToBigEndian(number, bytes.data() + at);
 }
 
-// What a deflated chunk may hold: little, or a great many times what it takes.
+// What a deflated chunk may hold: little, or a thousand times what it takes, which is as much as
+// the decoder takes of one.
 QByteArray Deflated(Trials& trials)
 {
-    static const QByteArray bomb = DeflatedText(QByteArray(40 * mebibyte, 'x'));
+    static const QByteArray bomb = DeflatedText(QByteArray(7 * mebibyte, 'x'));
     if (trials.OneIn(3))
         return bomb;
     QByteArray profile(132 + trials.Below(400), 'p');
