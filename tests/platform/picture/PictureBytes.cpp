@@ -30,7 +30,7 @@ QByteArray WithOrientation(const QByteArray& jpeg, char orientation)
 
 QByteArray WithClaimedJpegSize(QByteArray jpeg, QSize size)
 {
-    const qsizetype frame = jpeg.indexOf("\xFF\xC0");
+    const qsizetype frame = std::max(jpeg.indexOf("\xFF\xC0"), jpeg.indexOf("\xFF\xC2"));
     QByteArray sides;
     QDataStream(&sides, QIODevice::WriteOnly) << quint16(size.height()) << quint16(size.width());
     return jpeg.replace(frame + 5, sides.size(), sides);
