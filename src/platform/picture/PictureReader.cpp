@@ -210,7 +210,9 @@ private:
         constexpr int bitsPerByte = 8;
         const int bits = QImage::toPixelFormat(reader_.imageFormat()).bitsPerPixel();
         const qint64 count = qint64(size.width()) * size.height();
-        const qint64 bytes = count * std::max<qint64>(bits / bitsPerByte, fewestBytes);
+        // A line is converted whole.
+        const qint64 bytes =
+            count * std::max<qint64>(bits / bitsPerByte, fewestBytes) + size.width() * fewestBytes;
         if (format_ == "webp") { // the file, its profile, and the picture once more
             return bytes + 2 * device_->size() + count * fewestBytes;
         }

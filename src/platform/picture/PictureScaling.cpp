@@ -55,25 +55,28 @@ void ConvertToDraw(QImage& image)
 QImage ScaledToDraw(const QImage& image, QSize size)
 {
     const qint64 pixels = qint64(image.width()) * image.height();
-    const qint64 bands = std::min<qint64>(pixels / pixelsPerBand, size.height());
-    if (bands <= 1 || size.height() >= image.height())
+    const int bands = int(std::min<qint64>(pixels / pixelsPerBand, image.height()));
+    if (bands <= 1) {
         return ScaledAtOnce(image, size);
-    QImage scaled(size, image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                : QImage::Format_RGB32);
-    if (scaled.isNull())
-        return {};
-    const auto lineAt = [&](qint64 line) { return int(line * image.height() / size.height()); };
-    for (qint64 band = 0; band < bands; ++band) {
-        const int first = int(band * size.height() / bands);
-        const int end = int((band + 1) * size.height() / bands);
+    }
+    // Each band gives one line at least.
+    const QSize banded(size.width(), std::clamp(size.height(), bands, image.height()));
+    QImage scaled(banded, image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                  : QImage::Format_RGB32);
+    const auto lineAt = [&](qint64 line) { return int(line * image.height() / banded.height()); };
+    for (qint64 band = 0; band < bands && !scaled.isNull(); ++band) {
+        const int first = int(band * banded.height() / bands);
+        const int end = int((band + 1) * banded.height() / bands);
         const QImage part =
-            ScaledAtOnce(LinesOf(image, lineAt(first), lineAt(end)), {size.width(), end - first});
-        if (part.isNull())
+            ScaledAtOnce(LinesOf(image, lineAt(first), lineAt(end)), {banded.width(), end - first});
+        if (part.isNull()) {
             return {};
-        for (int line = first; line < end; ++line)
+        }
+        for (int line = first; line < end; ++line) {
             std::memcpy(scaled.scanLine(line), part.constScanLine(line - first),
-                        std::size_t(size.width()) * sizeof(QRgb));
+                        std::size_t(banded.width()) * sizeof(QRgb));
+        }
     }
     scaled.setColorSpace(image.colorSpace());
-    return scaled;
+    return ScaledAtOnce(scaled, size);
 }

@@ -309,7 +309,11 @@ private slots:
         const QSize size(301, 207);
         const QImage expected = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         QImage scaled;
-        const qint64 peak = PeakMebibytesOf([&] { scaled = ScaledToDraw(image, size); });
+        QImage line;
+        const qint64 peak = PeakMebibytesOf([&] {
+            scaled = ScaledToDraw(image, size);
+            line = ScaledToDraw(image, {40, 1});
+        });
         QVERIFY2(peak < 60, qPrintable(QString::number(peak))); // 80 when converted whole
         QCOMPARE(scaled.format(), QImage::Format_RGB32);
         QCOMPARE(scaled.size(), size);
@@ -317,6 +321,8 @@ private slots:
             for (int x = 0; x < size.width(); ++x)
                 QVERIFY(qAbs(qRed(scaled.pixel(x, y)) - qRed(expected.pixel(x, y))) <= 1);
         }
+        QCOMPARE(line.size(), QSize(40, 1));
+        QVERIFY(qAbs(qRed(line.pixel(5, 0)) - 125) <= 3); // scaled at once, 101
     }
 
     void LackOfMemoryIsNoError()
