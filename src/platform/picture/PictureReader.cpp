@@ -10,12 +10,10 @@
 #include "platform/picture/TiffFile.h"
 
 #include <QBuffer>
-#include <QColorSpace>
 #include <QFile>
 #include <QImageReader>
 #include <QThread>
 #include <QThreadPool>
-#include <QTransform>
 
 #include <algorithm>
 #include <atomic>
@@ -39,28 +37,6 @@ constexpr qint64 bytesOfLarge = 128LL << 20;
 constexpr int mostTargetSide = 1 << 15;
 constexpr qint64 mostTargetPixels = 64LL << 20;
 
-void ConvertToScreenColours(QImage& image)
-{
-    const QColorSpace profile = image.colorSpace();
-    if (profile.isValid() && profile != QColorSpace(QColorSpace::SRgb)) {
-        image.convertToColorSpace(QColorSpace::SRgb);
-        ConvertToDraw(image);
-    }
-}
-
-// Done after the colours: the reader's own turn loses the profile.
-void Turn(QImage& image, QImageIOHandler::Transformations turn)
-{
-    const bool mirror = turn.testFlag(QImageIOHandler::TransformationMirror);
-    const bool flip = turn.testFlag(QImageIOHandler::TransformationFlip);
-    if (mirror || flip) {
-        image = std::move(image).mirrored(mirror, flip);
-    }
-    if (turn.testFlag(QImageIOHandler::TransformationRotate90)) {
-        image = image.transformed(QTransform().rotate(90));
-    }
-}
-
 // A file's decoder on its way to pixels. Not to be copied or moved: the reader points to the
 // device.
 class OpenPicture
@@ -68,11 +44,15 @@ class OpenPicture
 public:
     explicit OpenPicture(const QString& path)
     {
+        // Some decoders set memory aside before they tell even the size.
+        static std::once_flag limitSet;
+        std::call_once(limitSet, [] { QImageReader::setAllocationLimit(mostMebibytes); });
         if (!OpenPictureFile(file_, path)) {
             return;
         }
         const QByteArray format = PictureFormatOf(file_);
-        if (format.isEmpty() || (format == "tiff" && TiffDecoderBytes(file_) > mostBytes)) {
+        bytesUpToSize_ = BytesUpToSize(format);
+        if (format.isEmpty() || bytesUpToSize_ > mostBytes) {
             return;
         }
         format_ = format;
@@ -137,6 +117,15 @@ private:
         }
         reader_.setDevice(device_ ? device_.get() : &file_);
         reader_.setFormat(format_);
+    }
+
+    // What the decoder takes until it tells the picture's size. The file is at its start.
+    qint64 BytesUpToSize(const QByteArray& format)
+    {
+        if (format == "webp") {
+            return 2 * WebpBytes(file_); // the file and its profile
+        }
+        return format == "tiff" ? TiffDecoderBytes(file_) : 0;
     }
 
     // From memory the JPEG decoder is about a tenth faster, too: from a file it asks for 4 KiB at a
@@ -213,10 +202,9 @@ private:
         // A line is converted whole.
         const qint64 bytes =
             count * std::max<qint64>(bits / bitsPerByte, fewestBytes) + size.width() * fewestBytes;
-        if (format_ == "webp") { // the file, its profile, and the picture once more
-            return bytes + 2 * device_->size() + count * fewestBytes;
-        }
-        return format_ == "tiff" ? bytes + TiffDecoderBytes(file_) : bytes;
+        // Frames are laid over each other.
+        const int more = format_ != "webp" ? 0 : reader_.supportsAnimation() ? 3 : 1;
+        return bytes + more * count * fewestBytes + bytesUpToSize_;
     }
 
     bool LoadScans()
@@ -236,6 +224,7 @@ private:
     QByteArray format_;
     QByteArray bytes_; // of a JPEG, as far as it is read, or a GIF
     bool isInterlaced_ = false;
+    qint64 bytesUpToSize_ = 0;
     std::unique_ptr<QIODevice> device_; // none where the decoder reads the file itself
     QImageReader reader_;
 };
@@ -248,9 +237,6 @@ bool IsPlausibleTarget(QSize size)
 
 QImage DecodeTo(const QString& path, QSize size)
 {
-    static std::once_flag limitSet;
-    std::call_once(limitSet, [] { QImageReader::setAllocationLimit(mostMebibytes); });
-
     OpenPicture picture(path);
     if (!IsPlausibleTarget(size) || picture.Size().isEmpty()) {
         return {};

@@ -2,6 +2,7 @@
 #include "platform/picture/PictureScaling.h"
 
 #include <QColorSpace>
+#include <QTransform>
 
 #include <algorithm>
 #include <cstring>
@@ -79,4 +80,25 @@ QImage ScaledToDraw(const QImage& image, QSize size)
     }
     scaled.setColorSpace(image.colorSpace());
     return ScaledAtOnce(scaled, size);
+}
+
+void ConvertToScreenColours(QImage& image)
+{
+    const QColorSpace profile = image.colorSpace();
+    if (profile.isValid() && profile != QColorSpace(QColorSpace::SRgb)) {
+        image.convertToColorSpace(QColorSpace::SRgb);
+        ConvertToDraw(image);
+    }
+}
+
+void Turn(QImage& image, QImageIOHandler::Transformations turn)
+{
+    const bool mirror = turn.testFlag(QImageIOHandler::TransformationMirror);
+    const bool flip = turn.testFlag(QImageIOHandler::TransformationFlip);
+    if (mirror || flip) {
+        image = std::move(image).mirrored(mirror, flip);
+    }
+    if (turn.testFlag(QImageIOHandler::TransformationRotate90)) {
+        image = image.transformed(QTransform().rotate(90));
+    }
 }

@@ -206,6 +206,15 @@ private slots:
         QVERIFY(ReadPictureInfo(Save("P6 #1 2 3\n1 1 255\n123")).IsReadable());
     }
 
+    // Its decoder loads the file before it tells the size.
+    void WebpThatClaimsAllIsNone()
+    {
+        const QByteArray bytes("RIFF\xF0\xFF\xFF\xFFWEBPVP8X\x0A\0\0\0", 20);
+        const QString path = Save(bytes + QByteArray("\x12\0\0\0?\0\0?\0\0", 10), 400 * mebibyte);
+        const qint64 peak = PeakMebibytesOf([&] { QVERIFY(!ReadPictureInfo(path).IsReadable()); });
+        QVERIFY2(peak < 48, qPrintable(QString::number(peak)));
+    }
+
     void SegmentsOfJpegStayOut()
     {
         const QByteArray comment = QByteArray("\xFF\xFE\xFF\xFF", 4) + QByteArray(0xFFFD, 'x');
