@@ -4,9 +4,12 @@
 #include "core/Album.h"
 #include "platform/data/DatabaseCopy.h"
 #include "platform/data/WriteBatch.h"
+#include "platform/files/FileReplacement.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <system_error>
 
 namespace {
 
@@ -31,7 +34,16 @@ QString CopyAlbumBeside(const QString& note)
     const QString copy = FreeName(QFileInfo(AlbumDatabase->GetPath()), note);
     // Holds the album's write lock, with nothing written, as long as the file is read.
     const WriteBatch lock(AlbumDatabase);
-    CopyDatabaseFile(*AlbumDatabase, copy);
+    try {
+        FileReplacement replacement(copy); // whatever ends the program leaves no half copy there
+        CopyDatabaseFile(*AlbumDatabase, replacement.GetPath());
+        replacement.Commit(FileReplacement::Taken::Refuse);
+    } catch (const std::system_error& error) {
+        throw DatabaseError(DatabaseError::DiskError,
+                            DatabaseError::tr("The album cannot be copied to '%1': %2")
+                                .arg(QDir::toNativeSeparators(copy),
+                                     QString::fromLocal8Bit(error.code().message().c_str())));
+    }
     return copy;
 }
 

@@ -161,8 +161,15 @@ private slots:
             _exit(0);
         }
         QCOMPARE(waitpid(child, nullptr, 0), child);
+        // One that was killed before it had written its number into its lock.
+        QFile lock(album_->PathOf(".lumenark-early/lumenark-work"));
+        WriteFile(lock.fileName());
+        QVERIFY(lock.open(QIODevice::ReadWrite));
+        QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addSecs(-100),
+                                 QFileDevice::FileModificationTime));
+        lock.close();
         QVERIFY(QDir().mkdir(album_->PathOf(".lumenark-ended"))); // at the very beginning or end
-        QCOMPARE(folders().size(), 3);
+        QCOMPARE(folders().size(), 4);
         {
             FileReplacement first(place);
             FileReplacement second(album_->PathOf("new letter"));

@@ -8,7 +8,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -68,7 +67,6 @@ QString WhyNotCopied(const QFile& copy, bool isWritten)
 void CopyDatabaseFile(const Database& database, const QString& target)
 {
     QFile copy(target);
-    auto removeCopy = qScopeGuard([&copy] { copy.remove(); });
     const EngineFile source(database.GetEngine());
     const auto write = [&copy](const QByteArray& block) {
         return copy.write(block) == block.size();
@@ -77,16 +75,13 @@ void CopyDatabaseFile(const Database& database, const QString& target)
     const auto isEqual = [&copy](const QByteArray& block) {
         return copy.read(block.size()) == block;
     };
-    const bool isCreated = copy.open(QIODevice::ReadWrite | QIODevice::NewOnly,
-                                     QFile::permissions(database.GetPath()));
-    if (!isCreated)
-        removeCopy.dismiss(); // whatever is there is not ours
-    const bool isWritten = isCreated && ForEachBlock(source, write) && copy.flush();
+    const bool isOpen = copy.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) &&
+                        copy.setPermissions(QFile::permissions(database.GetPath()));
+    const bool isWritten = isOpen && ForEachBlock(source, write) && copy.flush();
     if (!isWritten || !copy.seek(0) || !ForEachBlock(source, isEqual)) {
-        throw DatabaseError(
-            DatabaseError::DiskError,
-            DatabaseError::tr("The album cannot be copied to '%1': %2")
-                .arg(QDir::toNativeSeparators(target), WhyNotCopied(copy, isWritten)));
+        throw DatabaseError(DatabaseError::DiskError,
+                            DatabaseError::tr("The album cannot be copied to '%1': %2")
+                                .arg(QDir::toNativeSeparators(QFileInfo(target).absolutePath()),
+                                     WhyNotCopied(copy, isWritten)));
     }
-    removeCopy.dismiss();
 }

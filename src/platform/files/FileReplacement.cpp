@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/FileReplacement.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -109,6 +110,17 @@ void RemoveFolder(const QString& folder, std::unique_ptr<QLockFile> lock)
     QDir().rmdir(folder);
 }
 
+// A program that is killed between making its lock and writing its number into it leaves one that
+// nobody can tell from a lock in use, but for its age.
+void RemoveUnfilledLock(const QString& path)
+{
+    constexpr qint64 longestFilling = 60; // seconds
+    const QFileInfo lock(path);
+    if (lock.isFile() && lock.size() == 0 &&
+        lock.lastModified().secsTo(QDateTime::currentDateTime()) > longestFilling)
+        QFile::remove(path);
+}
+
 bool ClearFolders(const QString& parent)
 {
     bool isAnyCleared = false;
@@ -117,6 +129,7 @@ bool ClearFolders(const QString& parent)
                                QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot);
     for (const QString& name : names) {
         const QString folder = parent + u'/' + name;
+        RemoveUnfilledLock(Inside(folder, lockName));
         const QFileInfo mark(Inside(folder, lockName));
         if (!mark.isFile() || mark.isSymLink()) {
             // One that a program was ended in when it had just made it, or nearly removed it, is
