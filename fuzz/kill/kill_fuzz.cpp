@@ -31,11 +31,16 @@ using namespace GeneralModule;
 
 namespace {
 
-// Nothing here may need a person.
+// Nothing here may need a person. That leftovers were cleared away is good news.
 class NoDialogs : public Dialogs
 {
 public:
-    Answer Ask(const Box& box) override { throw std::runtime_error(box.text.toStdString()); }
+    Answer Ask(const Box& box) override
+    {
+        if (box.icon != Icon::Information)
+            throw std::runtime_error(box.text.toStdString());
+        return Answer::Ok;
+    }
     QString AskText(const Input&) override { return {}; }
     QString AskOpenFile(const FileChoice&) override { return {}; }
     QString AskSaveFile(const FileChoice&) override { return {}; }

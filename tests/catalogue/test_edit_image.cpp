@@ -120,17 +120,21 @@ private slots:
     void WhatAnotherWindowWritesIsKept()
     {
         const QStringList files = Open(1);
-        album_->Execute("UPDATE Image SET Legend='two\nlines', Car1='theirs'");
+        // Longer than a box of one line takes.
+        album_->Execute("UPDATE Image SET Legend=hex(zeroblob(20000))");
+        Open(files);
+        album_->Execute("UPDATE Image SET Car1='theirs'");
         TypeInto(0, "Anna");
         QTest::keyClick(window_, Qt::Key_Escape);
-        QCOMPARE(album_->Joined("SELECT Legend,Car0,Car1 FROM Image"), "two\nlines|Anna|theirs");
+        QCOMPARE(album_->Joined("SELECT length(Legend),Car0,Car1 FROM Image"), "40000|Anna|theirs");
+        album_->Execute("UPDATE Image SET Legend='two lines'");
         Open(files);
         TypeInto(1, "mine");
         album_->Execute("UPDATE Image SET Car1='others'");
         for (const auto answer : {Answer::Cancel, Answer::No}) {
             dialogs_->ExpectBox("This picture was changed in another window after it was opened "
-                                "here.\n\nThe other version:\ntwo\nlines, Anna, others\n\n"
-                                "Your version:\ntwo\nlines, Anna, mine",
+                                "here.\n\nThe other version:\ntwo lines, Anna, others\n\n"
+                                "Your version:\ntwo lines, Anna, mine",
                                 Icon::Question, Buttons::YesNoCancel, answer);
             QTest::keyClick(window_, Qt::Key_Escape);
             QCOMPARE(window_->isVisible(), answer == Answer::Cancel);
