@@ -7,7 +7,6 @@
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "core/Album.h"
-#include "core/EditConflict.h"
 #include "core/Parameters.h"
 #include "core/PictureFile.h"
 #include "platform/data/DatabaseError.h"
@@ -230,6 +229,13 @@ void frmEditImage::SetValue(int column, const QString& value)
     combo->setEditText(value);
 }
 
+// In the list of a column, once.
+void frmEditImage::OfferValue(int column, const QString& value)
+{
+    if (IndexOf(ValuesModel(column)->stringList(), value) < 0)
+        cboCategory_[std::size_t(column)]->addItem(value);
+}
+
 void frmEditImage::cboCategory_Change(int column)
 {
     completion_->SetValues(ValuesModel(column)->stringList());
@@ -239,56 +245,6 @@ void frmEditImage::cboCategory_Change(int column)
         text = normal;
     if (text != combo->currentText())
         combo->setEditText(text);
-}
-
-PictureRecord frmEditImage::ControlValues() const
-{
-    PictureRecord record{ui_->txtLegend->text(), {}};
-    for (std::size_t column = 0; column < columnCount; ++column)
-        record.values[column] = cboCategory_[column]->currentText();
-    return record;
-}
-
-// What nobody has touched is as it was shown, whatever a control of one line makes of it.
-PictureRecord frmEditImage::GetRecord() const
-{
-    return MergeRecord(controls_, ControlValues(), shown_, true);
-}
-
-// False when the user wants to stay.
-bool frmEditImage::SettleConflict()
-{
-    const PictureRecord edited = GetRecord();
-    const PictureRecord stored = ReadPictureRecord(CurrentImage).value_or(shown_);
-    if (!HasConflict(shown_, edited, stored))
-        return true;
-    const ConflictChoice choice =
-        AskAboutConflict(tr("This picture"), DescribeRecord(edited), DescribeRecord(stored));
-    if (choice == ConflictChoice::Stay)
-        return false;
-    const PictureRecord merged =
-        MergeRecord(shown_, edited, stored, choice == ConflictChoice::KeepMine);
-    ShowStored(stored);
-    ShowRecord(merged);
-    return true;
-}
-
-bool frmEditImage::SavePicture()
-{
-    if (CurrentImage.isEmpty() || !isKnown_)
-        return true;
-    if (!SettleConflict())
-        return false;
-    const PictureRecord saved = SavePictureRecord(CurrentImage, shown_, GetRecord());
-    for (int column = 0; column < columnCount; ++column) {
-        QComboBox* combo = cboCategory_[std::size_t(column)];
-        const QString& value = saved.values[std::size_t(column)];
-        const bool isNew = value != shown_.values[std::size_t(column)];
-        if (isNew && IndexOf(ValuesModel(column)->stringList(), value) < 0)
-            combo->addItem(value);
-    }
-    ShowStored(saved);
-    return true;
 }
 
 void frmEditImage::cmdNextImage_Click()
@@ -352,26 +308,4 @@ bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
         return false;
     close();
     return true;
-}
-
-// Every way out leads through here.
-void frmEditImage::reject()
-{
-    if (SaveBeforeLeaving())
-        QDialog::reject();
-}
-
-bool frmEditImage::SaveBeforeLeaving()
-{
-    try {
-        return SavePicture();
-    } catch (const DatabaseError& error) {
-        const Dialogs::Answer answer = Dialogs::Door().Ask(
-            {.text = error.GetDescription() + QLatin1Char('\n') +
-                     tr("The picture could not be saved. Leave without saving ?"),
-             .icon = Dialogs::Icon::Warning,
-             .buttons = Dialogs::Buttons::YesNo,
-             .defaultAnswer = Dialogs::Answer::No});
-        return answer == Dialogs::Answer::Yes;
-    }
 }

@@ -62,6 +62,7 @@ private:
     void DisplayCaracteristicNames();
     void DisplayLabels();
     void ShowPicture(const QString& file);
+    void OfferValue(int column, const QString& value);
     void ShowStored(const PictureRecord& record);
     void ShowRecord(const PictureRecord& record);
     PictureRecord ControlValues() const;
