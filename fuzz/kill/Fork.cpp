@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr unsigned mostSeconds = 120; // for a process that is not killed
+constexpr unsigned mostSeconds = 600; // for a process that is not killed, on a busy machine
 
 } // namespace
 
