@@ -12,7 +12,7 @@
 // of their file names. For each characteristic it stores "*" for any value, or values joined by ";"
 // one of which the picture must have; after a value "!" it must have none of them.
 
-// Takes the first value off the list, with the ";" behind it, and returns it. A view, because a
+// Takes the first value off the list, with the ";" after it, and returns it. A view, because a
 // list may be long: cutting it off the text itself would move the rest at every step.
 QString NextToken(QStringView& values);
 

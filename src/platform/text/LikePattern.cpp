@@ -187,7 +187,7 @@ bool LikePattern::SkipPlain(const Segment& segment, const Overlaps& overlaps,
 
 // Cuts the text behind the first place where the segment fits. The first place is enough: it leaves
 // the most text for the segments that follow.
-bool LikePattern::SkipBehind(std::size_t number, std::string_view& text) const
+bool LikePattern::SkipPast(std::size_t number, std::string_view& text) const
 {
     const Segment& segment = segments_[number];
     if (!overlaps_[number].empty())
@@ -212,7 +212,7 @@ bool LikePattern::Matches(std::string_view text) const
     if (!TakeTail(text))
         return false;
     for (std::size_t i = 1; i + 1 < segments_.size(); ++i) {
-        if (!SkipBehind(i, text))
+        if (!SkipPast(i, text))
             return false;
     }
     return true;

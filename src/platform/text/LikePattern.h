@@ -58,7 +58,7 @@ private:
     void PrepareMiddle();
     static Overlaps OverlapsOf(const Segment& segment);
     bool SkipPlain(const Segment& segment, const Overlaps& overlaps, std::string_view& text) const;
-    bool SkipBehind(std::size_t segment, std::string_view& text) const;
+    bool SkipPast(std::size_t segment, std::string_view& text) const;
 
     // What stands between the runs: one segment more than there are runs.
     std::vector<Segment> segments_{1};
