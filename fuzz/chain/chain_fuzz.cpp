@@ -301,9 +301,10 @@ void WorkOnBrokenLinks(Trials& trials, int chapters, int paragraphs)
             MoveParagraphUp(place);
         else if (work == 3)
             MoveParagraphDown(place);
-        else if (FindById(*ParagraphSet, place.paragraph))
-            SaveAndStep(place, Edited(place, QString::number(trials.Below(100))),
-                        ChainStep(trials.Below(4)));
+        else if (FindById(*ParagraphSet, place.paragraph)) {
+            const ParagraphContent content = LoadParagraph(place.paragraph);
+            SaveAndStep(place, {content, content}, ChainStep(trials.Below(4)));
+        }
         ChapterNames();
         ListParagraphs(place.chapter);
     }

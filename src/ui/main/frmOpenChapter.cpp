@@ -277,8 +277,11 @@ void frmOpenChapter::OpenChosen(const QString& path)
 
 void frmOpenChapter::FillRecentAlbums()
 {
+    // Chosen a moment ago: a window that has come up since goes on in the album that it was opened
+    // on.
     FillRecentMenu(*ui_->mnuRecent, [this](const QString& path) {
-        RunGuarded([this, &path] { OpenChosen(path); });
+        if (!QApplication::activeModalWidget())
+            RunGuarded([this, &path] { OpenChosen(path); });
     });
 }
 

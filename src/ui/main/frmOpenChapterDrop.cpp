@@ -40,7 +40,11 @@ void frmOpenChapter::dropEvent(QDropEvent* event)
     const QList<QUrl> urls = event->mimeData()->urls();
     // Later, so that the program from which the files come does not wait for message boxes here.
     QMetaObject::invokeMethod(
-        this, [this, urls] { RunGuarded([&] { TakeDropped(SortDroppedFiles(urls)); }); },
+        this,
+        [this, urls] {
+            if (!QApplication::activeModalWidget())
+                RunGuarded([&] { TakeDropped(SortDroppedFiles(urls)); });
+        },
         Qt::QueuedConnection);
 }
 
