@@ -33,10 +33,10 @@ private slots:
         }
     }
 
-    // What the editor would not store, the viewer reads as the editor would store it.
+    // What the editor would not store, the viewer reads as the editor would store it: that its
+    // pictures are the same is for picture_list_fuzz to see.
     void Storable()
     {
-        const qint32 chapter = album_->AddChapter("One");
         const QStringList rows[] = {// as it is, as it is stored, and in words
                                     {"*", "*", "*"},
                                     {"", "*", "*"},
@@ -49,19 +49,9 @@ private slots:
                                     {"a;!;b", "a;!;b", "a, not b"},
                                     {"a;;b", "a;;b", "a"}};
         for (const QStringList& row : rows) {
-            const bool restricts = row[2] != "*";
             QCOMPARE(StorableFilter(row[0]), row[1]);
             QCOMPARE(DescribeFilter(row[0]), row[2]);
-            QCOMPARE(Restricts(row[0]), restricts);
-            QStringList built;
-            for (const QString& filter : {row[0], row[1]}) {
-                FindById(*ParagraphSet, album_->AddParagraph(chapter, "", {{"Car4", filter}}));
-                built += BuildPictureFilter(*ParagraphSet);
-            }
-            QCOMPARE(built[0], built[1]);
-            QCOMPARE(built[1].isEmpty(), !restricts);
-            ImageSet->FindFirst(built[0]);
-            QVERIFY(ImageSet->NoMatch());
+            QCOMPARE(Restricts(row[0]), row[2] != "*");
         }
     }
 
