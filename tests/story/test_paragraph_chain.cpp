@@ -145,33 +145,24 @@ private slots:
                  int(DatabaseError::ChangedMeanwhile));
     }
 
+    // chain_fuzz deletes at all places of whole chains.
     void Delete()
     {
-        OneChapter album({"a", "b", "c"});
+        OneChapter album({"a", "b"});
         album.Link(1, "/p.jpg");
         ParagraphPlace& place = album.place;
         CreateNextParagraph(place, Edited(place, "a")); // goes before its neighbours lead to it
         DeleteParagraph(place);
-        QCOMPARE(place.paragraph, 2);
-        QCOMPARE(album.Joined(chainSql), "1|1|0|2|a; 2|1|1|3|b; 3|1|2|0|c");
-        place.paragraph = 1;
-        DeleteParagraph(place);
-        QCOMPARE(place.paragraph, 2);
-        QCOMPARE(album.Joined(chainSql), "2|1|0|3|b; 3|1|2|0|c");
-        QCOMPARE(album.Joined(headSql), "2");
-        QCOMPARE(album.Joined("SELECT * FROM LinkedImages"), "1|/p.jpg");
-
-        place.paragraph = 3;
-        DeleteParagraph(place);
-        QCOMPARE(place.paragraph, 2);
-        QCOMPARE(album.Joined(chainSql), "2|1|0|0|b");
-        DeleteParagraph(place);
+        QCOMPARE(album.Joined(chainSql), "1|1|0|2|a; 2|1|1|0|b");
+        for (const qint32 paragraph : {2, 1}) {
+            QCOMPARE(place.paragraph, paragraph);
+            DeleteParagraph(place);
+        }
         QCOMPARE(place, (ParagraphPlace{1, 0}));
-        QCOMPARE(album.Joined(headSql), "0");
-
+        QCOMPARE(album.Joined("SELECT * FROM LinkedImages"), "1|/p.jpg");
         // An identifier that links still name is not given again.
         CreateFirstParagraph(place);
-        QCOMPARE(place.paragraph, 5);
+        QCOMPARE(place.paragraph, 4);
     }
 
     void WhatSavingRefuses()
