@@ -5,7 +5,6 @@
 #include "story/ParagraphText.h"
 #include "story/PastedText.h"
 #include "support/AlbumTest.h"
-#include "support/Rows.h"
 
 #include <set>
 
@@ -60,47 +59,17 @@ private slots:
         QCOMPARE(ToDisplayMarkers("<[7]>", ReadTextMarkers()), QString("<<Renamed (G2)>>"));
     }
 
-    void LabelsOfAllKinds_data()
+    // marker_fuzz tries labels of all kinds.
+    void LabelsThatNameNoMarker()
     {
-        const QStringList names{"a", "b", "c", "d", "e", "f", "g", "h", "i"};
-        const QStringList groups{"p", "q", "r", "s"};
-        AddRows<QStringList, QStringList>(
-            {"columns", "groups"},
-            {{"none", {}, {}},
-             {"no groups", names, {}},
-             {"all the same", QStringList(9, "x"), QStringList(4, "y")},
-             {"twins told apart by nothing", names, {"p", "q", "q", "s"}},
-             {"brackets", {"<", ">", "<<", ">>", "a>>b", ")>>", "<a", "(", ";'"}, groups},
-             {"one begins another",
-              {"a", "a (p)", "a (p)>", "<a", "a<", "a ", " a", "A", "a\nb"},
-              groups}});
-    }
-
-    void LabelsOfAllKinds()
-    {
-        QFETCH(QStringList, columns);
-        QFETCH(QStringList, groups);
-        const QList<int> labelled{0, 1, 2, 3, 4, 5, 9, 10, 11};
-        for (int i = 0; i < columns.size(); ++i)
-            GeneralModule::SetColumnLabel(labelled[i], columns[i]);
-        for (int i = 0; i < groups.size(); ++i)
-            GeneralModule::SetCaractLabel(i, groups[i]);
-        const std::vector<TextMarker> markers = ReadTextMarkers();
-        std::set<QString> displays;
+        NameEverything();
+        GeneralModule::SetCaractLabel(2, "G1");
         std::set<QString> titles;
-        for (const TextMarker& marker : markers) {
-            displays.insert(marker.display);
+        for (const TextMarker& marker : ReadTextMarkers())
             titles.insert(marker.title);
-            QCOMPARE(ToStoredMarkers(marker.display, markers), marker.stored);
-        }
-        QCOMPARE(displays.size(), markers.size());
-        QCOMPARE(titles.size(), markers.size());
-        for (const char* between : {"", "<", ">", " (p)>>", "]>", "<["}) {
-            QString stored;
-            for (const TextMarker& marker : markers)
-                stored += marker.stored + between;
-            QCOMPARE(ToStoredMarkers(ToDisplayMarkers(stored, markers), markers), stored);
-        }
+        QCOMPARE(titles.size(), 13U); // of two columns with one label each can be chosen
+        GeneralModule::SetColumnLabel(0, "a>>b");
+        QCOMPARE(ReadTextMarkers()[1].display, "<[0]>"); // the label would end it too early
     }
 
     // Markers of a text are filled with what a picture says; marker_fuzz tries strange texts.

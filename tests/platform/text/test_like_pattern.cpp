@@ -40,15 +40,6 @@ private slots:
         QVERIFY(LikePattern("[!]", LikePattern::Case::Insensitive).IsValid());
     }
 
-    void TellsCaseWhereTheProgramComparesItself()
-    {
-        QVERIFY(IsLike("Abc", "[A-Z]*"));
-        QVERIFY(!IsLike("abc", "[A-Z]*"));
-        QVERIFY(!IsLike("Éa", "[A-Z]*"));
-        QVERIFY(IsLike(",x", "[A-Z,a-z]*"));
-        QVERIFY(!IsLike("", "[A-Z,a-z]*"));
-    }
-
     // A pattern of runs against a text that almost fits: trying every split would take for ever.
     void TakesNoLongerThanPatternTimesText()
     {
