@@ -60,21 +60,6 @@ private slots:
         QCOMPARE(feedback.text(), "0 picture(s) loaded");
     }
 
-    void FullDiskKeepsRowsBefore()
-    {
-        QVERIFY(QDir().mkpath(Folder()));
-        album_->AddImageRow("/before.jpg");
-        const int pages = album_->Rows("PRAGMA page_count").first().toInt();
-        AlbumDatabase->Execute("PRAGMA max_page_count=" + QByteArray::number(pages + 400));
-        const auto load = [this] {
-            LoadPictures(Folder(), Numbered(100'000), [](int) { return true; });
-        };
-        QCOMPARE(ErrorOf(load), int(DatabaseError::DiskFull));
-        const QStringList files = album_->Rows("SELECT File FROM Image ORDER BY rowid");
-        QVERIFY(files.size() >= 1001 && files.first() == "/before.jpg");
-        QCOMPARE(album_->Joined("PRAGMA integrity_check"), "ok");
-    }
-
     void LockedAlbumIsTold()
     {
         WriteFile(Folder() + "/a.jpg");
