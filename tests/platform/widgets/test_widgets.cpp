@@ -62,27 +62,42 @@ private slots:
         }
     }
 
-    void WorkTakesNoKeysButTheOneThatStopsIt()
+    void WorkTakesNothingButItsStop()
     {
         QWidget window;
         QVBoxLayout layout(&window);
         QLineEdit field;
+        QPushButton other;
         WorkProgress progress;
         layout.addWidget(&field);
+        layout.addWidget(&other);
         layout.addWidget(&progress);
         window.show();
-        progress.Begin(10, true);
-        for (const int key : {Qt::Key_A, Qt::Key_Return})
-            QTest::keyClick(&field, Qt::Key(key));
-        QVERIFY(progress.Advance(1));
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QSignalSpy clicks(&other, &QPushButton::clicked);
+        const auto use = [&] {
+            for (const int key : {Qt::Key_A, Qt::Key_Return})
+                QTest::keyClick(&field, Qt::Key(key));
+            QTest::mouseClick(&other, Qt::LeftButton);
+        };
+        const std::function<void()> ways[] = {
+            [&] { QTest::keyClick(&field, Qt::Key_Escape); },
+            [&] { QTest::mouseClick(progress.findChild<QPushButton*>("cmdStop"), Qt::LeftButton); },
+            [&] { window.close(); }};
+        for (const auto& stop : ways) {
+            progress.Begin(10, true);
+            use();
+            QVERIFY(progress.Advance(1));
+            stop();
+            QVERIFY(!progress.Advance(2));
+            progress.End();
+            QVERIFY(window.isVisible());
+        }
         QCOMPARE(field.text(), "");
-        window.close();
-        QVERIFY(window.isVisible());
-        QTest::keyClick(&field, Qt::Key_Escape);
-        QVERIFY(!progress.Advance(2));
-        progress.End();
-        QTest::keyClick(&field, Qt::Key_A);
+        QCOMPARE(clicks.count(), 0);
+        use();
         QCOMPARE(field.text(), "a");
+        QCOMPARE(clicks.count(), 1);
     }
 
     void WindowsRememberTheirSize()
