@@ -129,20 +129,19 @@ private slots:
         ScriptedDialogs dialogs;
         QTest::keyClicks(&writing.TextBox(), "unsaved ");
         const auto paragraphs = [&] { return writing.Joined("SELECT Text FROM Paragraph"); };
-        const auto remove = [&](Dialogs::Answer answer) {
+        const auto expectQuestion = [&](Dialogs::Answer answer) {
             dialogs.ExpectBox("Are you sure you want to DELETE current paragraph ?",
                               Dialogs::Icon::Question, Dialogs::Buttons::OkCancel, answer);
-            writing.Click("cmdDelete");
         };
-        remove(Dialogs::Answer::Cancel);
-        QCOMPARE(paragraphs(), "first; second; third");
-        remove(Dialogs::Answer::Ok);
+        for (const auto answer : {Dialogs::Answer::Cancel, Dialogs::Answer::Ok}) {
+            QCOMPARE(paragraphs(), "first; second; third");
+            expectQuestion(answer);
+            writing.Click("cmdDelete");
+        }
         QCOMPARE(writing.Text(), "second");
         writing.Execute("UPDATE Paragraph SET Text='not read yet' WHERE Id=2");
         for (const auto answer : {Dialogs::Answer::Cancel, Dialogs::Answer::Ok}) {
-            dialogs.ExpectBox("Are you sure you want to DELETE current paragraph ?",
-                              Dialogs::Icon::Question, Dialogs::Buttons::OkCancel,
-                              Dialogs::Answer::Ok);
+            expectQuestion(Dialogs::Answer::Ok);
             dialogs.ExpectBox(
                 "This paragraph was changed in another window after it was opened "
                 "here.\n\nThe other version:\nnot read yet\n\nDelete it all the same?",
@@ -151,7 +150,8 @@ private slots:
             QCOMPARE(paragraphs(), answer == Dialogs::Answer::Ok ? "third" : "not read yet; third");
         }
 
-        remove(Dialogs::Answer::Ok);
+        expectQuestion(Dialogs::Answer::Ok);
+        writing.Click("cmdDelete");
         QCOMPARE(paragraphs(), "");
         QVERIFY(!writing.editor.isVisible()); // there is nothing left to write
         QCOMPARE(writing.editor.CurrentParagraph, 0);
@@ -177,29 +177,26 @@ private slots:
 
         QTest::keyClicks(&writing.TextBox(), "my ");
         writing.Execute("UPDATE Paragraph SET Text='new', Car5='*' WHERE Id=1");
-        const auto expectQuestion = [&](Answer answer) {
+        const auto expectQuestion = [&](const QString& theirs, const QString& own, Answer answer) {
             dialogs.ExpectBox("This paragraph was changed in another window after it was opened "
-                              "here.\n\nThe other version:\nnew\nTown\nnot Big\n\nYour version:\n"
-                              "mine my theirs\nTown\nOld\nnot Big",
+                              "here.\n\nThe other version:\n" +
+                                  theirs + "\nTown\nnot Big\n\nYour version:\n" + own + "\nnot Big",
                               Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, answer);
         };
         for (const char* way :
              {"cmdNextParagraph", "cmdCreateNext", "cmdOrganize", "cmdPreview", "cmdExit"}) {
-            expectQuestion(Answer::Cancel);
+            expectQuestion("new", "mine my theirs\nTown\nOld", Answer::Cancel);
             writing.Click(way);
             QVERIFY(writing.editor.isVisible());
             QCOMPARE(writing.Text(), "mine my theirs");
         }
         QCOMPARE(stored(), "new Town *");
-        expectQuestion(Answer::No);
+        expectQuestion("new", "mine my theirs\nTown\nOld", Answer::No);
         writing.Click("cmdFirstParagraph");
         QCOMPARE(writing.Text(), "new");
         QTest::keyClicks(&writing.TextBox(), "a ");
         writing.Execute("UPDATE Paragraph SET Text='newer' WHERE Id=1");
-        dialogs.ExpectBox("This paragraph was changed in another window after it was opened here."
-                          "\n\nThe other version:\nnewer\nTown\nnot Big\n\nYour version:\na new\n"
-                          "Town\nnot Big",
-                          Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel, Answer::Yes);
+        expectQuestion("newer", "a new\nTown", Answer::Yes);
         writing.Click("cmdExit");
         QCOMPARE(stored(), "a new Town *");
     }
