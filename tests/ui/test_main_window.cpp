@@ -84,8 +84,6 @@ private slots:
         WhenModal("frmReelvane", [](QWidget& viewer) { QTest::keyClick(&viewer, Qt::Key_Q); });
         Choose("mnuCreateChapter");
         QCOMPARE(Chapters(), "Abc *Jane's Def");
-        QCOMPARE(album_->Joined("SELECT Name,PreviousChapter,NextChapter FROM Chapter"),
-                 "Abc|0|3; Def|1|0; Jane's|1|2");
     }
 
     void RenamesMovesAndDeletes()
@@ -124,8 +122,6 @@ private slots:
         Select(0);
         Choose("mnuDeleteChapter");
         QCOMPARE(Chapters(), "*DEF Ghi");
-        QCOMPARE(album_->Joined("SELECT Name,PreviousChapter,NextChapter FROM Chapter"),
-                 "DEF|0|3; Ghi|2|0");
     }
 
     void FailedOpeningLeavesNoAlbum()
