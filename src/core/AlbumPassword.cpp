@@ -14,7 +14,7 @@
 
 namespace {
 
-const QString section = QStringLiteral("User");
+const QString passwordSection = QStringLiteral("User");
 const QString changing = QStringLiteral("PasswordChange");
 
 // Remembers for the next start that the album's password is being changed.
@@ -23,9 +23,10 @@ class RememberedChange
 public:
     explicit RememberedChange(const QString& album)
     {
-        GeneralModule::SaveUserSetting(section, changing, QFileInfo(album).canonicalFilePath());
+        GeneralModule::SaveUserSetting(passwordSection, changing,
+                                       QFileInfo(album).canonicalFilePath());
     }
-    ~RememberedChange() { GeneralModule::SaveUserSetting(section, changing, {}); }
+    ~RememberedChange() { GeneralModule::SaveUserSetting(passwordSection, changing, {}); }
     Q_DISABLE_COPY_MOVE(RememberedChange)
 };
 
@@ -65,10 +66,10 @@ void SetAlbumPassword(const QString& password)
 
 void ClearBrokenPasswordChange(const QString& album)
 {
-    const QString changed = GetUserSetting(section, changing);
+    const QString changed = GetUserSetting(passwordSection, changing);
     if (changed.isEmpty() || changed != QFileInfo(album).canonicalFilePath())
         return;
-    SaveUserSetting(section, changing, {});
+    SaveUserSetting(passwordSection, changing, {});
     try {
         if (FileReplacement::ClearLeftovers(album))
             Tell(QCoreApplication::translate(

@@ -4,9 +4,9 @@
 namespace {
 
 // Comments included; a still picture of this size does not exist.
-constexpr qint64 mostBytes = 32 << 20;
+constexpr qint64 mostGifBytes = 32 << 20;
 
-constexpr char picture = '\x2C';
+constexpr char pictureBegin = '\x2C';
 constexpr char extension = '\x21';
 constexpr char trailer = '\x3B';
 constexpr char graphicControl = '\xF9'; // the extension that says what is transparent
@@ -22,7 +22,7 @@ QByteArray ReadPieces(QIODevice& file)
 {
     QByteArray pieces;
     char length = 0;
-    while (file.pos() < mostBytes && file.getChar(&length)) {
+    while (file.pos() < mostGifBytes && file.getChar(&length)) {
         pieces += length;
         if (length == 0)
             break;
@@ -34,7 +34,7 @@ QByteArray ReadPieces(QIODevice& file)
 QByteArray ReadPicture(QIODevice& file)
 {
     constexpr qint64 descriptorBytes = 9;
-    QByteArray bytes = picture + file.read(descriptorBytes);
+    QByteArray bytes = pictureBegin + file.read(descriptorBytes);
     bytes += file.read(PaletteBytes(uchar(bytes.back())));
     bytes += file.read(1); // how the pixels are packed
     return bytes + ReadPieces(file);
@@ -51,8 +51,8 @@ QByteArray ReadFirstOfGif(QIODevice& file)
         return gif;
     gif += file.read(PaletteBytes(uchar(gif[flagsAt])));
     char introducer = 0;
-    while (file.pos() < mostBytes && file.getChar(&introducer) && introducer != trailer) {
-        if (introducer == picture)
+    while (file.pos() < mostGifBytes && file.getChar(&introducer) && introducer != trailer) {
+        if (introducer == pictureBegin)
             return gif + ReadPicture(file) + trailer;
         char kind = 0;
         if (introducer != extension || !file.getChar(&kind))

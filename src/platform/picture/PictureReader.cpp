@@ -27,7 +27,7 @@ namespace {
 // For one picture while it is decoded, the file's bytes included where they are in memory. With
 // what the program takes besides, reading any file stays below 512 MiB.
 constexpr int mostMebibytes = 432;
-constexpr qint64 mostBytes = qint64(mostMebibytes) << 20;
+constexpr qint64 mostDecoderBytes = qint64(mostMebibytes) << 20;
 
 // A picture that takes more than this is decoded while no other such picture is, so that the memory
 // does not grow with the number of cores.
@@ -52,7 +52,7 @@ public:
         }
         const QByteArray format = PictureFormatOf(file_);
         bytesUpToSize_ = BytesUpToSize(format);
-        if (format.isEmpty() || bytesUpToSize_ > mostBytes) {
+        if (format.isEmpty() || bytesUpToSize_ > mostDecoderBytes) {
             return;
         }
         format_ = format;
@@ -65,7 +65,8 @@ public:
     QSize Size()
     {
         const QSize size = HeaderSize();
-        if (!IsPlausibleSize(format_, size, file_.size()) || DecoderBytes(size) > mostBytes) {
+        if (!IsPlausibleSize(format_, size, file_.size()) ||
+            DecoderBytes(size) > mostDecoderBytes) {
             return {};
         }
         return IsTurned() ? size.transposed() : size;

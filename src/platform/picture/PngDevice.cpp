@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr qint64 signatureBytes = 8;
+constexpr qint64 pngSignatureBytes = 8;
 constexpr qint64 headBytes = 8; // a chunk's length and type
 constexpr qint64 checksumBytes = 4;
 
@@ -65,7 +65,7 @@ qint64 ProfileBytes(QByteArray& chunk)
 } // namespace
 
 PngDevice::PngDevice(QIODevice& file)
-    : file_(file), fileBytes_(file.size()), streamed_(signatureBytes)
+    : file_(file), fileBytes_(file.size()), streamed_(pngSignatureBytes)
 {
     open(ReadOnly);
 }
