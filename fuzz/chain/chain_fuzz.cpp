@@ -5,6 +5,7 @@
 #include "core/AlbumRepair.h"
 #include "core/ChainMending.h"
 #include "core/ChapterChain.h"
+#include "fuzz/RunStatements.h"
 #include "fuzz/Trials.h"
 #include "fuzz/chain/StoryModel.h"
 #include "platform/data/WriteBatch.h"
@@ -23,15 +24,6 @@ namespace {
 
 constexpr int mostChapters = 7;
 constexpr int mostParagraphs = 8; // in a chapter
-
-// Through the album's own connection, which does not wait for the disk.
-void Run(const QByteArray& statements)
-{
-    for (const QByteArray& statement : statements.split(';')) {
-        if (!statement.isEmpty())
-            AlbumDatabase->Execute(statement);
-    }
-}
 
 ParagraphDraft Edited(const ParagraphPlace& place, const QString& text)
 {
@@ -316,7 +308,7 @@ void TryRepair(Trials& trials, const AlbumFixture& album)
     const int paragraphs = trials.Below(14);
     const QString sql = AnyStory(trials, chapters, paragraphs);
     trials.AddInput(sql.toUtf8());
-    Run(sql.toUtf8());
+    RunStatements(sql.toUtf8());
     const QString textSql = QStringLiteral("SELECT Id,Text FROM Paragraph ORDER BY Id");
     const QStringList texts = album.Rows(textSql);
     WorkOnBrokenLinks(trials, chapters, paragraphs);
@@ -383,7 +375,7 @@ int main(int argc, char** argv)
     Trials trials(argc, argv, 30);
     while (trials.Next()) {
         try {
-            Run("DELETE FROM Chapter; DELETE FROM Paragraph");
+            RunStatements("DELETE FROM Chapter; DELETE FROM Paragraph");
             const int kind = trials.Below(4);
             if (kind == 0) {
                 TryRepair(trials, album);

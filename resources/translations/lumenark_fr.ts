@@ -350,10 +350,6 @@
         <translation>La partie du programme qui lit les anciens albums ne démarre pas : %1 : %2</translation>
     </message>
     <message>
-        <source>The album cannot be copied to &apos;%1&apos;: %2</source>
-        <translation>Impossible de copier l&apos;album vers « %1 » : %2</translation>
-    </message>
-    <message>
         <source>The album&apos;s file was moved, renamed or replaced while it was open. Please open the album again.</source>
         <translation>Le fichier de l&apos;album a été déplacé, renommé ou remplacé pendant qu&apos;il était ouvert. Veuillez rouvrir l&apos;album.</translation>
     </message>
@@ -368,6 +364,10 @@
     <message>
         <source>the album&apos;s own file cannot be read.</source>
         <translation>le fichier de l&apos;album lui-même est illisible.</translation>
+    </message>
+    <message>
+        <source>The album cannot be copied: %1</source>
+        <translation>Impossible de copier l&apos;album : %1</translation>
     </message>
 </context>
 <context>

@@ -14,7 +14,7 @@
 
 using GeneralModule::AlbumDatabase;
 using GeneralModule::ImageSet;
-using GeneralModule::IsConflict;
+using GeneralModule::MergeEdit;
 using GeneralModule::Quoted;
 
 namespace {
@@ -91,16 +91,10 @@ std::optional<PictureRecord> ReadPictureRecord(const QString& file)
 PictureRecord MergeRecord(const PictureRecord& shown, const PictureRecord& edited,
                           const PictureRecord& stored, bool prefersEdited)
 {
-    const auto merge = [prefersEdited](const QString& before, const QString& mine,
-                                       const QString& theirs) {
-        const bool takesMine =
-            mine != before && (prefersEdited || !IsConflict(before, mine, theirs));
-        return takesMine ? mine : theirs;
-    };
-    PictureRecord merged{merge(shown.legend, edited.legend, stored.legend), {}};
+    PictureRecord merged{MergeEdit(shown.legend, edited.legend, stored.legend, prefersEdited), {}};
     for (std::size_t column = 0; column < columnCount; ++column)
-        merged.values[column] =
-            merge(shown.values[column], edited.values[column], stored.values[column]);
+        merged.values[column] = MergeEdit(shown.values[column], edited.values[column],
+                                          stored.values[column], prefersEdited);
     return merged;
 }
 

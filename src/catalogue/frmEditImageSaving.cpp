@@ -27,6 +27,8 @@ PictureRecord frmEditImage::GetRecord() const
 bool frmEditImage::SettleConflict()
 {
     const PictureRecord edited = GetRecord();
+    if (edited == shown_)
+        return true;
     const PictureRecord stored = ReadPictureRecord(CurrentImage).value_or(shown_);
     if (!HasConflict(shown_, edited, stored))
         return true;

@@ -40,9 +40,8 @@ QString CopyAlbumBeside(const QString& note)
         replacement.Commit(FileReplacement::Taken::Refuse);
     } catch (const std::system_error& error) {
         throw DatabaseError(DatabaseError::DiskError,
-                            DatabaseError::tr("The album cannot be copied to '%1': %2")
-                                .arg(QDir::toNativeSeparators(copy),
-                                     QString::fromLocal8Bit(error.code().message().c_str())));
+                            DatabaseError::tr("The album cannot be copied: %1")
+                                .arg(QString::fromLocal8Bit(error.code().message().c_str())));
     }
     return copy;
 }

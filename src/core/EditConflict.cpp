@@ -29,6 +29,14 @@ bool IsConflict(const QString& shown, const QString& edited, const QString& stor
     return edited != shown && stored != shown && stored != edited;
 }
 
+QString MergeEdit(const QString& shown, const QString& edited, const QString& stored,
+                  bool prefersEdited)
+{
+    const bool takesEdited =
+        edited != shown && (prefersEdited || !IsConflict(shown, edited, stored));
+    return takesEdited ? edited : stored;
+}
+
 ConflictChoice AskAboutConflict(const QString& subject, const QString& edited,
                                 const QString& stored)
 {

@@ -11,6 +11,11 @@ namespace GeneralModule {
 // are what was shown, what a person made of it, and what the album holds now.
 bool IsConflict(const QString& shown, const QString& edited, const QString& stored);
 
+// What was edited laid over what is stored: the edited text where there was an edit, the stored one
+// where there was none. Where both were changed prefersEdited says which.
+QString MergeEdit(const QString& shown, const QString& edited, const QString& stored,
+                  bool prefersEdited);
+
 enum class ConflictChoice { KeepMine, TakeStored, Stay };
 
 // Asks which of the two versions counts. Subject names what was edited: "This paragraph". Long

@@ -4,6 +4,7 @@
 #include "core/EditConflict.h"
 
 using GeneralModule::IsConflict;
+using GeneralModule::MergeEdit;
 
 namespace {
 
@@ -28,16 +29,11 @@ bool HasConflict(const ParagraphDraft& draft, const ParagraphContent& stored)
 ParagraphContent MergeDraft(const ParagraphDraft& draft, const ParagraphContent& stored,
                             bool prefersEdited)
 {
-    const auto takesEdited = [prefersEdited](bool isEdited, bool isConflict) {
-        return isEdited && (prefersEdited || !isConflict);
-    };
     ParagraphContent merged = stored;
-    if (takesEdited(draft.edited.text != draft.shown.text,
-                    IsConflict(draft.shown.text, draft.edited.text, stored.text)))
-        merged.text = draft.edited.text;
+    merged.text = MergeEdit(draft.shown.text, draft.edited.text, stored.text, prefersEdited);
     for (std::size_t column = 0; column < columnCount; ++column) {
-        if (takesEdited(draft.edited.values[column] != draft.shown.values[column],
-                        ConflictsAt(column, draft, stored)))
+        const bool isEdited = draft.edited.values[column] != draft.shown.values[column];
+        if (isEdited && (prefersEdited || !ConflictsAt(column, draft, stored)))
             merged.values[column] = draft.edited.values[column];
     }
     return merged;

@@ -44,6 +44,8 @@ bool frmEditParagraph::SaveParagraph()
 bool frmEditParagraph::SettleConflict()
 {
     const ParagraphDraft draft = GetDraft();
+    if (draft.edited == draft.shown)
+        return true;
     const ParagraphContent stored = LoadParagraph(CurrentParagraph);
     if (!HasConflict(draft, stored))
         return true;

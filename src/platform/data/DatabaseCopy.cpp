@@ -79,9 +79,8 @@ void CopyDatabaseFile(const Database& database, const QString& target)
                         copy.setPermissions(QFile::permissions(database.GetPath()));
     const bool isWritten = isOpen && ForEachBlock(source, write) && copy.flush();
     if (!isWritten || !copy.seek(0) || !ForEachBlock(source, isEqual)) {
-        throw DatabaseError(DatabaseError::DiskError,
-                            DatabaseError::tr("The album cannot be copied to '%1': %2")
-                                .arg(QDir::toNativeSeparators(QFileInfo(target).absolutePath()),
-                                     WhyNotCopied(copy, isWritten)));
+        throw DatabaseError(
+            DatabaseError::DiskError,
+            DatabaseError::tr("The album cannot be copied: %1").arg(WhyNotCopied(copy, isWritten)));
     }
 }

@@ -5,7 +5,6 @@
 #include "platform/files/FilePatterns.h"
 #include "platform/files/FolderListing.h"
 
-#include <QDir>
 #include <QStringListModel>
 
 FileList::FileList(QWidget* parent) : QListView(parent), model_(new QStringListModel(this))
@@ -25,12 +24,8 @@ void FileList::SetPath(const QString& path)
     ApplyPattern();
     if (!listing.error.isEmpty())
         Tell(listing.error, Dialogs::Icon::Warning);
-    if (listing.unusable.isEmpty() || toldOf_.contains(path))
-        return;
-    toldOf_.insert(path);
-    Tell(tr("%1 file(s) of the folder '%2' left out: their names are not valid text.")
-             .arg(QString::number(listing.unusable.size()), QDir::toNativeSeparators(path)),
-         Dialogs::Icon::Warning);
+    leftOut_.Tell(listing, path,
+                  tr("%1 file(s) of the folder '%2' left out: their names are not valid text."));
 }
 
 void FileList::SetPattern(const QString& pattern)

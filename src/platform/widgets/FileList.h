@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/widgets/LeftOutNames.h"
+
 #include <QListView>
-#include <QSet>
 #include <QStringList>
 
 class QStringListModel;
@@ -35,7 +36,7 @@ private:
 
     QString path_;
     QString pattern_ = QStringLiteral("*.*");
-    QStringList files_;    // of the folder, whatever the pattern
-    QSet<QString> toldOf_; // folders
+    QStringList files_; // of the folder, whatever the pattern
+    LeftOutNames leftOut_;
     QStringListModel* model_;
 };

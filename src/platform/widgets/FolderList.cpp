@@ -47,12 +47,8 @@ void FolderList::SetPath(const QString& path)
     path_ = QDir::toNativeSeparators(target);
     Fill(listing.names);
     emit PathChanged(path_);
-    if (listing.unusable.isEmpty() || toldOf_.contains(target))
-        return;
-    toldOf_.insert(target);
-    Tell(tr("%1 folder(s) in '%2' left out: their names are not valid text.")
-             .arg(QString::number(listing.unusable.size()), QDir::toNativeSeparators(target)),
-         Dialogs::Icon::Warning);
+    leftOut_.Tell(listing, target,
+                  tr("%1 folder(s) in '%2' left out: their names are not valid text."));
 }
 
 void FolderList::Fill(const QStringList& folders)

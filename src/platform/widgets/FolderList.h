@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QSet>
+#include "platform/widgets/LeftOutNames.h"
+
 #include <QTreeWidget>
 
 // Shows one folder: the folders that it lies in, itself, and below it the folders that it holds. A
@@ -34,5 +35,5 @@ private:
     void Open(const QTreeWidgetItem* item);
 
     QString path_;
-    QSet<QString> toldOf_; // folders
+    LeftOutNames leftOut_;
 };
