@@ -154,6 +154,41 @@ private slots:
     }
 
     // The window is resized while the boxes are up.
+    void OffersNoChangesOfAnAlbumThatCanOnlyBeRead()
+    {
+        album_->AddPicture("a.png");
+        album_->AddParagraph(album_->AddChapter("One"), "text");
+        album_->AddChapter("Two");
+        ReleaseAlbum();
+        QVERIFY(QFile::setPermissions(album_->GetAlbum(), QFile::ReadOwner));
+        Start();
+        QCOMPARE(Warning(), ReadOnlyReason());
+        for (const char* button : {"cmdCreateChapter", "cmdLoadPictures", "cmdDisplayUndefined",
+                                   "cmdMoveDown", "cmdMoveUp"})
+            QVERIFY2(!HasButton(button), button);
+        for (const char* entry : {"mnuCreateChapter", "mnuRename", "mnuDeleteChapter",
+                                  "mnuLoadPictures", "mnuReloadPictures", "mnuUndefined",
+                                  "mnuSelectedUndefined", "mnuRepair", "mnuPassword"}) {
+            QVERIFY2(!IsEnabled(entry), entry);
+            QCOMPARE(Find<QAction>(entry)->toolTip(), ReadOnlyReason());
+        }
+        WhenModal("frmReelvane", [this](QWidget& viewer) {
+            QTRY_COMPARE(::Find<QLabel>(viewer, "lblLegend").text(), "text");
+            QVERIFY(!::Find<QPushButton>(viewer, "cmdEditParagraph").isEnabled());
+            dialogs_->ExpectBox(ReadOnlyReason());
+            ::Click(viewer, "lblLegend");
+            WhenModal("frmEditImage", [](QWidget& window) {
+                QVERIFY(!::Find<QWidget>(window, "cboCategory_0").isEnabled());
+                QVERIFY(!::Find<QWidget>(window, "cmdDelete").isEnabled());
+                QVERIFY(::Find<QLineEdit>(window, "txtLegend").isReadOnly());
+                window.close();
+            });
+            QTest::mouseClick(&::Find<QWidget>(viewer, "imgImage_0"), Qt::RightButton);
+            viewer.close();
+        });
+        Click("cmdReadChapter");
+    }
+
     void OpensAnAlbumWithAPassword()
     {
         AddChapters({"A", "B"});
