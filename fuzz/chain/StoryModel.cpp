@@ -2,6 +2,7 @@
 #include "fuzz/chain/StoryModel.h"
 
 #include "core/Album.h"
+#include "core/AlbumChains.h"
 #include "core/ChapterChain.h"
 
 #include <QtGlobal>
@@ -113,7 +114,8 @@ QString StoryModel::FaultOfChapter(const Chapter& chapter) const
         return QStringLiteral("other paragraphs are listed");
     if (expected.empty())
         return {};
-    const std::vector<qint32> back = WalkParagraphs(expected.back(), u"PreviousParagraph");
+    const std::vector<qint32> back =
+        ChainOfParagraphs().Rows(expected.back(), ChainDirection::Previous);
     if (!std::equal(back.rbegin(), back.rend(), expected.begin(), expected.end()))
         return QStringLiteral("other paragraphs on the way back");
     return {};

@@ -2,6 +2,7 @@
 #include "core/AlbumRepair.h"
 
 #include "core/Album.h"
+#include "core/AlbumChains.h"
 #include "core/AlbumCopy.h"
 #include "core/ChainMending.h"
 #include "core/ChapterChain.h"
@@ -21,19 +22,9 @@ using namespace GeneralModule;
 
 namespace {
 
-// The names of the fields that make a table's chain.
-struct ChainFields
-{
-    QStringView previous;
-    QStringView next;
-};
-
-constexpr ChainFields chapterFields{u"PreviousChapter", u"NextChapter"};
-constexpr ChainFields paragraphFields{u"PreviousParagraph", u"NextParagraph"};
-
 // -1 for what is no link, nor the 0 that stands for none: it leads nowhere and is to be rewritten.
 // An album that cannot be read is no broken link.
-qint32 LinkIn(RecordSet& set, QStringView field)
+qint32 LinkOrBroken(RecordSet& set, QStringView field)
 {
     try {
         return std::max(set.Number(field), -1);
@@ -66,10 +57,11 @@ private:
         std::vector<ChainLink> links;
         const RecordSet::Walk walk(*ChapterSet);
         for (ChapterSet->MoveFirst(); !ChapterSet->AtEnd(); ChapterSet->MoveNext())
-            links.push_back({ChapterSet->Number(u"Id"), LinkIn(*ChapterSet, u"PreviousChapter"),
-                             LinkIn(*ChapterSet, u"NextChapter")});
+            links.push_back({ChapterSet->Number(u"Id"),
+                             LinkOrBroken(*ChapterSet, u"PreviousChapter"),
+                             LinkOrBroken(*ChapterSet, u"NextChapter")});
         const std::vector<ChainLink> mended = MendChain(links);
-        report_.chapterLinks += WriteLinks(*ChapterSet, chapterFields, links, mended);
+        report_.chapterLinks += WriteLinks(ChainOfChapters(), links, mended);
         for (const ChainLink& link : mended)
             chapters_.append(link.id);
     }
@@ -80,9 +72,9 @@ private:
         const RecordSet::Walk walk(*ParagraphSet);
         for (ParagraphSet->MoveFirst(); !ParagraphSet->AtEnd(); ParagraphSet->MoveNext()) {
             const ChainLink link{ParagraphSet->Number(u"Id"),
-                                 LinkIn(*ParagraphSet, u"PreviousParagraph"),
-                                 LinkIn(*ParagraphSet, u"NextParagraph")};
-            const qint32 chapter = LinkIn(*ParagraphSet, u"Chapter");
+                                 LinkOrBroken(*ParagraphSet, u"PreviousParagraph"),
+                                 LinkOrBroken(*ParagraphSet, u"NextParagraph")};
+            const qint32 chapter = LinkOrBroken(*ParagraphSet, u"Chapter");
             paragraphs_.push_back(link);
             owners_.insert(link.id, known.contains(chapter) ? chapter : 0);
         }
@@ -156,7 +148,7 @@ private:
     void RepairParagraphsOf(qint32 chapter, const std::vector<ChainLink>& links)
     {
         FindById(*ChapterSet, chapter);
-        const qint32 first = LinkIn(*ChapterSet, u"FirstParagraph");
+        const qint32 first = LinkOrBroken(*ChapterSet, u"FirstParagraph");
         const std::vector<ChainLink> mended = MendChain(links, first);
         const qint32 head = mended.empty() ? 0 : mended.front().id;
         if (first != head) {
@@ -165,12 +157,12 @@ private:
             ChapterSet->Update();
             ++report_.firstParagraphs;
         }
-        report_.paragraphLinks += WriteLinks(*ParagraphSet, paragraphFields, links, mended);
+        report_.paragraphLinks += WriteLinks(ChainOfParagraphs(), links, mended);
     }
 
     // Writes the rows that differ and returns their number.
-    int WriteLinks(RecordSet& set, const ChainFields& fields, const std::vector<ChainLink>& before,
-                   const std::vector<ChainLink>& after)
+    static int WriteLinks(const Chain& chain, const std::vector<ChainLink>& before,
+                          const std::vector<ChainLink>& after)
     {
         QHash<qint32, ChainLink> old;
         for (const ChainLink& link : before)
@@ -179,11 +171,7 @@ private:
         for (const ChainLink& link : after) {
             if (old.value(link.id) == link)
                 continue;
-            FindById(set, link.id);
-            set.Edit();
-            set.Set(fields.previous, link.previous);
-            set.Set(fields.next, link.next);
-            set.Update();
+            chain.SetLinks(link.id, link.previous, link.next);
             ++written;
         }
         return written;

@@ -2,45 +2,22 @@
 #include "core/ChapterChain.h"
 
 #include "core/Album.h"
+#include "core/AlbumChains.h"
 #include "core/TextRoutines.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/text/LikePattern.h"
 
 #include <QCoreApplication>
-#include <QSet>
 
 namespace {
 
 using namespace GeneralModule;
 
-struct ChapterLinks
-{
-    qint32 id;
-    qint32 previous;
-    qint32 next;
-};
-
-ChapterLinks CurrentLinks()
-{
-    return {ChapterSet->Number(u"Id"), ChapterSet->Number(u"PreviousChapter"),
-            ChapterSet->Number(u"NextChapter")};
-}
-
-// Calls visit on each chapter from the first one on, along NextChapter, until it returns false or a
-// link leads to no chapter or back; the set stands on the chapter.
+// Calls visit on each chapter in reading order until it returns false; ChapterSet stands on it.
 template<typename Visit>
 void WalkChapters(const Visit& visit)
 {
-    QSet<qint32> visited;
-    ChapterSet->FindFirst(QStringLiteral("[PreviousChapter]=0"));
-    bool isFound = !ChapterSet->NoMatch();
-    while (isFound) {
-        const ChapterLinks links = CurrentLinks();
-        if (visited.contains(links.id) || !visit(links))
-            return;
-        visited.insert(links.id);
-        isFound = FindById(*ChapterSet, links.next);
-    }
+    ChainOfChapters().Walk(FirstChapter(), ChainDirection::Next, visit);
 }
 
 // Of the current row; empty where it is missing or no valid text.
@@ -68,9 +45,9 @@ template<typename Visit>
 void WalkNames(const Visit& visit)
 {
     int unnamed = 0;
-    WalkChapters([&](const ChapterLinks& links) {
+    WalkChapters([&](qint32 chapter) {
         const QString name = StoredName();
-        return visit(links.id, name.isEmpty() ? UnnamedTitle(++unnamed) : name);
+        return visit(chapter, name.isEmpty() ? UnnamedTitle(++unnamed) : name);
     });
 }
 
@@ -83,50 +60,6 @@ std::optional<qint32> FindListed(const QString& title)
         return !found;
     });
     return found;
-}
-
-// The links of the chapter of that name as the reading order has them: an insertion leaves the
-// backward link of the chapter that follows it as it was.
-std::optional<ChapterLinks> FindLinks(const QString& name)
-{
-    const std::optional<qint32> chapter = FindChapter(name);
-    if (!chapter)
-        return std::nullopt;
-    ChapterLinks links{*chapter, 0, ChapterSet->Number(u"NextChapter")};
-    links.previous = ChapterLeadingTo(*chapter);
-    return links;
-}
-
-// A chapter that is gone needs no links: a dangling one must not send the new links elsewhere.
-void SetLink(qint32 id, QStringView field, qint32 value)
-{
-    if (id <= 0 || !FindById(*ChapterSet, id))
-        return;
-    ChapterSet->Edit();
-    ChapterSet->Set(field, value);
-    ChapterSet->Update();
-}
-
-void SetLinks(qint32 id, qint32 previous, qint32 next)
-{
-    if (!FindById(*ChapterSet, id))
-        return;
-    ChapterSet->Edit();
-    ChapterSet->Set(u"PreviousChapter", previous);
-    ChapterSet->Set(u"NextChapter", next);
-    ChapterSet->Update();
-}
-
-// Exchanges two neighbours, after the lower one of which comes next.
-void Exchange(qint32 upper, qint32 lower, qint32 next)
-{
-    const qint32 previous = ChapterLeadingTo(upper);
-    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
-    SetLinks(lower, previous, upper);
-    SetLinks(upper, lower, next);
-    SetLink(previous, u"NextChapter", lower);
-    SetLink(next, u"PreviousChapter", upper);
-    batch.Finish();
 }
 
 } // namespace
@@ -159,21 +92,22 @@ QString ChapterTitle(qint32 chapter)
     return title;
 }
 
+qint32 FirstChapter()
+{
+    ChapterSet->FindFirst(QStringLiteral("[PreviousChapter]=0"));
+    return ChapterSet->NoMatch() ? 0 : ChapterSet->Number(u"Id");
+}
+
 qint32 ChapterLeadingTo(qint32 chapter)
 {
-    qint32 before = 0;
-    bool isReached = false;
-    WalkChapters([&](const ChapterLinks& links) {
-        isReached = links.id == chapter;
-        if (!isReached)
-            before = links.id;
-        return !isReached;
-    });
-    if (isReached)
-        return before;
-    const qint32 stored =
-        FindById(*ChapterSet, chapter) ? ChapterSet->Number(u"PreviousChapter") : 0;
-    return stored != chapter && stored > 0 && FindById(*ChapterSet, stored) ? stored : 0;
+    const Chain chain = ChainOfChapters();
+    const Chain::Way way = chain.FindWay(FirstChapter(), chapter);
+    return way.isReached ? way.last : chain.Previous(chapter);
+}
+
+qint32 NextChapter(qint32 chapter)
+{
+    return ChainOfChapters().Next(chapter);
 }
 
 bool IsChapterName(const QString& name)
@@ -218,7 +152,7 @@ qint32 CreateChapter(const QString& name, const QString& after)
     ChapterSet->Update();
     // The chapter that followed keeps its backward link on purpose; albums are made this way, and
     // the repair of an album sets it right.
-    SetLink(selected, u"NextChapter", created);
+    ChainOfChapters().LeadTo(selected, created);
     batch.Finish();
     return created;
 }
@@ -233,39 +167,57 @@ bool RenameChapter(qint32 chapter, const QString& newName)
     return true;
 }
 
+// A chapter that is gone needs no links: a dangling one must not send the new links elsewhere.
 ChapterDeletion DeleteChapter(const QString& name)
 {
-    const std::optional<ChapterLinks> gone = FindLinks(name);
-    if (!gone || !FindById(*ChapterSet, gone->id))
+    const std::optional<qint32> gone = FindChapter(name);
+    if (!gone)
+        return ChapterDeletion::NotFound;
+    const qint32 previous = ChapterLeadingTo(*gone);
+    const qint32 next = NextChapter(*gone);
+    if (!FindById(*ChapterSet, *gone))
         return ChapterDeletion::NotFound;
     if (ChapterSet->Number(u"FirstParagraph") > 0)
         return ChapterDeletion::HasParagraphs;
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     ChapterSet->Delete();
-    SetLink(gone->previous, u"NextChapter", gone->next);
-    SetLink(gone->next, u"PreviousChapter", gone->previous);
+    ChainOfChapters().Join(previous, next);
     batch.Finish();
     return ChapterDeletion::Deleted;
 }
 
+namespace {
+
+// The neighbour that a chapter changes places with is the one in reading order: an insertion leaves
+// the backward link of the chapter after it as it was. The last chapter may lead back to one
+// before it, which is no neighbour.
+bool MoveChapter(const QString& name, ChainDirection direction)
+{
+    const std::optional<qint32> moved = FindChapter(name);
+    if (!moved)
+        return false;
+    const bool isUp = direction == ChainDirection::Previous;
+    const qint32 upper = isUp ? ChapterLeadingTo(*moved) : *moved;
+    const qint32 lower = isUp ? *moved : NextChapter(*moved);
+    if (upper == 0 || lower == 0 || ChapterLeadingTo(lower) != upper)
+        return false;
+    const qint32 before = ChapterLeadingTo(upper);
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    ChainOfChapters().Exchange(before, upper, lower);
+    batch.Finish();
+    return true;
+}
+
+} // namespace
+
 bool MoveChapterUp(const QString& name)
 {
-    const std::optional<ChapterLinks> moved = FindLinks(name);
-    if (!moved || moved->previous == 0)
-        return false;
-    Exchange(moved->previous, moved->id, moved->next);
-    return true;
+    return MoveChapter(name, ChainDirection::Previous);
 }
 
 bool MoveChapterDown(const QString& name)
 {
-    const std::optional<ChapterLinks> moved = FindLinks(name);
-    // The last chapter may lead nowhere, or back to one before it.
-    if (!moved || moved->next == 0 || ChapterLeadingTo(moved->next) != moved->id ||
-        !FindById(*ChapterSet, moved->next))
-        return false;
-    Exchange(moved->id, moved->next, ChapterSet->Number(u"NextChapter"));
-    return true;
+    return MoveChapter(name, ChainDirection::Next);
 }
 
 } // namespace GeneralModule

@@ -8,7 +8,8 @@
 
 // The chapters of the open album, linked in reading order by PreviousChapter and NextChapter (0 =
 // none). Chapters are found by name; nothing remembers their identifiers between two operations.
-// The rows that one operation changes are committed together, all or none.
+// The rows that one operation changes are committed together, all or none. All of it moves
+// ChapterSet, and throws DatabaseError, NoAlbum while no album is open.
 namespace GeneralModule {
 
 // Names from the first chapter on, along NextChapter. A link to no chapter, or back to one that was
@@ -36,10 +37,17 @@ qint32 CreateChapter(const QString& name, const QString& after);
 // DuplicateKey for a name that another chapter has.
 bool RenameChapter(qint32 chapter, const QString& newName);
 
+// The chapter that the reading order begins with, where ChapterSet then stands; 0 when there is
+// none.
+qint32 FirstChapter();
+
 // The chapter before it in reading order, 0 for the first one: the one that leads here, which is
 // not always the one that its own PreviousChapter names. Of a chapter that the reading order does
 // not reach the one that it names itself.
 qint32 ChapterLeadingTo(qint32 chapter);
+
+// The chapter after it, 0 when there is none.
+qint32 NextChapter(qint32 chapter);
 
 enum class ChapterDeletion { Deleted, HasParagraphs, NotFound };
 ChapterDeletion DeleteChapter(const QString& name);

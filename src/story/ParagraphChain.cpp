@@ -2,15 +2,12 @@
 #include "story/ParagraphChain.h"
 
 #include "core/Album.h"
+#include "core/AlbumChains.h"
 #include "platform/data/WriteBatch.h"
 
 #include <QCoreApplication>
-#include <QSet>
 
-using GeneralModule::AlbumDatabase;
-using GeneralModule::ChapterSet;
-using GeneralModule::FindById;
-using GeneralModule::ParagraphSet;
+using namespace GeneralModule;
 
 namespace {
 
@@ -28,26 +25,12 @@ void RequireParagraph(qint32 paragraph)
         QCoreApplication::translate("ParagraphChain", "This paragraph is no longer in the album."));
 }
 
-qint32 LinkIn(RecordSet& set, QStringView field)
-{
-    return set.IsNull(field) ? 0 : set.Number(field);
-}
-
 // The set must be in the middle of an edit. A value that is there already is not written again:
 // leafing through a chapter then costs no write to disk.
 void SetText(QStringView field, const QString& value)
 {
     if (ParagraphSet->IsNull(field) || ParagraphSet->Text(field) != value)
         ParagraphSet->Set(field, value);
-}
-
-void SetNumber(RecordSet& set, qint32 id, QStringView field, qint32 value)
-{
-    if (id <= 0 || !FindById(set, id) || (!set.IsNull(field) && set.Number(field) == value))
-        return;
-    set.Edit();
-    set.Set(field, value);
-    set.Update();
 }
 
 CarValues ReadCarValues()
@@ -93,20 +76,16 @@ void WriteChanges(const ParagraphContent& stored, const ParagraphContent& conten
     }
 }
 
-qint32 IfThere(qint32 paragraph)
-{
-    return paragraph > 0 && FindById(*ParagraphSet, paragraph) ? paragraph : 0;
-}
-
 // A new paragraph is linked to when it is saved, not when it is made. Where another window made one
 // after the same paragraph and has saved it meanwhile, that one follows this one from now on;
 // otherwise neither the chain nor a list would show it any more.
 Neighbours MakeRoom(const ParagraphPlace& place, Neighbours stored)
 {
-    if (IfThere(stored.previous) == 0)
+    if (ChainOfParagraphs().Find(stored.previous) == 0)
         return stored;
     const qint32 follower = LinkIn(*ParagraphSet, u"NextParagraph");
-    if (follower == place.paragraph || follower == stored.next || IfThere(follower) == 0)
+    if (follower == place.paragraph || follower == stored.next ||
+        ChainOfParagraphs().Find(follower) == 0)
         return stored;
     const bool isAtSamePlace = CurrentNeighbours().previous == stored.previous &&
                                LinkIn(*ParagraphSet, u"Chapter") == place.chapter;
@@ -149,10 +128,8 @@ void SaveParagraph(const ParagraphPlace& place, const ParagraphDraft& draft)
         ParagraphSet->Set(u"NextParagraph", neighbours.next);
     ParagraphSet->Update();
 
-    SetParagraphLink(neighbours.next, u"PreviousParagraph", place.paragraph);
-    if (neighbours.previous > 0)
-        SetParagraphLink(neighbours.previous, u"NextParagraph", place.paragraph);
-    else
+    ChainOfParagraphs().LinkNeighbours(neighbours.previous, place.paragraph, neighbours.next);
+    if (neighbours.previous <= 0)
         SetFirstParagraph(place.chapter, place.paragraph);
     batch.Finish();
 }
@@ -177,7 +154,7 @@ void CreateFirstParagraph(ParagraphPlace& place)
     if (!FindById(*ChapterSet, place.chapter))
         return;
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
-    if (const qint32 first = IfThere(LinkIn(*ChapterSet, u"FirstParagraph"))) {
+    if (const qint32 first = FirstParagraphOf(place.chapter)) {
         place.paragraph = first;
         return;
     }
@@ -214,13 +191,12 @@ void DeleteParagraph(ParagraphPlace& place)
     RequireParagraph(place.paragraph);
     const Neighbours stored = CurrentNeighbours();
     ParagraphSet->Delete();
-    const qint32 previous = IfThere(stored.previous);
-    const qint32 next = IfThere(stored.next);
-    if (previous > 0)
-        SetParagraphLink(previous, u"NextParagraph", next);
-    else
+    const Chain chain = ChainOfParagraphs();
+    const qint32 previous = chain.Find(stored.previous);
+    const qint32 next = chain.Find(stored.next);
+    chain.Join(previous, next);
+    if (previous == 0)
         ReplaceFirstParagraph(place.chapter, place.paragraph, next);
-    SetParagraphLink(next, u"PreviousParagraph", previous);
     batch.Finish();
     place.paragraph = next > 0 ? next : previous;
 }
@@ -229,39 +205,10 @@ void SaveAndStep(ParagraphPlace& place, const ParagraphDraft& draft, ChainStep s
 {
     SaveParagraph(place, draft);
     const bool isBackward = step == ChainStep::First || step == ChainStep::Previous;
-    const QStringView field = isBackward ? u"PreviousParagraph" : u"NextParagraph";
-    if (step == ChainStep::First || step == ChainStep::Last) {
-        const std::vector<qint32> visited = WalkParagraphs(place.paragraph, field);
-        place.paragraph = visited.empty() ? place.paragraph : visited.back();
-    } else if (FindById(*ParagraphSet, place.paragraph)) {
-        const qint32 reached = FollowParagraphLink(field);
-        place.paragraph = reached > 0 ? reached : place.paragraph;
-    }
-}
-
-qint32 FollowParagraphLink(QStringView field)
-{
-    return IfThere(LinkIn(*ParagraphSet, field));
-}
-
-std::vector<qint32> WalkParagraphs(qint32 first, QStringView field)
-{
-    std::vector<qint32> visited;
-    QSet<qint32> known;
-    for (qint32 paragraph = IfThere(first); paragraph > 0 && !known.contains(paragraph);
-         paragraph = FollowParagraphLink(field)) {
-        known.insert(paragraph);
-        visited.push_back(paragraph);
-    }
-    return visited;
-}
-
-void SetParagraphLink(qint32 paragraph, QStringView field, qint32 value)
-{
-    SetNumber(*ParagraphSet, paragraph, field, value);
-}
-
-void SetFirstParagraph(qint32 chapter, qint32 paragraph)
-{
-    SetNumber(*ChapterSet, chapter, u"FirstParagraph", paragraph);
+    const ChainDirection direction = isBackward ? ChainDirection::Previous : ChainDirection::Next;
+    const bool isFar = step == ChainStep::First || step == ChainStep::Last;
+    const Chain chain = ChainOfParagraphs();
+    const qint32 reached =
+        isFar ? chain.End(place.paragraph, direction) : chain.Neighbour(place.paragraph, direction);
+    place.paragraph = reached > 0 ? reached : place.paragraph;
 }

@@ -9,7 +9,8 @@
 
 // The paragraphs of a chapter of the open album, linked by PreviousParagraph and NextParagraph (0 =
 // none), the first one named by the chapter. A link to a row that is not there counts as none, and
-// no walk visits a row twice. All rows that one operation changes are committed together.
+// no walk visits a row twice. All rows that one operation changes are committed together. All of it
+// moves ParagraphSet and ChapterSet, and throws DatabaseError, NoAlbum while no album is open.
 
 // Where the user is writing.
 struct ParagraphPlace
@@ -49,15 +50,3 @@ void DeleteParagraph(ParagraphPlace& place);
 enum class ChainStep { First, Previous, Next, Last };
 // Saves and goes there; on the last and the first paragraph Next and Previous stay.
 void SaveAndStep(ParagraphPlace& place, const ParagraphDraft& draft, ChainStep step);
-
-// The paragraph that the set stands on leads to by that field, 0 for none. The set then stands on
-// that paragraph.
-qint32 FollowParagraphLink(QStringView field);
-
-// Identifiers from that paragraph on along the links in that field; empty when it is not there.
-std::vector<qint32> WalkParagraphs(qint32 first, QStringView field);
-
-// Sets one field of a row found by its identifier, unless it holds the value already; nothing
-// happens when there is no such row.
-void SetParagraphLink(qint32 paragraph, QStringView field, qint32 value);
-void SetFirstParagraph(qint32 chapter, qint32 paragraph);

@@ -2,127 +2,95 @@
 #include "story/ParagraphMoves.h"
 
 #include "core/Album.h"
+#include "core/AlbumChains.h"
 #include "core/ChapterChain.h"
 #include "platform/data/WriteBatch.h"
 #include "story/ParagraphMarkers.h"
 
 #include <QCoreApplication>
 
-using GeneralModule::AlbumDatabase;
-using GeneralModule::ChapterSet;
-using GeneralModule::FindById;
-using GeneralModule::ParagraphSet;
+using namespace GeneralModule;
 
 namespace {
 
 constexpr int longestLine = 1000; // characters; no screen shows more of a line
 
-// The paragraph that another one leads to, 0 for none. One that leads to itself leads nowhere.
-qint32 LinkOf(qint32 paragraph, QStringView field)
+bool IsDown(ChainDirection direction)
 {
-    if (paragraph <= 0 || !FindById(*ParagraphSet, paragraph))
-        return 0;
-    const qint32 reached = FollowParagraphLink(field);
-    return reached == paragraph ? 0 : reached;
+    return direction == ChainDirection::Next;
 }
 
-qint32 PreviousOf(qint32 paragraph)
-{
-    return LinkOf(paragraph, u"PreviousParagraph");
-}
-
-qint32 NextOf(qint32 paragraph)
-{
-    return LinkOf(paragraph, u"NextParagraph");
-}
-
-void SetLinks(qint32 paragraph, qint32 previous, qint32 next)
-{
-    SetParagraphLink(paragraph, u"PreviousParagraph", previous);
-    SetParagraphLink(paragraph, u"NextParagraph", next);
-}
-
-// Whatever led to the paragraph from before: the one before it, or the chapter.
+// The row before a paragraph leads to another one instead: the paragraph before it, or the chapter.
 void SetWayTo(const ParagraphPlace& place, qint32 previous, qint32 paragraph)
 {
     if (previous > 0)
-        SetParagraphLink(previous, u"NextParagraph", paragraph);
+        ChainOfParagraphs().LeadTo(previous, paragraph);
     else
         SetFirstParagraph(place.chapter, paragraph);
 }
 
-// Exchanges two neighbours, the upper one of which follows previous.
+// Exchanges two neighbours.
 void Exchange(const ParagraphPlace& place, qint32 upper, qint32 lower)
 {
+    const Chain chain = ChainOfParagraphs();
     WriteBatch batch(AlbumDatabase);
-    const qint32 previous = PreviousOf(upper);
-    const qint32 next = NextOf(lower);
-    SetLinks(lower, previous, upper);
-    SetLinks(upper, lower, next);
-    SetParagraphLink(next, u"PreviousParagraph", upper);
-    SetWayTo(place, previous, lower);
+    const qint32 previous = chain.Previous(upper);
+    chain.Exchange(previous, upper, lower);
+    if (previous == 0)
+        SetFirstParagraph(place.chapter, lower);
     batch.Finish();
 }
 
-qint32 FirstParagraphOf(qint32 chapter)
+// The paragraphs of a chapter between which one that comes from a neighbouring chapter is put.
+struct Gap
 {
-    if (!FindById(*ChapterSet, chapter) || ChapterSet->IsNull(u"FirstParagraph"))
-        return 0;
-    const qint32 first = ChapterSet->Number(u"FirstParagraph");
-    return first > 0 && FindById(*ParagraphSet, first) ? first : 0;
+    qint32 previous = 0;
+    qint32 next = 0;
+};
+
+// At the chapter's beginning or end. A broken album's chapter may lead to the paragraph already.
+Gap GapIn(qint32 chapter, qint32 paragraph, ChainDirection direction)
+{
+    const qint32 first = FirstParagraphOf(chapter);
+    if (IsDown(direction))
+        return {0, first == paragraph ? 0 : first};
+    return {ChainOfParagraphs().FindWay(first, paragraph).last, 0};
 }
 
-// The chapter's last paragraph, 0 for none; in a broken album whose chapter leads to the given
-// paragraph already, the one before it.
-qint32 LastParagraphBefore(qint32 paragraph, qint32 chapter)
+bool MoveToChapter(ParagraphPlace& place, ChainDirection direction)
 {
-    qint32 last = 0;
-    for (const qint32 visited : WalkParagraphs(FirstParagraphOf(chapter), u"NextParagraph")) {
-        if (visited == paragraph)
-            break;
-        last = visited;
-    }
-    return last;
-}
-
-void SetPlace(const ParagraphPlace& place, qint32 previous, qint32 next)
-{
-    SetLinks(place.paragraph, previous, next);
-    SetParagraphLink(place.paragraph, u"Chapter", place.chapter);
-}
-
-bool MoveToNextChapter(ParagraphPlace& place)
-{
-    const qint32 nextChapter = NextChapterOf(place.chapter);
-    if (nextChapter == 0)
+    const qint32 chapter =
+        IsDown(direction) ? NextChapter(place.chapter) : ChapterLeadingTo(place.chapter);
+    if (chapter == 0)
         return false;
+    const Chain chain = ChainOfParagraphs();
     WriteBatch batch(AlbumDatabase);
-    const qint32 previous = PreviousOf(place.paragraph);
-    const qint32 stored = FirstParagraphOf(nextChapter);
-    const qint32 first = stored == place.paragraph ? 0 : stored;
-    SetParagraphLink(first, u"PreviousParagraph", place.paragraph);
-    SetFirstParagraph(nextChapter, place.paragraph);
-    SetWayTo(place, previous, 0);
-    place.chapter = nextChapter;
-    SetPlace(place, 0, first);
+    const qint32 previous = IsDown(direction) ? chain.Previous(place.paragraph) : 0;
+    const qint32 next = IsDown(direction) ? 0 : chain.Next(place.paragraph);
+    const Gap gap = GapIn(chapter, place.paragraph, direction);
+    SetWayTo(place, previous, next);
+    chain.LeadBackTo(next, previous);
+    place.chapter = chapter;
+    SetWayTo(place, gap.previous, place.paragraph);
+    chain.LeadBackTo(gap.next, place.paragraph);
+    chain.SetLinks(place.paragraph, gap.previous, gap.next);
+    SetLink(*ParagraphSet, place.paragraph, u"Chapter", place.chapter);
     batch.Finish();
     return true;
 }
 
-bool MoveToPreviousChapter(ParagraphPlace& place)
+bool MoveParagraph(ParagraphPlace& place, ChainDirection direction)
 {
-    const qint32 previousChapter = PreviousChapterOf(place.chapter);
-    if (previousChapter == 0)
+    const Chain chain = ChainOfParagraphs();
+    if (chain.Find(place.paragraph) == 0)
         return false;
-    WriteBatch batch(AlbumDatabase);
-    const qint32 next = NextOf(place.paragraph);
-    const qint32 last = LastParagraphBefore(place.paragraph, previousChapter);
-    SetFirstParagraph(place.chapter, next);
-    SetParagraphLink(next, u"PreviousParagraph", 0);
-    place.chapter = previousChapter;
-    SetWayTo(place, last, place.paragraph);
-    SetPlace(place, last, 0);
-    batch.Finish();
+    const qint32 neighbour = chain.Neighbour(place.paragraph, direction);
+    if (neighbour == 0)
+        return MoveToChapter(place, direction);
+    if (IsDown(direction))
+        Exchange(place, place.paragraph, neighbour);
+    else
+        Exchange(place, neighbour, place.paragraph);
     return true;
 }
 
@@ -130,55 +98,26 @@ bool MoveToPreviousChapter(ParagraphPlace& place)
 
 bool MoveParagraphDown(ParagraphPlace& place)
 {
-    if (!FindById(*ParagraphSet, place.paragraph))
-        return false;
-    const qint32 next = NextOf(place.paragraph);
-    if (next == 0)
-        return MoveToNextChapter(place);
-    Exchange(place, place.paragraph, next);
-    return true;
+    return MoveParagraph(place, ChainDirection::Next);
 }
 
 bool MoveParagraphUp(ParagraphPlace& place)
 {
-    if (!FindById(*ParagraphSet, place.paragraph))
-        return false;
-    const qint32 previous = PreviousOf(place.paragraph);
-    if (previous == 0)
-        return MoveToPreviousChapter(place);
-    Exchange(place, previous, place.paragraph);
-    return true;
+    return MoveParagraph(place, ChainDirection::Previous);
 }
 
 std::vector<ParagraphLine> ListParagraphs(qint32 chapter)
 {
     const std::vector<TextMarker> markers = ReadTextMarkers();
     std::vector<ParagraphLine> lines;
-    for (const qint32 paragraph : WalkParagraphs(FirstParagraphOf(chapter), u"NextParagraph")) {
-        FindById(*ParagraphSet, paragraph);
+    const qint32 first = FirstParagraphOf(chapter);
+    ChainOfParagraphs().Walk(first, ChainDirection::Next, [&](qint32 paragraph) {
         QString text = ParagraphSet->TextOrEmpty(u"Text");
         text = text.isEmpty() ? QCoreApplication::translate("ParagraphMoves", "<<Empty Paragraph>>")
                               : ToDisplayMarkers(text, markers);
         text.truncate(longestLine);
         lines.push_back({paragraph, text.replace(u'\r', u' ').replace(u'\n', u' ')});
-    }
+        return true;
+    });
     return lines;
-}
-
-QString ChapterNameOf(qint32 chapter)
-{
-    return GeneralModule::ChapterTitle(chapter);
-}
-
-qint32 PreviousChapterOf(qint32 chapter)
-{
-    return GeneralModule::ChapterLeadingTo(chapter);
-}
-
-qint32 NextChapterOf(qint32 chapter)
-{
-    if (!FindById(*ChapterSet, chapter) || ChapterSet->IsNull(u"NextChapter"))
-        return 0;
-    const qint32 next = ChapterSet->Number(u"NextChapter");
-    return next > 0 && next != chapter && FindById(*ChapterSet, next) ? next : 0;
 }

@@ -24,9 +24,3 @@ struct ParagraphLine
 
 // The chapter's paragraphs in their order.
 std::vector<ParagraphLine> ListParagraphs(qint32 chapter);
-
-QString ChapterNameOf(qint32 chapter);
-
-// The chapter before it in reading order, and the one after it; 0 when there is none.
-qint32 PreviousChapterOf(qint32 chapter);
-qint32 NextChapterOf(qint32 chapter);

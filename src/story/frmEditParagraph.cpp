@@ -4,6 +4,7 @@
 
 #include "catalogue/frmEditLabels.h"
 #include "core/Album.h"
+#include "core/ChapterChain.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/KeyPreview.h"
@@ -156,7 +157,7 @@ void frmEditParagraph::ShowParagraph()
 // were, and nothing that is half there can be saved.
 void frmEditParagraph::FillFromAlbum()
 {
-    const QString chapter = ChapterNameOf(CurrentChapter);
+    const QString chapter = GeneralModule::ChapterTitle(CurrentChapter);
     std::vector<TextMarker> markers = ReadTextMarkers();
     const ParagraphContent content = LoadParagraph(CurrentParagraph);
     ui_->filterPanel->ShowLabels();

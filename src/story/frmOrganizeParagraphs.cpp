@@ -2,6 +2,7 @@
 #include "story/frmOrganizeParagraphs.h"
 #include "ui_frmOrganizeParagraphs.h"
 
+#include "core/ChapterChain.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/LiteralText.h"
@@ -108,7 +109,7 @@ void frmOrganizeParagraphs::RefreshParagraphList()
 {
     const BusyPointer busy;
     // Read first: what cannot be read leaves the list as it was.
-    const QString chapter = ChapterNameOf(CurrentChapter);
+    const QString chapter = GeneralModule::ChapterTitle(CurrentChapter);
     const std::vector<ParagraphLine> lines = ListParagraphs(CurrentChapter);
     setWindowTitle(AsWindowTitle(tr("Organize Paragraphs from Chapter '%1'").arg(chapter)));
     ui_->lblChapter->setText(chapter);
@@ -136,12 +137,12 @@ void frmOrganizeParagraphs::RefreshButtons()
 
 void frmOrganizeParagraphs::ShowPreviousChapter()
 {
-    ShowChapter(PreviousChapterOf(CurrentChapter));
+    ShowChapter(GeneralModule::ChapterLeadingTo(CurrentChapter));
 }
 
 void frmOrganizeParagraphs::ShowNextChapter()
 {
-    ShowChapter(NextChapterOf(CurrentChapter));
+    ShowChapter(GeneralModule::NextChapter(CurrentChapter));
 }
 
 void frmOrganizeParagraphs::ShowChapter(qint32 chapter)

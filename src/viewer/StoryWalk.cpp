@@ -2,92 +2,47 @@
 #include "viewer/StoryWalk.h"
 
 #include "core/Album.h"
+#include "core/AlbumChains.h"
+#include "core/ChapterChain.h"
 
 #include <QSet>
 
-using GeneralModule::ChapterSet;
-using GeneralModule::FindById;
-using GeneralModule::ParagraphSet;
+using namespace GeneralModule;
 
 namespace {
 
-// The identifier in that field of the current row, 0 unless it names a row; the set then stands on
-// that row.
-qint32 FollowLink(RecordSet& set, QStringView field)
+// The chapter that the paragraph says it belongs to, which is the one that the links of the story
+// go on from, else the position's own; 0 when neither is there.
+qint32 ChapterOf(const StoryPosition& position)
 {
-    const qint32 id = set.IsNull(field) ? 0 : set.Number(field);
-    return id > 0 && FindById(set, id) ? id : 0;
+    const Chain chapters = ChainOfChapters();
+    const bool isThere = ChainOfParagraphs().Find(position.paragraph) != 0;
+    const qint32 owner = isThere ? chapters.Find(LinkIn(*ParagraphSet, u"Chapter")) : 0;
+    return owner != 0 ? owner : chapters.Find(position.chapter);
 }
 
-bool FindPosition(const StoryPosition& position)
+// After the last chapter comes the first one.
+qint32 FollowingChapter(qint32 chapter)
 {
-    return position.paragraph > 0 && FindById(*ParagraphSet, position.paragraph);
+    const qint32 next = NextChapter(chapter);
+    return next != 0 ? next : FirstChapter();
 }
 
-// Positions ChapterSet on the chapter that the paragraph says it belongs to, which is the one the
-// links of the story go on from, else on the position's own.
-bool FindChapterOf(const StoryPosition& position)
+// Whether the position is an empty chapter's, or has a paragraph that is there.
+bool IsSound(const StoryPosition& position)
 {
-    const qint32 owner = FindPosition(position) ? ParagraphSet->Number(u"Chapter") : 0;
-    return (owner > 0 && FindById(*ChapterSet, owner)) || FindById(*ChapterSet, position.chapter);
+    return position.paragraph == 0 || ChainOfParagraphs().Find(position.paragraph) != 0;
 }
 
-// First paragraph of the chapter on which ChapterSet stands, 0 when it has none.
-qint32 FirstParagraphHere()
-{
-    const qint32 first = ChapterSet->Number(u"FirstParagraph");
-    return first > 0 && FindById(*ParagraphSet, first) ? first : 0;
-}
-
-// The last paragraph that links in that field lead to from the given one.
-qint32 FollowToEnd(qint32 paragraph, QStringView field)
+// To the first paragraph of the chapter after this one that has any.
+StoryStep StepToFollowingChapter(StoryPosition& position, qint32 chapter)
 {
     QSet<qint32> visited;
-    FindById(*ParagraphSet, paragraph);
-    for (qint32 next = paragraph; next > 0 && !visited.contains(next);
-         next = FollowLink(*ParagraphSet, field)) {
-        visited.insert(next);
-        paragraph = next;
-    }
-    FindById(*ParagraphSet, paragraph);
-    return paragraph;
-}
-
-// The chapter behind the one on which ChapterSet stands; behind the last one the first.
-bool FindFollowingChapter()
-{
-    if (FollowLink(*ChapterSet, u"NextChapter") > 0)
-        return true;
-    ChapterSet->FindFirst(QStringLiteral("[PreviousChapter]=0"));
-    return !ChapterSet->NoMatch();
-}
-
-} // namespace
-
-void GoToFirstParagraph(StoryPosition& position)
-{
-    position.paragraph = FindById(*ChapterSet, position.chapter) ? FirstParagraphHere() : 0;
-}
-
-StoryStep StepToNextParagraph(StoryPosition& position)
-{
-    if (position.paragraph > 0) {
-        if (!FindPosition(position))
-            return StoryStep::Nothing;
-        if (const qint32 next = FollowLink(*ParagraphSet, u"NextParagraph"); next > 0) {
-            position.paragraph = next;
-            return StoryStep::Paragraph;
-        }
-    }
-    if (!FindChapterOf(position))
-        return position.paragraph > 0 ? StoryStep::Close : StoryStep::Nothing;
-    QSet<qint32> visited;
-    while (FindFollowingChapter()) {
-        const qint32 chapter = ChapterSet->Number(u"Id");
+    for (chapter = FollowingChapter(chapter); chapter != 0; chapter = FollowingChapter(chapter)) {
         if (visited.contains(chapter))
             return StoryStep::Nothing; // only chapters without paragraphs lie ahead
         visited.insert(chapter);
-        if (const qint32 first = FirstParagraphHere(); first > 0) {
+        if (const qint32 first = FirstParagraphOf(chapter)) {
             position = {chapter, first};
             return StoryStep::Chapter;
         }
@@ -95,60 +50,78 @@ StoryStep StepToNextParagraph(StoryPosition& position)
     return StoryStep::Close;
 }
 
-StoryStep StepToPreviousParagraph(StoryPosition& position)
+} // namespace
+
+void GoToFirstParagraph(StoryPosition& position)
 {
-    const bool isEmpty = position.paragraph == 0;
-    if (!isEmpty) {
-        if (!FindPosition(position))
-            return StoryStep::Nothing;
-        if (const qint32 previous = FollowLink(*ParagraphSet, u"PreviousParagraph"); previous > 0) {
-            position.paragraph = previous;
-            return StoryStep::Paragraph;
-        }
-    }
-    if (!FindChapterOf(position))
-        return isEmpty ? StoryStep::Nothing : StoryStep::Paragraph;
-    const qint32 previousChapter = FollowLink(*ChapterSet, u"PreviousChapter");
-    const qint32 first = FirstParagraphHere();
-    if (previousChapter == 0 && isEmpty)
+    position.paragraph = FirstParagraphOf(position.chapter);
+}
+
+StoryStep StepToNextParagraph(StoryPosition& position)
+{
+    if (!IsSound(position))
         return StoryStep::Nothing;
-    if (previousChapter == 0) {
-        position.paragraph = first > 0 ? first : position.paragraph;
+    if (const qint32 next = ChainOfParagraphs().Next(position.paragraph)) {
+        position.paragraph = next;
         return StoryStep::Paragraph;
     }
-    if (first == 0) {
-        position = {previousChapter, 0};
-        return StoryStep::Chapter;
+    const qint32 chapter = ChapterOf(position);
+    if (chapter == 0)
+        return position.paragraph > 0 ? StoryStep::Close : StoryStep::Nothing;
+    return StepToFollowingChapter(position, chapter);
+}
+
+StoryStep StepToPreviousParagraph(StoryPosition& position)
+{
+    if (!IsSound(position))
+        return StoryStep::Nothing;
+    if (const qint32 previous = ChainOfParagraphs().Previous(position.paragraph)) {
+        position.paragraph = previous;
+        return StoryStep::Paragraph;
     }
-    position = {previousChapter, FollowToEnd(first, u"NextParagraph")};
-    return StoryStep::Paragraph;
+    const bool isEmpty = position.paragraph == 0;
+    const qint32 chapter = ChapterOf(position);
+    if (chapter == 0)
+        return isEmpty ? StoryStep::Nothing : StoryStep::Paragraph;
+    const qint32 previousChapter = ChainOfChapters().Previous(chapter);
+    if (previousChapter == 0) {
+        if (isEmpty)
+            return StoryStep::Nothing;
+        const qint32 first = FirstParagraphOf(chapter);
+        position.paragraph = first != 0 ? first : position.paragraph;
+        return StoryStep::Paragraph;
+    }
+    const qint32 first = FirstParagraphOf(previousChapter);
+    position = {previousChapter, ChainOfParagraphs().End(first, ChainDirection::Next)};
+    return first == 0 ? StoryStep::Chapter : StoryStep::Paragraph;
 }
 
 StoryStep StepToNextChapter(StoryPosition& position)
 {
-    if (!FindChapterOf(position))
+    const qint32 chapter = ChapterOf(position);
+    if (chapter == 0)
         return StoryStep::Nothing;
-    if (const qint32 next = FollowLink(*ChapterSet, u"NextChapter"); next > 0) {
-        position = {next, FirstParagraphHere()};
+    if (const qint32 next = NextChapter(chapter)) {
+        position = {next, FirstParagraphOf(next)};
         return StoryStep::Chapter;
     }
-    if (!FindPosition(position))
+    const qint32 last = ChainOfParagraphs().End(position.paragraph, ChainDirection::Next);
+    if (last == 0)
         return StoryStep::Nothing;
-    position.paragraph = FollowToEnd(position.paragraph, u"NextParagraph");
+    position.paragraph = last;
     return StoryStep::Paragraph;
 }
 
 StoryStep StepToTopOfChapter(StoryPosition& position)
 {
-    if (FindPosition(position) && FollowLink(*ParagraphSet, u"PreviousParagraph") > 0) {
-        position.paragraph = FollowToEnd(position.paragraph, u"PreviousParagraph");
+    const Chain paragraphs = ChainOfParagraphs();
+    if (paragraphs.Previous(position.paragraph) != 0) {
+        position.paragraph = paragraphs.End(position.paragraph, ChainDirection::Previous);
         return StoryStep::Paragraph;
     }
-    if (!FindChapterOf(position))
-        return StoryStep::Nothing;
-    const qint32 previous = FollowLink(*ChapterSet, u"PreviousChapter");
+    const qint32 previous = ChainOfChapters().Previous(ChapterOf(position));
     if (previous == 0)
         return StoryStep::Nothing;
-    position = {previous, FirstParagraphHere()};
+    position = {previous, FirstParagraphOf(previous)};
     return StoryStep::Chapter;
 }

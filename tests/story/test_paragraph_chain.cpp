@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
+#include "core/AlbumChains.h"
 #include "story/ParagraphChain.h"
 #include "story/ParagraphMoves.h"
 #include "support/AlbumFixture.h"
@@ -184,8 +185,10 @@ private slots:
         OneChapter album({"a", "b", "c"});
         album.Execute("UPDATE Paragraph SET NextParagraph=1 WHERE Id=3");
         album.Execute("UPDATE Paragraph SET PreviousParagraph=77 WHERE Id=1");
-        QCOMPARE(WalkParagraphs(2, u"NextParagraph"), (std::vector<qint32>{2, 3, 1}));
-        QCOMPARE(WalkParagraphs(3, u"PreviousParagraph"), (std::vector<qint32>{3, 2, 1}));
+        using GeneralModule::ChainDirection;
+        const GeneralModule::Chain chain = GeneralModule::ChainOfParagraphs();
+        QCOMPARE(chain.Rows(2, ChainDirection::Next), (std::vector<qint32>{2, 3, 1}));
+        QCOMPARE(chain.Rows(3, ChainDirection::Previous), (std::vector<qint32>{3, 2, 1}));
         ParagraphPlace& place = album.place;
         SaveAndStep(place, Edited(place, "a"), ChainStep::Previous);
         QCOMPARE(place.paragraph, 1);
