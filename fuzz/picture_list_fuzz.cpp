@@ -4,6 +4,7 @@
 #include "core/Album.h"
 #include "fuzz/Trials.h"
 #include "platform/data/WriteBatch.h"
+#include "story/Paragraph.h"
 #include "story/PictureFilter.h"
 #include "support/AlbumFixture.h"
 
@@ -213,7 +214,6 @@ std::vector<Picture> FillAlbum(Trials& trials)
     return pictures;
 }
 
-// The set then stands on the paragraph.
 void WriteParagraph(const Choice& choice)
 {
     Run("DELETE FROM LinkedImages; DELETE FROM Paragraph");
@@ -285,7 +285,8 @@ void Try(Trials& trials, const std::vector<Picture>& pictures)
                         .toUtf8());
     PictureList list;
     int told = -1;
-    BuildPictureList(*ParagraphSet, list, choice.most, [&told](int count) { told = count; });
+    BuildPictureList(ReadParagraph(someone)->GetQuery(), list, choice.most,
+                     [&told](int count) { told = count; });
     const QStringList expected = Expected(pictures, choice);
     if (list.GetFiles() != expected)
         return trials.Fault(QStringLiteral("listed: %1\n  not: %2")

@@ -147,17 +147,15 @@ void OneCommit_Bare(benchmark::State& state)
 void PreviewList_Ours(benchmark::State& state, int column)
 {
     Engine();
-    ParagraphSet->MoveFirst();
-    ParagraphSet->Edit(); // is never updated
-    ParagraphSet->Set(QStringLiteral("Car%1").arg(column), QStringLiteral("Lake"));
+    PictureQuery query{.linkedTo = 1};
+    query.values[std::size_t(column)] = QStringLiteral("Lake");
     int count = 0;
     for (auto _ : state) {
         PictureList list;
-        BuildPictureList(*ParagraphSet, list, mostPreviewed, [](int) {});
+        BuildPictureList(query, list, mostPreviewed, [](int) {});
         const QStringList files = list.GetFiles();
         count = int(files.size());
     }
-    ParagraphSet->CancelUpdate();
     state.counters["rows"] = count;
 }
 

@@ -766,6 +766,21 @@ Appuyez sur F1 pour l&apos;aide</translation>
     </message>
 </context>
 <context>
+    <name>ParagraphPreview</name>
+    <message>
+        <source>Click to edit image</source>
+        <translation>Cliquez pour modifier la photo</translation>
+    </message>
+    <message>
+        <source>%1 images found</source>
+        <translation>%1 photos trouvées</translation>
+    </message>
+    <message>
+        <source>%1 images left</source>
+        <translation>%1 photos restantes</translation>
+    </message>
+</context>
+<context>
     <name>PictureLoading</name>
     <message>
         <source>The folder &apos;%1&apos; is no longer there.</source>
@@ -1207,10 +1222,6 @@ Appuyez sur F1 pour l&apos;aide</translation>
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>Click to edit image</source>
-        <translation>Cliquez pour modifier la photo</translation>
-    </message>
-    <message>
         <source>Edit Paragraph from Chapter &apos;</source>
         <translation>Modifier un paragraphe du chapitre &apos;</translation>
     </message>
@@ -1225,14 +1236,6 @@ Leave without saving?</source>
         <translation>Le paragraphe ne peut pas être enregistré : %1
 
 Quitter sans enregistrer ?</translation>
-    </message>
-    <message>
-        <source> images found</source>
-        <translation> photos trouvées</translation>
-    </message>
-    <message>
-        <source> images left</source>
-        <translation> photos restantes</translation>
     </message>
     <message>
         <source>This paragraph</source>

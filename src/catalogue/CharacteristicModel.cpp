@@ -39,7 +39,7 @@ char32_t FirstCodePoint(const QString& text)
 
 QString ValueTableOf(int column)
 {
-    return QStringLiteral("Car%1").arg(LabelledColumnOf(column));
+    return CarField(LabelledColumnOf(column));
 }
 
 std::optional<int> TwinColumnOf(int column)

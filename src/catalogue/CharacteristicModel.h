@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Columns.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <array>
 #include <optional>
 
-// Every picture is described by twelve short texts, columns 0 to 11, in four groups of three. The
-// columns of groups 1 and 2 are twins: they describe two subjects of the same kind and share their
-// labels and their tables of allowed values.
+// What the columns of Columns.h may hold. Those of groups 1 and 2 are twins: they describe two
+// subjects of the same kind and share their labels and their tables of allowed values.
 
-constexpr int columnCount = 12;
-constexpr int columnsPerGroup = 3;
-constexpr int groupCount = 4;
+using GeneralModule::CarField;
+using GeneralModule::columnCount;
+using GeneralModule::columnsPerGroup;
+using GeneralModule::groupCount;
 
 // Columns with a label and a value table of their own.
 inline constexpr std::array labelledColumns{0, 1, 2, 3, 4, 5, 9, 10, 11};

@@ -19,11 +19,6 @@ using GeneralModule::Quoted;
 
 namespace {
 
-QString FieldOf(int column)
-{
-    return QStringLiteral("Car%1").arg(column);
-}
-
 QString HeldSpelling(int column, const QString& value)
 {
     RecordSet table(AlbumDatabase, ValueTableOf(column));
@@ -83,7 +78,7 @@ std::optional<PictureRecord> ReadPictureRecord(const QString& file)
         return std::nullopt;
     PictureRecord record;
     for (int column = 0; column < columnCount; ++column)
-        record.values[std::size_t(column)] = ImageSet->TextOrEmpty(FieldOf(column));
+        record.values[std::size_t(column)] = ImageSet->TextOrEmpty(CarField(column));
     record.legend = ImageSet->TextOrEmpty(u"Legend");
     return record;
 }
@@ -133,7 +128,7 @@ PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
     for (int column = 0; column < columnCount; ++column) {
         const QString& value = saved.values[std::size_t(column)];
         if (value != shown.values[std::size_t(column)])
-            ImageSet->Set(FieldOf(column), value);
+            ImageSet->Set(CarField(column), value);
     }
     if (saved.legend != shown.legend)
         ImageSet->Set(u"Legend", saved.legend);

@@ -54,9 +54,9 @@ public:
           progress_(progress),
           batch_(AlbumDatabase, WriteBatch::Commits::AtItsEnd)
     {
-        fields_ += QStringLiteral("Car%1").arg(column);
+        fields_ += CarField(column);
         if (const auto twin = TwinColumnOf(column))
-            fields_ += QStringLiteral("Car%1").arg(*twin);
+            fields_ += CarField(*twin);
     }
 
     // A picture has one value, whatever it holds.

@@ -11,6 +11,7 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/FormButtons.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 
@@ -70,21 +71,14 @@ frmEditTables::~frmEditTables() = default;
 
 void frmEditTables::ConnectControls()
 {
-    struct Button
-    {
-        QPushButton* button;
-        const char* icon;
-        void (frmEditTables::*handler)();
-    };
-    for (const Button& entry : {
-             Button{ui_->cmdAddNew, "chapter-create", &frmEditTables::cmdAddNew_Click},
-             Button{ui_->cmdReplace, "rename", &frmEditTables::cmdReplace_Click},
-             Button{ui_->cmdDelete, "delete", &frmEditTables::cmdDelete_Click},
-             Button{ui_->cmdEditLabels, "edit-paragraph", &frmEditTables::cmdEditLabels_Click},
-         }) {
-        entry.button->setIcon(ThemedIcon(QString::fromLatin1(entry.icon)));
-        connect(entry.button, &QPushButton::clicked, this, Guarded(this, entry.handler));
-    }
+    using Form = frmEditTables;
+    ConnectButtons<Form>(this,
+                         {
+                             {ui_->cmdAddNew, "chapter-create", &Form::cmdAddNew_Click},
+                             {ui_->cmdReplace, "rename", &Form::cmdReplace_Click},
+                             {ui_->cmdDelete, "delete", &Form::cmdDelete_Click},
+                             {ui_->cmdEditLabels, "edit-paragraph", &Form::cmdEditLabels_Click},
+                         });
     ui_->cmdClose->setIcon(ThemedIcon(QStringLiteral("exit")));
     connect(ui_->cmdClose, &QPushButton::clicked, this, &QDialog::close);
     for (QRadioButton* option :

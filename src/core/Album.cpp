@@ -2,6 +2,7 @@
 #include "core/Album.h"
 
 #include "core/AlbumPassword.h"
+#include "core/Columns.h"
 #include "core/OldAlbum.h"
 #include "core/RecentAlbums.h"
 #include "core/Settings.h"
@@ -36,8 +37,8 @@ void RequireFields(const RecordSet& set, std::initializer_list<const char*> fiel
 
 void RequireCharacteristics(const RecordSet& set)
 {
-    for (int column = 0; column < 12; ++column)
-        set.FieldNumber(QStringLiteral("Car%1").arg(column));
+    for (int column = 0; column < columnCount; ++column)
+        set.FieldNumber(CarField(column));
 }
 
 void RequireSchema(const Album& album)

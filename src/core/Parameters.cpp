@@ -2,6 +2,7 @@
 #include "core/Parameters.h"
 
 #include "core/Album.h"
+#include "core/Columns.h"
 #include "core/TextRoutines.h"
 #include "platform/shell/ProgramFolder.h"
 
@@ -39,12 +40,12 @@ void SetParam(const QString& name, const QString& value)
 
 QString ColumnLabel(int column)
 {
-    return GetParam(QStringLiteral("Car%1").arg(column));
+    return GetParam(CarField(column));
 }
 
 void SetColumnLabel(int column, const QString& label)
 {
-    SetParam(QStringLiteral("Car%1").arg(column), label);
+    SetParam(CarField(column), label);
 }
 
 QString CaractLabel(int group)

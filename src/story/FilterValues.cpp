@@ -44,6 +44,13 @@ QStringList TableValues(int column)
 
 } // namespace
 
+CarValues AnyValues()
+{
+    CarValues values;
+    values.fill(anyValue);
+    return values;
+}
+
 QStringList FilterTokens(const QString& filter)
 {
     QStringList tokens;

@@ -19,6 +19,9 @@ inline const QString negation = QStringLiteral("!");
 // One stored filter per column.
 using CarValues = std::array<QString, columnCount>;
 
+// "*" for every column.
+CarValues AnyValues();
+
 // The values and "!" of a stored filter, in their order; none when it lets every picture through.
 // An empty value ends the list.
 QStringList FilterTokens(const QString& filter);

@@ -11,18 +11,17 @@ using namespace GeneralModule;
 
 namespace {
 
-QString CarField(int column)
+[[noreturn]] void FailGone()
 {
-    return QStringLiteral("Car%1").arg(column);
+    throw DatabaseError(
+        DatabaseError::RecordDeleted,
+        QCoreApplication::translate("ParagraphChain", "This paragraph is no longer in the album."));
 }
 
 void RequireParagraph(qint32 paragraph)
 {
-    if (FindById(*ParagraphSet, paragraph))
-        return;
-    throw DatabaseError(
-        DatabaseError::RecordDeleted,
-        QCoreApplication::translate("ParagraphChain", "This paragraph is no longer in the album."));
+    if (!FindById(*ParagraphSet, paragraph))
+        FailGone();
 }
 
 // The set must be in the middle of an edit. A value that is there already is not written again:
@@ -31,16 +30,6 @@ void SetText(QStringView field, const QString& value)
 {
     if (ParagraphSet->IsNull(field) || ParagraphSet->Text(field) != value)
         ParagraphSet->Set(field, value);
-}
-
-CarValues ReadCarValues()
-{
-    CarValues values;
-    for (int column = 0; column < columnCount; ++column) {
-        const QString stored = ParagraphSet->TextOrEmpty(CarField(column));
-        values[std::size_t(column)] = stored.isEmpty() ? anyValue : stored;
-    }
-    return values;
 }
 
 struct Neighbours
@@ -104,8 +93,10 @@ void ReplaceFirstParagraph(qint32 chapter, qint32 gone, qint32 next)
 
 ParagraphContent LoadParagraph(qint32 paragraph)
 {
-    RequireParagraph(paragraph);
-    return {ParagraphSet->TextOrEmpty(u"Text"), ReadCarValues()};
+    const std::optional<Paragraph> found = ReadParagraph(paragraph);
+    if (!found)
+        FailGone();
+    return found->content;
 }
 
 void SaveParagraph(const ParagraphPlace& place, const ParagraphDraft& draft)
@@ -165,10 +156,9 @@ void CreateFirstParagraph(ParagraphPlace& place)
 
 ParagraphContent CreateNextParagraph(ParagraphPlace& place, const ParagraphDraft& draft)
 {
-    RequireParagraph(place.paragraph);
+    const CarValues inherited = LoadParagraph(place.paragraph).values;
     const qint32 old = place.paragraph;
     const qint32 oldNext = LinkIn(*ParagraphSet, u"NextParagraph");
-    const CarValues inherited = ReadCarValues();
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     SaveParagraph(place, draft);
     AddParagraph(place);

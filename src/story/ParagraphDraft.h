@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "story/FilterValues.h"
+#include "story/Paragraph.h"
 
 #include <QString>
 #include <QStringList>
-
-struct ParagraphContent
-{
-    QString text; // in stored form, see ParagraphMarkers.h
-    CarValues values;
-
-    bool operator==(const ParagraphContent&) const = default;
-};
 
 // What a person makes of a paragraph. Another window may change the paragraph meanwhile, so only
 // what differs from what was shown is written.

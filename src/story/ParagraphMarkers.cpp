@@ -25,7 +25,7 @@ std::optional<QString> FieldOf(const QString& marker)
     bool isNumber = false;
     const int column = marker.toInt(&isNumber);
     if (isNumber && column >= 0 && column < columnCount && marker == QString::number(column))
-        return QStringLiteral("Car%1").arg(column);
+        return CarField(column);
     return std::nullopt;
 }
 

@@ -39,7 +39,8 @@ public:
             else if (!negated)
                 Open(QStringLiteral("("), QStringLiteral(") AND ("));
             firstValue = false;
-            filter_ += QStringLiteral("[Car%1]='").arg(column) + token + QLatin1Char('\'');
+            filter_ += QLatin1Char('[') + CarField(column) + QLatin1String("]='") + token +
+                       QLatin1Char('\'');
         }
     }
 
@@ -56,10 +57,9 @@ private:
     bool isFirst_ = true;
 };
 
-void AddLinkedPictures(RecordSet& paragraph, PictureList& pictures)
+void AddLinkedPictures(qint32 paragraph, PictureList& pictures)
 {
-    const QString filter =
-        QStringLiteral("[ParagraphId]=") + QString::number(paragraph.Number(u"Id"));
+    const QString filter = QStringLiteral("[ParagraphId]=") + QString::number(paragraph);
     const RecordSet::Walk walk(*LinkedImagesSet);
     LinkedImagesSet->FindFirst(filter);
     while (!LinkedImagesSet->NoMatch()) {
@@ -68,7 +68,7 @@ void AddLinkedPictures(RecordSet& paragraph, PictureList& pictures)
     }
 }
 
-void AddMatchingPictures(const QString& filter, PictureList& pictures, int most,
+void AddMatchingPictures(const QString& filter, PictureList& pictures, int maximum,
                          const CountFeedback& feedback)
 {
     const QStringList linked = pictures.GetFiles();
@@ -76,7 +76,7 @@ void AddMatchingPictures(const QString& filter, PictureList& pictures, int most,
     const int file = ImageSet->FieldNumber(u"File");
     const RecordSet::Walk walk(*ImageSet);
     ImageSet->FindFirst(filter);
-    while (!ImageSet->NoMatch() && pictures.Count() < most) {
+    while (!ImageSet->NoMatch() && pictures.Count() < maximum) {
         const QString picture = ImageSet->TextOrEmpty(file);
         if (!linkedFiles.contains(picture))
             pictures.Add(picture);
@@ -107,13 +107,12 @@ QString NextToken(QStringView& values)
     return token.toString();
 }
 
-QString BuildCarFilter(RecordSet& paragraph)
+QString BuildCarFilter(const CarValues& filters)
 {
     CarFilterWriter writer;
     for (int column = 0; column < columnCount; ++column) {
         // Old albums may hold what the editor would not store; it is read as the editor shows it.
-        const QString values =
-            StorableFilter(paragraph.TextOrEmpty(QStringLiteral("Car%1").arg(column)));
+        const QString values = StorableFilter(filters[std::size_t(column)]);
         if (values != anyValue)
             writer.AddColumn(column, values);
     }
@@ -123,7 +122,7 @@ QString BuildCarFilter(RecordSet& paragraph)
 QString SwapCarGroups(const QString& filter)
 {
     // The letters D, E, F keep columns 3 to 5 apart while 6 to 8 take their place.
-    const auto column = [](int number) { return QStringLiteral("[Car%1").arg(number); };
+    const auto column = [](int number) -> QString { return QLatin1Char('[') + CarField(number); };
     const auto marker = [](int number) { return QStringLiteral("[Car") + QChar(u'A' + number); };
     QString swapped = filter;
     for (int i = 3; i <= 5; ++i)
@@ -141,26 +140,26 @@ QString PatternOfSelection(const QString& selection)
            AsLikePatterns(GeneralModule::FileNameOf(selection));
 }
 
-QString BuildPictureFilter(RecordSet& paragraph)
+QString BuildPictureFilter(const PictureQuery& query)
 {
-    QString carFilter = BuildCarFilter(paragraph);
+    QString carFilter = BuildCarFilter(query.values);
     const QString swapped = SwapCarGroups(carFilter);
     if (swapped != carFilter)
         carFilter += QLatin1String(" OR ") + swapped;
-    const QString selection = paragraph.TextOrEmpty(u"FileSelection");
-    if (selection.isEmpty())
+    if (query.fileSelection.isEmpty())
         return carFilter;
-    const QString fileFilter = BuildFileFilter(selection);
+    const QString fileFilter = BuildFileFilter(query.fileSelection);
     return carFilter.isEmpty()
                ? fileFilter
                : fileFilter + QLatin1String(" AND (") + carFilter + QLatin1Char(')');
 }
 
-void BuildPictureList(RecordSet& paragraph, PictureList& pictures, int most,
+void BuildPictureList(const PictureQuery& query, PictureList& pictures, int maximum,
                       const CountFeedback& feedback)
 {
     pictures.Clear();
-    AddLinkedPictures(paragraph, pictures);
-    AddMatchingPictures(BuildPictureFilter(paragraph), pictures, most, feedback);
+    if (query.linkedTo > 0)
+        AddLinkedPictures(query.linkedTo, pictures);
+    AddMatchingPictures(BuildPictureFilter(query), pictures, maximum, feedback);
     feedback(pictures.Count());
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/PictureList.h"
-#include "platform/data/RecordSet.h"
+#include "story/PictureQuery.h"
 
 #include <QString>
 
@@ -16,9 +16,8 @@
 // list may be long: cutting it off the text itself would move the rest at every step.
 QString NextToken(QStringView& values);
 
-// The condition on characteristics of the paragraph on which the set stands; empty when all are
-// "*".
-QString BuildCarFilter(RecordSet& paragraph);
+// The condition on characteristics; empty when each may have any value.
+QString BuildCarFilter(const CarValues& filters);
 
 // The same condition with the columns of the two twin groups, 3 to 5 and 6 to 8, exchanged: a
 // picture may show the two subjects in either order.
@@ -29,15 +28,16 @@ QString SwapCarGroups(const QString& filter);
 // holds; without one any path is meant.
 QString PatternOfSelection(const QString& selection);
 
-// The whole filter: the file-name pattern and the condition in both orders; empty for any picture.
-QString BuildPictureFilter(RecordSet& paragraph);
+// The whole filter but for the links: the file-name pattern and the condition in both orders; empty
+// for any picture.
+QString BuildPictureFilter(const PictureQuery& query);
 
 // Called with the number of pictures found so far.
 using CountFeedback = std::function<void(int)>;
 
-// Fills the list for the paragraph on which the set stands (it may be one that is being added):
-// linked pictures first, then those that meet its filter, each once, at most most in all. Calls
-// feedback at every multiple of 500 and at the end. Throws DatabaseError, BadFilter for a value
-// that a filter cannot hold; the list then holds what was found until then.
-void BuildPictureList(RecordSet& paragraph, PictureList& pictures, int most,
+// Fills the list with the pictures of the open album that the query means: linked ones first, then
+// those that meet the filter, each once, at most that many in all. Calls feedback at every multiple
+// of 500 and at the end. Moves ImageSet and LinkedImagesSet. Throws DatabaseError, BadFilter for a
+// value that a filter cannot hold; the list then holds what was found until then.
+void BuildPictureList(const PictureQuery& query, PictureList& pictures, int maximum,
                       const CountFeedback& feedback);

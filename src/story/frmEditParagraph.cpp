@@ -2,25 +2,22 @@
 #include "story/frmEditParagraph.h"
 #include "ui_frmEditParagraph.h"
 
+#include "catalogue/frmEditImage.h"
 #include "catalogue/frmEditLabels.h"
-#include "core/Album.h"
 #include "core/ChapterChain.h"
+#include "core/EditConflict.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/widgets/FormButtons.h"
 #include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/LiteralText.h"
-#include "platform/widgets/PictureBox.h"
-#include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
-#include "story/ParagraphMoves.h"
+#include "story/ParagraphPreview.h"
 #include "story/frmOrganizeParagraphs.h"
 
 #include <QKeyEvent>
 #include <QScopeGuard>
 #include <QTimer>
-
-using GeneralModule::FindById;
-using GeneralModule::ParagraphSet;
 
 namespace {
 
@@ -41,8 +38,9 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
     ui_->txtParagraphPreview->setFont(ui_->txtParagraph->font());
     ui_->txtParagraphPreview->document()->setDocumentMargin(
         ui_->txtParagraph->document()->documentMargin());
-    imgImage_ = ui_->stage->findChild<PictureBox*>();
-    imgImage_->setToolTip(tr("Click to edit image"));
+    preview_ = new ParagraphPreview({ui_->stage, ui_->lblNoPicture, ui_->chkLinkedImage,
+                                     ui_->txtParagraphPreview, ui_->lblFeedback},
+                                    this);
     KeepWindowSize(this, proposedSize);
     ConnectControls();
     // Both columns begin at one height, with and without drawings on their buttons.
@@ -51,44 +49,32 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
         heading->setMinimumHeight(ui_->cmdPreview->sizeHint().height());
     ShowInsertList(false);
     SetPreviewMode(false);
-    ShowPicture({});
 }
 
 frmEditParagraph::~frmEditParagraph() = default;
 
 void frmEditParagraph::ConnectControls()
 {
-    struct Button
-    {
-        QPushButton* button;
-        const char* icon;
-        void (frmEditParagraph::*handler)();
-    };
-    for (const Button& entry : {
-             Button{ui_->cmdFirstParagraph, "previous-chapter",
-                    &frmEditParagraph::cmdFirstParagraph_Click},
-             Button{ui_->cmdPreviousParagraph, "previous-paragraph",
-                    &frmEditParagraph::cmdPreviousParagraph_Click},
-             Button{ui_->cmdNextParagraph, "next-paragraph",
-                    &frmEditParagraph::cmdNextParagraph_Click},
-             Button{ui_->cmdEndOfChapter, "next-chapter", &frmEditParagraph::cmdEndOfChapter_Click},
-             Button{ui_->cmdCreateNext, "chapter-create", &frmEditParagraph::cmdCreateNext_Click},
-             Button{ui_->cmdDelete, "delete", &frmEditParagraph::cmdDelete_Click},
-             Button{ui_->cmdOrganize, "organize", &frmEditParagraph::cmdOrganize_Click},
-             Button{ui_->cmdExit, "exit", &frmEditParagraph::cmdExit_Click},
-             Button{ui_->cmdInsertCar, "", &frmEditParagraph::cmdInsertCar_Click},
-             Button{ui_->cmdCancelInsert, "", &frmEditParagraph::cmdCancelInsert_Click},
-             Button{ui_->cmdPreview, "preview", &frmEditParagraph::cmdPreview_Click},
-             Button{ui_->cmdNextImage, "next-pictures", &frmEditParagraph::cmdNextImage_Click},
-         }) {
-        entry.button->setIcon(ThemedIcon(QString::fromLatin1(entry.icon)));
-        connect(entry.button, &QPushButton::clicked, this, Guarded(this, entry.handler));
-    }
+    using Form = frmEditParagraph;
+    ConnectButtons<Form>(
+        this,
+        {
+            {ui_->cmdFirstParagraph, "previous-chapter", &Form::cmdFirstParagraph_Click},
+            {ui_->cmdPreviousParagraph, "previous-paragraph", &Form::cmdPreviousParagraph_Click},
+            {ui_->cmdNextParagraph, "next-paragraph", &Form::cmdNextParagraph_Click},
+            {ui_->cmdEndOfChapter, "next-chapter", &Form::cmdEndOfChapter_Click},
+            {ui_->cmdCreateNext, "chapter-create", &Form::cmdCreateNext_Click},
+            {ui_->cmdDelete, "delete", &Form::cmdDelete_Click},
+            {ui_->cmdOrganize, "organize", &Form::cmdOrganize_Click},
+            {ui_->cmdExit, "exit", &Form::cmdExit_Click},
+            {ui_->cmdInsertCar, "", &Form::cmdInsertCar_Click},
+            {ui_->cmdCancelInsert, "", &Form::cmdCancelInsert_Click},
+            {ui_->cmdPreview, "preview", &Form::cmdPreview_Click},
+            {ui_->cmdNextImage, "next-pictures", &Form::cmdNextImage_Click},
+        });
     connect(ui_->lstInsertCar, &QListWidget::itemClicked, this,
             Guarded(this, &frmEditParagraph::lstInsertCar_Click));
-    connect(ui_->chkLinkedImage, &QCheckBox::toggled, this,
-            Guarded(this, &frmEditParagraph::chkLinkedImage_Click));
-    connect(imgImage_, &PictureBox::Pressed, this,
+    connect(preview_, &ParagraphPreview::PicturePressed, this,
             Guarded(this, &frmEditParagraph::imgImage_MouseDown));
     connect(ui_->filterPanel, &FilterPanel::ValuesChanged, this,
             Guarded(this, &frmEditParagraph::filterPanel_Change));
@@ -170,18 +156,16 @@ void frmEditParagraph::FillFromAlbum()
 void frmEditParagraph::ShowContent(const ParagraphContent& content)
 {
     SetControls(content);
-    isShown_ = true;
-    loaded_ = content;
-    shown_ = GetContent();
+    edit_.Load(content, GetContent());
 }
 
 // The text box keeps caret and history where it holds the text already.
 void frmEditParagraph::SetControls(const ParagraphContent& content)
 {
     const QString text = ToDisplayMarkers(content.text, markers_);
-    if (!isShown_ || ui_->txtParagraph->GetText() != text)
+    if (!edit_.IsLoaded() || ui_->txtParagraph->GetText() != text)
         ui_->txtParagraph->SetText(text);
-    if (!isShown_ || ui_->filterPanel->GetValues() != content.values)
+    if (!edit_.IsLoaded() || ui_->filterPanel->GetValues() != content.values)
         ui_->filterPanel->SetValues(content.values);
 }
 
@@ -195,10 +179,11 @@ void frmEditParagraph::GoTo(const ParagraphPlace& place)
     setPlace(place);
     if (place.paragraph <= 0)
         return cmdExit_Click();
-    const bool wasShown = std::exchange(isShown_, false); // the text of another paragraph
+    const ParagraphEdit left = edit_;
+    edit_.Unload(); // the controls hold another paragraph
     auto stay = qScopeGuard([&] {
         setPlace(former);
-        isShown_ = wasShown;
+        edit_ = left;
     });
     ShowParagraph();
     stay.dismiss();
@@ -214,7 +199,7 @@ void frmEditParagraph::GoToOrLeave(const std::function<ParagraphPlace()>& findPl
 
 void frmEditParagraph::LeaveUnsaved()
 {
-    isShown_ = false;
+    edit_.Unload();
     QDialog::reject();
 }
 
@@ -262,7 +247,7 @@ void frmEditParagraph::cmdCreateNext_Click()
     const ParagraphContent created = CreateNextParagraph(place, GetDraft());
     // Not read back: it links to its neighbours once it is saved, so nobody may lose sight of it.
     CurrentParagraph = place.paragraph;
-    isShown_ = false;
+    edit_.Unload();
     ShowContent(created);
     ClearPreview();
     ui_->txtParagraph->setFocus();
@@ -290,8 +275,8 @@ void frmEditParagraph::cmdOrganize_Click()
     // A move may have taken the paragraph to another chapter.
     GoToOrLeave([this] {
         ParagraphPlace place = GetPlace();
-        if (FindById(*ParagraphSet, place.paragraph))
-            place.chapter = ParagraphSet->Number(u"Chapter");
+        if (const std::optional<Paragraph> moved = ReadParagraph(place.paragraph))
+            place.chapter = moved->chapter;
         return place;
     });
 }
@@ -341,4 +326,175 @@ void frmEditParagraph::lstInsertCar_Click()
         return;
     ui_->txtParagraph->Insert(markers_[std::size_t(row)].display);
     cmdCancelInsert_Click();
+}
+
+ParagraphContent frmEditParagraph::GetContent() const
+{
+    return {ToStoredMarkers(ui_->txtParagraph->GetText(), markers_), ui_->filterPanel->GetValues()};
+}
+
+// As the text box shows it.
+QString frmEditParagraph::Describe(const ParagraphContent& content) const
+{
+    return DescribeContent({ToDisplayMarkers(content.text, markers_), content.values});
+}
+
+ParagraphDraft frmEditParagraph::GetDraft() const
+{
+    return edit_.GetDraft(GetContent());
+}
+
+bool frmEditParagraph::SaveParagraph()
+{
+    if (!edit_.IsLoaded() || CurrentParagraph <= 0)
+        return true;
+    if (!SettleConflict())
+        return false;
+    ::SaveParagraph(GetPlace(), GetDraft());
+    ShowSaved();
+    return true;
+}
+
+bool frmEditParagraph::SettleConflict()
+{
+    const ParagraphDraft draft = GetDraft();
+    const std::optional<ParagraphContent> stored = edit_.FindConflict(CurrentParagraph, draft);
+    if (!stored)
+        return true;
+    using GeneralModule::ConflictChoice;
+    const ConflictChoice choice = GeneralModule::AskAboutConflict(
+        tr("This paragraph"), Describe(draft.edited), Describe(*stored));
+    if (choice == ConflictChoice::Stay)
+        return false;
+    const ParagraphContent merged = MergeDraft(draft, *stored, choice == ConflictChoice::KeepMine);
+    ShowContent(*stored);
+    SetControls(merged);
+    return true;
+}
+
+void frmEditParagraph::ShowSaved()
+{
+    const ParagraphContent edited = GetContent();
+    const ParagraphContent saved = edit_.TakeSaved(CurrentParagraph, edited);
+    if (edited != saved)
+        SetControls(saved);
+    edit_.SetShown(GetContent());
+}
+
+bool frmEditParagraph::ConfirmDeletion()
+{
+    const auto ask = [](const QString& question, Dialogs::Icon icon) {
+        return Dialogs::Door().Ask({question, icon, Dialogs::Buttons::OkCancel}) ==
+               Dialogs::Answer::Ok;
+    };
+    if (!ask(tr("Are you sure you want to DELETE current paragraph ?"), Dialogs::Icon::Question))
+        return false;
+    const ParagraphContent stored = LoadParagraph(CurrentParagraph);
+    return edit_.IsUnchanged(stored) ||
+           ask(tr("This paragraph was changed in another window after it was opened here.\n\n"
+                  "The other version:\n%1\n\nDelete it all the same?")
+                   .arg(Describe(stored)),
+               Dialogs::Icon::Warning);
+}
+
+// However the window is left, by its frame too.
+void frmEditParagraph::reject()
+{
+    if (SaveOrGiveUp())
+        QDialog::reject();
+}
+
+// What cannot be saved is not thrown away without asking.
+bool frmEditParagraph::SaveOrGiveUp()
+{
+    try {
+        return SaveParagraph();
+    } catch (const std::exception& error) {
+        return Dialogs::Door().Ask({tr("The paragraph cannot be saved: %1\n\nLeave without saving?")
+                                        .arg(QString::fromUtf8(error.what())),
+                                    Dialogs::Icon::Warning, Dialogs::Buttons::YesNo,
+                                    Dialogs::Answer::No}) == Dialogs::Answer::Yes;
+    }
+}
+
+void frmEditParagraph::SetPreviewMode(bool isPreview)
+{
+    isPreview_ = isPreview;
+    ui_->txtParagraph->setVisible(!isPreview);
+    ui_->cmdPreview->setVisible(!isPreview);
+    ui_->txtParagraphPreview->setVisible(isPreview);
+    ui_->cmdNextImage->setVisible(isPreview);
+    ui_->lblFeedback->setVisible(isPreview);
+    ShowInsertList(false);
+}
+
+void frmEditParagraph::ClearPreview()
+{
+    SetPreviewMode(false);
+    preview_->SetParagraph(CurrentParagraph);
+}
+
+void frmEditParagraph::cmdPreview_Click()
+{
+    if (!SettleConflict())
+        return;
+    SetPreviewMode(true);
+    ui_->cmdNextImage->setFocus();
+    RefreshPictureList();
+}
+
+void frmEditParagraph::RefreshPictureList()
+{
+    if (!SaveParagraph())
+        return;
+    preview_->ShowPicture({});
+    preview_->ShowText(GetContent().text);
+    preview_->FindPictures();
+    preview_->ShowText(GetContent().text);
+}
+
+void frmEditParagraph::cmdNextImage_Click()
+{
+    if (preview_->ShowNext())
+        preview_->ShowText(GetContent().text);
+    else
+        lblText_Click();
+}
+
+// A preview shows at once what a changed filter finds.
+void frmEditParagraph::filterPanel_Change()
+{
+    if (isPreview_)
+        RefreshPictureList();
+}
+
+void frmEditParagraph::lblText_Click()
+{
+    SetPreviewMode(false);
+    ui_->txtParagraph->setFocus();
+}
+
+void frmEditParagraph::imgImage_MouseDown()
+{
+    const QString file = preview_->GetPicture();
+    if (SaveParagraph())
+        EditPicture(file);
+}
+
+// Everything may have changed there: the picture, labels, values, and the paragraph with them.
+void frmEditParagraph::EditPicture(const QString& file)
+{
+    frmEditImage window(this);
+    window.CurrentImage = file;
+    window.IsSinglePicture = true;
+    window.exec();
+    // What cannot be read again must not be saved either: a value may have got another name.
+    auto leave = qScopeGuard([this] { LeaveUnsaved(); });
+    FillFromAlbum();
+    leave.dismiss();
+    const bool isTakenOut = window.TakenOut.contains(file);
+    if (isTakenOut && isPreview_)
+        return cmdNextImage_Click();
+    preview_->ShowPicture(isTakenOut ? QString() : file);
+    preview_->ShowText(GetContent().text);
 }

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "story/ParagraphChain.h"
+#include "story/ParagraphEdit.h"
 #include "story/ParagraphMarkers.h"
 
 #include <QDialog>
-#include <QStringList>
 
 #include <functional>
 #include <memory>
 #include <vector>
 
-class PictureBox;
+class ParagraphPreview;
 class QKeyEvent;
 
 namespace Ui {
@@ -88,18 +87,12 @@ private:
     void filterPanel_LabelsWanted();
     void lblText_Click();
     void txtParagraphPreview_GotFocus();
-    void ShowPicture(const QString& file);
-    void FillPreviewText();
-    void chkLinkedImage_Click();
     void imgImage_MouseDown();
     void EditPicture(const QString& file);
 
     std::unique_ptr<Ui::frmEditParagraph> ui_;
-    PictureBox* imgImage_;
+    ParagraphPreview* preview_;
     std::vector<TextMarker> markers_;
-    ParagraphContent loaded_; // as the album held it
-    ParagraphContent shown_;  // the same as the controls give it back
-    QStringList pictures_;    // still to be shown in the preview
+    ParagraphEdit edit_; // loaded while the controls hold CurrentParagraph
     bool isPreview_ = false;
-    bool isShown_ = false; // the controls hold CurrentParagraph
 };

@@ -5,8 +5,8 @@
 #include "core/ChapterChain.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/FormButtons.h"
 #include "platform/widgets/LiteralText.h"
-#include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "story/ParagraphMoves.h"
 
@@ -38,25 +38,17 @@ frmOrganizeParagraphs::~frmOrganizeParagraphs() = default;
 
 void frmOrganizeParagraphs::ConnectControls()
 {
-    struct Button
-    {
-        QPushButton* button;
-        const char* icon;
-        void (frmOrganizeParagraphs::*handler)();
-    };
-    for (const Button& entry : {
-             Button{ui_->cmdUp, "previous-paragraph", &frmOrganizeParagraphs::cmdUp_Click},
-             Button{ui_->cmdDown, "next-paragraph", &frmOrganizeParagraphs::cmdDown_Click},
-             Button{ui_->cmdMoveUp, "move-up", &frmOrganizeParagraphs::cmdMoveUp_Click},
-             Button{ui_->cmdMoveDown, "move-down", &frmOrganizeParagraphs::cmdMoveDown_Click},
-             Button{ui_->cmdPreviousChapter, "previous-chapter",
-                    &frmOrganizeParagraphs::ShowPreviousChapter},
-             Button{ui_->cmdNextChapter, "next-chapter", &frmOrganizeParagraphs::ShowNextChapter},
-             Button{ui_->cmdExit, "exit", &frmOrganizeParagraphs::cmdExit_Click},
-         }) {
-        entry.button->setIcon(ThemedIcon(QString::fromLatin1(entry.icon)));
-        connect(entry.button, &QPushButton::clicked, this, Guarded(this, entry.handler));
-    }
+    using Form = frmOrganizeParagraphs;
+    ConnectButtons<Form>(
+        this, {
+                  {ui_->cmdUp, "previous-paragraph", &Form::cmdUp_Click},
+                  {ui_->cmdDown, "next-paragraph", &Form::cmdDown_Click},
+                  {ui_->cmdMoveUp, "move-up", &Form::cmdMoveUp_Click},
+                  {ui_->cmdMoveDown, "move-down", &Form::cmdMoveDown_Click},
+                  {ui_->cmdPreviousChapter, "previous-chapter", &Form::ShowPreviousChapter},
+                  {ui_->cmdNextChapter, "next-chapter", &Form::ShowNextChapter},
+                  {ui_->cmdExit, "exit", &Form::cmdExit_Click},
+              });
     connect(ui_->lstParagraph, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmOrganizeParagraphs::lstParagraph_Click));
     connect(ui_->lstParagraph, &QListWidget::itemDoubleClicked, this,

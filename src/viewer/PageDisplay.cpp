@@ -2,6 +2,7 @@
 #include "viewer/PageDisplay.h"
 
 #include "core/PathRoutines.h"
+#include "platform/data/DatabaseError.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
 #include "story/ParagraphMarkers.h"
@@ -12,13 +13,13 @@
 
 #include <utility>
 
-void PageDisplay::FindPictures(RecordSet& paragraph, int most)
+void PageDisplay::FindPictures(const PictureQuery& query, int maximum)
 {
     const BusyPointer busy;
     displayed_.clear();
     list_.Clear();
     try {
-        BuildPictureList(paragraph, list_, most, [this](int count) {
+        BuildPictureList(query, list_, maximum, [this](int count) {
             page_->ShowFeedback(QString::number(count) +
                                 QCoreApplication::translate("PageDisplay", " images found"));
         });

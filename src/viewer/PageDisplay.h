@@ -10,7 +10,7 @@
 #include <exception>
 #include <vector>
 
-class RecordSet;
+struct PictureQuery;
 class StoryPage;
 
 // What stands on the viewer's page: a screenful of pictures from a list, and a text that may speak
@@ -21,9 +21,9 @@ public:
     // page is the variable that tells which page is drawn on; it may change between calls.
     explicit PageDisplay(StoryPage* const& page) : page_(page) {}
 
-    // Lists the pictures that the paragraph chooses, and counts them aloud on the page. A filter
-    // that the engine refuses costs the paragraph its pictures only.
-    void FindPictures(RecordSet& paragraph, int most);
+    // Lists the pictures that are meant, and counts them aloud on the page. A filter
+    // that the engine refuses costs the page its pictures only.
+    void FindPictures(const PictureQuery& query, int maximum);
     // Reports in a message box what FindPictures failed with, if it did. Call it when the page is
     // whole: while the box is up the window may be resized, and be drawn anew.
     void TellFailure();

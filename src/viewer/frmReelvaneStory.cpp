@@ -14,9 +14,6 @@
 
 #include <QScopeGuard>
 
-using GeneralModule::FindById;
-using GeneralModule::ParagraphSet;
-
 namespace {
 
 constexpr int mostListed = 30000; // pictures of one paragraph or selection
@@ -50,13 +47,14 @@ void frmReelvane::DisplayEmptyChapter()
 
 void frmReelvane::DisplayParagraph()
 {
-    if (CurrentParagraph == 0 || !FindById(*ParagraphSet, CurrentParagraph))
+    const std::optional<Paragraph> paragraph = ReadParagraph(CurrentParagraph);
+    if (!paragraph)
         return;
-    const QString title = GeneralModule::ChapterTitle(ParagraphSet->Number(u"Chapter"));
+    const QString title = GeneralModule::ChapterTitle(paragraph->chapter);
     if (!title.isEmpty())
         DisplayForm->window()->setWindowTitle(AsWindowTitle(title));
-    display_.Arrange(ParagraphSet->TextOrEmpty(u"Text"));
-    display_.FindPictures(*ParagraphSet, mostListed);
+    display_.Arrange(paragraph->content.text);
+    display_.FindPictures(paragraph->GetQuery(), mostListed);
     GeneralModule::PictureAtRandom = true;
     DisplayImagesFromList(false);
     display_.ShowText();
@@ -85,15 +83,10 @@ void frmReelvane::DisplaySelection()
 
 void frmReelvane::DisplayUndefined(const QString& fileSelection, int maxImages)
 {
-    // The selection is written as a paragraph that is never saved, so that one routine finds the
-    // pictures of both.
-    ParagraphSet->AddNew();
-    const auto cancel = qScopeGuard([] { ParagraphSet->CancelUpdate(); });
-    for (int column = 0; column < 12; ++column)
-        ParagraphSet->Set(QStringLiteral("Car%1").arg(column), ImageSelection);
-    ParagraphSet->Set(u"FileSelection", PatternOfSelection(fileSelection));
+    PictureQuery query{.fileSelection = PatternOfSelection(fileSelection)};
+    query.values.fill(ImageSelection);
     display_.Arrange({});
-    display_.FindPictures(*ParagraphSet, maxImages);
+    display_.FindPictures(query, maxImages);
     DisplayImagesFromList(false);
 }
 

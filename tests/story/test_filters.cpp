@@ -5,7 +5,6 @@
 #include "support/AlbumTest.h"
 
 using namespace GeneralModule;
-using Fields = QMap<QString, QString>;
 
 // A paragraph's filter: as a person changes it value by value, as it is written, what it finds.
 class TestFilters : public AlbumTest
@@ -86,7 +85,8 @@ private slots:
         for (int i = 0; i < 300'000; ++i)
             tokens += QString("value %1").arg(i);
         const QString filter = tokens.join(u';');
-        MakeParagraph({{"Car0", filter}});
+        PictureQuery query;
+        query.values[0] = filter;
         QElapsedTimer timer;
         timer.start();
         QCOMPARE(FilterTokens(filter), tokens);
@@ -94,7 +94,7 @@ private slots:
         QString told;
         PictureList pictures;
         const int error =
-            ErrorOf([&] { BuildPictureList(*ParagraphSet, pictures, 100, [](int) {}); }, &told);
+            ErrorOf([&] { BuildPictureList(query, pictures, 100, [](int) {}); }, &told);
         QCOMPARE(error, 3360);
         QVERIFY2(told.startsWith("The filter is too long") && told.size() < 400, qPrintable(told));
         QVERIFY2(timer.elapsed() < 15000, qPrintable(QString::number(timer.elapsed())));
@@ -105,31 +105,20 @@ private slots:
     {
         for (const char* file : {"1", "3", "4"})
             album_->AddImageRow(file);
-        const std::pair<Fields, QString> rows[] = {
-            {{{"FileSelection", "1; 4"}}, "1 4"},
-            {{{"FileSelection", "*[1;4]*"}}, "1 4"}, // no pattern ends in brackets
-            {{{"FileSelection", "1; 4"}, {"Car0", "Sea"}}, ""}};
-        for (const auto& [fields, listed] : rows) {
-            MakeParagraph(fields);
-            PictureList pictures;
-            BuildPictureList(*ParagraphSet, pictures, 100, [](int) {});
-            QCOMPARE(pictures.GetFiles().join(u' '), listed);
-        }
-        MakeParagraph({{"Car0", "O'Neil"}});
-        PictureList pictures;
-        QVERIFY_THROWS_EXCEPTION(DatabaseError,
-                                 BuildPictureList(*ParagraphSet, pictures, 10, [](int) {}));
+        QCOMPARE(Listed("1; 4"), "1 4");
+        QCOMPARE(Listed("*[1;4]*"), "1 4"); // no pattern ends in brackets
+        QCOMPARE(Listed("1; 4", "Sea"), "");
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, Listed("*", "O'Neil"));
     }
 
 private:
-    // The paragraph on which the set stands afterwards.
-    qint32 MakeParagraph(const Fields& fields)
+    QString Listed(const QString& fileSelection, const QString& filter = anyValue)
     {
-        if (ChapterSet->IsEmpty())
-            album_->AddChapter("One");
-        const qint32 paragraph = album_->AddParagraph(1, "text", fields);
-        FindById(*ParagraphSet, paragraph);
-        return paragraph;
+        PictureQuery query{.fileSelection = fileSelection};
+        query.values[0] = filter;
+        PictureList pictures;
+        BuildPictureList(query, pictures, 100, [](int) {});
+        return pictures.GetFiles().join(u' ');
     }
 };
 
