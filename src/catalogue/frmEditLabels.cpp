@@ -3,10 +3,8 @@
 #include "ui_frmEditLabels.h"
 
 #include "catalogue/CharacteristicModel.h"
-#include "core/Album.h"
 #include "core/EditConflict.h"
 #include "core/Parameters.h"
-#include "platform/data/WriteBatch.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
@@ -45,34 +43,20 @@ QLineEdit* frmEditLabels::txtCar(int column) const
     return findChild<QLineEdit*>(QStringLiteral("txtCar_%1").arg(column));
 }
 
-QString frmEditLabels::Label::Read() const
-{
-    return group >= 0 ? CaractLabel(group) : ColumnLabel(column);
-}
-
-void frmEditLabels::Label::Write() const
-{
-    if (group >= 0)
-        SetCaractLabel(group, box->text());
-    else
-        SetColumnLabel(column, box->text());
-}
-
 void frmEditLabels::Form_Load()
 {
     for (int group = 0; group < groupCount; ++group)
-        Load({.box = txtCaract(group), .loaded = {}, .shown = {}, .group = group});
+        Load(txtCaract(group), CaractParam(group));
     for (const int column : labelledColumns)
-        Load({.box = txtCar(column), .loaded = {}, .shown = {}, .column = column});
+        Load(txtCar(column), CarField(column));
 }
 
 // A label that could not be read is not in the list, and so is never written.
-void frmEditLabels::Load(Label label)
+void frmEditLabels::Load(QLineEdit* box, const QString& parameter)
 {
-    label.loaded = label.Read();
-    label.box->setText(label.loaded);
-    label.shown = label.box->text();
-    labels_.push_back(label);
+    const QString loaded = GetParam(parameter);
+    box->setText(loaded);
+    labels_.push_back({box, parameter, loaded, box->text()});
 }
 
 std::vector<frmEditLabels::Label> frmEditLabels::EditedLabels() const
@@ -86,14 +70,14 @@ std::vector<frmEditLabels::Label> frmEditLabels::EditedLabels() const
 bool frmEditLabels::SettleConflicts(std::vector<Label>& edited)
 {
     const auto conflicts = [](const Label& label) {
-        return IsConflict(label.loaded, label.box->text(), label.Read());
+        return IsConflict(label.loaded, label.box->text(), GetParam(label.parameter));
     };
     QStringList mine;
     QStringList stored;
     for (const Label& label : edited) {
         if (conflicts(label)) {
             mine += label.box->text();
-            stored += label.Read();
+            stored += GetParam(label.parameter);
         }
     }
     if (mine.isEmpty())
@@ -110,11 +94,10 @@ void frmEditLabels::cmdExit_Click()
     std::vector<Label> edited = EditedLabels();
     if (!SettleConflicts(edited))
         return;
-    if (!edited.empty()) {
-        WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
-        for (const Label& label : edited)
-            label.Write();
-        batch.Finish();
-    }
+    QMap<QString, QString> labels;
+    for (const Label& label : edited)
+        labels.insert(label.parameter, label.box->text());
+    if (!labels.isEmpty())
+        SetParams(labels);
     close();
 }

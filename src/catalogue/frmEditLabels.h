@@ -24,17 +24,13 @@ private:
     struct Label
     {
         QLineEdit* box;
-        QString loaded; // as the album held it
-        QString shown;  // the same as the box gives it back
-        int group = -1; // or column
-        int column = -1;
-
-        QString Read() const;
-        void Write() const;
+        QString parameter; // that holds it
+        QString loaded;    // as the album held it
+        QString shown;     // the same as the box gives it back
     };
 
     void Form_Load();
-    void Load(Label label);
+    void Load(QLineEdit* box, const QString& parameter);
     std::vector<Label> EditedLabels() const;
     // Takes away what is to stay as another window made it. False when the user wants to stay.
     bool SettleConflicts(std::vector<Label>& edited);

@@ -4,6 +4,7 @@
 #include "core/Album.h"
 #include "core/Columns.h"
 #include "core/TextRoutines.h"
+#include "platform/data/WriteBatch.h"
 #include "platform/shell/ProgramFolder.h"
 
 #include <algorithm>
@@ -38,6 +39,14 @@ void SetParam(const QString& name, const QString& value)
     ParamsSet->Update();
 }
 
+void SetParams(const QMap<QString, QString>& values)
+{
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    for (auto value = values.begin(); value != values.end(); ++value)
+        SetParam(value.key(), value.value());
+    batch.Finish();
+}
+
 QString ColumnLabel(int column)
 {
     return GetParam(CarField(column));
@@ -50,12 +59,17 @@ void SetColumnLabel(int column, const QString& label)
 
 QString CaractLabel(int group)
 {
-    return GetParam(QStringLiteral("Caract%1").arg(group));
+    return GetParam(CaractParam(group));
+}
+
+QString CaractParam(int group)
+{
+    return QStringLiteral("Caract%1").arg(group);
 }
 
 void SetCaractLabel(int group, const QString& label)
 {
-    SetParam(QStringLiteral("Caract%1").arg(group), label);
+    SetParam(CaractParam(group), label);
 }
 
 qint16 GetTimerDelay()
