@@ -863,13 +863,6 @@ Appuyez sur F1 pour l&apos;aide</translation>
     </message>
 </context>
 <context>
-    <name>SystemInfo</name>
-    <message>
-        <source>System Information Is Unavailable At This Time</source>
-        <translation>Les informations système ne sont pas disponibles pour le moment</translation>
-    </message>
-</context>
-<context>
     <name>ValueEntry</name>
     <message>
         <source>Caracteristics must begin with a letter or a figure</source>
@@ -912,6 +905,10 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source>Version </source>
         <translation>Version </translation>
+    </message>
+    <message>
+        <source>System Information Is Unavailable At This Time</source>
+        <translation>Les informations système ne sont pas disponibles pour le moment</translation>
     </message>
 </context>
 <context>

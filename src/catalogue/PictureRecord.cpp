@@ -5,7 +5,6 @@
 #include "core/EditConflict.h"
 #include "core/TextRoutines.h"
 #include "platform/data/WriteBatch.h"
-#include "platform/dialogs/Dialogs.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -56,18 +55,6 @@ QString DeleteFile(const QString& path)
         return {};
     return QCoreApplication::translate("PictureRecord", "The file '%1' cannot be deleted: %2")
         .arg(QDir::toNativeSeparators(path), file.errorString());
-}
-
-// Why the picture could not be taken out; empty when it is out of the album.
-QString TryToTakeOut(const QString& file, bool deleteFile)
-{
-    // Begun before the file goes: an album that cannot be changed is found out here.
-    WriteBatch batch(AlbumDatabase);
-    const QString trouble = deleteFile ? DeleteFile(file) : QString();
-    if (trouble.isEmpty() && FindPicture(file))
-        ImageSet->Delete();
-    batch.Finish();
-    return trouble;
 }
 
 } // namespace
@@ -137,10 +124,13 @@ PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
     return ReadPictureRecord(file).value_or(saved);
 }
 
-bool TakeOutPicture(const QString& file, bool deleteFile)
+QString TakeOutPicture(const QString& file, bool deleteFile)
 {
-    const QString trouble = TryToTakeOut(file, deleteFile);
-    if (!trouble.isEmpty())
-        Tell(trouble, Dialogs::Icon::Warning);
-    return trouble.isEmpty();
+    // Begun before the file goes: an album that cannot be changed is found out here.
+    WriteBatch batch(AlbumDatabase);
+    const QString trouble = deleteFile ? DeleteFile(file) : QString();
+    if (trouble.isEmpty() && FindPicture(file))
+        ImageSet->Delete();
+    batch.Finish();
+    return trouble;
 }

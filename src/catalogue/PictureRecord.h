@@ -41,7 +41,7 @@ QString DescribeRecord(const PictureRecord& record);
 PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
                                 const PictureRecord& edited);
 
-// Takes the picture out of the album, and deletes its file before when that is wanted. A file that
-// cannot be deleted costs a message and nothing is changed; one that is not there counts as
-// deleted. Returns whether the picture is out of the album. Throws DatabaseError.
-bool TakeOutPicture(const QString& file, bool deleteFile);
+// Takes the picture out of the album, and deletes its file before when that is wanted; one that is
+// not there counts as deleted. Returns why the file cannot be deleted, with nothing changed then;
+// empty when the picture is out of the album. Throws DatabaseError.
+QString TakeOutPicture(const QString& file, bool deleteFile);

@@ -3,46 +3,29 @@
 #include "ui_frmEditImage.h"
 
 #include "catalogue/ColumnTitles.h"
-#include "catalogue/ValueCompletion.h"
+#include "catalogue/ValueBoxes.h"
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "core/Album.h"
+#include "core/EditConflict.h"
 #include "core/Parameters.h"
 #include "core/PictureFile.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/widgets/FormButtons.h"
 #include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/OfferedControl.h"
-#include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QStringListModel>
-#include <QTimer>
-
-#include <algorithm>
 
 using namespace GeneralModule;
 
 namespace {
 
 constexpr QSize proposedSize(1020, 780);
-
-// Of the entry that is the value, else of one that differs from it in letter case only; -1 for
-// none. Faster than the toolkit's own search, which matters with thousands of entries in twelve
-// lists.
-int IndexOf(const QStringList& values, const QString& value)
-{
-    const qsizetype exact = values.indexOf(value);
-    if (exact >= 0)
-        return int(exact);
-    const auto same = std::find_if(values.begin(), values.end(), [&value](const QString& entry) {
-        return entry.compare(value, Qt::CaseInsensitive) == 0;
-    });
-    return same == values.end() ? -1 : int(same - values.begin());
-}
 
 bool IsTyping(const QWidget* focus)
 {
@@ -52,23 +35,12 @@ bool IsTyping(const QWidget* focus)
 } // namespace
 
 frmEditImage::frmEditImage(QWidget* parent)
-    : QDialog(parent),
-      ui_(std::make_unique<Ui::frmEditImage>()),
-      completion_(new ValueCompletion(this))
+    : QDialog(parent), ui_(std::make_unique<Ui::frmEditImage>())
 {
     ui_->setupUi(this);
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
     KeepWindowSize(this, proposedSize);
-    // Twins offer the same values, held once.
-    for (int column = 0; column < columnCount; ++column) {
-        auto* combo = findChild<QComboBox*>(QStringLiteral("cboCategory_%1").arg(column));
-        cboCategory_[std::size_t(column)] = combo;
-        if (LabelledColumnOf(column) == column)
-            combo->setModel(new QStringListModel(this));
-        else
-            combo->setModel(ValuesModel(LabelledColumnOf(column)));
-        combo->lineEdit()->setCompleter(completion_);
-    }
+    boxes_ = new ValueBoxes(this);
     ConnectControls();
     if (IsAlbumReadOnly())
         ShowOnly();
@@ -78,34 +50,23 @@ frmEditImage::~frmEditImage() = default;
 
 void frmEditImage::ConnectControls()
 {
-    ui_->cmdNextImage->setIcon(ThemedIcon(QStringLiteral("next-pictures")));
+    using Form = frmEditImage;
+    ConnectButtons<Form>(this, {
+                                   {ui_->cmdNextImage, "next-pictures", &Form::cmdNextImage_Click},
+                                   {ui_->cmdDelete, "delete", &Form::cmdDelete_Click},
+                                   {ui_->cmdEditTables, "rename", &Form::cmdEditTables_Click},
+                                   {ui_->cmdEditLabels, "", &Form::cmdEditLabels_Click},
+                                   {ui_->cmdExit, "exit", &Form::cmdExit_Click},
+                               });
     ui_->cmdNextImage->setShortcut(Qt::ALT | Qt::Key_N);
-    ui_->cmdDelete->setIcon(ThemedIcon(QStringLiteral("delete")));
-    ui_->cmdEditTables->setIcon(ThemedIcon(QStringLiteral("rename")));
-    ui_->cmdExit->setIcon(ThemedIcon(QStringLiteral("exit")));
-    connect(ui_->cmdNextImage, &QPushButton::clicked, this,
-            Guarded(this, &frmEditImage::cmdNextImage_Click));
-    connect(ui_->cmdDelete, &QPushButton::clicked, this,
-            Guarded(this, &frmEditImage::cmdDelete_Click));
-    connect(ui_->cmdEditTables, &QPushButton::clicked, this,
-            Guarded(this, &frmEditImage::cmdEditTables_Click));
-    connect(ui_->cmdEditLabels, &QPushButton::clicked, this,
-            Guarded(this, &frmEditImage::cmdEditLabels_Click));
-    connect(ui_->cmdExit, &QPushButton::clicked, this, &QDialog::close);
-    for (int column = 0; column < columnCount; ++column) {
-        QComboBox* combo = cboCategory_[std::size_t(column)];
-        connect(combo->lineEdit(), &QLineEdit::textEdited, this,
-                [this, column] { cboCategory_Change(column); });
-        combo->installEventFilter(this);
-    }
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
 }
 
 // What is known of a picture can be read in an album that cannot be changed, too.
 void frmEditImage::ShowOnly()
 {
-    for (QComboBox* combo : cboCategory_)
-        OfferUnless(*combo, false, ReadOnlyReason());
+    for (int column = 0; column < columnCount; ++column)
+        OfferUnless(*boxes_->GetBox(column), false, ReadOnlyReason());
     for (QPushButton* button : {ui_->cmdDelete, ui_->cmdEditTables, ui_->cmdEditLabels})
         OfferUnless(*button, false, ReadOnlyReason());
     ui_->txtLegend->setReadOnly(true);
@@ -124,17 +85,6 @@ void frmEditImage::showEvent(QShowEvent* event)
     RunGuarded([this] { Form_Load(); });
 }
 
-// What is typed takes the place of the value that was there, also after a click: behind a "-"
-// nothing could be typed.
-bool frmEditImage::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::FocusIn) {
-        if (const auto* combo = qobject_cast<QComboBox*>(watched))
-            QTimer::singleShot(0, combo->lineEdit(), &QLineEdit::selectAll);
-    }
-    return QDialog::eventFilter(watched, event);
-}
-
 void frmEditImage::Form_Load()
 {
     DisplayCaracteristicNames();
@@ -151,12 +101,11 @@ QLabel* frmEditImage::LabelOf(const QString& name) const
 // window as it was.
 void frmEditImage::DisplayCaracteristicNames()
 {
-    QHash<int, QStringList> values;
+    std::map<int, QStringList> values;
     for (const int column : labelledColumns)
-        values.insert(column, ValuesOf(column));
+        values[column] = ValuesOf(column);
     DisplayLabels();
-    for (const int column : labelledColumns)
-        ValuesModel(column)->setStringList(values.value(column));
+    boxes_->SetTables(values);
 }
 
 void frmEditImage::DisplayLabels()
@@ -169,7 +118,7 @@ void frmEditImage::DisplayLabels()
         texts.insert(LabelOf(QStringLiteral("lblCar_%1").arg(column)), SharedTitle(column));
     for (int column = 0; column < columnCount; ++column) {
         const QString name = CaractLabel(GroupOf(column)) + QLatin1Char(' ') + ColumnTitle(column);
-        names.insert(cboCategory_[std::size_t(column)], name.trimmed());
+        names.insert(boxes_->GetBox(column), name.trimmed());
     }
     const bool hasLabels = HasColumnLabels();
     for (auto text = texts.cbegin(); text != texts.cend(); ++text)
@@ -183,11 +132,6 @@ void frmEditImage::cmdEditLabels_Click()
 {
     frmEditLabels(this).exec();
     DisplayLabels();
-}
-
-QStringListModel* frmEditImage::ValuesModel(int column) const
-{
-    return static_cast<QStringListModel*>(cboCategory_[std::size_t(column)]->model());
 }
 
 void frmEditImage::ShowPicture(const QString& file)
@@ -214,37 +158,9 @@ void frmEditImage::ShowStored(const PictureRecord& record)
 
 void frmEditImage::ShowRecord(const PictureRecord& record)
 {
-    for (int column = 0; column < columnCount; ++column)
-        SetValue(column, record.values[std::size_t(column)]);
+    boxes_->ShowValues(record.values);
     if (ui_->txtLegend->text() != record.legend)
         ui_->txtLegend->setText(record.legend);
-}
-
-// A value that the table does not offer is shown all the same, with no entry selected, so that
-// nobody takes the picture for one without.
-void frmEditImage::SetValue(int column, const QString& value)
-{
-    QComboBox* combo = cboCategory_[std::size_t(column)];
-    combo->setCurrentIndex(IndexOf(ValuesModel(column)->stringList(), value));
-    combo->setEditText(value);
-}
-
-// In the list of a column, once.
-void frmEditImage::OfferValue(int column, const QString& value)
-{
-    if (IndexOf(ValuesModel(column)->stringList(), value) < 0)
-        cboCategory_[std::size_t(column)]->addItem(value);
-}
-
-void frmEditImage::cboCategory_Change(int column)
-{
-    completion_->SetValues(ValuesModel(column)->stringList());
-    QComboBox* combo = cboCategory_[std::size_t(column)];
-    QString text = combo->currentText();
-    for (QString normal = NormalizedValue(text); normal != text; normal = NormalizedValue(text))
-        text = normal;
-    if (text != combo->currentText())
-        combo->setEditText(text);
 }
 
 void frmEditImage::cmdNextImage_Click()
@@ -272,15 +188,22 @@ void frmEditImage::cmdDelete_Click()
          .icon = Dialogs::Icon::Question,
          .buttons = Dialogs::Buttons::YesNoCancel,
          .defaultAnswer = Dialogs::Answer::Cancel});
-    if (answer == Dialogs::Answer::Cancel ||
-        !TakeOutPicture(CurrentImage, answer == Dialogs::Answer::Yes))
+    if (answer == Dialogs::Answer::Cancel)
         return;
+    const QString trouble = TakeOutPicture(CurrentImage, answer == Dialogs::Answer::Yes);
+    if (!trouble.isEmpty())
+        return Tell(trouble, Dialogs::Icon::Warning);
     TakenOut.append(CurrentImage);
     CurrentImage.clear();
     if (IsSinglePicture)
         close();
     else
         GoToNextPicture();
+}
+
+void frmEditImage::cmdExit_Click()
+{
+    close();
 }
 
 // Saved first, so that a value just typed stands in its table, and a replacement reaches it.
@@ -295,7 +218,7 @@ void frmEditImage::cmdEditTables_Click()
 
 bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
 {
-    if (completion_->UseKey(key))
+    if (boxes_->UseKey(key))
         return true;
     const bool isPlain = !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     const bool isTyping = IsTyping(focusWidget());
@@ -308,4 +231,73 @@ bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
         return false;
     close();
     return true;
+}
+
+PictureRecord frmEditImage::ControlValues() const
+{
+    return {ui_->txtLegend->text(), boxes_->GetValues()};
+}
+
+// What nobody has touched is as it was shown, whatever a control of one line makes of it.
+PictureRecord frmEditImage::GetRecord() const
+{
+    return MergeRecord(controls_, ControlValues(), shown_, true);
+}
+
+// False when the user wants to stay.
+bool frmEditImage::SettleConflict()
+{
+    const PictureRecord edited = GetRecord();
+    if (edited == shown_)
+        return true;
+    const PictureRecord stored = ReadPictureRecord(CurrentImage).value_or(shown_);
+    if (!HasConflict(shown_, edited, stored))
+        return true;
+    const ConflictChoice choice =
+        AskAboutConflict(tr("This picture"), DescribeRecord(edited), DescribeRecord(stored));
+    if (choice == ConflictChoice::Stay)
+        return false;
+    const PictureRecord merged =
+        MergeRecord(shown_, edited, stored, choice == ConflictChoice::KeepMine);
+    ShowStored(stored);
+    ShowRecord(merged);
+    return true;
+}
+
+bool frmEditImage::SavePicture()
+{
+    if (CurrentImage.isEmpty() || !isKnown_)
+        return true;
+    if (!SettleConflict())
+        return false;
+    const PictureRecord saved = SavePictureRecord(CurrentImage, shown_, GetRecord());
+    for (int column = 0; column < columnCount; ++column) {
+        const QString& value = saved.values[std::size_t(column)];
+        if (value != shown_.values[std::size_t(column)])
+            boxes_->Offer(column, value);
+    }
+    ShowStored(saved);
+    return true;
+}
+
+// Every way out leads through here.
+void frmEditImage::reject()
+{
+    if (SaveBeforeLeaving())
+        QDialog::reject();
+}
+
+bool frmEditImage::SaveBeforeLeaving()
+{
+    try {
+        return SavePicture();
+    } catch (const DatabaseError& error) {
+        const Dialogs::Answer answer = Dialogs::Door().Ask(
+            {.text = error.GetDescription() + QLatin1Char('\n') +
+                     tr("The picture could not be saved. Leave without saving ?"),
+             .icon = Dialogs::Icon::Warning,
+             .buttons = Dialogs::Buttons::YesNo,
+             .defaultAnswer = Dialogs::Answer::No});
+        return answer == Dialogs::Answer::Yes;
+    }
 }

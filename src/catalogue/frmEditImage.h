@@ -10,11 +10,9 @@
 #include <functional>
 #include <memory>
 
-class QComboBox;
 class QKeyEvent;
 class QLabel;
-class QStringListModel;
-class ValueCompletion;
+class ValueBoxes;
 
 namespace Ui {
 class frmEditImage;
@@ -46,23 +44,21 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Form_Load();
     bool Form_KeyDown(const QKeyEvent& key);
-    void cboCategory_Change(int column);
     void cmdNextImage_Click();
     void cmdDelete_Click();
     void cmdEditTables_Click();
     void cmdEditLabels_Click();
+    void cmdExit_Click();
 
     void ConnectControls();
     void ShowOnly();
     void DisplayCaracteristicNames();
     void DisplayLabels();
     void ShowPicture(const QString& file);
-    void OfferValue(int column, const QString& value);
     void ShowStored(const PictureRecord& record);
     void ShowRecord(const PictureRecord& record);
     PictureRecord ControlValues() const;
@@ -72,13 +68,10 @@ private:
     bool SavePicture();
     void GoToNextPicture();
     bool SaveBeforeLeaving();
-    void SetValue(int column, const QString& value);
-    QStringListModel* ValuesModel(int column) const;
     QLabel* LabelOf(const QString& name) const;
 
     std::unique_ptr<Ui::frmEditImage> ui_;
-    std::array<QComboBox*, columnCount> cboCategory_{};
-    ValueCompletion* completion_;
+    ValueBoxes* boxes_;
     PictureRecord controls_; // shown_ as the controls give it back
     PictureRecord shown_;    // as the album holds it
     bool isKnown_ = false;   // the album holds the picture

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/shell/SystemInfo.h"
 
-#include "platform/dialogs/Dialogs.h"
-
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -79,13 +76,10 @@ bool GetKeyValue(RegistryRoot, const QString& keyName, const QString& valueName,
     return true;
 }
 
-void StartSysInfo()
+bool StartSysInfo()
 {
     std::optional<Command> command = CommandFromRegistry();
     if (!command)
         command = CommandOfDesktop();
-    if (!command || !QProcess::startDetached(command->program, command->arguments))
-        Tell(QCoreApplication::translate("SystemInfo",
-                                         "System Information Is Unavailable At This Time"),
-             Dialogs::Icon::Warning);
+    return command && QProcess::startDetached(command->program, command->arguments);
 }

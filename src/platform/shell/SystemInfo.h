@@ -14,5 +14,5 @@ bool GetKeyValue(RegistryRoot root, const QString& keyName, const QString& value
                  QString& value);
 
 // Starts the program that tells about this computer, as a process of its own: the one that the
-// registry names, or else the desktop's. When there is none, says so in a message box.
-void StartSysInfo();
+// registry names, or else the desktop's. False when there is none.
+bool StartSysInfo();

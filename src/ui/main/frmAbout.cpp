@@ -2,6 +2,7 @@
 #include "ui/main/frmAbout.h"
 #include "ui_frmAbout.h"
 
+#include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/shell/SystemInfo.h"
 #include "platform/widgets/ThemedIcon.h"
@@ -10,11 +11,18 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::
 {
     ui_->setupUi(this);
     connect(ui_->cmdOK, &QPushButton::clicked, this, &frmAbout::close);
-    connect(ui_->cmdSysInfo, &QPushButton::clicked, this, [] { RunGuarded(StartSysInfo); });
+    connect(ui_->cmdSysInfo, &QPushButton::clicked, this,
+            Guarded(this, &frmAbout::cmdSysInfo_Click));
     Form_Load();
 }
 
 frmAbout::~frmAbout() = default;
+
+void frmAbout::cmdSysInfo_Click()
+{
+    if (!StartSysInfo())
+        Tell(tr("System Information Is Unavailable At This Time"), Dialogs::Icon::Warning);
+}
 
 void frmAbout::Form_Load()
 {

@@ -20,6 +20,7 @@ public:
 
 private:
     void Form_Load();
+    void cmdSysInfo_Click();
 
     std::unique_ptr<Ui::frmAbout> ui_;
 };
