@@ -759,6 +759,39 @@ Appuyez sur F1 pour l&apos;aide</translation>
     </message>
 </context>
 <context>
+    <name>ParagraphEdit</name>
+    <message>
+        <source>This paragraph</source>
+        <translation>Ce paragraphe</translation>
+    </message>
+    <message>
+        <source>The paragraph cannot be saved: %1
+
+Leave without saving?</source>
+        <translation>Le paragraphe ne peut pas être enregistré : %1
+
+Quitter sans enregistrer ?</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to DELETE current paragraph ?</source>
+        <translation>Voulez-vous vraiment SUPPRIMER ce paragraphe ?</translation>
+    </message>
+    <message>
+        <source>This paragraph was changed in another window after it was opened here.
+
+The other version:
+%1
+
+Delete it all the same?</source>
+        <translation>Ce paragraphe a été modifié dans une autre fenêtre après son ouverture ici.
+
+L&apos;autre version :
+%1
+
+Le supprimer quand même ?</translation>
+    </message>
+</context>
+<context>
     <name>ParagraphMoves</name>
     <message>
         <source>&lt;&lt;Empty Paragraph&gt;&gt;</source>
@@ -1221,36 +1254,6 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source>Edit Paragraph from Chapter &apos;</source>
         <translation>Modifier un paragraphe du chapitre &apos;</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to DELETE current paragraph ?</source>
-        <translation>Voulez-vous vraiment SUPPRIMER ce paragraphe ?</translation>
-    </message>
-    <message>
-        <source>The paragraph cannot be saved: %1
-
-Leave without saving?</source>
-        <translation>Le paragraphe ne peut pas être enregistré : %1
-
-Quitter sans enregistrer ?</translation>
-    </message>
-    <message>
-        <source>This paragraph</source>
-        <translation>Ce paragraphe</translation>
-    </message>
-    <message>
-        <source>This paragraph was changed in another window after it was opened here.
-
-The other version:
-%1
-
-Delete it all the same?</source>
-        <translation>Ce paragraphe a été modifié dans une autre fenêtre après son ouverture ici.
-
-L&apos;autre version :
-%1
-
-Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>

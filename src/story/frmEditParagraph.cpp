@@ -5,13 +5,12 @@
 #include "catalogue/frmEditImage.h"
 #include "catalogue/frmEditLabels.h"
 #include "core/ChapterChain.h"
-#include "core/EditConflict.h"
-#include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/FormButtons.h"
 #include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/LiteralText.h"
 #include "platform/widgets/WindowSize.h"
+#include "story/MarkerInsertion.h"
 #include "story/ParagraphPreview.h"
 #include "story/frmOrganizeParagraphs.h"
 
@@ -23,15 +22,14 @@ namespace {
 
 constexpr QSize proposedSize(1120, 780);
 
-bool IsChoosingKey(int key)
-{
-    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 } // namespace
 
 frmEditParagraph::frmEditParagraph(QWidget* parent)
-    : QDialog(parent), ui_(std::make_unique<Ui::frmEditParagraph>())
+    : QDialog(parent),
+      ui_(std::make_unique<Ui::frmEditParagraph>()),
+      edit_({[this] { return GetContent(); },
+             [this](const ParagraphContent& content) { SetContent(content); },
+             [this](const ParagraphContent& content) { return Describe(content); }})
 {
     ui_->setupUi(this);
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
@@ -41,13 +39,14 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
     preview_ = new ParagraphPreview({ui_->stage, ui_->lblNoPicture, ui_->chkLinkedImage,
                                      ui_->txtParagraphPreview, ui_->lblFeedback},
                                     this);
+    insertion_ = new MarkerInsertion(
+        {ui_->txtParagraph, ui_->lstInsertCar, ui_->cmdInsertCar, ui_->cmdCancelInsert}, this);
     KeepWindowSize(this, proposedSize);
     ConnectControls();
     // Both columns begin at one height, with and without drawings on their buttons.
     for (QWidget* heading :
          std::initializer_list<QWidget*>{ui_->lblText, ui_->cmdInsertCar, ui_->cmdCancelInsert})
         heading->setMinimumHeight(ui_->cmdPreview->sizeHint().height());
-    ShowInsertList(false);
     SetPreviewMode(false);
 }
 
@@ -72,8 +71,6 @@ void frmEditParagraph::ConnectControls()
             {ui_->cmdPreview, "preview", &Form::cmdPreview_Click},
             {ui_->cmdNextImage, "next-pictures", &Form::cmdNextImage_Click},
         });
-    connect(ui_->lstInsertCar, &QListWidget::itemClicked, this,
-            Guarded(this, &frmEditParagraph::lstInsertCar_Click));
     connect(preview_, &ParagraphPreview::PicturePressed, this,
             Guarded(this, &frmEditParagraph::imgImage_MouseDown));
     connect(ui_->filterPanel, &FilterPanel::ValuesChanged, this,
@@ -92,17 +89,10 @@ bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
     const bool isShortcut = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     const bool isLetter =
         key.key() == Qt::Key_Q && !isShortcut && focusWidget() != ui_->txtParagraph;
-    const bool isInList = focusWidget() == ui_->lstInsertCar;
-    if (key.key() == Qt::Key_Escape && isInList) {
-        cmdCancelInsert_Click();
+    if (insertion_->UseKey(key))
         return true;
-    }
     if (key.key() == Qt::Key_Escape || (isLetter && !key.isAutoRepeat())) {
         cmdExit_Click();
-        return true;
-    }
-    if (isInList && IsChoosingKey(key.key())) {
-        lstInsertCar_Click();
         return true;
     }
     return false;
@@ -149,20 +139,14 @@ void frmEditParagraph::FillFromAlbum()
     ui_->filterPanel->ShowLabels();
     setWindowTitle(
         AsWindowTitle(tr("Edit Paragraph from Chapter '") + chapter + QLatin1Char('\'')));
-    markers_ = std::move(markers);
-    ShowContent(content);
-}
-
-void frmEditParagraph::ShowContent(const ParagraphContent& content)
-{
-    SetControls(content);
-    edit_.Load(content, GetContent());
+    insertion_->SetMarkers(std::move(markers));
+    edit_.Load(content);
 }
 
 // The text box keeps caret and history where it holds the text already.
-void frmEditParagraph::SetControls(const ParagraphContent& content)
+void frmEditParagraph::SetContent(const ParagraphContent& content)
 {
-    const QString text = ToDisplayMarkers(content.text, markers_);
+    const QString text = ToDisplayMarkers(content.text, insertion_->GetMarkers());
     if (!edit_.IsLoaded() || ui_->txtParagraph->GetText() != text)
         ui_->txtParagraph->SetText(text);
     if (!edit_.IsLoaded() || ui_->filterPanel->GetValues() != content.values)
@@ -226,14 +210,14 @@ void frmEditParagraph::cmdEndOfChapter_Click()
 // Where there is no further paragraph, caret and preview stay as they are.
 void frmEditParagraph::StepTo(ChainStep step, const QPushButton* button)
 {
-    if (!SettleConflict())
+    if (!edit_.SettleConflict(CurrentParagraph))
         return;
     ParagraphPlace place = GetPlace();
-    SaveAndStep(place, GetDraft(), step);
+    SaveAndStep(place, edit_.GetDraft(), step);
     if (place != GetPlace())
         GoTo(place);
     else
-        ShowSaved();
+        edit_.ShowSaved(CurrentParagraph);
     // Who came by mouse goes on writing; a button that was pressed by a key has the focus.
     if (!isPreview_ && focusWidget() != button)
         ui_->txtParagraph->setFocus();
@@ -241,21 +225,21 @@ void frmEditParagraph::StepTo(ChainStep step, const QPushButton* button)
 
 void frmEditParagraph::cmdCreateNext_Click()
 {
-    if (!SettleConflict())
+    if (!edit_.SettleConflict(CurrentParagraph))
         return;
     ParagraphPlace place = GetPlace();
-    const ParagraphContent created = CreateNextParagraph(place, GetDraft());
+    const ParagraphContent created = CreateNextParagraph(place, edit_.GetDraft());
     // Not read back: it links to its neighbours once it is saved, so nobody may lose sight of it.
     CurrentParagraph = place.paragraph;
     edit_.Unload();
-    ShowContent(created);
+    edit_.Load(created);
     ClearPreview();
     ui_->txtParagraph->setFocus();
 }
 
 void frmEditParagraph::cmdDelete_Click()
 {
-    if (!ConfirmDeletion())
+    if (!edit_.ConfirmDeletion(CurrentParagraph))
         return;
     ParagraphPlace place = GetPlace();
     DeleteParagraph(place);
@@ -295,126 +279,39 @@ void frmEditParagraph::cmdExit_Click()
     reject();
 }
 
-void frmEditParagraph::ShowInsertList(bool shown)
-{
-    ui_->lstInsertCar->setVisible(shown);
-    ui_->cmdCancelInsert->setVisible(shown);
-    ui_->cmdInsertCar->setVisible(!shown);
-    ui_->cmdInsertCar->setEnabled(!isPreview_);
-}
-
 void frmEditParagraph::cmdInsertCar_Click()
 {
-    ui_->lstInsertCar->clear();
-    for (const TextMarker& marker : markers_)
-        ui_->lstInsertCar->addItem(marker.title);
-    ShowInsertList(true);
-    ui_->lstInsertCar->setCurrentRow(0);
-    ui_->lstInsertCar->setFocus();
+    insertion_->Begin();
 }
 
 void frmEditParagraph::cmdCancelInsert_Click()
 {
-    ShowInsertList(false);
-    ui_->txtParagraph->setFocus();
-}
-
-void frmEditParagraph::lstInsertCar_Click()
-{
-    const int row = ui_->lstInsertCar->currentRow();
-    if (row < 0 || std::size_t(row) >= markers_.size())
-        return;
-    ui_->txtParagraph->Insert(markers_[std::size_t(row)].display);
-    cmdCancelInsert_Click();
+    insertion_->Cancel();
 }
 
 ParagraphContent frmEditParagraph::GetContent() const
 {
-    return {ToStoredMarkers(ui_->txtParagraph->GetText(), markers_), ui_->filterPanel->GetValues()};
+    return {ToStoredMarkers(ui_->txtParagraph->GetText(), insertion_->GetMarkers()),
+            ui_->filterPanel->GetValues()};
 }
 
 // As the text box shows it.
 QString frmEditParagraph::Describe(const ParagraphContent& content) const
 {
-    return DescribeContent({ToDisplayMarkers(content.text, markers_), content.values});
-}
-
-ParagraphDraft frmEditParagraph::GetDraft() const
-{
-    return edit_.GetDraft(GetContent());
+    return DescribeContent(
+        {ToDisplayMarkers(content.text, insertion_->GetMarkers()), content.values});
 }
 
 bool frmEditParagraph::SaveParagraph()
 {
-    if (!edit_.IsLoaded() || CurrentParagraph <= 0)
-        return true;
-    if (!SettleConflict())
-        return false;
-    ::SaveParagraph(GetPlace(), GetDraft());
-    ShowSaved();
-    return true;
-}
-
-bool frmEditParagraph::SettleConflict()
-{
-    const ParagraphDraft draft = GetDraft();
-    const std::optional<ParagraphContent> stored = edit_.FindConflict(CurrentParagraph, draft);
-    if (!stored)
-        return true;
-    using GeneralModule::ConflictChoice;
-    const ConflictChoice choice = GeneralModule::AskAboutConflict(
-        tr("This paragraph"), Describe(draft.edited), Describe(*stored));
-    if (choice == ConflictChoice::Stay)
-        return false;
-    const ParagraphContent merged = MergeDraft(draft, *stored, choice == ConflictChoice::KeepMine);
-    ShowContent(*stored);
-    SetControls(merged);
-    return true;
-}
-
-void frmEditParagraph::ShowSaved()
-{
-    const ParagraphContent edited = GetContent();
-    const ParagraphContent saved = edit_.TakeSaved(CurrentParagraph, edited);
-    if (edited != saved)
-        SetControls(saved);
-    edit_.SetShown(GetContent());
-}
-
-bool frmEditParagraph::ConfirmDeletion()
-{
-    const auto ask = [](const QString& question, Dialogs::Icon icon) {
-        return Dialogs::Door().Ask({question, icon, Dialogs::Buttons::OkCancel}) ==
-               Dialogs::Answer::Ok;
-    };
-    if (!ask(tr("Are you sure you want to DELETE current paragraph ?"), Dialogs::Icon::Question))
-        return false;
-    const ParagraphContent stored = LoadParagraph(CurrentParagraph);
-    return edit_.IsUnchanged(stored) ||
-           ask(tr("This paragraph was changed in another window after it was opened here.\n\n"
-                  "The other version:\n%1\n\nDelete it all the same?")
-                   .arg(Describe(stored)),
-               Dialogs::Icon::Warning);
+    return edit_.Save(GetPlace());
 }
 
 // However the window is left, by its frame too.
 void frmEditParagraph::reject()
 {
-    if (SaveOrGiveUp())
+    if (edit_.SaveOrGiveUp(GetPlace()))
         QDialog::reject();
-}
-
-// What cannot be saved is not thrown away without asking.
-bool frmEditParagraph::SaveOrGiveUp()
-{
-    try {
-        return SaveParagraph();
-    } catch (const std::exception& error) {
-        return Dialogs::Door().Ask({tr("The paragraph cannot be saved: %1\n\nLeave without saving?")
-                                        .arg(QString::fromUtf8(error.what())),
-                                    Dialogs::Icon::Warning, Dialogs::Buttons::YesNo,
-                                    Dialogs::Answer::No}) == Dialogs::Answer::Yes;
-    }
 }
 
 void frmEditParagraph::SetPreviewMode(bool isPreview)
@@ -425,7 +322,8 @@ void frmEditParagraph::SetPreviewMode(bool isPreview)
     ui_->txtParagraphPreview->setVisible(isPreview);
     ui_->cmdNextImage->setVisible(isPreview);
     ui_->lblFeedback->setVisible(isPreview);
-    ShowInsertList(false);
+    ui_->cmdInsertCar->setEnabled(!isPreview);
+    insertion_->Hide();
 }
 
 void frmEditParagraph::ClearPreview()
@@ -436,7 +334,7 @@ void frmEditParagraph::ClearPreview()
 
 void frmEditParagraph::cmdPreview_Click()
 {
-    if (!SettleConflict())
+    if (!edit_.SettleConflict(CurrentParagraph))
         return;
     SetPreviewMode(true);
     ui_->cmdNextImage->setFocus();

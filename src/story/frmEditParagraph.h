@@ -2,14 +2,13 @@
 #pragma once
 
 #include "story/ParagraphEdit.h"
-#include "story/ParagraphMarkers.h"
 
 #include <QDialog>
 
 #include <functional>
 #include <memory>
-#include <vector>
 
+class MarkerInsertion;
 class ParagraphPreview;
 class QKeyEvent;
 
@@ -50,19 +49,12 @@ private:
     void GoTo(const ParagraphPlace& place);
     void GoToOrLeave(const std::function<ParagraphPlace()>& findPlace);
     void LeaveUnsaved();
-    void ShowContent(const ParagraphContent& content);
-    void SetControls(const ParagraphContent& content);
+    void SetContent(const ParagraphContent& content);
     void ClearPreview();
     ParagraphContent GetContent() const;
     QString Describe(const ParagraphContent& content) const;
-    ParagraphDraft GetDraft() const;
-    // False when another window has changed the same and the user wants to stay; then nothing is
-    // saved, and whatever the save was to be for must not happen.
+    // False when the user wants to stay; then whatever the save was to be for must not happen.
     bool SaveParagraph();
-    bool SettleConflict();
-    void ShowSaved();
-    bool ConfirmDeletion();
-    bool SaveOrGiveUp();
 
     void cmdFirstParagraph_Click();
     void cmdPreviousParagraph_Click();
@@ -76,8 +68,6 @@ private:
 
     void cmdInsertCar_Click();
     void cmdCancelInsert_Click();
-    void lstInsertCar_Click();
-    void ShowInsertList(bool shown);
 
     void SetPreviewMode(bool isPreview);
     void cmdPreview_Click();
@@ -92,7 +82,7 @@ private:
 
     std::unique_ptr<Ui::frmEditParagraph> ui_;
     ParagraphPreview* preview_;
-    std::vector<TextMarker> markers_;
+    MarkerInsertion* insertion_;
     ParagraphEdit edit_; // loaded while the controls hold CurrentParagraph
     bool isPreview_ = false;
 };
