@@ -729,14 +729,27 @@ Appuyez sur F1 pour l&apos;aide</translation>
     </message>
 </context>
 <context>
-    <name>PageDisplay</name>
+    <name>PageContent</name>
     <message>
-        <source> images found</source>
-        <translation> photos trouvées</translation>
+        <source>Click HERE to create first paragraph of the new chapter &apos;%1&apos;</source>
+        <translation>Cliquez ICI pour créer le premier paragraphe du nouveau chapitre &apos;%1&apos;</translation>
     </message>
-    <message>
-        <source> images left</source>
-        <translation> photos restantes</translation>
+</context>
+<context>
+    <name>PageDisplay</name>
+    <message numerus="yes">
+        <source>%n images found</source>
+        <translation>
+            <numerusform>%n photo trouvée</numerusform>
+            <numerusform>%n photos trouvées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n images left</source>
+        <translation>
+            <numerusform>%n photo restante</numerusform>
+            <numerusform>%n photos restantes</numerusform>
+        </translation>
     </message>
     <message>
         <source>The picture files are missing.</source>
@@ -893,6 +906,25 @@ Le supprimer quand même ?</translation>
     <message>
         <source>A story is on show</source>
         <translation>Une histoire est à l&apos;écran</translation>
+    </message>
+</context>
+<context>
+    <name>StoryReader</name>
+    <message>
+        <source>Click to index picture</source>
+        <translation>Cliquez pour indexer la photo</translation>
+    </message>
+    <message>
+        <source>Click to edit image</source>
+        <translation>Cliquez pour modifier la photo</translation>
+    </message>
+    <message>
+        <source>Timer On</source>
+        <translation>Minuterie en marche</translation>
+    </message>
+    <message>
+        <source>Timer Off</source>
+        <translation>Minuterie arrêtée</translation>
     </message>
 </context>
 <context>
@@ -1850,32 +1882,12 @@ Le supprimer quand même ?</translation>
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>Timer On</source>
-        <translation>Minuterie en marche</translation>
-    </message>
-    <message>
-        <source>Timer Off</source>
-        <translation>Minuterie arrêtée</translation>
-    </message>
-    <message>
         <source>Stop Autoview</source>
         <translation>Arrêter</translation>
     </message>
     <message>
         <source>Click to stop autoview</source>
         <translation>Cliquez pour arrêter le défilement automatique</translation>
-    </message>
-    <message>
-        <source>Click HERE to create first paragraph of the new chapter &apos;</source>
-        <translation>Cliquez ICI pour créer le premier paragraphe du nouveau chapitre &apos;</translation>
-    </message>
-    <message>
-        <source>Click to index picture</source>
-        <translation>Cliquez pour indexer la photo</translation>
-    </message>
-    <message>
-        <source>Click to edit image</source>
-        <translation>Cliquez pour modifier la photo</translation>
     </message>
 </context>
 <context>

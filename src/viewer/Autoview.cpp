@@ -2,9 +2,9 @@
 #include "viewer/Autoview.h"
 
 #include "core/Parameters.h"
-#include "core/ViewerFlags.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
+#include "viewer/ViewerFlags.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -22,8 +22,8 @@ constexpr double millisecondsPerSecond = 1000;
 constexpr qint16 usualDelay = 10000; // milliseconds
 constexpr qint16 longestDelay = std::numeric_limits<qint16>::max();
 
-// How long to wait after a step that took that long. The work counts into the delay, so that steps
-// keep their pace; but what was shown late still stays for half of it.
+// How long to wait after a step that took that long; both in milliseconds. The work is part of the
+// delay, so that steps keep their pace, but what was shown late still stays for half of it.
 int RestOfDelay(int delay, qint64 worked)
 {
     return int(std::max<qint64>(delay - worked, delay / 2));

@@ -9,12 +9,12 @@
 
 #include <functional>
 
-// The delay that an answer in seconds means, in whole milliseconds: 10 seconds for what is no
-// positive number, at least 1 millisecond, at most what the album's parameter holds. The decimal
-// sign may be a point or a comma, and a unit may follow.
+// The delay that an answer in seconds means, in whole milliseconds: 10 seconds for anything but a
+// positive number, at least 1 millisecond, at most what the album's parameter can hold. The decimal
+// separator may be a dot or a comma, and a unit may follow.
 qint16 DelayFromAnswer(const QString& answer);
 
-// What to propose for the delay: the stored one, else 10; in seconds.
+// The delay to propose, in seconds: the stored one, else 10.
 QString ProposedDelay();
 
 // Steps through the story by itself, at a delay that the user chooses. Whether it runs is kept in
@@ -24,18 +24,18 @@ class Autoview : public QObject
     Q_OBJECT
 
 public:
-    // step shows what comes next; isInFront tells whether the user sees it, for nothing moves on
-    // behind another window or a message box.
+    // step shows what comes next. It is not called while isInFront says that another window or a
+    // message box covers the page.
     Autoview(std::function<void()> step, std::function<bool()> isInFront, QObject* parent);
 
-    // Off when it is on; else asks for the delay, stores it, and begins. False when the user gave
-    // up, and nothing has changed.
+    // Switches off when it is on; else asks for the delay, stores it, and begins. False when the
+    // user cancelled, and nothing has changed.
     bool Switch();
-    // Off, without a word: the viewer closes.
+    // Switches off without a message, for when the viewer closes.
     void End();
 
-    // The timer stands still while the result lives, and then begins a whole delay anew. Pauses may
-    // lie inside each other.
+    // The timer is stopped while the result lives, and then starts with a whole delay. Pauses may
+    // be nested.
     [[nodiscard]] auto Pause()
     {
         BeginPause();

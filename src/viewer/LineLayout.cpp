@@ -41,7 +41,7 @@ UnitSize FitPicture(UnitSize natural, float maxHeight, float maxWidth)
 }
 
 LineLayout::LineLayout(int lines, float bandHeight, float totalWidth)
-    : lines_(std::clamp(lines, 0, mostLines)),
+    : lines_(std::clamp(lines, 0, maxLines)),
       bandHeight_(bandHeight),
       totalWidth_(totalWidth),
       lineHeight_(lines_ > 0 ? bandHeight / float(lines_) : bandHeight)

@@ -22,23 +22,23 @@ struct UnitRect
     float height;
 };
 
-// A picture of that natural size brought into the given room with its proportions kept: made
-// smaller where it must be, never larger.
+// The size of a picture in the given room: its proportions are kept, and it is made smaller where
+// necessary, never larger.
 UnitSize FitPicture(UnitSize natural, float maxHeight, float maxWidth);
 
 // Fills one screen, picture by picture.
 class LineLayout
 {
 public:
-    // From 0 lines (one picture alone, centred both ways) to mostLines, in a band of that height at
+    // From 0 lines (one picture alone, centred both ways) to maxLines, in a band of that height at
     // the top of the drawing area.
     LineLayout(int lines, float bandHeight, float totalWidth = 100);
 
-    static constexpr int mostLines = 10;
+    static constexpr int maxLines = 10;
 
     // Puts a picture on the first line from the top that has room for it, to the right of the
     // pictures there and touching them; the pictures of a line share their bottom edge. None when
-    // no line has room, or when one picture was to stand alone and does.
+    // no line has room, or when the one picture that stands alone is placed.
     std::optional<UnitRect> Place(UnitSize natural);
 
 private:
@@ -55,7 +55,7 @@ private:
     float totalWidth_;
     float lineHeight_;
     bool isEmpty_ = true;
-    std::array<Line, mostLines> table_;
+    std::array<Line, maxLines> table_;
 };
 
 // Moves the pictures of each line sideways together, so that the line stands in the middle.

@@ -2,30 +2,35 @@
 #include "viewer/PageDisplay.h"
 
 #include "core/PathRoutines.h"
-#include "platform/data/DatabaseError.h"
 #include "platform/dialogs/Guard.h"
-#include "platform/widgets/BusyPointer.h"
 #include "story/ParagraphMarkers.h"
-#include "story/PictureFilter.h"
-#include "viewer/StoryPage.h"
+#include "viewer/StorySurface.h"
+#include "viewer/ViewerFlags.h"
 
 #include <QCoreApplication>
 
 #include <utility>
 
-void PageDisplay::FindPictures(const PictureQuery& query, int maximum)
+void PageDisplay::Begin(const PageText& page)
 {
-    const BusyPointer busy;
     displayed_.clear();
     list_.Clear();
-    try {
-        BuildPictureList(query, list_, maximum, [this](int count) {
-            page_->ShowFeedback(QString::number(count) +
-                                QCoreApplication::translate("PageDisplay", " images found"));
-        });
-    } catch (const DatabaseError&) {
-        failure_ = std::current_exception();
-    }
+    text_ = page.text;
+    if (!page.title.isEmpty())
+        surface_->SetTitle(page.title);
+    surface_->Arrange(page.arrangedFor);
+}
+
+void PageDisplay::ShowCountFound(int count)
+{
+    surface_->ShowFeedback(
+        QCoreApplication::translate("PageDisplay", "%n images found", nullptr, count));
+}
+
+void PageDisplay::SetFound(FoundPictures found)
+{
+    list_ = std::move(found.list);
+    failure_ = found.failure;
     hasFound_ = list_.Count() > 0;
 }
 
@@ -35,19 +40,32 @@ void PageDisplay::TellFailure()
         RunGuarded([&failure] { std::rethrow_exception(failure); });
 }
 
-void PageDisplay::ShowScreen(int lines, bool isAgain)
+Screenful PageDisplay::NextScreen(int lines) const
 {
-    const BusyPointer busy;
-    if (isAgain) {
-        QStringList files;
-        for (const ShownPicture& picture : displayed_)
-            files += picture.file;
-        list_.PutBack(files);
-    }
-    const ScreenShape shape = page_->GetShape(lines);
-    displayed_ = FillScreen(list_, shape);
-    page_->ShowPictures(displayed_, DecodePictures(displayed_, shape.pixelRatio));
-    page_->SetNotice(Notice());
+    return PrepareScreen(list_, surface_->GetShape(lines), GeneralModule::PictureAtRandom);
+}
+
+void PageDisplay::ShowNextScreen(int lines)
+{
+    const auto work = surface_->BeginWork();
+    Show(NextScreen(lines));
+}
+
+void PageDisplay::ShowScreenAgain(int lines)
+{
+    QStringList files;
+    for (const ShownPicture& picture : displayed_)
+        files += picture.file;
+    list_.PutBack(files);
+    ShowNextScreen(lines);
+}
+
+void PageDisplay::Show(Screenful screen)
+{
+    list_ = std::move(screen.rest);
+    displayed_ = std::move(screen.pictures);
+    surface_->ShowPictures(displayed_, std::move(screen.images));
+    surface_->SetNotice(Notice());
 }
 
 // Why the screen holds no pictures; empty when it does.
@@ -59,31 +77,25 @@ QString PageDisplay::Notice() const
                      : QCoreApplication::translate("PageDisplay", "No picture fits.");
 }
 
-void PageDisplay::Arrange(const QString& text)
-{
-    text_ = text;
-    page_->Arrange(text);
-}
-
 void PageDisplay::ShowText()
 {
-    page_->SetLegend(FillPictureMarkers(text_, GetLastDisplayed()));
+    surface_->SetLegend(FillPictureMarkers(text_, GetLastDisplayed()));
 }
 
 void PageDisplay::ShowCountLeft()
 {
-    page_->SetLegend(QString::number(list_.Count()) +
-                     QCoreApplication::translate("PageDisplay", " images left"));
+    surface_->SetLegend(
+        QCoreApplication::translate("PageDisplay", "%n images left", nullptr, list_.Count()));
 }
 
-void PageDisplay::ShowLarge(const ShownPicture& picture, bool hasText)
+void PageDisplay::ShowAlone(const ShownPicture& picture, bool hasText)
 {
-    const ScreenShape shape = page_->GetShape(0);
+    const ScreenShape shape = surface_->GetShape(0);
     const ShownPicture large{picture.file, picture.path, PlaceOfSinglePicture(picture.path, shape)};
-    page_->ShowFullSize(large, DecodePictures({large}, shape.pixelRatio).front());
+    surface_->ShowFullSize(large, DecodePictures({large}, shape.pixelRatio).front());
     const QString pattern = hasText ? text_ : QStringLiteral("<[Picture Legend]>");
     const QString text = FillPictureMarkers(pattern, picture.file);
-    page_->SetLegend(text.isEmpty() ? GeneralModule::FileNameOf(picture.file) : text);
+    surface_->SetLegend(text.isEmpty() ? GeneralModule::FileNameOf(picture.file) : text);
 }
 
 QString PageDisplay::GetLastDisplayed() const

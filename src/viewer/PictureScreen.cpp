@@ -2,7 +2,6 @@
 #include "viewer/PictureScreen.h"
 
 #include "core/PictureFile.h"
-#include "core/ViewerFlags.h"
 #include "platform/picture/PictureReader.h"
 
 #include <QFileInfo>
@@ -25,10 +24,9 @@ UnitSize NaturalSize(const QString& path, const ScreenShape& shape)
             float(size.height() / shape.area.height() * 100)};
 }
 
-// Edges are rounded, not sizes, so that pictures which touch in units touch in pixels. A line that
-// stands in the middle often has its edges on halves of a pixel: without the nudge, which is larger
-// than the error of the units, they would go one way or the other, and a picture shown pixel by
-// pixel would be stretched by one.
+// Edges are rounded, not sizes, so that pictures which touch in units touch in pixels. A centred
+// line often has its edges on half pixels, which rounding errors would send either way, so that a
+// picture shown pixel by pixel might be stretched by one. The nudge is larger than those errors.
 QRect ToPixels(const UnitRect& place, QSize area)
 {
     constexpr double nudge = 1.0 / 64; // pixels
@@ -46,7 +44,7 @@ QRect ToPixels(const UnitRect& place, QSize area)
 
 } // namespace
 
-std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape)
+std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape, bool atRandom)
 {
     std::vector<ShownPicture> pictures;
     std::vector<UnitRect> places;
@@ -56,8 +54,8 @@ std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape
         path = GeneralModule::ResolvePictureFile(file);
         return QFileInfo::exists(path);
     };
-    while (places.size() < mostPictures) {
-        const QString file = list.PickNext(GeneralModule::PictureAtRandom, isThere);
+    while (places.size() < maxPictures) {
+        const QString file = list.PickNext(atRandom, isThere);
         if (file.isEmpty())
             break;
         const std::optional<UnitRect> place = layout.Place(NaturalSize(path, shape));
@@ -86,4 +84,13 @@ std::vector<QImage> DecodePictures(const std::vector<ShownPicture>& pictures, qr
     for (const ShownPicture& picture : pictures)
         requests.push_back({picture.path, (QSizeF(picture.place.size()) * pixelRatio).toSize()});
     return ReadPictures(requests);
+}
+
+Screenful PrepareScreen(PictureList list, const ScreenShape& shape, bool atRandom)
+{
+    Screenful screen;
+    screen.pictures = FillScreen(list, shape, atRandom);
+    screen.images = DecodePictures(screen.pictures, shape.pixelRatio);
+    screen.rest = std::move(list);
+    return screen;
 }

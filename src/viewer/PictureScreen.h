@@ -27,16 +27,26 @@ struct ShownPicture
     QRect place;  // logical pixels
 };
 
-// Most pictures that a screen holds.
-constexpr int mostPictures = 21;
+// The maximum number of pictures on a screen.
+constexpr int maxPictures = 21;
 
-// Takes pictures from the list, as many as find room, and returns where they stand, line by line
-// centred. Only reads the files' headers. Pictures whose file is gone are dropped from the list;
-// one that cannot be read keeps its place on the screen.
-std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape);
+// Takes as many pictures from the list as find room, at random or in list order, and returns where
+// they stand, with each line centred. Reads only the files' headers. Pictures whose file is gone
+// are dropped from the list; one that cannot be read keeps its place on the screen.
+std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape, bool atRandom);
 
 // The place of one picture that has the whole band to itself.
 QRect PlaceOfSinglePicture(const QString& path, const ScreenShape& shape);
 
 // The pictures decoded at their size on the screen, in the same order; null for an unreadable one.
 std::vector<QImage> DecodePictures(const std::vector<ShownPicture>& pictures, qreal pixelRatio);
+
+// A screen of pictures, ready to be shown.
+struct Screenful
+{
+    PictureList rest; // what the list holds after it
+    std::vector<ShownPicture> pictures;
+    std::vector<QImage> images; // one for each of pictures, null for an unreadable one
+};
+
+Screenful PrepareScreen(PictureList list, const ScreenShape& shape, bool atRandom);

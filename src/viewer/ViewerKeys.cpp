@@ -6,8 +6,8 @@
 
 namespace {
 
-// A key that is held down must not close one window after the other, nor press what the next window
-// has under it.
+// A key that is held down must not close one window after the other, nor press a button of the next
+// one.
 bool ActsOnce(ViewerCommand command)
 {
     return command == ViewerCommand::Close || command == ViewerCommand::FullScreen ||

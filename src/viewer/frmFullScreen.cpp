@@ -5,13 +5,14 @@
 #include "platform/widgets/IdlePointer.h"
 #include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/SettledResize.h"
+#include "viewer/PageHost.h"
 #include "viewer/StoryPage.h"
-#include "viewer/frmReelvane.h"
+#include "viewer/ViewerKeys.h"
 
 #include <QScreen>
 
-frmFullScreen::frmFullScreen(frmReelvane& viewer)
-    : QDialog(&viewer), viewer_(viewer), ui_(std::make_unique<Ui::frmFullScreen>())
+frmFullScreen::frmFullScreen(PageHost& viewer)
+    : QDialog(viewer.GetWindow()), viewer_(viewer), ui_(std::make_unique<Ui::frmFullScreen>())
 {
     ui_->setupUi(this);
     ui_->page->Darken();
@@ -37,9 +38,9 @@ void frmFullScreen::CloseFullScreen()
 void frmFullScreen::Form_Load()
 {
     setWindowFlag(Qt::FramelessWindowHint);
-    setWindowTitle(viewer_.windowTitle());
-    // The place tells the desktop which screen to fill.
-    setGeometry(viewer_.screen()->geometry());
+    setWindowTitle(viewer_.GetWindow()->windowTitle());
+    // The position tells the desktop which screen to fill.
+    setGeometry(viewer_.GetWindow()->screen()->geometry());
     setWindowState(windowState() | Qt::WindowFullScreen);
 }
 

@@ -5,22 +5,22 @@
 
 #include <memory>
 
+class PageHost;
 class StoryPage;
-class frmReelvane;
 
 namespace Ui {
 class frmFullScreen;
 }
 
-// A whole screen, the one that the viewer is on, for the viewer to draw on: pictures and text on a
-// dark ground and nothing else. Keys and clicks go to the viewer, but for those that lead back.
+// A page that fills the screen which the viewer is on: pictures and text on a dark ground and
+// nothing else. Keys and clicks go to the viewer, except for the keys that lead back.
 class frmFullScreen : public QDialog
 {
     Q_OBJECT
 
 public:
     // The viewer must draw on GetPage() from before the window is shown until it is closed.
-    explicit frmFullScreen(frmReelvane& viewer);
+    explicit frmFullScreen(PageHost& viewer);
     ~frmFullScreen() override;
 
     StoryPage* GetPage() const;
@@ -31,6 +31,6 @@ private:
     void Form_Resize();
     bool Form_KeyDown(const QKeyEvent& key);
 
-    frmReelvane& viewer_;
+    PageHost& viewer_;
     std::unique_ptr<Ui::frmFullScreen> ui_;
 };

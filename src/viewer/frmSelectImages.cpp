@@ -4,13 +4,13 @@
 
 #include "core/Parameters.h"
 #include "core/PathRoutines.h"
-#include "core/ViewerFlags.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
 #include "platform/shell/ProgramFolder.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
+#include "viewer/ViewerFlags.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 
 #include "core/Album.h"
 #include "core/StartUp.h"
-#include "core/ViewerFlags.h"
 #include "platform/shell/ProgramFolder.h"
+#include "viewer/ViewerFlags.h"
 
 #include <sqlcipher/sqlite3.h>
 

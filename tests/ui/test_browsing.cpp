@@ -2,10 +2,10 @@
 #include "ProgramTest.h"
 #include "core/Parameters.h"
 #include "core/RecentAlbums.h"
-#include "core/ViewerFlags.h"
 #include "platform/widgets/FileList.h"
 #include "platform/widgets/FolderList.h"
 #include "viewer/OpenViewer.h"
+#include "viewer/ViewerFlags.h"
 
 #include <QMimeData>
 

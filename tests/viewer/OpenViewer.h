@@ -52,7 +52,7 @@ struct OpenViewer
     static QList<PictureBox*> Boxes(QWidget& window)
     {
         QList<PictureBox*> boxes;
-        for (int i = 0; i < mostPictures; ++i) {
+        for (int i = 0; i < maxPictures; ++i) {
             auto& box = Find<PictureBox>(window, QString("imgImage_%1").arg(i));
             if (box.isVisible())
                 boxes += &box;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "OpenViewer.h"
 #include "core/Parameters.h"
-#include "core/ViewerFlags.h"
 #include "platform/widgets/QtDialogs.h"
 #include "viewer/Autoview.h"
+#include "viewer/ViewerFlags.h"
 
 #include <QThread>
 

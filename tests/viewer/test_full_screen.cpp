@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "OpenViewer.h"
-#include "core/ViewerFlags.h"
 #include "platform/widgets/IdlePointer.h"
 #include "viewer/StoryPage.h"
+#include "viewer/ViewerFlags.h"
 
 class TestFullScreen : public QObject
 {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "OpenViewer.h"
-#include "core/ViewerFlags.h"
+#include "viewer/ViewerFlags.h"
 
 // The viewer's real window, worked by keys and mouse.
 class TestViewer : public QObject
@@ -11,106 +11,45 @@ private slots:
     void ReadsAStoryByKeys()
     {
         OpenViewer story;
-        for (const char* name : {"a", "b", "c"})
-            story.album.AddPicture(QString(name) + ".png",
-                                   {{"Car0", name}, {"Legend", QString("the ") + name}});
-        const qint32 one = story.album.AddChapter("One");
-        story.album.AddChapter("Empty");
-        const qint32 three = story.album.AddChapter("Three");
-        story.album.AddParagraph(one, "First: <[Picture Legend]>", {{"Car0", "a"}});
-        story.album.AddParagraph(one, "Second: <[0]>", {{"Car0", "b"}});
-        story.album.AddParagraph(three, "Third", {{"Car0", "c"}});
+        story.AddPictures(30);
+        const qint32 one = story.AddStory({"First", "Second"});
+        story.album.AddParagraph(story.album.AddChapter("Two"), "Third");
         story.Open(one);
-        QCOMPARE(story.Legend(), "First: the a");
-        const QString offer = "Click HERE to create first paragraph of the new chapter 'Empty'";
-        struct Step
-        {
-            Qt::Key key;
-            QString legend;
-            const char* title;
-            const char* picture;
-        };
-        const Step steps[] = {{Qt::Key_Right, "Second: b", "One", "b"},
-                              {Qt::Key_N, "Third", "Three", "c"},
-                              {Qt::Key_Space, "First: the a", "One", "a"}, // all were seen
-                              {Qt::Key_PageDown, offer, "Empty", "a b c"},
-                              {Qt::Key_Right, "Third", "Three", "c"},
-                              {Qt::Key_P, offer, "Empty", "a b c"}, // no dead end either way
-                              {Qt::Key_Left, "Second: b", "One", "b"},
-                              {Qt::Key_PageUp, "First: the a", "One", "a"},
-                              {Qt::Key_F1, "First: the a", "One", "a"},
-                              {Qt::Key_X, "First: the a", "One", "a"}};
-        for (const Step& step : steps) {
-            story.Press(step.key);
-            QCOMPARE(story.Legend(), step.legend);
-            QCOMPARE(story.viewer.windowTitle(), step.title);
-            QStringList shown = story.Shown();
-            shown.sort();
-            QCOMPARE(shown.join(u' '), step.picture);
+        const QList<QPair<int, QString>> keys{
+            {Qt::Key_PageDown, "Third"}, {Qt::Key_Left, "Second"}, {Qt::Key_PageUp, "First"},
+            {Qt::Key_F1, "First"},       {Qt::Key_X, "First"},     {Qt::Key_Right, "Second"},
+            {Qt::Key_P, "First"}};
+        for (const auto& [key, text] : keys) {
+            story.Press(key);
+            QCOMPARE(story.Legend(), text);
         }
-        QCOMPARE(story.album.Joined("SELECT count(*) FROM Paragraph"), "3"); // none was made
+        QCOMPARE(story.viewer.windowTitle(), "One");
+        const QStringList first = story.Shown();
+        QTest::keyClick(&story.viewer, Qt::Key_Plus, Qt::KeypadModifier);
+        QCOMPARE(story.viewer.Nblines, 2);
+        QCOMPARE(story.Shown().first(first.size()), first); // the same, and more
+        story.Press(Qt::Key_Minus);
+        QCOMPARE(story.Shown(), first);
         // Keys work whatever has the focus.
         story.Click("cmdNextParagraph");
-        QCOMPARE(story.Legend(), "Second: b");
+        QCOMPARE(story.Legend(), "Second");
         auto& button = Find<QPushButton>(story.viewer, "cmdPreviousParagraph");
         button.setFocus();
         QTest::keyClick(&button, Qt::Key_Space); // would press the button
-        QCOMPARE(story.Legend(), "Third");
+        QCOMPARE(story.Legend(), "Second");
+        QVERIFY(story.Shown() != first);
         // One that nobody used went up to the window; the next one there is another.
         QTest::keyClick(&button, Qt::Key_X);
         QTest::keyClick(&story.viewer, Qt::Key_Left);
-        QCOMPARE(story.Legend(), offer);
-        QTest::keyClick(&button, Qt::Key_Q);
-        QVERIFY(!story.viewer.isVisible());
-    }
-
-    void ZoomsWithinItsLimits()
-    {
-        OpenViewer story;
-        story.AddPictures(30);
-        story.Open(story.AddStory({"text"}));
-        const QStringList first = story.Shown();
-        for (int lines = 2; lines <= 5; ++lines)
-            QTest::keyClick(&story.viewer, Qt::Key_Plus, Qt::KeypadModifier);
-        QCOMPARE(story.viewer.Nblines, 4);
-        QCOMPARE(story.Boxes().size(), 21);
-        QCOMPARE(story.Shown().first(first.size()), first); // the same, and more
+        QCOMPARE(story.Legend(), "First");
+        // Resizing goes back to the beginning of the chapter, with one line.
         story.Press(Qt::Key_Right);
-        const QStringList many = story.Shown();
-        for (int i = 0; i < 6; ++i)
-            story.Press(Qt::Key_Minus);
-        QCOMPARE(story.viewer.Nblines, 0);
-        QCOMPARE(story.Shown(), many.first(1));
-        // What was on the screen before comes again, one by one.
-        story.Press(Qt::Key_Down);
-        QCOMPARE(story.Shown(), many.sliced(1, 1));
-    }
-
-    void PagesThroughAParagraph()
-    {
-        OpenViewer story;
-        story.AddPictures(50);
-        const qint32 chapter = story.AddStory({"First"});
-        story.album.AddParagraph(chapter, "Second", {{"Car0", "none"}});
-        story.Open(chapter);
-        QStringList seen;
-        while (story.Legend() == "First") {
-            seen += story.Shown();
-            QVERIFY(seen.size() <= 50);
-            story.Press(Qt::Key_Down);
-        }
-        QCOMPARE(story.Legend(), "Second");
-        QCOMPARE(story.Shown(), QStringList());
-        QCOMPARE(Find<QLabel>(story.viewer, "lblNotice").text(), "No picture fits.");
-        QStringList sorted = seen;
-        sorted.sort();
-        QVERIFY(seen != sorted); // in random order
-        QCOMPARE(sorted.removeDuplicates(), 0);
-        QCOMPARE(sorted.size(), 50);
-        // Resizing goes back to the beginning of the chapter.
+        story.Press(Qt::Key_Plus);
         story.viewer.resize(800, 600);
         QTRY_COMPARE(story.Legend(), "First");
         QCOMPARE(story.viewer.Nblines, 1);
+        QTest::keyClick(&button, Qt::Key_Q);
+        QVERIFY(!story.viewer.isVisible());
     }
 
     void ClickShowsOnePictureLarge()

@@ -97,7 +97,7 @@ private slots:
             for (const QString& file : files)
                 list.Add(file);
             const ScreenShape shape{{width, 613}, 1, 73.3F, 1 + width % 4};
-            const auto shown = FillScreen(list, shape);
+            const auto shown = FillScreen(list, shape, false);
             QCOMPARE(shown.size(), std::size_t(5));
             QRegion covered;
             for (const ShownPicture& picture : shown) {
@@ -108,7 +108,7 @@ private slots:
         }
     }
 
-    // Other steps along sound links are taken by keys in test_viewer and test_full_screen.
+    // Other steps along sound links are taken in test_story_reader.
     void StepsEndAtBrokenLinks()
     {
         const QString paragraph = "UPDATE Paragraph SET ";

@@ -4,8 +4,8 @@
 #include "ui_frmOpenChapter.h"
 
 #include "core/ChapterChain.h"
-#include "core/ViewerFlags.h"
 #include "platform/dialogs/Dialogs.h"
+#include "viewer/ViewerFlags.h"
 #include "viewer/frmReelvane.h"
 
 using namespace GeneralModule;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/frmLoadFiles.h"
 #include "catalogue/frmReloadPictures.h"
-#include "core/ViewerFlags.h"
 #include "ui/main/frmOpenChapter.h"
 #include "ui_frmOpenChapter.h"
+#include "viewer/ViewerFlags.h"
 #include "viewer/frmReelvane.h"
 #include "viewer/frmSelectImages.h"
 

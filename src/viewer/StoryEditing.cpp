@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "viewer/StoryEditing.h"
+
+#include "catalogue/frmEditImage.h"
+#include "core/Album.h"
+#include "core/PictureFile.h"
+#include "platform/dialogs/Dialogs.h"
+#include "story/ParagraphChain.h"
+#include "story/frmEditParagraph.h"
+#include "viewer/StoryReader.h"
+#include "viewer/ViewerFlags.h"
+
+#include <QFileInfo>
+
+void EditParagraph(StoryReader& reader, QWidget* window)
+{
+    const auto pause = reader.GetAutoview().Pause();
+    if (reader.GetMode() == StoryMode::Selection)
+        return;
+    if (GeneralModule::IsAlbumReadOnly())
+        return Tell(GeneralModule::ReadOnlyReason(), Dialogs::Icon::Information);
+    if (reader.GetMode() == StoryMode::EmptyChapter) {
+        ParagraphPlace place{reader.Position.chapter, 0};
+        CreateFirstParagraph(place);
+        reader.Position.paragraph = place.paragraph;
+        if (place.paragraph == 0)
+            return;
+    }
+    frmEditParagraph editor(window);
+    editor.CurrentChapter = reader.Position.chapter;
+    editor.CurrentParagraph = reader.Position.paragraph;
+    editor.exec();
+    reader.GoTo({editor.CurrentChapter, editor.CurrentParagraph});
+}
+
+void IndexPicture(StoryReader& reader, const QString& file, QWidget* window)
+{
+    const auto pause = reader.GetAutoview().Pause();
+    PictureList upcoming = reader.GetUpcoming();
+    const auto isThere = [](const QString& picture) {
+        return QFileInfo::exists(GeneralModule::ResolvePictureFile(picture));
+    };
+    frmEditImage indexing(window);
+    indexing.CurrentImage = file;
+    indexing.HasNextPicture = [&] { return upcoming.Count() > 0; };
+    indexing.NextPicture = [&] {
+        const QString next = upcoming.PickNext(GeneralModule::PictureAtRandom, isThere);
+        upcoming.TakePicked();
+        return next;
+    };
+    indexing.exec();
+    reader.ShowIndexed(upcoming, indexing.TakenOut);
+}

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "viewer/Autoview.h"
+#include "viewer/PageDisplay.h"
+#include "viewer/StoryWalk.h"
+
+#include <QObject>
+
+#include <functional>
+
+enum class StoryMode {
+    Story,        // a paragraph is read
+    EmptyChapter, // a chapter without paragraphs: every picture of the album is shown
+    Selection,    // pictures outside the story
+};
+
+// The ways from one page of a story to another.
+enum class StoryWay {
+    NextParagraph,
+    PreviousParagraph,
+    NextChapter,
+    TopOfChapter,
+};
+
+// What a step would show.
+struct Outlook
+{
+    StoryStep step = StoryStep::Nothing;
+    StoryPosition position; // after the step
+    // Filled only where the step leads to a page:
+    PageText page;
+    FoundPictures found;
+    Screenful screen;
+};
+
+// Reads a story, or the pictures of a selection, page by page on whatever surface it is given. It
+// knows no window: what it cannot show itself it tells by signals.
+class StoryReader : public QObject
+{
+    Q_OBJECT
+
+public:
+    // isInFront tells whether the user sees the surface, for autoview.
+    explicit StoryReader(std::function<bool()> isInFront, QObject* parent = nullptr);
+
+    // What is read. Whoever changes it calls DisplayAgain, or takes a step from there.
+    StoryPosition Position;
+    QString FileSelection;                        // paths of a selection; empty for any
+    QString ImageSelection = QStringLiteral("*"); // "*": any picture, "-": not yet indexed
+    int Nblines = 1;                              // lines of pictures on a screen, 0 to 4
+    QString LastImageDisplayed;                   // File of the screen's last picture, or empty
+
+    StoryMode GetMode() const;
+    // To be called before anything is displayed.
+    void DrawOn(StorySurface& surface) { display_.DrawOn(surface); }
+
+    // Where the step leads, and what it would show on the surface. Nothing is shown or changed,
+    // but for the current rows of the album's record sets. Throws DatabaseError.
+    Outlook Foresee(StoryWay way) const;
+    // The next pictures of the page on show, in the same way.
+    Screenful ForeseePictures() const { return display_.NextScreen(Nblines); }
+    // Takes the step, or emits Ended when there is nothing left to read. A step that fails throws
+    // DatabaseError and leaves the position where it was.
+    void Go(StoryWay way);
+    // Shows that paragraph; emits Ended when it is none.
+    void GoTo(const StoryPosition& position);
+
+    // Each shows its page from the first picture on, and does nothing where there is no such page.
+    void DisplayParagraph();
+    void DisplayChapter(); // from its first paragraph
+    void DisplaySelection();
+    // At most maxImages of the album's pictures that fit ImageSelection and that selection of
+    // paths.
+    void DisplayUndefined(const QString& fileSelection, int maxImages);
+    // The page that is on show: the paragraph, else the chapter or the selection.
+    void DisplayAgain();
+    // The same with one line of pictures, and from the chapter's beginning.
+    void DisplayFromBeginning();
+
+    // After the last picture of a paragraph the next paragraph.
+    void ShowNextPictures();
+    void ZoomIn();  // fewer and larger pictures
+    void ZoomOut(); // more and smaller ones
+    // One picture of the screen alone, during which autoview waits.
+    void ShowAlone(const ShownPicture& picture);
+    void LeaveAlone();
+
+    // The pictures on the screen, and those that come after them.
+    const std::vector<ShownPicture>& GetDisplayed() const { return display_.GetDisplayed(); }
+    const PictureList& GetUpcoming() const { return display_.GetList(); }
+    // To be called after pictures were indexed: upcoming is what indexing left of GetUpcoming(),
+    // and takenOut the files that are no longer in the album.
+    void ShowIndexed(const PictureList& upcoming, const QStringList& takenOut);
+
+    Autoview& GetAutoview() { return autoview_; }
+    void SwitchAutoview();
+
+signals:
+    void Ended();
+
+private:
+    void ShowPosition();
+    using Search = std::function<FoundPictures(const CountFeedback&)>;
+    void ShowPage(const PageText& page, const Search& search);
+    void ShowScreenAgain();
+    void ScreenChanged();
+    void ShowText(bool isCounting);
+    void StepByItself();
+
+    PageDisplay display_;
+    Autoview autoview_;
+};

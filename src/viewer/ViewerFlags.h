@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// How pictures are shown. The main window sets these before it opens the viewer.
+namespace GeneralModule {
+
+// True while autoview runs. Whatever pauses the timer restores it from this flag.
+inline bool AutoviewOn = false;
+
+// The next picture is taken at random from the picture list, else in list order.
+inline bool PictureAtRandom = false;
+
+} // namespace GeneralModule

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "support/AlbumFixture.h"
+#include "viewer/StoryReader.h"
+#include "viewer/StorySurface.h"
+
+#include <QtTest>
+
+namespace {
+
+// Holds what is drawn on it. A text takes room from the pictures.
+struct Paper : StorySurface
+{
+    QString title;
+    QString legend;
+    QString notice;
+    std::vector<ShownPicture> pictures;
+    float band = 90;
+    int changes = 0;
+
+    void SetTitle(const QString& text) override { title = text; }
+    void Arrange(const QString& text) override
+    {
+        band = ShapeFor(text, 1).maxTotalHeight;
+        ++changes;
+    }
+    ScreenShape GetShape(int lines) const override { return {{1000, 700}, 1, band, lines}; }
+    ScreenShape ShapeFor(const QString& text, int lines) const override
+    {
+        return {{1000, 700}, 1, text.isEmpty() ? 90.F : 60.F, lines};
+    }
+    void ShowPictures(const std::vector<ShownPicture>& shown, std::vector<QImage>) override
+    {
+        pictures = shown;
+    }
+    void ShowFullSize(const ShownPicture&, const QImage&) override {}
+    void LeaveFullSize() override {}
+    void SetNotice(const QString& text) override { notice = text; }
+    void SetLegend(const QString& text) override
+    {
+        legend = text;
+        ++changes;
+    }
+    void ShowFeedback(const QString& text) override { SetLegend(text); }
+    void SetLegendAlignment(Qt::Alignment) override {}
+    void SetPictureToolTip(const QString&) override {}
+    std::shared_ptr<void> BeginWork() override { return nullptr; }
+};
+
+QStringList NamesOf(const std::vector<ShownPicture>& pictures)
+{
+    QStringList names;
+    for (const ShownPicture& picture : pictures)
+        names += QFileInfo(picture.file).completeBaseName();
+    return names;
+}
+
+QString Sorted(QStringList names)
+{
+    names.sort();
+    return names.join(u' ');
+}
+
+// A story read where there is no window and no screen.
+struct Reading
+{
+    AlbumFixture album;
+    Paper paper;
+    StoryReader reader{[] { return true; }};
+
+    QStringList Shown() const { return NamesOf(paper.pictures); }
+    void Begin(qint32 chapter)
+    {
+        reader.DrawOn(paper);
+        reader.Position.chapter = chapter;
+        reader.DisplayFromBeginning();
+    }
+};
+
+} // namespace
+
+class TestStoryReader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ForeseesEachStep()
+    {
+        Reading story;
+        for (const char* name : {"a", "b", "c"})
+            story.album.AddPicture(QString(name) + ".png",
+                                   {{"Car0", name}, {"Legend", QString("the ") + name}},
+                                   {300, 600});
+        const qint32 one = story.album.AddChapter("One");
+        story.album.AddChapter("Empty");
+        const qint32 three = story.album.AddChapter("Three");
+        story.album.AddParagraph(one, "First: <[Picture Legend]>", {{"Car0", "a"}});
+        story.album.AddParagraph(one, "Second: <[0]>", {{"Car0", "b"}});
+        story.album.AddParagraph(three, "Third", {{"Car0", "c"}});
+        story.Begin(one);
+        QCOMPARE(story.paper.legend, "First: the a");
+        const QString offer = "Click HERE to create first paragraph of the new chapter 'Empty'";
+        struct Step
+        {
+            StoryWay way;
+            QString legend;
+            const char* title;
+            const char* pictures;
+        };
+        using enum StoryWay;
+        const Step steps[] = {{PreviousParagraph, "First: the a", "One", "a"},
+                              {NextParagraph, "Second: b", "One", "b"},
+                              {NextParagraph, "Third", "Three", "c"},
+                              {NextChapter, "Third", "Three", "c"},
+                              {NextParagraph, "First: the a", "One", "a"},
+                              {NextChapter, offer, "Empty", "a b c"},
+                              {NextParagraph, "Third", "Three", "c"},
+                              {PreviousParagraph, offer, "Empty", "a b c"}, // no dead end
+                              {PreviousParagraph, "Second: b", "One", "b"},
+                              {TopOfChapter, "First: the a", "One", "a"}};
+        for (const Step& step : steps) {
+            const StoryPosition position = story.reader.Position;
+            const int changes = story.paper.changes;
+            const Outlook outlook = story.reader.Foresee(step.way);
+            QVERIFY(story.reader.Position == position && story.paper.changes == changes);
+            story.reader.Go(step.way);
+            QVERIFY(story.reader.Position == outlook.position);
+            QCOMPARE(story.paper.legend, step.legend);
+            QCOMPARE(story.paper.title, step.title);
+            QCOMPARE(outlook.page.title, step.title);
+            QCOMPARE(Sorted(story.Shown()), step.pictures);
+            QCOMPARE(Sorted(NamesOf(outlook.screen.pictures)), step.pictures);
+            QCOMPARE(outlook.screen.pictures.front().place, story.paper.pictures.front().place);
+            QVERIFY(!outlook.screen.images.front().isNull());
+        }
+        QCOMPARE(story.reader.Foresee(TopOfChapter).step, StoryStep::Nothing);
+        QCOMPARE(story.album.Joined("SELECT count(*) FROM Paragraph"), "3"); // none was made
+        story.album.Execute("DELETE FROM Chapter");                          // by another program
+        const QSignalSpy ended(&story.reader, &StoryReader::Ended);
+        story.reader.GoTo({three, 3});
+        story.reader.Go(NextParagraph);
+        QCOMPARE(ended.size(), 1);
+    }
+
+    void ZoomsAndPages()
+    {
+        Reading story;
+        for (int i = 10; i < 60; ++i)
+            story.album.AddPicture(QString("p%1.png").arg(i), {}, {60, 40});
+        const qint32 chapter = story.album.AddChapter("One");
+        story.album.AddParagraph(chapter, "First");
+        story.album.AddParagraph(chapter, "Second", {{"Car0", "none"}});
+        story.Begin(chapter);
+        const QStringList first = story.Shown();
+        for (int lines = 2; lines <= 5; ++lines)
+            story.reader.ZoomOut();
+        QCOMPARE(story.reader.Nblines, 4);
+        const QStringList many = story.Shown();
+        QCOMPARE(many.size(), maxPictures);
+        QCOMPARE(many.first(first.size()), first); // the same, and more
+        for (int i = 0; i < 6; ++i)
+            story.reader.ZoomIn();
+        QCOMPARE(story.reader.Nblines, 0);
+        QCOMPARE(story.Shown(), many.first(1));
+        // What was on the screen before comes again, one by one.
+        QStringList seen = many.first(1);
+        while (story.paper.legend == "First") {
+            QVERIFY(seen.size() <= 50);
+            const QStringList foreseen = NamesOf(story.reader.ForeseePictures().pictures);
+            story.reader.ShowNextPictures();
+            seen += story.Shown();
+            QCOMPARE(foreseen.size(), story.Shown().size());
+        }
+        QCOMPARE(seen.first(maxPictures), many);
+        QCOMPARE(story.paper.legend, "Second");
+        QCOMPARE(story.paper.notice, "No picture fits.");
+        QVERIFY(Sorted(seen) != seen.join(u' ')); // in random order
+        QCOMPARE(seen.removeDuplicates(), 0);
+        QCOMPARE(seen.size(), 50);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestStoryReader)
+#include "test_story_reader.moc"
