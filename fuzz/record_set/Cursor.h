@@ -14,14 +14,25 @@
 #include <map>
 #include <optional>
 
-inline constexpr std::size_t fieldCount = 3;
+// The number has an index: filters by it find all their rows at once and sort them, so rows that
+// change during a walk are found again only by a new run.
+inline constexpr std::size_t fieldCount = 4;
+inline constexpr std::size_t numberField = 3;
 inline const std::array<QString, fieldCount> fieldNames{
-    QStringLiteral("Text"), QStringLiteral("car0"), QStringLiteral("FILESELECTION")};
+    QStringLiteral("Text"), QStringLiteral("car0"), QStringLiteral("FILESELECTION"),
+    QStringLiteral("chapter")};
 inline const QStringList anyTexts{"", "a", "A", "b", "ab", "é", "É", "it's", "x*"};
 
 using Text = std::optional<QString>; // none: Null
 using Fields = std::array<Text, fieldCount>;
 using Table = std::map<qint64, Fields>;
+
+inline const Fields newRow{std::nullopt, std::nullopt, std::nullopt, QStringLiteral("0")};
+
+inline QString AnyValue(Trials& trials, std::size_t field)
+{
+    return field == numberField ? QString::number(trials.Below(3)) : trials.AnyOf(anyTexts);
+}
 
 struct Criteria
 {
@@ -31,9 +42,10 @@ struct Criteria
 
 inline Criteria AnyCriteria(Trials& trials)
 {
-    const std::size_t field = std::size_t(trials.Below(fieldCount));
-    const QString value = trials.AnyOf(anyTexts);
-    const QString quoted = '\'' + QString(value).replace(u'\'', QStringLiteral("''")) + '\'';
+    const std::size_t field = trials.OneIn(3) ? numberField : std::size_t(trials.Below(fieldCount));
+    const QString value = AnyValue(trials, field);
+    const QString text = '\'' + QString(value).replace(u'\'', QStringLiteral("''")) + '\'';
+    const QString& operand = field == numberField ? value : text;
     const auto isEqual = [field, value](qint64, const Fields& row) {
         return row[field] && row[field]->compare(value, Qt::CaseInsensitive) == 0;
     };
@@ -46,12 +58,12 @@ inline Criteria AnyCriteria(Trials& trials)
                 [id](qint64 row, const Fields&) { return row == id; }};
     }
     case 2:
-        return {QStringLiteral("NOT [%1]=%2").arg(fieldNames[field], quoted),
+        return {QStringLiteral("NOT [%1]=%2").arg(fieldNames[field], operand),
                 [field, isEqual](qint64 id, const Fields& row) {
                     return row[field] && !isEqual(id, row);
                 }};
     default:
-        return {QStringLiteral("[%1]=%2").arg(fieldNames[field], quoted), isEqual};
+        return {QStringLiteral("[%1]=%2").arg(fieldNames[field], operand), isEqual};
     }
 }
 
@@ -76,7 +88,7 @@ public:
 
     void Act()
     {
-        switch (trials_.Below(12)) {
+        switch (trials_.Below(13)) {
         case 0:
             Note("first");
             set_.MoveFirst();
@@ -87,10 +99,10 @@ public:
             break;
         case 2:
         case 3:
-            Find(true);
-            break;
         case 4:
-            Find(false);
+            if (!trials_.OneIn(3))
+                criteria_ = AnyCriteria(trials_);
+            Find(trials_.OneIn(3) ? From::First : From::Next);
             break;
         case 5:
             Edit();
@@ -107,6 +119,9 @@ public:
             break;
         case 10:
             trials_.OneIn(3) ? Delete() : Cancel();
+            break;
+        case 11:
+            Loop();
             break;
         default:
             Walk();
@@ -126,6 +141,7 @@ public:
 
 private:
     enum class Place { Row, Deleted, End };
+    enum class From { First, Next };
 
     struct Buffer
     {
@@ -178,10 +194,9 @@ private:
             place_ = Place::End;
     }
 
-    void Find(bool isNext)
+    void Find(From from)
     {
-        if (!trials_.OneIn(3)) // as loops do
-            criteria_ = AnyCriteria(trials_);
+        const bool isNext = from == From::Next;
         Note((isNext ? "find next " : "find first ") + criteria_.text);
         bool isFound = false;
         if (!isNext) {
@@ -220,10 +235,14 @@ private:
     void Set()
     {
         const std::size_t field = std::size_t(trials_.Below(fieldCount));
-        const QString value = trials_.AnyOf(anyTexts);
+        const QString value = AnyValue(trials_, field);
         Note(QStringLiteral("set %1 to %2").arg(fieldNames[field], value));
-        ExpectError(buffer_ ? 0 : DatabaseError::UpdateWithoutEdit,
-                    [&] { set_.Set(fieldNames[field], value); });
+        ExpectError(buffer_ ? 0 : DatabaseError::UpdateWithoutEdit, [&] {
+            if (field == numberField)
+                set_.Set(fieldNames[field], value.toLongLong());
+            else
+                set_.Set(fieldNames[field], value);
+        });
         if (buffer_)
             buffer_->values[field] = value;
     }
@@ -241,14 +260,14 @@ private:
         ExpectError(expected, [this] { set_.Update(); });
         if (!buffer_ || expected != 0)
             return;
+        if (buffer_->isNew)
+            model_.rows.emplace(buffer_->id, newRow);
         if (!isGone) {
             for (const auto& [field, value] : buffer_->values)
                 model_.rows[buffer_->id][field] = value;
         }
-        if (buffer_->isNew) {
-            model_.rows[buffer_->id]; // also where nothing was set
+        if (buffer_->isNew)
             model_.lastId = std::max(model_.lastId, buffer_->id);
-        }
         buffer_.reset();
     }
 
@@ -277,6 +296,23 @@ private:
             walk_.reset();
         else
             walk_.emplace(set_);
+    }
+
+    // Goes through the rows that meet the criteria, and changes the table on the way.
+    void Loop()
+    {
+        const RecordSet::Walk walk(set_);
+        criteria_ = AnyCriteria(trials_);
+        Find(From::First);
+        for (int i = trials_.Below(12); i > 0; --i) {
+            Compare();
+            if (trials_.OneIn(3)) {
+                trials_.OneIn(2) ? AddNew() : Edit();
+                Set();
+                Update();
+            }
+            Find(From::Next);
+        }
     }
 
     // The value that a field should show, or the error that it should end in.

@@ -81,7 +81,7 @@ QString FaultOfFile(const AlbumFixture& album, const Model& model)
         expected += line;
     }
     const QStringList found =
-        album.Rows("SELECT Id,Text,Car0,FileSelection FROM Paragraph ORDER BY Id");
+        album.Rows("SELECT Id,Text,Car0,FileSelection,Chapter FROM Paragraph ORDER BY Id");
     return found == expected
                ? QString()
                : QStringLiteral("the file holds %1, not %2")
@@ -92,7 +92,8 @@ void Try(Trials& trials, const AlbumFixture& album, Model& model)
 {
     for (int i = 0; i < 5; ++i) {
         RunStatements("INSERT INTO Paragraph(Text,Car0) VALUES('a',NULL)");
-        model.rows[++model.lastId] = {QStringLiteral("a"), std::nullopt, std::nullopt};
+        model.rows[++model.lastId] = {QStringLiteral("a"), std::nullopt, std::nullopt,
+                                      QStringLiteral("0")};
     }
     std::deque<Cursor> cursors;
     for (int i = 0; i < 2; ++i)

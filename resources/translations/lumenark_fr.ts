@@ -69,6 +69,29 @@
     </message>
 </context>
 <context>
+    <name>AlbumOpener</name>
+    <message>
+        <source>My Album.alb</source>
+        <translation>Mon album.alb</translation>
+    </message>
+    <message>
+        <source>My Album %1.alb</source>
+        <translation>Mon album %1.alb</translation>
+    </message>
+    <message>
+        <source>Open Album</source>
+        <translation>Ouvrir un album</translation>
+    </message>
+    <message>
+        <source>Album|*.alb</source>
+        <translation>Album|*.alb</translation>
+    </message>
+    <message>
+        <source>Create a new Album</source>
+        <translation>Créer un nouvel album</translation>
+    </message>
+</context>
+<context>
     <name>AlbumPassword</name>
     <message>
         <source>Please enter the new password</source>
@@ -123,6 +146,33 @@
     <message>
         <source>(no name %1)</source>
         <translation>(sans nom %1)</translation>
+    </message>
+</context>
+<context>
+    <name>ChapterList</name>
+    <message>
+        <source>Chapter Names must begin with a letter or a figure</source>
+        <translation>Le nom d&apos;un chapitre doit commencer par une lettre ou un chiffre</translation>
+    </message>
+    <message>
+        <source>This chapter exists already</source>
+        <translation>Ce chapitre existe déjà</translation>
+    </message>
+    <message>
+        <source>Please Enter Chapter Name</source>
+        <translation>Saisissez le nom du chapitre</translation>
+    </message>
+    <message>
+        <source>Enter new name for chapter &apos;%1&apos;</source>
+        <translation>Saisissez le nouveau nom du chapitre &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>This chapter is no longer in the album.</source>
+        <translation>Ce chapitre n&apos;est plus dans l&apos;album.</translation>
+    </message>
+    <message>
+        <source>This chapter contains paragraphs and can&apos;t be deleted</source>
+        <translation>Ce chapitre contient des paragraphes et ne peut pas être supprimé</translation>
     </message>
 </context>
 <context>
@@ -399,6 +449,60 @@ Votre version :
     <message>
         <source>Take the Other</source>
         <translation>Prendre l&apos;autre</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message numerus="yes">
+        <source>%n file(s) left out: their names are not valid text</source>
+        <translation>
+            <numerusform>%n fichier laissé de côté : son nom n&apos;est pas du texte valide</numerusform>
+            <numerusform>%n fichiers laissés de côté : leurs noms ne sont pas du texte valide</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Please drop one album at a time.</source>
+        <translation>Veuillez déposer un seul album à la fois.</translation>
+    </message>
+    <message>
+        <source>Please drop either an album, to open it, or pictures, to load them.</source>
+        <translation>Veuillez déposer soit un album, pour l&apos;ouvrir, soit des photos, pour les charger.</translation>
+    </message>
+    <message>
+        <source>There is neither an album nor a picture among these files.</source>
+        <translation>Il n&apos;y a ni album ni photo parmi ces fichiers.</translation>
+    </message>
+    <message>
+        <source>Please open or create an album first, then drop the pictures.</source>
+        <translation>Veuillez d&apos;abord ouvrir ou créer un album, puis déposer les photos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) loaded</source>
+        <translation>
+            <numerusform>%n photo chargée</numerusform>
+            <numerusform>%n photos chargées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) were in the album already</source>
+        <translation>
+            <numerusform>%n photo déjà dans l&apos;album</numerusform>
+            <numerusform>%n photos déjà dans l&apos;album</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) left out, because you stopped</source>
+        <translation>
+            <numerusform>%n photo laissée de côté, parce que vous avez arrêté</numerusform>
+            <numerusform>%n photos laissées de côté, parce que vous avez arrêté</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) left out: no pictures</source>
+        <translation>
+            <numerusform>%n fichier laissé de côté : pas une photo</numerusform>
+            <numerusform>%n fichiers laissés de côté : pas des photos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1642,82 +1746,6 @@ Le supprimer quand même ?</translation>
     <message>
         <source>About Lumenark</source>
         <translation>À propos de Lumenark</translation>
-    </message>
-    <message>
-        <source>Album|*.alb</source>
-        <translation>Album|*.alb</translation>
-    </message>
-    <message>
-        <source>Create a new Album</source>
-        <translation>Créer un nouvel album</translation>
-    </message>
-    <message>
-        <source>Chapter Names must begin with a letter or a figure</source>
-        <translation>Le nom d&apos;un chapitre doit commencer par une lettre ou un chiffre</translation>
-    </message>
-    <message>
-        <source>This chapter exists already</source>
-        <translation>Ce chapitre existe déjà</translation>
-    </message>
-    <message>
-        <source>Please Enter Chapter Name</source>
-        <translation>Saisissez le nom du chapitre</translation>
-    </message>
-    <message>
-        <source>Enter new name for chapter &apos;</source>
-        <translation>Saisissez le nouveau nom du chapitre &apos;</translation>
-    </message>
-    <message>
-        <source>This chapter contains paragraphs and can&apos;t be deleted</source>
-        <translation>Ce chapitre contient des paragraphes et ne peut pas être supprimé</translation>
-    </message>
-    <message>
-        <source>Please drop one album at a time.</source>
-        <translation>Veuillez déposer un seul album à la fois.</translation>
-    </message>
-    <message>
-        <source>Please drop either an album, to open it, or pictures, to load them.</source>
-        <translation>Veuillez déposer soit un album, pour l&apos;ouvrir, soit des photos, pour les charger.</translation>
-    </message>
-    <message>
-        <source>There is neither an album nor a picture among these files.</source>
-        <translation>Il n&apos;y a ni album ni photo parmi ces fichiers.</translation>
-    </message>
-    <message>
-        <source>Please open or create an album first, then drop the pictures.</source>
-        <translation>Veuillez d&apos;abord ouvrir ou créer un album, puis déposer les photos.</translation>
-    </message>
-    <message>
-        <source> picture(s) loaded</source>
-        <translation> photo(s) chargée(s)</translation>
-    </message>
-    <message>
-        <source>%1 picture(s) were in the album already</source>
-        <translation>%1 photo(s) déjà dans l&apos;album</translation>
-    </message>
-    <message>
-        <source>%1 picture(s) left out, because you stopped</source>
-        <translation>%1 photo(s) laissée(s) de côté, parce que vous avez arrêté</translation>
-    </message>
-    <message>
-        <source>%1 file(s) left out: no pictures</source>
-        <translation>%1 fichier(s) laissé(s) de côté : pas des photos</translation>
-    </message>
-    <message>
-        <source>%1 file(s) left out: their names are not valid text</source>
-        <translation>%1 fichier(s) laissé(s) de côté : leurs noms ne sont pas du texte valide</translation>
-    </message>
-    <message>
-        <source>My Album.alb</source>
-        <translation>Mon album.alb</translation>
-    </message>
-    <message>
-        <source>My Album %1.alb</source>
-        <translation>Mon album %1.alb</translation>
-    </message>
-    <message>
-        <source>This chapter is no longer in the album.</source>
-        <translation>Ce chapitre n&apos;est plus dans l&apos;album.</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,16 @@ QString DeleteFile(const QString& path)
 
 } // namespace
 
+bool HasPictures()
+{
+    return !ImageSet->IsEmpty();
+}
+
+qint64 CountPictures()
+{
+    return ImageSet->RecordCount();
+}
+
 std::optional<PictureRecord> ReadPictureRecord(const QString& file)
 {
     if (!FindPicture(file))

@@ -17,6 +17,10 @@ struct PictureRecord
     bool operator==(const PictureRecord&) const = default;
 };
 
+// Whether the open album holds any picture, and how many: counting reads the whole table.
+bool HasPictures();
+qint64 CountPictures();
+
 // None when the album holds no picture of that File.
 std::optional<PictureRecord> ReadPictureRecord(const QString& file);
 

@@ -12,7 +12,30 @@
 #include <filesystem>
 #include <fstream>
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 using namespace GeneralModule;
+
+// While one lives, this process can open no file and no folder.
+class NoMoreFiles
+{
+public:
+    NoMoreFiles()
+    {
+        getrlimit(RLIMIT_NOFILE, &usual_);
+        const int next = dup(0);
+        close(next);
+        const rlimit none{rlim_t(next), usual_.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~NoMoreFiles() { setrlimit(RLIMIT_NOFILE, &usual_); }
+    NoMoreFiles(const NoMoreFiles&) = delete;
+    NoMoreFiles& operator=(const NoMoreFiles&) = delete;
+
+private:
+    rlimit usual_;
+};
 
 // Pictures outside the story, and every other way to them and to albums than the file dialogs.
 class TestBrowsing : public ProgramTest
@@ -192,6 +215,16 @@ private slots:
             Drop(paths);
             QVERIFY(dialogs_->IsDone());
         }
+        {
+            const NoMoreFiles none;
+            const QString folder = album_->PathOf("");
+            dialogs_->ExpectBoxBeginning(
+                "There is neither an album nor a picture among these files.\nThe folder '" +
+                    QDir(folder).absolutePath() + "' cannot be read: ",
+                Icon::Warning);
+            Drop({folder});
+        }
+        QVERIFY(dialogs_->IsDone());
         QVERIFY(!window_->AlbumOpen());
         QCOMPARE(album_->Joined("SELECT count(*) FROM Image"), "0");
     }

@@ -7,3 +7,9 @@ DatabaseError::DatabaseError(Number number, const QString& description)
       what_(std::to_string(int(number)) + ' ' + description.toStdString())
 {
 }
+
+void ThrowRecordDeleted()
+{
+    throw DatabaseError(DatabaseError::RecordDeleted,
+                        DatabaseError::tr("The record has been deleted."));
+}

@@ -51,3 +51,6 @@ private:
     QString description_;
     std::string what_;
 };
+
+// Also when the row was deleted by another record set or program.
+[[noreturn]] void ThrowRecordDeleted();

@@ -1,36 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/data/RecordSet.h"
 
-#include <QScopeGuard>
-
-#include <limits>
-
 namespace {
 
-constexpr qint64 beforeFirst = std::numeric_limits<qint64>::min();
-constexpr qsizetype mostKept =
-    64; // statements of a kind; filters typed by hand come in many shapes
-
-template<typename Marks>
-QByteArray SelectedNames(const TableLayout& layout, const Marks& fields)
+[[noreturn]] void ThrowUnreadable()
 {
-    QByteArray names;
-    for (int field = 0; field < layout.Count(); ++field) {
-        if (fields[std::size_t(field)])
-            names += ',' + QuotedName(layout.At(field).name);
-    }
-    return names;
-}
-
-[[noreturn]] void Fail(DatabaseError::Number number, const QString& text)
-{
-    throw DatabaseError(number, text);
-}
-
-[[noreturn]] void FailUnreadable()
-{
-    Fail(DatabaseError::TypeMismatch,
-         DatabaseError::tr("The album holds a value of a wrong type."));
+    throw DatabaseError(DatabaseError::TypeMismatch,
+                        DatabaseError::tr("The album holds a value of a wrong type."));
 }
 
 } // namespace
@@ -39,33 +15,39 @@ RecordSet::RecordSet(std::shared_ptr<Database> database, const QString& table)
     : database_(std::move(database)),
       layout_(database_->GetEngine(), table),
       table_(QuotedName(layout_.GetTable())),
-      loaded_(std::size_t(layout_.Count()))
+      cursor_(*database_, layout_),
+      row_(*database_, layout_),
+      buffer_(*database_, layout_)
 {
     MoveFirst();
 }
 
 void RecordSet::FindFirst(const QString& filter)
 {
-    noMatch_ = !Advance(filter, beforeFirst);
+    buffer_.Close();
+    noMatch_ = !cursor_.GoToFirst(filter, row_);
 }
 
 void RecordSet::FindNext(const QString& filter)
 {
-    noMatch_ = place_ == Place::End || !Advance(filter, row_);
+    if (!AtEnd())
+        buffer_.Close();
+    noMatch_ = !cursor_.GoToNext(filter, row_);
 }
 
 void RecordSet::MoveFirst()
 {
-    if (!Advance({}, beforeFirst))
-        place_ = Place::End;
+    buffer_.Close();
+    if (!cursor_.GoToFirst({}, row_))
+        cursor_.GoToEnd();
 }
 
 void RecordSet::MoveNext()
 {
-    if (place_ == Place::End)
-        Fail(DatabaseError::NoCurrentRecord, DatabaseError::tr("There is no current record."));
-    if (!Advance({}, row_))
-        place_ = Place::End;
+    cursor_.RequirePlace();
+    buffer_.Close();
+    if (!cursor_.GoToNext({}, row_))
+        cursor_.GoToEnd();
 }
 
 bool RecordSet::IsEmpty()
@@ -79,108 +61,6 @@ qint64 RecordSet::RecordCount()
     return count.Step() ? count.GetInteger(0) : 0;
 }
 
-// Goes to the first row behind that row number which meets the filter; false, and nothing moved,
-// when there is none.
-bool RecordSet::Advance(const QString& filter, qint64 after)
-{
-    buffer_.reset();
-    if (!CanGoOn(filter) || after != row_) {
-        CloseStatement();
-        Translate(filter);
-        PrepareQuery(*query_);
-        query_->statement.Bind(1, after);
-        for (std::size_t i = 0; i < values_.size(); ++i)
-            query_->statement.Bind(int(i) + 2, values_[i]);
-    }
-    open_ = false;
-    if (!query_->statement.Step())
-        return false;
-    AcceptRow();
-    return true;
-}
-
-// A row that this program changed may have moved in or out of the filter, and a field asked for
-// meanwhile is not in the open statement: both begin a new run behind the current row.
-bool RecordSet::CanGoOn(const QString& filter) const
-{
-    return open_ && place_ != Place::End && IsFresh() && !query_->isBehind && filter == filter_;
-}
-
-void RecordSet::Translate(const QString& filter)
-{
-    if (translated_ && filter == filter_)
-        return;
-    translated_ = false;
-    FilterSql sql = TranslateFilter(filter, layout_);
-    auto found = queries_.constFind(sql.condition);
-    if (found == queries_.constEnd()) {
-        if (queries_.size() >= mostKept)
-            queries_.clear();
-        auto query = std::make_shared<Query>();
-        query->condition = sql.condition;
-        found = queries_.insert(sql.condition, query);
-    }
-    query_ = *found;
-    values_ = std::move(sql.values);
-    filter_ = filter;
-    translated_ = true;
-}
-
-// Ordered by row number always: an index would return rows in an order of its own.
-void RecordSet::PrepareQuery(Query& query)
-{
-    if (!query.isBehind)
-        return;
-    QByteArray sql = "SELECT rowid" + SelectedNames(layout_, query.wanted) + " FROM " + table_ +
-                     " WHERE rowid>?1";
-    if (!query.condition.isEmpty())
-        sql += " AND (" + query.condition + ')';
-    query.statement = Statement(database_->GetEngine(), sql + " ORDER BY rowid");
-    query.selected = query.wanted;
-    query.isBehind = false;
-    query.columns.assign(std::size_t(layout_.Count()), -1);
-    short column = 0;
-    for (int field = 0; field < layout_.Count(); ++field) {
-        if (query.selected[std::size_t(field)])
-            query.columns[std::size_t(field)] = ++column;
-    }
-}
-
-void RecordSet::AcceptRow()
-{
-    row_ = query_->statement.GetInteger(0);
-    place_ = Place::Row;
-    rowChanges_ = database_->ChangeCount();
-    isLoaded_ = false;
-    if (walks_ > 0) {
-        open_ = true;
-        return;
-    }
-    // Also when memory runs out: an open statement holds a lock and takes no values.
-    const auto reset = qScopeGuard([this] { query_->statement.Reset(); });
-    for (int field = 0; query_->selected.any() && field < layout_.Count(); ++field) {
-        const int column = query_->columns[std::size_t(field)];
-        if (column > 0)
-            loaded_[std::size_t(field)] = query_->statement.GetValue(column);
-    }
-    loadedFields_ = query_->selected;
-    isLoaded_ = true;
-}
-
-void RecordSet::EndWalk()
-{
-    if (--walks_ == 0)
-        CloseStatement();
-}
-
-// The fields of the current row are gone with the statement; they are loaded anew when asked for.
-void RecordSet::CloseStatement()
-{
-    if (open_)
-        query_->statement.Reset();
-    open_ = false;
-}
-
 int RecordSet::FieldNumber(QStringView field) const
 {
     const int number = layout_.Find(field);
@@ -191,76 +71,24 @@ int RecordSet::FieldNumber(QStringView field) const
     return number;
 }
 
-void RecordSet::RequireRow() const
-{
-    if (place_ == Place::End)
-        Fail(DatabaseError::NoCurrentRecord, DatabaseError::tr("There is no current record."));
-    if (place_ == Place::DeletedRow)
-        Fail(DatabaseError::RecordDeleted, DatabaseError::tr("The record has been deleted."));
-}
-
-const FieldValue* RecordSet::Buffered(int field) const
-{
-    static const FieldValue null;
-    if (!buffer_)
-        return nullptr;
-    for (const auto& [number, value] : buffer_->values) {
-        if (number == field)
-            return &value;
-    }
-    return buffer_->adding ? &null : nullptr;
-}
-
-bool RecordSet::ReadsFromStatement(int field) const
-{
-    return open_ && !buffer_ && query_->selected[std::size_t(field)] && IsFresh();
-}
-
 const FieldValue& RecordSet::Value(int field)
 {
-    if (const FieldValue* value = Buffered(field))
+    if (const FieldValue* value = buffer_.Find(field))
         return *value;
-    RequireRow();
-    if (!IsFresh() || !isLoaded_)
-        loadedFields_.reset();
-    if (!loadedFields_[std::size_t(field)]) {
-        query_->isBehind = query_->isBehind || !query_->wanted[std::size_t(field)];
-        query_->wanted.set(std::size_t(field));
-        FieldMarks fields = loadedFields_;
-        LoadFields(fields.set(std::size_t(field)));
+    cursor_.RequireRow();
+    if (!row_.IsLoaded(field)) {
+        cursor_.Want(field);
+        row_.Load(field);
     }
-    return loaded_[std::size_t(field)];
-}
-
-void RecordSet::LoadFields(const FieldMarks& fields)
-{
-    std::shared_ptr<Statement>& load = loads_[fields];
-    if (!load) {
-        load = std::make_shared<Statement>(database_->GetEngine(),
-                                           "SELECT rowid" + SelectedNames(layout_, fields) +
-                                               " FROM " + table_ + " WHERE rowid=?1");
-    }
-    load->Bind(1, row_);
-    if (!load->Step())
-        Fail(DatabaseError::RecordDeleted, DatabaseError::tr("The record has been deleted."));
-    const auto reset = qScopeGuard([&load] { load->Reset(); });
-    isLoaded_ = false;
-    int column = 0;
-    for (int field = 0; field < layout_.Count(); ++field) {
-        if (fields[std::size_t(field)])
-            loaded_[std::size_t(field)] = load->GetValue(++column);
-    }
-    loadedFields_ = fields;
-    isLoaded_ = true;
-    rowChanges_ = open_ ? rowChanges_ : database_->ChangeCount();
+    return row_.At(field);
 }
 
 QString RecordSet::Text(int field)
 {
-    if (ReadsFromStatement(field)) {
-        const int column = query_->columns[std::size_t(field)];
-        const std::string_view text = query_->statement.GetUtf8(column);
-        if (text.data() && !query_->statement.IsBlob(column))
+    if (const int column = OpenColumn(field)) {
+        const Statement& statement = cursor_.OpenStatement();
+        const std::string_view text = statement.GetUtf8(column);
+        if (text.data() && !statement.IsBlob(column))
             return QString::fromUtf8(text.data(), qsizetype(text.size()));
     }
     const FieldValue& value = Value(field);
@@ -269,37 +97,71 @@ QString RecordSet::Text(int field)
     if (const auto* number = std::get_if<qint64>(&value))
         return QString::number(*number);
     if (std::holds_alternative<UnreadableValue>(value))
-        FailUnreadable();
-    Fail(DatabaseError::InvalidUseOfNull,
-         DatabaseError::tr("A field that holds nothing was read as a text."));
+        ThrowUnreadable();
+    throw DatabaseError(DatabaseError::InvalidUseOfNull,
+                        DatabaseError::tr("A field that holds nothing was read as a text."));
 }
 
 qint32 RecordSet::Number(int field)
 {
     const FieldValue& value = Value(field);
-    if (std::holds_alternative<std::monostate>(value))
-        Fail(DatabaseError::InvalidUseOfNull,
-             DatabaseError::tr("A field that holds nothing was read as a number."));
-    const auto* number = std::get_if<qint64>(&value);
+    if (std::holds_alternative<std::monostate>(value)) {
+        throw DatabaseError(DatabaseError::InvalidUseOfNull,
+                            DatabaseError::tr("A field that holds nothing was read as a number."));
+    }
     if (std::holds_alternative<UnreadableValue>(value))
-        FailUnreadable();
-    if (!number)
-        Fail(DatabaseError::TypeMismatch,
-             DatabaseError::tr("A field that holds a text was read as a number."));
-    if (*number != qint64(qint32(*number)))
-        Fail(DatabaseError::Overflow,
-             DatabaseError::tr("The album holds a number that is too large."));
+        ThrowUnreadable();
+    const auto* number = std::get_if<qint64>(&value);
+    if (!number) {
+        throw DatabaseError(DatabaseError::TypeMismatch,
+                            DatabaseError::tr("A field that holds a text was read as a number."));
+    }
+    if (*number != qint64(qint32(*number))) {
+        throw DatabaseError(DatabaseError::Overflow,
+                            DatabaseError::tr("The album holds a number that is too large."));
+    }
     return qint32(*number);
 }
 
 bool RecordSet::IsNull(int field)
 {
-    if (ReadsFromStatement(field))
-        return query_->statement.IsNull(query_->columns[std::size_t(field)]);
+    if (const int column = OpenColumn(field))
+        return cursor_.OpenStatement().IsNull(column);
     return std::holds_alternative<std::monostate>(Value(field));
 }
 
 QString RecordSet::TextOrEmpty(int field)
 {
     return IsNull(field) ? QString() : Text(field);
+}
+
+void RecordSet::Edit()
+{
+    cursor_.RequireRow();
+    buffer_.OpenForRow(cursor_.GetRow());
+}
+
+void RecordSet::AddNew()
+{
+    buffer_.OpenForNewRow();
+}
+
+void RecordSet::Update()
+{
+    buffer_.Write();
+}
+
+void RecordSet::CancelUpdate()
+{
+    buffer_.Close();
+}
+
+void RecordSet::Delete()
+{
+    buffer_.Close();
+    cursor_.RequireRow();
+    Statement remove(database_->GetEngine(), "DELETE FROM " + table_ + " WHERE rowid=?1");
+    remove.Bind(1, cursor_.GetRow());
+    remove.Run();
+    cursor_.RowWasDeleted();
 }

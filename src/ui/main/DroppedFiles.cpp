@@ -50,6 +50,8 @@ private:
         }
         for (const QString& name : listing.unusable)
             files_.unusable += isPicture_.Match(name);
+        if (!listing.error.isEmpty())
+            files_.unreadable += listing.error;
     }
 
     void AddFile(const QFileInfo& info)

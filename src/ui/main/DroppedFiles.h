@@ -13,8 +13,9 @@ struct DroppedFiles
     QStringList albums;                  // full paths
     QMap<QString, QStringList> pictures; // names by folder
     int pictureCount = 0;
-    int unusable = 0; // names that are not valid text
-    int others = 0;   // neither, or not on this computer
+    int unusable = 0;       // names that are not valid text
+    int others = 0;         // neither, or not on this computer
+    QStringList unreadable; // a line for each folder that could not be read to its end
 };
 
 // A dropped folder stands for the picture files that lie directly in it.

@@ -3,7 +3,10 @@
 
 #include "core/PathRoutines.h"
 #include "core/RecentAlbums.h"
+#include "platform/dialogs/Guard.h"
 
+#include <QApplication>
+#include <QDir>
 #include <QMenu>
 
 using namespace GeneralModule;
@@ -25,17 +28,30 @@ QString CaptionOf(const QString& path, int place, const QFontMetrics& metrics)
 
 } // namespace
 
-void FillRecentMenu(QMenu& menu, const std::function<void(const QString& path)>& open)
+RecentMenu::RecentMenu(QMenu* menu, std::function<void(const QString& path)> open)
+    : menu_(menu), open_(std::move(open))
 {
-    menu.clear();
+}
+
+void RecentMenu::Fill() const
+{
+    menu_->clear();
     const QStringList albums = RecentAlbums();
-    for (int place = 0; place < albums.size(); ++place) {
-        const QString& path = albums[place];
-        QAction* entry = menu.addAction(CaptionOf(path, place, menu.fontMetrics()));
-        entry->setObjectName(QStringLiteral("mnuRecent_%1").arg(place));
-        // Later: opening fills this menu anew, and with it goes the entry that was chosen.
-        QObject::connect(
-            entry, &QAction::triggered, &menu, [open, path] { open(path); }, Qt::QueuedConnection);
-    }
-    menu.setEnabled(!albums.isEmpty());
+    for (int place = 0; place < albums.size(); ++place)
+        AddEntry(albums[place], place);
+    menu_->setEnabled(!albums.isEmpty());
+}
+
+void RecentMenu::AddEntry(const QString& path, int place) const
+{
+    QAction* entry = menu_->addAction(CaptionOf(path, place, menu_->fontMetrics()));
+    entry->setObjectName(QStringLiteral("mnuRecent_%1").arg(place));
+    const auto open = [open = open_, path] {
+        // Chosen a moment ago: a window that has come up since goes on in the album that it was
+        // opened on.
+        if (!QApplication::activeModalWidget())
+            RunGuarded([&] { open(path); });
+    };
+    // Later: opening fills this menu anew, and with it goes the entry that was chosen.
+    QObject::connect(entry, &QAction::triggered, menu_, open, Qt::QueuedConnection);
 }

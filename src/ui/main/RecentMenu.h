@@ -7,6 +7,20 @@
 
 class QMenu;
 
-// Makes the menu's entries anew: one for each album opened lately, the latest first. Choosing one
-// hands its path to open. The menu is disabled as long as there is none.
-void FillRecentMenu(QMenu& menu, const std::function<void(const QString& path)>& open);
+// The menu of the albums opened lately: an entry for each, the latest first. It is disabled as long
+// as there is none.
+class RecentMenu
+{
+public:
+    // The menu must outlive it. Choosing an entry hands its path to open, with errors reported.
+    RecentMenu(QMenu* menu, std::function<void(const QString& path)> open);
+
+    // Makes the entries anew.
+    void Fill() const;
+
+private:
+    void AddEntry(const QString& path, int place) const;
+
+    QMenu* menu_;
+    std::function<void(const QString& path)> open_;
+};

@@ -2,24 +2,28 @@
 #include "ui/main/frmOpenChapter.h"
 #include "ui_frmOpenChapter.h"
 
+#include "catalogue/PictureRecord.h"
+#include "catalogue/frmLoadFiles.h"
+#include "catalogue/frmReloadPictures.h"
 #include "core/Album.h"
 #include "core/ChapterChain.h"
-#include "core/PathRoutines.h"
-#include "core/Settings.h"
 #include "core/StartUp.h"
-#include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
-#include "platform/files/FolderListing.h"
-#include "platform/widgets/OfferedControl.h"
-#include "platform/widgets/ThemedIcon.h"
+#include "platform/widgets/FrontWindow.h"
 #include "platform/widgets/WindowSize.h"
-#include "ui/main/MainWindowState.h"
+#include "ui/main/AlbumOpener.h"
+#include "ui/main/ChapterList.h"
+#include "ui/main/FileDrop.h"
+#include "ui/main/GuidanceLook.h"
 #include "ui/main/PasswordQuestions.h"
-#include "ui/main/RecentMenu.h"
+#include "ui/main/ViewerWindows.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmRepairAlbum.h"
+#include "viewer/ViewerFlags.h"
 
+#include <QDragEnterEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QShortcut>
 
@@ -29,31 +33,21 @@ namespace {
 
 constexpr QSize proposedSize(860, 600);
 
-// Of the last album, or on a first start the user's documents.
-QString FolderToBeginWith()
-{
-    const QString folder = FolderOf(GetLastAlbum());
-    return folder.isEmpty() ? UsersDocumentFolder() : folder;
-}
-
-// "My Album.alb", or the first "My Album 2.alb" that is free.
-QString FreeAlbumName(const QString& folder)
-{
-    QString name = frmOpenChapter::tr("My Album.alb");
-    for (int number = 2; QFileInfo::exists(QDir(folder).filePath(name)); ++number)
-        name = frmOpenChapter::tr("My Album %1.alb").arg(number);
-    return name;
-}
-
 } // namespace
 
 frmOpenChapter::frmOpenChapter(const QString& album) : ui_(std::make_unique<Ui::frmOpenChapter>())
 {
     ui_->setupUi(this);
+    const auto refresh = [this] { RefreshState(); };
+    chapters_ = std::make_unique<ChapterList>(ui_->lstChapter);
+    albums_ = std::make_unique<AlbumOpener>(ui_->mnuRecent, chapters_.get(), refresh);
+    drop_ = std::make_unique<FileDrop>(
+        ui_->progress, [this](const QString& path) { albums_->Open(path); }, refresh);
+    guidance_ = std::make_unique<GuidanceLook>(ui_->lblWarning, this);
     KeepWindowSize(this, proposedSize);
+    ConnectCommands();
     ConnectControls();
-    DecorateWarning();
-    SetCallHandler([this] { ComeToFront(); });
+    SetCallHandler([this] { BringToFront(this); });
     Form_Load(album);
 }
 
@@ -62,111 +56,62 @@ frmOpenChapter::~frmOpenChapter()
     SetCallHandler({});
 }
 
-// Where the desktop lets no window come forward by itself, it marks the window in its task bar.
-void frmOpenChapter::ComeToFront()
+void frmOpenChapter::ConnectCommands()
 {
-    if (isMinimized())
-        showNormal();
-    QWidget* modal = QApplication::activeModalWidget();
-    QWidget* front = modal ? modal : this;
-    front->raise();
-    front->activateWindow();
-    QApplication::alert(front);
+    using Form = frmOpenChapter;
+    using State = MainWindowState;
+    const Ui::frmOpenChapter& ui = *ui_;
+    const auto on = [this](void (Form::*handler)()) { return Guarded(this, handler); };
+    commands_ = {
+        {on(&Form::mnuOpenScript_Click), "album-open", ui.cmdOpenAlbum, ui.mnuOpenScript},
+        {on(&Form::mnuCreateScript_Click), "album-create", ui.cmdCreateAlbum, ui.mnuCreateScript},
+        {on(&Form::mnuExit_Click), "exit", ui.cmdExit, ui.mnuExit},
+        {on(&Form::cmdReadChapter_Click), "read-chapter", ui.cmdReadChapter, ui.mnuReadChapter,
+         &State::offersChapterCommands},
+        {on(&Form::cmdCreateChapter_Click), "chapter-create", ui.cmdCreateChapter,
+         ui.mnuCreateChapter, &State::offersAlbumCommands, true},
+        {on(&Form::mnuRename_Click), "rename", nullptr, ui.mnuRename, &State::offersChapterCommands,
+         true},
+        {on(&Form::mnuDeleteChapter_Click), "delete", nullptr, ui.mnuDeleteChapter,
+         &State::offersChapterCommands, true},
+        {on(&Form::cmdMoveUp_Click), "move-up", ui.cmdMoveUp, nullptr, &State::canMoveUp, true},
+        {on(&Form::cmdMoveDown_Click), "move-down", ui.cmdMoveDown, nullptr, &State::canMoveDown,
+         true},
+        {on(&Form::mnuLoadPictures_Click), "load-pictures", ui.cmdLoadPictures, ui.mnuLoadPictures,
+         &State::offersAlbumCommands, true},
+        {on(&Form::mnuReloadPictures_Click), "refresh", nullptr, ui.mnuReloadPictures,
+         &State::offersPictureCommands, true},
+        {on(&Form::mnuUndefined_Click), "index-pictures", ui.cmdDisplayUndefined, ui.mnuUndefined,
+         &State::offersPictureCommands, true},
+        {on(&Form::mnuSelectedUndefined_Click), "", nullptr, ui.mnuSelectedUndefined,
+         &State::offersPictureCommands, true},
+        {on(&Form::mnuAllPictures_Click), "", nullptr, ui.mnuAllPictures,
+         &State::offersPictureCommands},
+        {on(&Form::mnuSelectedPictures_Click), "", nullptr, ui.mnuSelectedPictures,
+         &State::offersPictureCommands},
+        {on(&Form::mnuRepair_Click), "repair", nullptr, ui.mnuRepair, &State::offersAlbumCommands,
+         true},
+        {on(&Form::mnuPassword_Click), "", nullptr, ui.mnuPassword, &State::offersAlbumCommands,
+         true},
+        {on(&Form::mnuPhotoAlbumHelp_Click), "help", nullptr, ui.mnuPhotoAlbumHelp},
+        {on(&Form::mnuAbout_Click), "about", nullptr, ui.mnuAbout},
+    };
+    for (const MainWindowCommand& command : commands_)
+        ConnectCommand(command);
 }
 
 void frmOpenChapter::ConnectControls()
 {
-    Connect(ui_->cmdOpenAlbum, ui_->mnuOpenScript, &frmOpenChapter::mnuOpenScript_Click,
-            "album-open");
-    Connect(ui_->cmdCreateAlbum, ui_->mnuCreateScript, &frmOpenChapter::mnuCreateScript_Click,
-            "album-create");
-    Connect(ui_->cmdExit, ui_->mnuExit, &frmOpenChapter::mnuExit_Click, "exit");
-    Connect(ui_->cmdReadChapter, ui_->mnuReadChapter, &frmOpenChapter::cmdReadChapter_Click,
-            "read-chapter");
-    Connect(ui_->cmdCreateChapter, ui_->mnuCreateChapter, &frmOpenChapter::cmdCreateChapter_Click,
-            "chapter-create");
-    Connect(nullptr, ui_->mnuRename, &frmOpenChapter::mnuRename_Click, "rename");
-    Connect(nullptr, ui_->mnuDeleteChapter, &frmOpenChapter::mnuDeleteChapter_Click, "delete");
-    Connect(ui_->cmdMoveUp, nullptr, &frmOpenChapter::cmdMoveUp_Click, "move-up");
-    Connect(ui_->cmdMoveDown, nullptr, &frmOpenChapter::cmdMoveDown_Click, "move-down");
-    Connect(ui_->cmdLoadPictures, ui_->mnuLoadPictures, &frmOpenChapter::mnuLoadPictures_Click,
-            "load-pictures");
-    Connect(nullptr, ui_->mnuReloadPictures, &frmOpenChapter::mnuReloadPictures_Click, "refresh");
-    Connect(ui_->cmdDisplayUndefined, ui_->mnuUndefined, &frmOpenChapter::mnuUndefined_Click,
-            "index-pictures");
-    Connect(nullptr, ui_->mnuSelectedUndefined, &frmOpenChapter::mnuSelectedUndefined_Click, "");
-    Connect(nullptr, ui_->mnuAllPictures, &frmOpenChapter::mnuAllPictures_Click, "");
-    Connect(nullptr, ui_->mnuSelectedPictures, &frmOpenChapter::mnuSelectedPictures_Click, "");
-    Connect(nullptr, ui_->mnuRepair, &frmOpenChapter::mnuRepair_Click, "repair");
-    Connect(nullptr, ui_->mnuPassword, &frmOpenChapter::mnuPassword_Click, "");
-    Connect(nullptr, ui_->mnuPhotoAlbumHelp, &frmOpenChapter::mnuPhotoAlbumHelp_Click, "help");
-    Connect(nullptr, ui_->mnuAbout, &frmOpenChapter::mnuAbout_Click, "about");
     for (QAction* separator :
          {ui_->mnuSep1, ui_->mnuSep2, ui_->mnuSep3, ui_->mnuSep4, ui_->mnuSep5})
         separator->setSeparator(true);
-    // Nothing stands behind this menu yet.
-    ui_->mnuOptions->setEnabled(false);
-
+    ui_->mnuOptions->setEnabled(false); // it has no entries yet
     connect(ui_->lstChapter, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmOpenChapter::RefreshState));
-    connect(ui_->lstChapter, &QListWidget::itemDoubleClicked, this,
+    connect(chapters_.get(), &ChapterList::ReadingAsked, this,
             Guarded(this, &frmOpenChapter::cmdReadChapter_Click));
-    ui_->lstChapter->installEventFilter(this);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
             &frmOpenChapter::mnuExit_Click);
-}
-
-// Each button does what its menu entry does.
-void frmOpenChapter::Connect(QPushButton* button, QAction* entry, void (frmOpenChapter::*handler)(),
-                             const char* icon)
-{
-    const QIcon drawing = ThemedIcon(QString::fromLatin1(icon));
-    if (entry) {
-        entry->setIcon(drawing);
-        if (handler)
-            connect(entry, &QAction::triggered, this, Guarded(this, handler));
-    }
-    if (button) {
-        button->setIcon(drawing);
-        if (handler)
-            connect(button, &QPushButton::clicked, this, Guarded(this, handler));
-    }
-}
-
-void frmOpenChapter::DecorateWarning()
-{
-    QFont font = ui_->lblWarning->font();
-    font.setPointSizeF(font.pointSizeF() * 1.35);
-    ui_->lblWarning->setFont(font);
-    ui_->lblWarning->setAutoFillBackground(true);
-    TintWarning();
-    QFont listFont = ui_->lstChapter->font();
-    listFont.setPointSizeF(listFont.pointSizeF() * 1.2);
-    ui_->lstChapter->setFont(listFont);
-}
-
-// Between the window's own colour and that of selections, so that it stands out in any theme and
-// glares in none.
-void frmOpenChapter::TintWarning()
-{
-    constexpr double share = 0.22; // of the selections' colour
-    const QColor ground = palette().color(QPalette::Window);
-    const QColor accent = palette().color(QPalette::Highlight);
-    const auto mix = [](int first, int second) {
-        return int(first * (1 - share) + second * share);
-    };
-    QPalette tinted = palette();
-    tinted.setColor(QPalette::Window,
-                    QColor(mix(ground.red(), accent.red()), mix(ground.green(), accent.green()),
-                           mix(ground.blue(), accent.blue())));
-    ui_->lblWarning->setPalette(tinted);
-}
-
-void frmOpenChapter::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        TintWarning();
 }
 
 bool frmOpenChapter::AlbumOpen() const
@@ -177,10 +122,7 @@ bool frmOpenChapter::AlbumOpen() const
 void frmOpenChapter::Form_Load(const QString& album)
 {
     InitModule();
-    const QString path = album.isEmpty() ? GetLastAlbum() : album;
-    if (!path.isEmpty())
-        OpenAlbum(path);
-    FillRecentAlbums();
+    albums_->OpenFirst(album);
 }
 
 void frmOpenChapter::resizeEvent(QResizeEvent* event)
@@ -192,26 +134,15 @@ void frmOpenChapter::resizeEvent(QResizeEvent* event)
     const QScopedValueRollback<bool> refilling(isRefilling_, true);
     RunGuarded([this] {
         if (AlbumOpen())
-            FillChapterList();
+            chapters_->Fill();
         RefreshState();
     });
-}
-
-// Read first: when that fails the list stays as it was.
-void frmOpenChapter::FillChapterList(const QString& selected)
-{
-    const QStringList names = ChapterNames();
-    const QString kept = selected.isEmpty() ? SelectedChapter() : selected;
-    const QSignalBlocker quiet(ui_->lstChapter);
-    ui_->lstChapter->clear();
-    ui_->lstChapter->addItems(names);
-    SelectRow(qMax(0, int(names.indexOf(kept))));
 }
 
 void frmOpenChapter::RefreshState()
 {
     const MainWindowState state =
-        DescribeMainWindow({AlbumOpen(), IsAlbumReadOnly(), AlbumOpen() && !ImageSet->IsEmpty(),
+        DescribeMainWindow({AlbumOpen(), IsAlbumReadOnly(), AlbumOpen() && HasPictures(),
                             ui_->lstChapter->count(), ui_->lstChapter->currentRow()});
     setWindowTitle(state.caption);
     ui_->lblWarning->setText(state.warning);
@@ -220,93 +151,37 @@ void frmOpenChapter::RefreshState()
     for (QPushButton* button : {ui_->cmdLoadPictures, ui_->cmdDisplayUndefined,
                                 ui_->cmdCreateChapter, ui_->cmdReadChapter})
         button->setVisible(state.offersAlbumCommands);
-    for (QAction* entry : {ui_->mnuAllPictures, ui_->mnuSelectedPictures})
-        entry->setEnabled(state.offersPictureCommands);
-    ui_->cmdReadChapter->setEnabled(state.offersChapterCommands);
-    ui_->mnuReadChapter->setEnabled(state.offersChapterCommands);
-    OfferChanges(state);
+    for (const MainWindowCommand& command : commands_)
+        OfferCommand(command, state);
+    for (QMenu* menu : menuBar()->findChildren<QMenu*>())
+        menu->setToolTipsVisible(state.isReadOnly);
     if (ui_->lstChapter->isVisible())
         ui_->lstChapter->setFocus();
 }
 
-// In an album that can only be read, whatever would change it says why it does not.
-void frmOpenChapter::OfferChanges(const MainWindowState& state)
+void frmOpenChapter::dragEnterEvent(QDragEnterEvent* event)
 {
-    const auto offer = [&state](auto* control, bool isOffered) {
-        OfferUnless(*control, isOffered, state.isReadOnly ? ReadOnlyReason() : QString());
-    };
-    offer(ui_->cmdCreateChapter, state.offersAlbumCommands);
-    offer(ui_->mnuCreateChapter, state.offersAlbumCommands);
-    offer(ui_->cmdLoadPictures, state.offersAlbumCommands);
-    offer(ui_->mnuLoadPictures, state.offersAlbumCommands);
-    offer(ui_->mnuReloadPictures, state.offersPictureCommands);
-    offer(ui_->cmdDisplayUndefined, state.offersPictureCommands);
-    offer(ui_->mnuUndefined, state.offersPictureCommands);
-    offer(ui_->mnuSelectedUndefined, state.offersPictureCommands);
-    offer(ui_->mnuRename, state.offersChapterCommands);
-    offer(ui_->mnuDeleteChapter, state.offersChapterCommands);
-    offer(ui_->cmdMoveUp, state.canMoveUp);
-    offer(ui_->cmdMoveDown, state.canMoveDown);
-    offer(ui_->mnuRepair, state.offersAlbumCommands);
-    offer(ui_->mnuPassword, state.offersAlbumCommands);
-    for (QMenu* menu : menuBar()->findChildren<QMenu*>())
-        menu->setToolTipsVisible(state.isReadOnly);
+    if (FileDrop::Accepts(event->mimeData()))
+        event->acceptProposedAction();
 }
 
-bool frmOpenChapter::eventFilter(QObject* watched, QEvent* event)
+void frmOpenChapter::dropEvent(QDropEvent* event)
 {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            RunGuarded([this] { cmdReadChapter_Click(); });
-            return true;
-        }
-    }
-    return QMainWindow::eventFilter(watched, event);
-}
-
-void frmOpenChapter::OpenChosen(const QString& path)
-{
-    ui_->lstChapter->clear();
-    const bool isOpen = OpenAlbum(path);
-    FillRecentAlbums();
-    if (isOpen)
-        FillChapterList();
-    RefreshState();
-}
-
-void frmOpenChapter::FillRecentAlbums()
-{
-    // Chosen a moment ago: a window that has come up since goes on in the album that it was opened
-    // on.
-    FillRecentMenu(*ui_->mnuRecent, [this](const QString& path) {
-        if (!QApplication::activeModalWidget())
-            RunGuarded([this, &path] { OpenChosen(path); });
-    });
+    event->acceptProposedAction();
+    // Later, so that the program from which the files come does not wait for message boxes here.
+    QMetaObject::invokeMethod(
+        this, [this, urls = event->mimeData()->urls()] { RunGuarded([&] { drop_->Take(urls); }); },
+        Qt::QueuedConnection);
 }
 
 void frmOpenChapter::mnuOpenScript_Click()
 {
-    const QString path =
-        Dialogs::Door().AskOpenFile({tr("Open Album"), tr("Album|*.alb"), FolderToBeginWith()});
-    if (path.isEmpty())
-        return RefreshState();
-    OpenChosen(path);
+    albums_->AskAndOpen();
 }
 
 void frmOpenChapter::mnuCreateScript_Click()
 {
-    const QString folder = FolderToBeginWith();
-    const QString path = Dialogs::Door().AskSaveFile(
-        {tr("Create a new Album"), tr("Album|*.alb"), folder, FreeAlbumName(folder)});
-    if (path.isEmpty())
-        return RefreshState();
-    if (CreateAlbumFile(path))
-        return OpenChosen(path);
-    // As after opening in vain, so that nobody goes on in the former album by mistake.
-    ui_->lstChapter->clear();
-    ReleaseAlbum();
-    RefreshState();
+    albums_->AskAndCreate();
 }
 
 void frmOpenChapter::mnuExit_Click()
@@ -314,11 +189,92 @@ void frmOpenChapter::mnuExit_Click()
     close();
 }
 
+void frmOpenChapter::cmdReadChapter_Click()
+{
+    if (!AlbumOpen())
+        return;
+    const std::optional<qint32> chapter = FindChapter(chapters_->Selected());
+    if (!chapter)
+        return;
+    ReadChapter(this, *chapter);
+    RefreshState();
+}
+
+void frmOpenChapter::cmdCreateChapter_Click()
+{
+    if (!AlbumOpen() || !chapters_->Create())
+        return;
+    RefreshState();
+    cmdReadChapter_Click();
+}
+
+void frmOpenChapter::mnuRename_Click()
+{
+    if (chapters_->Rename())
+        RefreshState();
+}
+
+void frmOpenChapter::mnuDeleteChapter_Click()
+{
+    if (chapters_->Delete())
+        RefreshState();
+}
+
+void frmOpenChapter::cmdMoveUp_Click()
+{
+    if (chapters_->MoveUp())
+        RefreshState();
+}
+
+void frmOpenChapter::cmdMoveDown_Click()
+{
+    if (chapters_->MoveDown())
+        RefreshState();
+}
+
+void frmOpenChapter::mnuLoadPictures_Click()
+{
+    frmLoadFiles(this).exec();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuReloadPictures_Click()
+{
+    frmReloadPictures(this).exec();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuUndefined_Click()
+{
+    PictureAtRandom = true;
+    BrowsePictures(this, QStringLiteral("-"));
+    RefreshState();
+}
+
+void frmOpenChapter::mnuSelectedUndefined_Click()
+{
+    if (BrowseChosenFolder(this, QStringLiteral("-")))
+        RefreshState();
+}
+
+void frmOpenChapter::mnuAllPictures_Click()
+{
+    PictureAtRandom = true;
+    BrowsePictures(this, QStringLiteral("*"));
+    RefreshState();
+}
+
+void frmOpenChapter::mnuSelectedPictures_Click()
+{
+    if (BrowseChosenFolder(this, QStringLiteral("*")))
+        RefreshState();
+}
+
 void frmOpenChapter::mnuRepair_Click()
 {
     frmRepairAlbum(this).exec();
     if (AlbumOpen())
-        FillChapterList();
+        chapters_->Fill();
     RefreshState();
 }
 

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/main/MainWindowCommand.h"
+
 #include <QMainWindow>
 
 #include <memory>
+#include <vector>
 
-class QAction;
-class QPushButton;
-struct DroppedFiles;
-struct MainWindowState;
+class AlbumOpener;
+class ChapterList;
+class FileDrop;
+class GuidanceLook;
 
 namespace Ui {
 class frmOpenChapter;
@@ -29,18 +32,13 @@ public:
     bool AlbumOpen() const;
 
 protected:
-    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
     void Form_Load(const QString& album);
-    // Selects the chapter of that name, else keeps the selection by its name.
-    void FillChapterList(const QString& selected = {});
     void RefreshState();
-    void OfferChanges(const MainWindowState& state);
 
     void mnuOpenScript_Click();
     void mnuCreateScript_Click();
@@ -62,27 +60,14 @@ private:
     void mnuAbout_Click();
     void mnuPhotoAlbumHelp_Click();
 
+    void ConnectCommands();
     void ConnectControls();
-    void Connect(QPushButton* button, QAction* entry, void (frmOpenChapter::*handler)(),
-                 const char* icon);
-    void ComeToFront();
-    void DecorateWarning();
-    void TintWarning();
-    // From whichever way the album was chosen.
-    void OpenChosen(const QString& path);
-    void FillRecentAlbums();
-    void TakeDropped(const DroppedFiles& files);
-    void LoadDropped(const DroppedFiles& files);
-    // Both take what is shown of each characteristic: "*" for any value, "-" for none.
-    void ShowPictures(const QString& imageSelection, const QString& fileSelection);
-    void ShowChosenFolder(const QString& imageSelection);
-    QString SelectedChapter() const;
-    // Asks until the answer is a name that a chapter may get; empty when the user gave up. ownName
-    // does not count as taken.
-    QString AskChapterName(const QString& prompt, const QString& ownName);
-    bool IsListed(const QString& name) const;
-    void SelectRow(int row);
 
     std::unique_ptr<Ui::frmOpenChapter> ui_;
+    std::unique_ptr<ChapterList> chapters_;
+    std::unique_ptr<AlbumOpener> albums_;
+    std::unique_ptr<FileDrop> drop_;
+    std::unique_ptr<GuidanceLook> guidance_;
+    std::vector<MainWindowCommand> commands_;
     bool isRefilling_ = false;
 };

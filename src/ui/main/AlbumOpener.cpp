@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main/AlbumOpener.h"
+
+#include "core/Album.h"
+#include "core/PathRoutines.h"
+#include "core/Settings.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/files/FolderListing.h"
+#include "ui/main/ChapterList.h"
+
+#include <QDir>
+
+using namespace GeneralModule;
+
+namespace {
+
+// Of the last album, or on a first start the user's documents.
+QString FolderToBeginWith()
+{
+    const QString folder = FolderOf(GetLastAlbum());
+    return folder.isEmpty() ? UsersDocumentFolder() : folder;
+}
+
+// "My Album.alb", or the first "My Album 2.alb" that is free.
+QString FreeAlbumName(const QString& folder)
+{
+    QString name = AlbumOpener::tr("My Album.alb");
+    for (int number = 2; QFileInfo::exists(QDir(folder).filePath(name)); ++number)
+        name = AlbumOpener::tr("My Album %1.alb").arg(number);
+    return name;
+}
+
+} // namespace
+
+AlbumOpener::AlbumOpener(QMenu* recent, ChapterList* chapters, std::function<void()> onDone)
+    : recent_(recent, [this](const QString& path) { Open(path); }),
+      chapters_(chapters),
+      onDone_(std::move(onDone))
+{
+}
+
+void AlbumOpener::OpenFirst(const QString& path)
+{
+    const QString chosen = path.isEmpty() ? GetLastAlbum() : path;
+    if (!chosen.isEmpty())
+        OpenAlbum(chosen);
+    recent_.Fill();
+}
+
+void AlbumOpener::Open(const QString& path)
+{
+    chapters_->Clear();
+    const bool isOpen = OpenAlbum(path);
+    recent_.Fill();
+    if (isOpen)
+        chapters_->Fill();
+    onDone_();
+}
+
+void AlbumOpener::AskAndOpen()
+{
+    const QString path =
+        Dialogs::Door().AskOpenFile({tr("Open Album"), tr("Album|*.alb"), FolderToBeginWith()});
+    if (path.isEmpty())
+        return onDone_();
+    Open(path);
+}
+
+void AlbumOpener::AskAndCreate()
+{
+    const QString folder = FolderToBeginWith();
+    const QString path = Dialogs::Door().AskSaveFile(
+        {tr("Create a new Album"), tr("Album|*.alb"), folder, FreeAlbumName(folder)});
+    if (path.isEmpty())
+        return onDone_();
+    if (CreateAlbumFile(path))
+        return Open(path);
+    // As after opening in vain, so that nobody goes on in the former album by mistake.
+    chapters_->Clear();
+    ReleaseAlbum();
+    onDone_();
+}

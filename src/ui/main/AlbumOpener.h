@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/main/RecentMenu.h"
+
+#include <QCoreApplication>
+
+class ChapterList;
+
+// Opens, makes and closes albums for the main window. The chapter list and the menu of the albums
+// opened lately show what came of it.
+class AlbumOpener
+{
+    Q_DECLARE_TR_FUNCTIONS(AlbumOpener)
+
+public:
+    // All must outlive it. onDone runs after each attempt, also one that the user gave up.
+    AlbumOpener(QMenu* recent, ChapterList* chapters, std::function<void()> onDone);
+    AlbumOpener(const AlbumOpener&) = delete;
+    AlbumOpener& operator=(const AlbumOpener&) = delete;
+
+    // The given album, or the one opened last when path is empty. Called once, before the window
+    // is up: its first layout fills the chapter list.
+    void OpenFirst(const QString& path);
+    void AskAndOpen();
+    void AskAndCreate();
+    // From whichever way the album was chosen. After a failure none is open.
+    void Open(const QString& path);
+
+private:
+    RecentMenu recent_;
+    ChapterList* chapters_;
+    std::function<void()> onDone_;
+};

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+// The viewer as the main window opens it, without autoview. They return when the user has left it.
+
+// On a chapter's first paragraph.
+void ReadChapter(QWidget* parent, qint32 chapter);
+
+// On pictures outside the story. The image selection is what is shown of each characteristic: "*"
+// for any value, "-" for none; the file selection a folder and a pattern after it, or empty.
+void BrowsePictures(QWidget* parent, const QString& imageSelection,
+                    const QString& fileSelection = {});
+
+// On pictures of a folder that the user chooses. False when none was chosen.
+bool BrowseChosenFolder(QWidget* parent, const QString& imageSelection);
