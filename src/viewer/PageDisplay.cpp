@@ -13,8 +13,6 @@
 
 void PageDisplay::Begin(const PageText& page)
 {
-    displayed_.clear();
-    list_.Clear();
     text_ = page.text;
     if (!page.title.isEmpty())
         surface_->SetTitle(page.title);
@@ -29,6 +27,7 @@ void PageDisplay::ShowCountFound(int count)
 
 void PageDisplay::SetFound(FoundPictures found)
 {
+    displayed_.clear();
     list_ = std::move(found.list);
     failure_ = found.failure;
     hasFound_ = list_.Count() > 0;

@@ -21,10 +21,11 @@ public:
     void DrawOn(StorySurface& surface) { surface_ = &surface; }
     StorySurface& Surface() const { return *surface_; }
 
-    // Begins a page without pictures and divides the surface for it. Its text is not shown yet.
+    // Begins a page: divides the surface for its text, which is not shown yet.
     void Begin(const PageText& page);
-    // Counts on the surface what a search has found so far.
+    // Shows what a search has found so far.
     void ShowCountFound(int count);
+    // Takes the page's pictures, of which none is on the screen yet.
     void SetFound(FoundPictures found);
     // Reports in a message box what the search failed with, if it did. Call it when the page is
     // whole: while the box is up the window may be resized and be drawn again.
@@ -36,7 +37,6 @@ public:
     // The pictures of the screen once more, as many as now find room.
     void ShowScreenAgain(int lines);
 
-    void SetText(const QString& text) { text_ = text; }
     // The text with its markers filled for the last picture on the screen.
     void ShowText();
     void ShowCountLeft();

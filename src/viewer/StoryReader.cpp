@@ -191,8 +191,8 @@ void StoryReader::ZoomIn()
     ShowText(GetMode() == StoryMode::Selection);
 }
 
-// In an empty chapter zooming out counts the pictures that are left, where zooming in shows the
-// text, on purpose.
+// On purpose zooming out counts the pictures that are left of an empty chapter, while zooming in
+// shows its text.
 void StoryReader::ZoomOut()
 {
     if (Nblines == maxLines)

@@ -34,14 +34,14 @@ struct Outlook
     Screenful screen;
 };
 
-// Reads a story, or the pictures of a selection, page by page on whatever surface it is given. It
-// knows no window: what it cannot show itself it tells by signals.
+// Reads a story, or the pictures of a selection, page by page and draws them on whatever surface it
+// is given. It knows no window.
 class StoryReader : public QObject
 {
     Q_OBJECT
 
 public:
-    // isInFront tells whether the user sees the surface, for autoview.
+    // isInFront tells whether the user sees the surface; autoview waits while it is covered.
     explicit StoryReader(std::function<bool()> isInFront, QObject* parent = nullptr);
 
     // What is read. Whoever changes it calls DisplayAgain, or takes a step from there.
@@ -63,7 +63,7 @@ public:
     // Takes the step, or emits Ended when there is nothing left to read. A step that fails throws
     // DatabaseError and leaves the position where it was.
     void Go(StoryWay way);
-    // Shows that paragraph; emits Ended when it is none.
+    // Shows that position's paragraph; emits Ended when it has none.
     void GoTo(const StoryPosition& position);
 
     // Each shows its page from the first picture on, and does nothing where there is no such page.
@@ -73,16 +73,16 @@ public:
     // At most maxImages of the album's pictures that fit ImageSelection and that selection of
     // paths.
     void DisplayUndefined(const QString& fileSelection, int maxImages);
-    // The page that is on show: the paragraph, else the chapter or the selection.
+    // Draws the page on show again: the paragraph, else the chapter or the selection.
     void DisplayAgain();
-    // The same with one line of pictures, and from the chapter's beginning.
+    // The same from the chapter's beginning and with one line of pictures.
     void DisplayFromBeginning();
 
-    // After the last picture of a paragraph the next paragraph.
+    // The page's next pictures; after the last ones of a paragraph the next paragraph.
     void ShowNextPictures();
     void ZoomIn();  // fewer and larger pictures
     void ZoomOut(); // more and smaller ones
-    // One picture of the screen alone, during which autoview waits.
+    // One picture of the screen alone; autoview waits until others are shown.
     void ShowAlone(const ShownPicture& picture);
     void LeaveAlone();
 
@@ -97,11 +97,13 @@ public:
     void SwitchAutoview();
 
 signals:
+    // There is nothing left to read.
     void Ended();
 
 private:
-    void ShowPosition();
     using Search = std::function<FoundPictures(const CountFeedback&)>;
+
+    void ShowPosition();
     void ShowPage(const PageText& page, const Search& search);
     void ShowScreenAgain();
     void ScreenChanged();

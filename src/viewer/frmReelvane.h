@@ -25,7 +25,7 @@ class frmReelvane : public QDialog, public PageHost
 {
     Q_OBJECT
 
-    StoryReader reader_;
+    StoryReader reader_; // before the names below, which refer to it
 
 public:
     explicit frmReelvane(QWidget* parent = nullptr);
