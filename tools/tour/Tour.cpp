@@ -235,7 +235,7 @@ void Tour::Continue()
 
 void Tour::Fail(const QString& text)
 {
-    QTextStream(stderr) << "lumenark: " << text << '\n';
+    QTextStream(stderr) << "lumenark_tour: " << text << '\n';
     next_ = steps_.size();
     std::exit(1);
 }
