@@ -2,6 +2,7 @@
 #include "Backdrop.h"
 
 #include "Sky.h"
+#include "Trees.h"
 
 void PaintBackdrop(Canvas& canvas, double horizon, double light)
 {
@@ -28,6 +29,19 @@ void PaintBackdrop(Canvas& canvas, double horizon, double light)
         PaintClouds(canvas, 2 + 2 * wide, horizon * 0.3, horizon * 0.86, 340);
         PaintBirds(canvas, 5, {canvas.width * (light < 0.5 ? 0.88 : 0.14), horizon * 0.26}, 80);
     }
+}
+
+void PaintFarShore(Canvas& canvas, double line, double light)
+{
+    const Mood& mood = canvas.mood;
+    PaintBackdrop(canvas, line, light);
+    PaintMountains(canvas, line, line * 0.5, 0.58, mood.Summer() ? 0.4 : 0.8);
+    PaintMist(canvas, line - 20, 260, 0.5);
+    PaintHills(canvas, line - 70, line - 8, 3);
+    const Ridge bank(canvas.random, line - 8, 5, 800);
+    PaintHill(canvas, bank, mood.groundDark, 0.2);
+    PaintTreeLine(canvas, bank, 62, 0.18);
+    PaintTreeLine(canvas, bank, 44, 0.12);
 }
 
 void PaintWeather(Canvas& canvas, double horizon)

@@ -12,6 +12,7 @@ struct SamplePicture
 {
     QString fileName;
     QSize size;
+    QString scene; // painted on it
     QString legend;
     QString season;
     QString place;
@@ -26,7 +27,8 @@ struct SamplePicture
 // All of them, in the order in which they were taken: a year from spring to winter.
 const std::vector<SamplePicture>& SamplePictures();
 
-// Paints and writes folder/fileName; false when the file cannot be written.
+// Paints and writes folder/fileName; false when the file cannot be written, or when a scene or
+// drawing has a mistake, which is named on the error channel.
 bool PaintSamplePicture(const SamplePicture& picture, const QString& folder);
 // Paints all of them at once on all cores; the names of those that could not be written.
 QStringList PaintSamplePictures(const QString& folder);

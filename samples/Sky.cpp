@@ -160,6 +160,15 @@ void PaintStormClouds(Canvas& canvas, double lowest)
     }
 }
 
+void PaintLightning(Canvas& canvas, QPointF from, double height)
+{
+    QPainterPath bolt(from);
+    for (int i = 1; i <= 7; ++i)
+        bolt.lineTo(from + QPointF(canvas.random.Between(-45, 30) - i * 9, height * i / 7));
+    canvas.Stroke(bolt, QColor(255, 246, 214, 70), 16);
+    canvas.Stroke(bolt, QColor(0xfffaea), 4);
+}
+
 void PaintBirds(Canvas& canvas, int count, QPointF center, double spread)
 {
     Random& random = canvas.random;

@@ -14,6 +14,8 @@ void PaintClouds(Canvas& canvas, int count, double highest, double lowest, doubl
 // Long thin clouds of mornings and evenings.
 void PaintStreaks(Canvas& canvas, int count, double highest, double lowest);
 void PaintStormClouds(Canvas& canvas, double lowest);
+// One flash, downwards from the point.
+void PaintLightning(Canvas& canvas, QPointF from, double height);
 void PaintBirds(Canvas& canvas, int count, QPointF center, double spread);
 
 // Painted over the land.

@@ -167,21 +167,6 @@ void PaintConifer(Canvas& canvas, QPointF foot, double height, double distance)
     }
 }
 
-void PaintPoplar(Canvas& canvas, QPointF foot, double height, double distance)
-{
-    Random& random = canvas.random;
-    const QColor leaf = canvas.mood.leaves[static_cast<size_t>(random.Below(2))];
-    const Tones tones = TonesOf(canvas.mood, leaf, distance);
-    const double half = height * random.Between(0.1, 0.13);
-    Trunk(canvas, foot, height * 0.3, height * 0.03, Bark(canvas.mood, distance));
-    QPainterPath crown(foot + QPointF(0, -height));
-    crown.cubicTo(foot + QPointF(half * 1.1, -height * 0.7),
-                  foot + QPointF(half * 1.4, -height * 0.1), foot + QPointF(0, -height * 0.1));
-    crown.cubicTo(foot + QPointF(-half * 1.4, -height * 0.1),
-                  foot + QPointF(-half * 1.1, -height * 0.7), foot + QPointF(0, -height));
-    canvas.Fill(crown, Across(foot.x() - half, foot.x() + half, tones.light, tones.dark));
-}
-
 void PaintTree(Canvas& canvas, QPointF foot, double height, double distance)
 {
     if (canvas.mood.Winter()) {

@@ -8,7 +8,6 @@ void PaintLeafTree(Canvas& canvas, QPointF foot, double height, const QColor& le
                    double distance);
 void PaintBareTree(Canvas& canvas, QPointF foot, double height, double distance);
 void PaintConifer(Canvas& canvas, QPointF foot, double height, double distance);
-void PaintPoplar(Canvas& canvas, QPointF foot, double height, double distance);
 // The tree that suits the season: in leaf, in blossom, coloured or bare.
 void PaintTree(Canvas& canvas, QPointF foot, double height, double distance);
 // Small trees along a ridge, in groups with gaps.

@@ -4,10 +4,8 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTimer>
 
-// A bare window with a menu and 20 buttons. With LUMENARK_EXIT_AFTER_FIRST_PAINT set it ends once
-// it has been painted, as the real program does.
+// A bare window with a menu and 20 buttons.
 
 namespace {
 
@@ -29,16 +27,6 @@ public:
             grid->addWidget(button, i / columnCount, i % columnCount);
         }
         setCentralWidget(centre);
-    }
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        QMainWindow::paintEvent(event);
-        if (qEnvironmentVariableIsSet("LUMENARK_EXIT_AFTER_FIRST_PAINT")) {
-            // The children are painted after their window and within the same event.
-            QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-        }
     }
 };
 

@@ -12,7 +12,7 @@
 // startup_benchmark PROGRAM [ARGUMENT...]
 // Measures how long PROGRAM takes from its start until it has painted its first window and ended,
 // beside a bare window on the same display. The two take turns, so that a busy machine slows them
-// alike. Both are told by LUMENARK_EXIT_AFTER_FIRST_PAINT to end by themselves.
+// alike. A library that is preloaded into both ends them after the paint.
 
 namespace {
 
@@ -30,8 +30,11 @@ struct Program
 // Empty, with the reason printed, when the program does not start, fails or does not end.
 std::optional<double> RunOnce(const Program& program)
 {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(END_AFTER_FIRST_PAINT));
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.setProcessEnvironment(environment);
     QElapsedTimer timer;
     timer.start();
     process.start(program.path, program.arguments);
@@ -88,7 +91,6 @@ int main(int argc, char** argv)
         std::fputs("usage: startup_benchmark PROGRAM [ARGUMENT...]\n", stderr);
         return 2;
     }
-    qputenv("LUMENARK_EXIT_AFTER_FIRST_PAINT", "1");
     const QString bare = QCoreApplication::applicationDirPath() + QStringLiteral("/bare_window");
     std::vector<Program> programs{{bare, {}, {}}, {arguments[1], arguments.mid(2), {}}};
     if (!Measure(programs)) {

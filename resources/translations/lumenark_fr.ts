@@ -951,10 +951,6 @@ Le supprimer quand même ?</translation>
         <translation>Raconte des histoires avec des photographies.</translation>
     </message>
     <message>
-        <source>Go through the windows, write a picture of each into FOLDER, and end.</source>
-        <translation>Parcourir les fenêtres, écrire une image de chacune dans FOLDER, et finir.</translation>
-    </message>
-    <message>
         <source>The album to open; the last one when not given.</source>
         <translation>L&apos;album à ouvrir ; le dernier quand il n&apos;est pas indiqué.</translation>
     </message>

@@ -2,7 +2,10 @@
 #include "Application.h"
 
 #include "Translations.h"
+#include "core/StartUp.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/widgets/HeldEscape.h"
+#include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/ThemedIcon.h"
 
 void NameProgram()
@@ -18,6 +21,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
     setDesktopFileName(QStringLiteral("lumenark"));
     setWindowIcon(ProgramIcon());
     InstallTranslations(*this);
+    Dialogs::Install(&dialogs_);
+    InstallHelpKey(GeneralModule::HelpFile());
+    InstallHeldEscapeFilter();
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)

@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Application.h"
 #include "Convert.h"
-#include "Tour.h"
 #include "Translations.h"
 
 #include "core/Album.h"
-#include "core/StartUp.h"
-#include "platform/widgets/HeldEscape.h"
-#include "platform/widgets/HelpWindow.h"
-#include "platform/widgets/QtDialogs.h"
 #include "ui/main/frmOpenChapter.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
-#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -21,12 +15,6 @@
 #include <string_view>
 
 namespace {
-
-struct Arguments
-{
-    QString album; // absolute, because the program makes its own folder the current one
-    QString tour;  // folder for the pictures of a tour, empty for none
-};
 
 // Whether the program is only asked what it is, which needs no display.
 bool AsksOnly(int argc, char** argv)
@@ -40,46 +28,23 @@ bool AsksOnly(int argc, char** argv)
     return false;
 }
 
-Arguments ReadArguments()
+// The album to open, empty for none. Absolute, because the program makes its own folder the current
+// one. Ends the program when an argument is wrong or only asks what it is.
+QString ReadArguments()
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::tr("Tells stories with photographs."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption tour(
-        QStringLiteral("tour"),
-        QApplication::tr("Go through the windows, write a picture of each into FOLDER, and end."),
-        QStringLiteral("FOLDER"));
-    parser.addOption(tour);
     AddConversionOptions(parser);
     parser.addPositionalArgument(
         QStringLiteral("album"),
         QApplication::tr("The album to open; the last one when not given."),
         QStringLiteral("[album]"));
     parser.process(QCoreApplication::arguments());
-    const auto absolute = [](const QString& path) {
-        return path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
-    };
-    return {absolute(parser.positionalArguments().value(0)), absolute(parser.value(tour))};
+    const QString album = parser.positionalArguments().value(0);
+    return album.isEmpty() ? QString() : QFileInfo(album).absoluteFilePath();
 }
-
-// For measuring the start from outside: ends the program once its window has been painted, children
-// and all.
-class EndAfterFirstPaint : public QObject
-{
-public:
-    explicit EndAfterFirstPaint(QWidget* window) : QObject(window)
-    {
-        window->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint)
-            QTimer::singleShot(0, qApp, &QApplication::quit);
-        return false;
-    }
-};
 
 } // namespace
 
@@ -94,19 +59,10 @@ int main(int argc, char** argv)
         InstallTranslations(application);
         ReadArguments(); // answers, and ends the program
     }
-    Application application(argc, argv);
-    QtDialogs dialogs;
-    Dialogs::Install(&dialogs);
-    InstallHelpKey(GeneralModule::HelpFile());
-    InstallHeldEscapeFilter();
-    const Arguments arguments = ReadArguments();
-    frmOpenChapter mainWindow(arguments.album);
+    const Application application(argc, argv);
+    frmOpenChapter mainWindow(ReadArguments());
     if (GeneralModule::HasGoneToOtherWindow())
         return 0;
     mainWindow.show();
-    if (!arguments.tour.isEmpty())
-        new Tour(arguments.tour, &mainWindow);
-    if (qEnvironmentVariableIsSet("LUMENARK_EXIT_AFTER_FIRST_PAINT"))
-        new EndAfterFirstPaint(&mainWindow);
     return QApplication::exec();
 }

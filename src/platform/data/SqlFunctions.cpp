@@ -15,12 +15,6 @@
 
 namespace {
 
-#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
-constexpr auto pathCase = LikePattern::Case::Insensitive;
-#else
-constexpr auto pathCase = LikePattern::Case::Sensitive;
-#endif
-
 std::string_view TextOf(sqlite3_value* value)
 {
     const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
@@ -132,7 +126,7 @@ void RegisterSqlFunctions(sqlite3* engine)
             ThrowEngineError(engine, code);
     };
     add(likeFunction, EngineLike<LikePattern::Case::Insensitive>);
-    add(pathLikeFunction, EngineLike<pathCase>);
+    add(pathLikeFunction, EngineLike<LikePattern::Case::Sensitive>);
     add(anyOfFunction, EngineAnyOf);
     const int code = sqlite3_create_collation_v2(engine, foldedCollation, SQLITE_UTF8, nullptr,
                                                  CompareFoldedTexts, nullptr);

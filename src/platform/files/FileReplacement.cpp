@@ -11,14 +11,10 @@
 #include <filesystem>
 #include <system_error>
 
-#ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#else
-#include <QTemporaryDir>
-#endif
 
 namespace fs = std::filesystem;
 
@@ -73,19 +69,10 @@ void RequireReplaceable(const QFileInfo& file)
 // Only the user may look into it.
 QString MakeFolder(const QString& parent)
 {
-    const QString pattern = Inside(parent, folderPattern) + QLatin1String("XXXXXX");
-#ifdef Q_OS_UNIX
-    QByteArray name = QFile::encodeName(pattern);
+    QByteArray name = QFile::encodeName(Inside(parent, folderPattern) + QLatin1String("XXXXXX"));
     if (!mkdtemp(name.data()))
         Fail(errno);
     return QFile::decodeName(name);
-#else
-    QTemporaryDir folder(pattern);
-    if (!folder.isValid())
-        Fail(EACCES);
-    folder.setAutoRemove(false);
-    return folder.path();
-#endif
 }
 
 // A program that is still running, here or on another computer, holds its lock.
@@ -156,7 +143,6 @@ void MoveJournals(const QString& from, const QString& to, std::error_code& error
     }
 }
 
-#ifdef Q_OS_UNIX
 void WriteThrough(const QString& path, int flags)
 {
     const int file = open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
@@ -167,7 +153,6 @@ void WriteThrough(const QString& path, int flags)
     if (!done)
         Fail(error);
 }
-#endif
 
 } // namespace
 
@@ -205,7 +190,6 @@ QString FileReplacement::GetHelperPath() const
 // The permissions are there before the first byte is.
 void FileReplacement::MakeFile()
 {
-#ifdef Q_OS_UNIX
     struct stat replaced = {};
     const bool replaces = stat(QFile::encodeName(target_).constData(), &replaced) == 0;
     const int file =
@@ -222,11 +206,6 @@ void FileReplacement::MakeFile()
     close(file);
     if (!done)
         Fail(error);
-#else
-    QFile file(path_);
-    if (!file.open(QIODevice::WriteOnly))
-        Fail(EIO);
-#endif
 }
 
 void FileReplacement::SetJournalsAside()
@@ -247,9 +226,7 @@ void FileReplacement::PutJournalsBack()
 
 void FileReplacement::Commit(Taken taken)
 {
-#ifdef Q_OS_UNIX
     WriteThrough(path_, O_RDWR);
-#endif
     if (taken == Taken::Refuse && QFileInfo::exists(target_))
         Fail(EEXIST);
     SetJournalsAside();
@@ -262,13 +239,11 @@ void FileReplacement::Commit(Taken taken)
         PutJournalsBack();
         throw std::system_error(error);
     }
-#ifdef Q_OS_UNIX
     // The file has its name by now, whatever a file system that knows no such thing says.
     try {
         WriteThrough(QFileInfo(target_).absolutePath(), O_RDONLY);
     } catch (const std::system_error&) {
     }
-#endif
 }
 
 bool FileReplacement::ClearLeftovers(const QString& place)

@@ -20,11 +20,7 @@ constexpr quint32 largestFrame = OldAlbumStream::largestRow + 64 * 1024;
 
 QString ReaderProcess::ReaderPath()
 {
-#ifdef Q_OS_WIN
-    return ProgramFile(QStringLiteral("lumenark-import.exe"));
-#else
     return ProgramFile(QStringLiteral("lumenark-import"));
-#endif
 }
 
 ReaderProcess::ReaderProcess(const QStringList& arguments, const QString& program)

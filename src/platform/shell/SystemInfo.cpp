@@ -19,15 +19,9 @@ struct Command
 
 QVariant ReadMachineSetting(const QString& keyName, const QString& valueName)
 {
-#ifdef Q_OS_WIN
-    const QSettings registry(QStringLiteral("HKEY_LOCAL_MACHINE\\") + keyName,
-                             QSettings::NativeFormat);
-    return registry.value(valueName);
-#else
     const QSettings file(QSettings::IniFormat, QSettings::SystemScope,
                          QStringLiteral("QVRLumenark"));
     return file.value(QString(keyName).replace(u'\\', u'/') + u'/' + valueName);
-#endif
 }
 
 // None when the registry says nothing that can be used.
