@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/AlbumState.h"
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 #include "platform/data/DatabaseError.h"
 #include "story/ParagraphMoves.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/OldAlbumTrial.h"
 
-#include "core/OldAlbumConversion.h"
+#include "core/oldalbum/OldAlbumConversion.h"
 #include "platform/data/Database.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/data/RecordSet.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 
 #include <QByteArray>
 

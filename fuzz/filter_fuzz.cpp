@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Filters, made by their grammar and then often damaged: what the record set finds is what the
 // filter's tree says of each row, and what is refused ends in an error that names the filter.
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "fuzz/Trials.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/data/FilterText.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Paragraphs' markers there and back, under labels of all kinds, and filled for a picture.
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/Parameters.h"
 #include "fuzz/Trials.h"
 #include "platform/data/DatabaseError.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Albums, paragraphs and what they choose, all at random: the list of pictures is what a plain look
 // at each picture gives, and showing from it loses none and shows none twice.
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "fuzz/Trials.h"
 #include "platform/data/WriteBatch.h"
 #include "story/Paragraph.h"

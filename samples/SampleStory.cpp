@@ -5,6 +5,7 @@
 
 #include "catalogue/CharacteristicModel.h"
 #include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 #include "core/Parameters.h"
 #include "platform/data/WriteBatch.h"

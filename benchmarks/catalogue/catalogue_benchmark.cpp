@@ -7,6 +7,7 @@
 #include "catalogue/ValueReplacement.h"
 #include "catalogue/frmEditImage.h"
 #include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/dialogs/Dialogs.h"
 

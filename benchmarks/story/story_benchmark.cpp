@@ -4,6 +4,7 @@
 #include "../SideBySide.h"
 
 #include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "story/ParagraphChain.h"
 #include "story/PictureFilter.h"
 

@@ -5,6 +5,7 @@
 #include "../pictures/PaintedPictures.h"
 
 #include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 #include "platform/picture/PictureReader.h"
 #include "platform/widgets/PictureBox.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/chain/StoryModel.h"
 
-#include "core/Album.h"
 #include "core/AlbumChains.h"
+#include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 
 #include <QtGlobal>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The chains of chapters and paragraphs: whatever is done to them one after the other, the album
 // holds what an ordered list would; and a repair makes any links whole and loses nothing.
-#include "core/Album.h"
 #include "core/AlbumRepair.h"
+#include "core/AlbumSets.h"
 #include "core/ChainMending.h"
 #include "core/ChapterChain.h"
 #include "fuzz/RunStatements.h"

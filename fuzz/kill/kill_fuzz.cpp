@@ -7,6 +7,7 @@
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
 #include "core/AlbumRepair.h"
+#include "core/AlbumSets.h"
 #include "core/Parameters.h"
 #include "fuzz/AlbumState.h"
 #include "fuzz/Trials.h"

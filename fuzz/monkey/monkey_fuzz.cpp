@@ -3,6 +3,7 @@
 // answered at random. No crash, no hang, no error that a window does not catch, and the albums are
 // whole afterwards.
 #include "core/Album.h"
+#include "core/RandomNumbers.h"
 #include "core/StartUp.h"
 #include "fuzz/AlbumState.h"
 #include "fuzz/Trials.h"

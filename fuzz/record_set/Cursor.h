@@ -2,7 +2,7 @@
 // A record set beside its model in memory.
 #pragma once
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "fuzz/Trials.h"
 #include "platform/data/DatabaseError.h"
 #include "support/AlbumFixture.h"

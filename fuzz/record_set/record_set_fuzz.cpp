@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Two record sets over one table, changed and read in any order, with walks and batches open or
 // not: what they show and what the file holds is what a model in memory says.
+#include "core/AlbumSets.h"
 #include "fuzz/RunStatements.h"
 #include "fuzz/record_set/Cursor.h"
 #include "platform/data/WriteBatch.h"

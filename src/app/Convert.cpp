@@ -2,7 +2,7 @@
 #include "Convert.h"
 
 #include "Translations.h"
-#include "core/OldAlbumConversion.h"
+#include "core/oldalbum/OldAlbumConversion.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/data/DatabaseFile.h"
 

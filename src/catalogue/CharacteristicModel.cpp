@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/CharacteristicModel.h"
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 
 #include <QTextBoundaryFinder>

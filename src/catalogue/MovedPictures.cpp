@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/MovedPictures.h"
 
-#include "core/Album.h"
-#include "core/PathRoutines.h"
+#include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/files/FolderListing.h"
+#include "platform/files/PathRoutines.h"
 #include "platform/text/LikePattern.h"
 
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 #include "catalogue/PictureLoading.h"
 
 #include "catalogue/CharacteristicModel.h"
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/files/FolderListing.h"

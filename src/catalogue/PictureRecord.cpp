@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/PictureRecord.h"
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/EditConflict.h"
 #include "core/TextRoutines.h"
 #include "platform/data/WriteBatch.h"

@@ -2,7 +2,7 @@
 #include "catalogue/ValueReplacement.h"
 
 #include "catalogue/CharacteristicModel.h"
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/text/LikePattern.h"

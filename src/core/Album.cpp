@@ -2,10 +2,10 @@
 #include "core/Album.h"
 
 #include "core/AlbumPassword.h"
-#include "core/Columns.h"
-#include "core/OldAlbum.h"
+#include "core/AlbumSets.h"
 #include "core/RecentAlbums.h"
 #include "core/Settings.h"
+#include "core/oldalbum/OldAlbum.h"
 #include "platform/data/DatabaseFile.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/dialogs/Dialogs.h"
@@ -28,31 +28,6 @@ struct AlbumTexts
 {
     Q_DECLARE_TR_FUNCTIONS(Album)
 };
-
-void RequireFields(const RecordSet& set, std::initializer_list<const char*> fields)
-{
-    for (const char* field : fields)
-        set.FieldNumber(QString::fromLatin1(field)); // throws where it is missing
-}
-
-void RequireCharacteristics(const RecordSet& set)
-{
-    for (int column = 0; column < columnCount; ++column)
-        set.FieldNumber(CarField(column));
-}
-
-void RequireSchema(const Album& album)
-{
-    RequireFields(album.params, {"Param", "Value"});
-    RequireFields(album.paragraphs,
-                  {"Id", "Chapter", "PreviousParagraph", "NextParagraph", "Text", "FileSelection"});
-    RequireCharacteristics(album.paragraphs);
-    RequireFields(album.images, {"File", "Legend", "SourceFile"});
-    RequireCharacteristics(album.images);
-    RequireFields(album.chapters,
-                  {"Id", "Name", "FirstParagraph", "PreviousChapter", "NextChapter"});
-    RequireFields(album.linkedImages, {"ParagraphId", "File"});
-}
 
 // Older programs left FileSelection without a value; every reader counts on a text.
 void FillEmptySelections(Album& album)
@@ -89,7 +64,6 @@ void CleanUpParagraphs(Album& album)
     }
 }
 
-std::unique_ptr<Album> opened;
 std::unique_ptr<FileClaim> claim; // on the open album's file
 std::function<void()> callHandler;
 bool hasGoneToOtherWindow = false;
@@ -139,7 +113,7 @@ bool OpenWithPassword(const QString& path, QString password)
         try {
             auto album = std::make_unique<Album>(path, password);
             CleanUpParagraphs(*album);
-            opened = std::move(album);
+            SetOpenedAlbum(std::move(album));
             SaveLastAlbum(path);
             RememberRecentAlbum(path);
             return true;
@@ -178,38 +152,21 @@ bool OpenOldAlbum(const QString& path)
 
 namespace GeneralModule {
 
-Album::Album(const QString& path, const QString& password)
-    : database(Database::Open(path, password)),
-      params(database, QStringLiteral("Params")),
-      paragraphs(database, QStringLiteral("Paragraph")),
-      images(database, QStringLiteral("Image")),
-      chapters(database, QStringLiteral("Chapter")),
-      linkedImages(database, QStringLiteral("LinkedImages"))
-{
-    RequireSchema(*this);
-}
-
 bool IsAlbumOpen()
 {
-    return opened != nullptr;
+    return FindOpenedAlbum() != nullptr;
 }
 
 bool IsAlbumReadOnly()
 {
-    return opened && opened->database->IsReadOnly();
+    const Album* album = FindOpenedAlbum();
+    return album && album->database->IsReadOnly();
 }
 
 QString ReadOnlyReason()
 {
     return AlbumTexts::tr(
         "This album can be read, but not changed: its file or its folder is read-only.");
-}
-
-Album& OpenedAlbum()
-{
-    if (!opened)
-        throw DatabaseError(DatabaseError::NoAlbum, AlbumTexts::tr("No album is open."));
-    return *opened;
 }
 
 // Released first: while boxes are up nothing may be changed in the wrong album, and an album that
@@ -228,7 +185,7 @@ bool OpenAlbum(const QString& path, const QString& password)
 
 void ReleaseAlbum()
 {
-    opened.reset();
+    SetOpenedAlbum(nullptr);
     claim.reset();
 }
 
@@ -270,12 +227,6 @@ bool CreateAlbumFile(const QString& path)
         return tellWhyNot(QString::fromLocal8Bit(error.code().message().c_str()));
     }
     return true;
-}
-
-bool FindById(RecordSet& set, qint32 id)
-{
-    set.FindFirst(QStringLiteral("[Id]=") + QString::number(id));
-    return !set.NoMatch();
 }
 
 } // namespace GeneralModule

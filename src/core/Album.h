@@ -1,29 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/data/RecordSet.h"
-
 #include <QString>
 
 #include <functional>
-#include <memory>
 
 namespace GeneralModule {
-
-// The album that is open: its database, and the record sets over its tables. Each set has one
-// current row that all windows share, so a routine positions a set before it reads or writes.
-struct Album
-{
-    // Opens all of it or throws DatabaseError.
-    Album(const QString& path, const QString& password);
-
-    std::shared_ptr<Database> database;
-    RecordSet params;
-    RecordSet paragraphs;
-    RecordSet images;
-    RecordSet chapters;
-    RecordSet linkedImages;
-};
 
 bool IsAlbumOpen();
 
@@ -32,32 +14,6 @@ bool IsAlbumOpen();
 bool IsAlbumReadOnly();
 // What to tell whoever wants to change it.
 QString ReadOnlyReason();
-
-// Throws DatabaseError NoAlbum while none is open.
-Album& OpenedAlbum();
-
-// Stand for parts of the album that is open. Whoever reaches for one while none is open gets
-// DatabaseError NoAlbum.
-template<RecordSet Album::*Set>
-struct OpenedSet
-{
-    RecordSet& operator*() const { return OpenedAlbum().*Set; }
-    RecordSet* operator->() const { return &(OpenedAlbum().*Set); }
-};
-
-struct OpenedDatabase
-{
-    Database& operator*() const { return *OpenedAlbum().database; }
-    Database* operator->() const { return OpenedAlbum().database.get(); }
-    operator std::shared_ptr<Database>() const { return OpenedAlbum().database; }
-};
-
-inline constexpr OpenedDatabase AlbumDatabase;
-inline constexpr OpenedSet<&Album::params> ParamsSet;
-inline constexpr OpenedSet<&Album::paragraphs> ParagraphSet;
-inline constexpr OpenedSet<&Album::images> ImageSet;
-inline constexpr OpenedSet<&Album::chapters> ChapterSet;
-inline constexpr OpenedSet<&Album::linkedImages> LinkedImagesSet;
 
 // Releases the album that is open, opens this one, and remembers it as the last one. Asks for the
 // password, unless the one given fits, until it does or the answer is empty. False, with a message
@@ -79,8 +35,5 @@ bool CreateAlbumFile(const QString& path);
 
 // Ends the use of the album, so that its file may be moved or removed.
 void ReleaseAlbum();
-
-// Positions the set on the row of that identifier. False, and the set stays, when there is none.
-bool FindById(RecordSet& set, qint32 id);
 
 } // namespace GeneralModule

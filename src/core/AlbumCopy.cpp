@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/AlbumCopy.h"
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "platform/data/DatabaseCopy.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/files/FileReplacement.h"

@@ -2,6 +2,7 @@
 #include "core/AlbumPassword.h"
 
 #include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/Settings.h"
 #include "platform/data/DatabaseExport.h"
 #include "platform/dialogs/Dialogs.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "core/AlbumRepair.h"
 
-#include "core/Album.h"
 #include "core/AlbumChains.h"
 #include "core/AlbumCopy.h"
+#include "core/AlbumSets.h"
 #include "core/ChainMending.h"
 #include "core/ChapterChain.h"
 #include "core/Renumbering.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/Chain.h"
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 
 namespace GeneralModule {
 

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <list>
 
+namespace GeneralModule {
+
 namespace {
 
 class Mender
@@ -106,3 +108,5 @@ std::vector<ChainLink> MendChain(const std::vector<ChainLink>& rows, qint32 pref
 {
     return Mender(rows).Mend(preferredHead);
 }
+
+} // namespace GeneralModule

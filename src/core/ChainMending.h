@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace GeneralModule {
+
 // A row of a doubly linked chain; 0 means none.
 struct ChainLink
 {
@@ -21,3 +23,5 @@ struct ChainLink
 // together as their links do, and are put behind the row that they name as previous, before the one
 // that they lead to, or at the end. No row is left out and none comes twice.
 std::vector<ChainLink> MendChain(const std::vector<ChainLink>& rows, qint32 preferredHead = 0);
+
+} // namespace GeneralModule

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/ChapterChain.h"
 
-#include "core/Album.h"
 #include "core/AlbumChains.h"
+#include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/text/LikePattern.h"

@@ -2,6 +2,7 @@
 #include "core/Parameters.h"
 
 #include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/Columns.h"
 #include "core/TextRoutines.h"
 #include "platform/data/WriteBatch.h"

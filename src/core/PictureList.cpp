@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "core/PictureList.h"
 
-#include "core/StartUp.h"
+#include "core/RandomNumbers.h"
 
 #include <algorithm>
+
+namespace GeneralModule {
 
 void PictureList::Clear()
 {
@@ -38,9 +40,9 @@ void PictureList::Pick(bool atRandom)
 {
     int index = 0;
     if (linked_ > 0)
-        index = GeneralModule::RandomBelow(linked_);
+        index = RandomBelow(linked_);
     else if (atRandom)
-        index = GeneralModule::RandomBelow(int(files_.size()));
+        index = RandomBelow(int(files_.size()));
     upcoming_.push_back(files_[std::size_t(index)]);
     files_.erase(files_.begin() + index);
     if (linked_ > 0)
@@ -77,3 +79,5 @@ void PictureList::PutBack(const QStringList& files)
 {
     upcoming_.insert(upcoming_.begin(), files.begin(), files.end());
 }
+
+} // namespace GeneralModule

@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+namespace GeneralModule {
+
 // The pictures still to be shown, by the File that the album knows them by: first those linked to
 // the paragraph, then those that its filter found. Shrinks as screens are filled from it.
 class PictureList
@@ -41,3 +43,5 @@ private:
     std::vector<QString> files_;
     int linked_ = 0; // leading entries of files_ that are linked pictures
 };
+
+} // namespace GeneralModule

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/StartUp.h"
 
+#include "core/RandomNumbers.h"
 #include "platform/shell/ProgramFolder.h"
 #include "platform/shell/UserLanguages.h"
 
@@ -8,17 +9,6 @@
 #include <QFile>
 
 #include <chrono>
-#include <random>
-
-namespace {
-
-std::mt19937& Random()
-{
-    static std::mt19937 random;
-    return random;
-}
-
-} // namespace
 
 namespace GeneralModule {
 
@@ -36,16 +26,6 @@ QString HelpFile()
             return translated;
     }
     return ProgramFile(QStringLiteral("lumenark.hlp"));
-}
-
-int RandomBelow(int below)
-{
-    return below > 0 ? std::uniform_int_distribution<int>(0, below - 1)(Random()) : 0;
-}
-
-void SeedRandom(std::uint32_t seed)
-{
-    Random().seed(seed);
 }
 
 } // namespace GeneralModule

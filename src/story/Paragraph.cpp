@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "story/Paragraph.h"
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/Chain.h"
 
 using GeneralModule::ParagraphSet;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "story/ParagraphChain.h"
 
-#include "core/Album.h"
 #include "core/AlbumChains.h"
+#include "core/AlbumSets.h"
 #include "platform/data/WriteBatch.h"
 
 #include <QCoreApplication>

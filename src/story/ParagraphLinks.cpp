@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "story/ParagraphLinks.h"
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 
 using GeneralModule::LinkedImagesSet;

@@ -3,7 +3,7 @@
 
 #include "catalogue/CharacteristicModel.h"
 #include "catalogue/ColumnTitles.h"
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/Parameters.h"
 #include "core/TextRoutines.h"
 

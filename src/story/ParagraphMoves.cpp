@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "story/ParagraphMoves.h"
 
-#include "core/Album.h"
 #include "core/AlbumChains.h"
+#include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 #include "platform/data/WriteBatch.h"
 #include "story/ParagraphMarkers.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "story/ParagraphPreview.h"
 
-#include "core/PictureFile.h"
+#include "core/LocalCopy.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/FittedPicture.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "story/PictureFilter.h"
 
-#include "core/Album.h"
-#include "core/PathRoutines.h"
+#include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 #include "platform/files/FilePatterns.h"
+#include "platform/files/PathRoutines.h"
 #include "platform/text/LikePattern.h"
 #include "story/FilterValues.h"
 
@@ -90,9 +90,9 @@ void AddMatchingPictures(const QString& filter, PictureList& pictures, int maxim
 // patterns, all in that folder: what a file list shows for them is what a person expects to see.
 QString BuildFileFilter(const QString& selection)
 {
-    const QString folder = GeneralModule::FolderOf(selection);
+    const QString folder = FolderOf(selection);
     QStringList conditions;
-    for (const QString& pattern : SplitPatterns(GeneralModule::FileNameOf(selection)))
+    for (const QString& pattern : SplitPatterns(FileNameOf(selection)))
         conditions += QStringLiteral("[File] LIKE ") + GeneralModule::Quoted(folder + pattern);
     return QLatin1Char('(') + conditions.join(QLatin1String(" OR ")) + QLatin1Char(')');
 }
@@ -136,8 +136,7 @@ QString SwapCarGroups(const QString& filter)
 
 QString PatternOfSelection(const QString& selection)
 {
-    return EscapedForLike(GeneralModule::FolderOf(selection)) +
-           AsLikePatterns(GeneralModule::FileNameOf(selection));
+    return EscapedForLike(FolderOf(selection)) + AsLikePatterns(FileNameOf(selection));
 }
 
 QString BuildPictureFilter(const PictureQuery& query)

@@ -8,6 +8,8 @@
 
 #include <functional>
 
+using GeneralModule::PictureList;
+
 // A paragraph chooses its pictures by links, by values of their characteristics, and by a pattern
 // of their file names. For each characteristic it stores "*" for any value, or values joined by ";"
 // one of which the picture must have; after a value "!" it must have none of them.

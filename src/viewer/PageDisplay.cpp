@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/PageDisplay.h"
 
-#include "core/PathRoutines.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/files/PathRoutines.h"
 #include "story/ParagraphMarkers.h"
 #include "viewer/StorySurface.h"
 #include "viewer/ViewerFlags.h"
@@ -94,7 +94,7 @@ void PageDisplay::ShowAlone(const ShownPicture& picture, bool hasText)
     surface_->ShowFullSize(large, DecodePictures({large}, shape.pixelRatio).front());
     const QString pattern = hasText ? text_ : QStringLiteral("<[Picture Legend]>");
     const QString text = FillPictureMarkers(pattern, picture.file);
-    surface_->SetLegend(text.isEmpty() ? GeneralModule::FileNameOf(picture.file) : text);
+    surface_->SetLegend(text.isEmpty() ? FileNameOf(picture.file) : text);
 }
 
 QString PageDisplay::GetLastDisplayed() const

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/PictureScreen.h"
 
-#include "core/PictureFile.h"
+#include "core/LocalCopy.h"
 #include "platform/picture/PictureReader.h"
 
 #include <QFileInfo>

@@ -11,6 +11,8 @@
 
 #include <vector>
 
+using GeneralModule::PictureList;
+
 // The screen that pictures are laid out for.
 struct ScreenShape
 {

@@ -3,7 +3,7 @@
 
 #include "catalogue/frmEditImage.h"
 #include "core/Album.h"
-#include "core/PictureFile.h"
+#include "core/LocalCopy.h"
 #include "platform/dialogs/Dialogs.h"
 #include "story/ParagraphChain.h"
 #include "story/frmEditParagraph.h"

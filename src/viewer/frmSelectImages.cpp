@@ -3,9 +3,9 @@
 #include "ui_frmSelectImages.h"
 
 #include "core/Parameters.h"
-#include "core/PathRoutines.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
+#include "platform/files/PathRoutines.h"
 #include "platform/shell/ProgramFolder.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/ThemedIcon.h"
@@ -20,7 +20,7 @@ constexpr QSize proposedSize(820, 560);
 // new album begins with, holds no pictures.
 QString FolderToBeginWith(const QString& selection)
 {
-    const QString folder = GeneralModule::FolderOf(selection);
+    const QString folder = FolderOf(selection);
     const bool isUseful =
         !folder.isEmpty() && QDir(folder).exists() && QDir(folder) != QDir(ProgramFolder());
     return isUseful ? folder : UsersPictureFolder();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/frmEditImage.h"
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "platform/widgets/PictureBox.h"
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"

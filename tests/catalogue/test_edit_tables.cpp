@@ -3,7 +3,7 @@
 #include "catalogue/ValueReplacement.h"
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/Parameters.h"
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"

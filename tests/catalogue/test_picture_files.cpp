@@ -3,7 +3,7 @@
 #include "catalogue/PictureLoading.h"
 #include "catalogue/frmLoadFiles.h"
 #include "catalogue/frmReloadPictures.h"
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "core/Album.h"
 #include "core/AlbumRepair.h"
+#include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 #include "support/AlbumTest.h"
 #include "support/Rows.h"

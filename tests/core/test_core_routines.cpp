@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
+#include "core/LocalCopy.h"
 #include "core/Parameters.h"
-#include "core/PictureFile.h"
 #include "core/PictureList.h"
 #include "core/Settings.h"
 #include "core/StartUp.h"

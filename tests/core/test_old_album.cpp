@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
-#include "core/OldAlbumConversion.h"
+#include "core/AlbumSets.h"
 #include "core/Settings.h"
+#include "core/oldalbum/OldAlbumConversion.h"
 #include "support/AlbumTest.h"
 #include "support/OldAlbums.h"
 #include "support/Rows.h"

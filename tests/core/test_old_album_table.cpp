@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
-#include "core/OldAlbumTable.h"
+#include "core/AlbumSets.h"
+#include "core/oldalbum/OldAlbumTable.h"
 #include "support/AlbumFixture.h"
 #include "support/ScriptedDialogs.h"
 

@@ -1,10 +1,11 @@
 # What the linker cannot see: headers of a higher floor included from a lower one, windows in floors
-# that must do without, and boxes opened past the one door.
+# that must do without, boxes opened past the one door, and forms that read tables.
 cmake_minimum_required(VERSION 3.23)
 
 set(floors platform core catalogue story viewer ui app)
 set(faults "")
 set(seen 0)
+set(forms 0)
 
 # Floors of a path below src/, lowest first.
 function(floor_of path result)
@@ -40,6 +41,15 @@ foreach(source IN LISTS sources)
       string(APPEND faults "${source}: includes ${CMAKE_MATCH_1}, which opens windows\n")
     endif()
   endforeach()
+  if(source MATCHES "/frm[A-Z][A-Za-z]*\\.(cpp|h)$")
+    math(EXPR forms "${forms} + 1")
+    file(STRINGS ${SOURCE_DIR}/src/${source} tables
+         REGEX "^#include.*(core/AlbumSets\\.h|platform/data/|sqlite3)")
+    list(FILTER tables EXCLUDE REGEX "platform/data/DatabaseError\\.h")
+    if(tables)
+      string(APPEND faults "${source}: a form reads the album's tables itself: ${tables}\n")
+    endif()
+  endif()
   if(NOT source MATCHES "^platform/widgets/.*\\.cpp$")
     file(STRINGS ${SOURCE_DIR}/src/${source} box_classes
          REGEX "^#include.*([<\"/](QMessageBox|QInputDialog|QFileDialog|QtWidgets)[>\"]|q(messagebox|inputdialog|filedialog)\\.h)")
@@ -54,8 +64,8 @@ foreach(source IN LISTS sources)
   endif()
 endforeach()
 
-if(seen LESS 100)
-  message(FATAL_ERROR "only ${seen} include lines found: the check looks in the wrong place")
+if(seen LESS 100 OR forms LESS 20)
+  message(FATAL_ERROR "only ${seen} include lines and ${forms} files of forms found: the check looks in the wrong place")
 endif()
 if(faults)
   message(FATAL_ERROR "${faults}")

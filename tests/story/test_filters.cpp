@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
+#include "platform/data/DatabaseError.h"
 #include "story/FilterValues.h"
 #include "story/PictureFilter.h"
 #include "support/AlbumTest.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "core/Album.h"
 #include "core/AlbumChains.h"
+#include "core/AlbumSets.h"
 #include "story/ParagraphChain.h"
 #include "story/ParagraphMoves.h"
 #include "support/AlbumFixture.h"

@@ -2,7 +2,8 @@
 #include "support/AlbumFixture.h"
 
 #include "core/Album.h"
-#include "core/StartUp.h"
+#include "core/AlbumSets.h"
+#include "core/RandomNumbers.h"
 #include "platform/shell/ProgramFolder.h"
 #include "viewer/ViewerFlags.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EveryWindow.h"
 #include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/Parameters.h"
 #include "support/Rows.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Tour.h"
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "platform/widgets/FolderList.h"
 
 #include <QAction>

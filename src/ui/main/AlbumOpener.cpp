@@ -2,10 +2,10 @@
 #include "ui/main/AlbumOpener.h"
 
 #include "core/Album.h"
-#include "core/PathRoutines.h"
 #include "core/Settings.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/FolderListing.h"
+#include "platform/files/PathRoutines.h"
 #include "ui/main/ChapterList.h"
 
 #include <QDir>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/RecentMenu.h"
 
-#include "core/PathRoutines.h"
 #include "core/RecentAlbums.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/files/PathRoutines.h"
 
 #include <QApplication>
 #include <QDir>

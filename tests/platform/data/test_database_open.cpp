@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
+#include "core/AlbumSets.h"
 #include "core/Parameters.h"
 #include "core/Settings.h"
 #include "platform/data/CipherFile.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "support/AlbumTest.h"
 
 using namespace GeneralModule;

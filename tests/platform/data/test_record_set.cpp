@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "platform/data/WriteBatch.h"
 #include "support/AlbumTest.h"
 

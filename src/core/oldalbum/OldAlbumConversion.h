@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/OldAlbumReport.h"
+#include "core/oldalbum/OldAlbumReport.h"
 #include "platform/oldalbum/OldAlbumFile.h"
 
 #include <functional>

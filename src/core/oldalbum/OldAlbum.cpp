@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "core/OldAlbum.h"
+#include "core/oldalbum/OldAlbum.h"
 
-#include "core/OldAlbumConversion.h"
+#include "core/oldalbum/OldAlbumConversion.h"
 #include "platform/dialogs/Dialogs.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "core/PathRoutines.h"
+#include "platform/files/PathRoutines.h"
 
 #include <QDir>
 
@@ -12,7 +12,7 @@ bool IsSeparator(QChar character)
     return character == u'\\' || character == QDir::separator();
 }
 
-qsizetype BehindLastSeparator(const QString& path)
+qsizetype AfterLastSeparator(const QString& path)
 {
     const auto last = std::find_if(path.rbegin(), path.rend(), IsSeparator);
     return path.rend() - last;
@@ -20,21 +20,17 @@ qsizetype BehindLastSeparator(const QString& path)
 
 } // namespace
 
-namespace GeneralModule {
-
 QString FolderOf(const QString& path)
 {
-    return path.first(BehindLastSeparator(path));
+    return path.first(AfterLastSeparator(path));
 }
 
 QString FileNameOf(const QString& path)
 {
-    return path.sliced(BehindLastSeparator(path));
+    return path.sliced(AfterLastSeparator(path));
 }
 
 QString DriveOf(const QString& path)
 {
     return path.first(std::find_if(path.begin(), path.end(), IsSeparator) - path.begin());
 }
-
-} // namespace GeneralModule

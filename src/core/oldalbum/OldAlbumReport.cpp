@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "core/OldAlbumReport.h"
+#include "core/oldalbum/OldAlbumReport.h"
 
-#include "core/PathRoutines.h"
+#include "platform/files/PathRoutines.h"
 
 #include <QDir>
 

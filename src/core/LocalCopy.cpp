@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "core/PictureFile.h"
+#include "core/LocalCopy.h"
 
-#include "core/Album.h"
+#include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/OldAlbumReport.h"
+#include "core/oldalbum/OldAlbumReport.h"
 #include "platform/data/Database.h"
 #include "platform/data/Statement.h"
 #include "platform/data/TableLayout.h"

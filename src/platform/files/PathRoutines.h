@@ -5,15 +5,11 @@
 
 // Paths as albums hold them. Both separators count wherever the platform writes "/", because albums
 // also come from systems that write "\".
-namespace GeneralModule {
-
 // Up to and including the last separator; empty when there is none.
 QString FolderOf(const QString& path);
 
-// Behind the last separator; the whole text when there is none.
+// After the last separator; the whole text when there is none.
 QString FileNameOf(const QString& path);
 
 // Before the first separator; the whole text when there is none.
 QString DriveOf(const QString& path);
-
-} // namespace GeneralModule

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "core/OldAlbumConversion.h"
+#include "core/oldalbum/OldAlbumConversion.h"
 
-#include "core/OldAlbumTable.h"
+#include "core/oldalbum/OldAlbumTable.h"
 #include "platform/data/CipherFile.h"
 #include "platform/files/FileReplacement.h"
 #include "platform/shell/ProgramFolder.h"

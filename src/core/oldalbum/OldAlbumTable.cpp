@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "core/OldAlbumTable.h"
+#include "core/oldalbum/OldAlbumTable.h"
 
-#include "core/OwnFields.h"
+#include "core/oldalbum/OwnFields.h"
 #include "platform/data/Identifiers.h"
 
 #include <algorithm>

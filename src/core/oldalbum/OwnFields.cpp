@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "core/OwnFields.h"
+#include "core/oldalbum/OwnFields.h"
 
 #include "platform/data/SchemaCheck.h"
 #include "platform/data/Statement.h"
