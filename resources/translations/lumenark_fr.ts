@@ -1556,17 +1556,23 @@ Le supprimer quand même ?</translation>
         <source>Exit</source>
         <translation>Fermer</translation>
     </message>
-    <message>
-        <source> picture(s) selected</source>
-        <translation> photo(s) choisie(s)</translation>
+    <message numerus="yes">
+        <source>%n picture(s) selected</source>
+        <translation>
+            <numerusform>%n photo choisie</numerusform>
+            <numerusform>%n photos choisies</numerusform>
+        </translation>
     </message>
     <message>
         <source>Loading pictures...</source>
         <translation>Chargement des photos...</translation>
     </message>
-    <message>
-        <source> picture(s) loaded</source>
-        <translation> photo(s) chargée(s)</translation>
+    <message numerus="yes">
+        <source>%n picture(s) loaded</source>
+        <translation>
+            <numerusform>%n photo chargée</numerusform>
+            <numerusform>%n photos chargées</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1960,9 +1966,12 @@ Le supprimer quand même ?</translation>
         <source>Exit</source>
         <translation>Fermer</translation>
     </message>
-    <message>
-        <source> picture references updated</source>
-        <translation> références de photos mises à jour</translation>
+    <message numerus="yes">
+        <source>%n picture references updated</source>
+        <translation>
+            <numerusform>%n référence de photo mise à jour</numerusform>
+            <numerusform>%n références de photos mises à jour</numerusform>
+        </translation>
     </message>
     <message>
         <source>Please choose the new folder first: double click on it.</source>

@@ -6,6 +6,7 @@
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
 #include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/FolderChooser.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 
@@ -21,14 +22,14 @@ frmLoadFiles::frmLoadFiles(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmLoadFiles>())
 {
     ui_->setupUi(this);
+    chooser_ = std::make_unique<FolderChooser>(ui_->drvPicturesToLoad, ui_->dirPicturesToLoad,
+                                               ui_->filPicturesToLoad);
     KeepWindowSize(this, proposedSize);
     ui_->cmdLoad->setIcon(ThemedIcon(QStringLiteral("load-pictures")));
     ui_->cmdCancel->setIcon(ThemedIcon(QStringLiteral("exit")));
     RunGuarded([this] { Form_Load(); });
-    connect(ui_->drvPicturesToLoad, &DriveBox::DriveChanged, this,
-            Guarded(this, &frmLoadFiles::drvPicturesToLoad_Change));
-    connect(ui_->dirPicturesToLoad, &FolderList::PathChanged, this,
-            Guarded(this, &frmLoadFiles::dirPicturesToLoad_Change));
+    chooser_->Connect(this, &frmLoadFiles::drvPicturesToLoad_Change,
+                      &frmLoadFiles::dirPicturesToLoad_Change);
     connect(ui_->txtPictureTypes, &QLineEdit::textChanged, this,
             Guarded(this, &frmLoadFiles::txtPictureTypes_Change));
     connect(ui_->cmdLoad, &QPushButton::clicked, this, Guarded(this, &frmLoadFiles::cmdLoad_Click));
@@ -46,22 +47,19 @@ void frmLoadFiles::Form_Load()
 
 void frmLoadFiles::ShowCount()
 {
-    ui_->lblFeedback->setText(QString::number(ui_->filPicturesToLoad->Count()) +
-                              tr(" picture(s) selected"));
+    ui_->lblFeedback->setText(
+        tr("%n picture(s) selected", nullptr, ui_->filPicturesToLoad->Count()));
 }
 
 void frmLoadFiles::drvPicturesToLoad_Change()
 {
-    ui_->dirPicturesToLoad->SetPath(ui_->drvPicturesToLoad->GetDrive());
+    chooser_->FollowDrive();
     ShowCount();
 }
 
 void frmLoadFiles::dirPicturesToLoad_Change()
 {
-    const BusyPointer busy;
-    const QString& folder = ui_->dirPicturesToLoad->GetPath();
-    ui_->drvPicturesToLoad->ShowVolumeOf(folder);
-    ui_->filPicturesToLoad->SetPath(folder);
+    chooser_->FollowFolder();
     ShowCount();
 }
 
@@ -88,5 +86,5 @@ void frmLoadFiles::cmdLoad_Click()
         });
     }
     ui_->filPicturesToLoad->SelectRow(loaded - 1);
-    ui_->lblFeedback->setText(QString::number(loaded) + tr(" picture(s) loaded"));
+    ui_->lblFeedback->setText(tr("%n picture(s) loaded", nullptr, loaded));
 }

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class FolderChooser;
+
 namespace Ui {
 class frmLoadFiles;
 }
@@ -28,4 +30,5 @@ private:
     void ShowCount();
 
     std::unique_ptr<Ui::frmLoadFiles> ui_;
+    std::unique_ptr<FolderChooser> chooser_;
 };

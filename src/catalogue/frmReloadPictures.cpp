@@ -7,6 +7,7 @@
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
 #include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/FolderChooser.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 
@@ -22,16 +23,16 @@ frmReloadPictures::frmReloadPictures(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmReloadPictures>())
 {
     ui_->setupUi(this);
+    chooser_ =
+        std::make_unique<FolderChooser>(ui_->drvNewReferences, ui_->dirNewReferences, nullptr);
     KeepWindowSize(this, proposedSize);
     ui_->cmdReloadPictures->setIcon(ThemedIcon(QStringLiteral("refresh")));
     ui_->cmdCancel->setIcon(ThemedIcon(QStringLiteral("exit")));
     connect(ui_->lstOldReferences, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmReloadPictures::lstOldReferences_Click));
     RunGuarded([this] { Form_Load(); });
-    connect(ui_->drvNewReferences, &DriveBox::DriveChanged, this,
-            Guarded(this, &frmReloadPictures::drvNewReferences_Change));
-    connect(ui_->dirNewReferences, &FolderList::PathChanged, this,
-            Guarded(this, &frmReloadPictures::dirNewReferences_Change));
+    chooser_->Connect(this, &frmReloadPictures::drvNewReferences_Change,
+                      &frmReloadPictures::dirNewReferences_Change);
     connect(ui_->cmdReloadPictures, &QPushButton::clicked, this,
             Guarded(this, &frmReloadPictures::cmdReloadPictures_Click));
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &QDialog::close);
@@ -59,20 +60,20 @@ void frmReloadPictures::lstOldReferences_Click()
 void frmReloadPictures::drvNewReferences_Change()
 {
     ui_->lblFeedback->clear();
-    ui_->dirNewReferences->SetPath(ui_->drvNewReferences->GetDrive());
+    chooser_->FollowDrive();
 }
 
 void frmReloadPictures::dirNewReferences_Change()
 {
     ui_->lblFeedback->clear();
+    chooser_->FollowFolder();
     newFolder_ = ui_->dirNewReferences->GetPath();
-    ui_->drvNewReferences->ShowVolumeOf(newFolder_);
     ui_->lblNewReferences->setText(PathIn(newFolder_, QStringLiteral("*.*")));
 }
 
 void frmReloadPictures::ShowUpdated(const RepointedPictures& done)
 {
-    QString text = QString::number(done.updated) + tr(" picture references updated");
+    QString text = tr("%n picture references updated", nullptr, done.updated);
     if (done.alreadyHeld > 0)
         text += QLatin1Char('\n') + tr("%n already in the album", nullptr, done.alreadyHeld);
     ui_->lblFeedback->setText(text);

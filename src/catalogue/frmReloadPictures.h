@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class FolderChooser;
 struct RepointedPictures;
 
 namespace Ui {
@@ -30,5 +31,6 @@ private:
     void ShowUpdated(const RepointedPictures& done);
 
     std::unique_ptr<Ui::frmReloadPictures> ui_;
+    std::unique_ptr<FolderChooser> chooser_;
     QString newFolder_; // empty until one is chosen
 };

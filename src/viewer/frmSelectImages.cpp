@@ -7,7 +7,7 @@
 #include "platform/files/FolderListing.h"
 #include "platform/files/PathRoutines.h"
 #include "platform/shell/ProgramFolder.h"
-#include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/FolderChooser.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "viewer/ViewerFlags.h"
@@ -32,13 +32,13 @@ frmSelectImages::frmSelectImages(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmSelectImages>())
 {
     ui_->setupUi(this);
+    chooser_ = std::make_unique<FolderChooser>(ui_->drvPicturesToSelect, ui_->dirPicturesToSelect,
+                                               ui_->filPicturesToSelect);
     KeepWindowSize(this, proposedSize);
     ui_->cmdSelect->setIcon(ThemedIcon(QStringLiteral("preview")));
     ui_->cmdCancel->setIcon(ThemedIcon(QStringLiteral("exit")));
-    connect(ui_->drvPicturesToSelect, &DriveBox::DriveChanged, this,
-            Guarded(this, &frmSelectImages::drvPicturesToSelect_Change));
-    connect(ui_->dirPicturesToSelect, &FolderList::PathChanged, this,
-            Guarded(this, &frmSelectImages::dirPicturesToSelect_Change));
+    chooser_->Connect(this, &frmSelectImages::drvPicturesToSelect_Change,
+                      &frmSelectImages::dirPicturesToSelect_Change);
     connect(ui_->txtPictureTypes, &QLineEdit::textChanged, this,
             Guarded(this, &frmSelectImages::txtPictureTypes_Change));
     connect(ui_->cmdSelect, &QPushButton::clicked, this,
@@ -65,15 +65,12 @@ void frmSelectImages::Form_Load()
 
 void frmSelectImages::drvPicturesToSelect_Change()
 {
-    ui_->dirPicturesToSelect->SetPath(ui_->drvPicturesToSelect->GetDrive());
+    chooser_->FollowDrive();
 }
 
 void frmSelectImages::dirPicturesToSelect_Change()
 {
-    const BusyPointer busy;
-    const QString& folder = ui_->dirPicturesToSelect->GetPath();
-    ui_->drvPicturesToSelect->ShowVolumeOf(folder);
-    ui_->filPicturesToSelect->SetPath(folder);
+    chooser_->FollowFolder();
 }
 
 void frmSelectImages::txtPictureTypes_Change()

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class FolderChooser;
+
 namespace Ui {
 class frmSelectImages;
 }
@@ -18,7 +20,7 @@ public:
     explicit frmSelectImages(QWidget* parent = nullptr);
     ~frmSelectImages() override;
 
-    // A folder and a pattern behind it. Before showing: where to begin, empty for the selection
+    // A folder and a pattern after it. Before showing: where to begin, empty for the selection
     // that the album saw last. After: what was chosen, empty when nothing was.
     QString FileSelection;
 
@@ -36,4 +38,5 @@ private:
     void cmdCancel_Click();
 
     std::unique_ptr<Ui::frmSelectImages> ui_;
+    std::unique_ptr<FolderChooser> chooser_;
 };
