@@ -131,11 +131,6 @@ private slots:
         list.setProperty("Path", folder.path());
         list.setProperty("Pattern", "*.jpg;a*");
         QCOMPARE(list.GetNames(), QStringList({"a.png", "b.JPG"}));
-        ScriptedDialogs dialogs;
-        dialogs.ExpectBoxBeginning("The folder '/nowhere' cannot be read: ",
-                                   Dialogs::Icon::Warning);
-        list.SetPath("/nowhere");
-        QCOMPARE(list.Count(), 0);
 
         DriveBox drives;
         drives.setCurrentIndex(-1);
