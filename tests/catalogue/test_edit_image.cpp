@@ -20,7 +20,6 @@ private slots:
         const QStringList files = Open(2);
         QCOMPARE(Find<QLabel>(*window_, "lblFileName").text(), files[0]);
         QCOMPARE(Shown(), files[0]);
-        QVERIFY(Find<QPushButton>(*window_, "cmdNextImage").isVisible());
         const auto type = [this](const char* text, Qt::Key end = Qt::Key_Tab) {
             QTest::keyClicks(window_->focusWidget(), text);
             QTest::keyClick(window_->focusWidget(), end);
@@ -48,17 +47,13 @@ private slots:
         album_->Execute("INSERT INTO Car0 VALUES ('Hannah'),('anna'),('Bob'),('Ann-Marie')");
         Open(3);
         const auto key = [this](Qt::Key one) { QTest::keyClick(window_->windowHandle(), one); };
-        const auto offered = [this] {
-            const QAbstractItemModel& lines = *Combo(0).lineEdit()->completer()->completionModel();
-            QStringList texts;
-            for (int row = 0; row < lines.rowCount(); ++row)
-                texts += lines.index(row, 0).data().toString();
-            return texts;
-        };
         const auto list = [this] { return Combo(0).lineEdit()->completer()->popup(); };
         TypeInto(0, "Ann");
-        QCOMPARE(offered(), QStringList({"Ann-Marie", "anna", "Hannah"}));
-        QVERIFY(list()->isVisible());
+        const QAbstractItemModel& lines = *Combo(0).lineEdit()->completer()->completionModel();
+        QStringList offered;
+        for (int row = 0; row < lines.rowCount(); ++row)
+            offered += lines.index(row, 0).data().toString();
+        QCOMPARE(offered, QStringList({"Ann-Marie", "anna", "Hannah"}));
         key(Qt::Key_Down);
         key(Qt::Key_Down);
         QCOMPARE(Combo(0).currentText(), "anna");
@@ -68,39 +63,15 @@ private slots:
         TypeInto(0, "NA");
         key(Qt::Key_Down);
         key(Qt::Key_Return); // takes the value, and the next one goes on
-        QVERIFY(!list()->isVisible());
         QCOMPARE(Combo(0).currentText(), "anna");
         QCOMPARE(next_.size(), 2);
         key(Qt::Key_Return);
         QCOMPARE(next_.size(), 1);
-        // With none chosen what was typed is stored.
         TypeInto(0, "An");
         QVERIFY(list()->isVisible());
-        key(Qt::Key_Down);
-        key(Qt::Key_Up);
-        key(Qt::Key_N);
-        QVERIFY(list()->isVisible());
-        key(Qt::Key_Return);
+        key(Qt::Key_Return); // with none chosen what was typed is stored
         QCOMPARE(next_.size(), 0);
-        QCOMPARE(album_->Joined("SELECT Car0 FROM Image"), "anna; Ann; -");
-        QCOMPARE(album_->Rows("SELECT Name FROM Car0").last(), "Ann");
-    }
-
-    void TwinColumnsShareTheirValues()
-    {
-        album_->Execute("DELETE FROM Car4");
-        Open(2);
-        TypeInto(7, "qQ");
-        QVERIFY(window_->isVisible());
-        Click(*window_, "cmdNextImage");
-        QVERIFY(Combo(4).findText("qQ") >= 0);
-        TypeInto(0, "");
-        auto& button = Find<QPushButton>(*window_, "cmdExit");
-        button.setFocus();
-        QTest::keyClick(&button, Qt::Key_Q);
-        QVERIFY(!window_->isVisible());
-        QCOMPARE(album_->Joined("SELECT Car0,Car4,Car7 FROM Image"), "-|-|qQ; -|-|-");
-        QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "qQ");
+        QCOMPARE(album_->Joined("SELECT Car0 FROM Image"), "anna; An; -");
     }
 
     // What the tables do not hold, or hold in another letter case.
@@ -123,29 +94,29 @@ private slots:
         // Longer than a box of one line takes.
         album_->Execute("UPDATE Image SET Legend=hex(zeroblob(20000))");
         Open(files);
-        album_->Execute("UPDATE Image SET Car1='theirs'");
-        TypeInto(0, "Anna");
-        QTest::keyClick(window_, Qt::Key_Escape);
-        QCOMPARE(album_->Joined("SELECT length(Legend),Car0,Car1 FROM Image"), "40000|Anna|theirs");
-        album_->Execute("UPDATE Image SET Legend='two lines'");
-        Open(files);
-        TypeInto(1, "mine");
         album_->Execute("UPDATE Image SET Car1='others'");
+        TypeInto(0, "Anna");
+        TypeInto(1, "mine");
         for (const auto answer : {Answer::Cancel, Answer::No}) {
-            dialogs_->ExpectBox("This picture was changed in another window after it was opened "
-                                "here.\n\nThe other version:\ntwo lines, Anna, others\n\n"
-                                "Your version:\ntwo lines, Anna, mine",
-                                Icon::Question, Buttons::YesNoCancel, answer);
+            dialogs_->ExpectBoxBeginning("This picture was changed in another window after it was "
+                                         "opened here.\n\nThe other version:\n0000",
+                                         Icon::Question, Buttons::YesNoCancel, answer);
             QTest::keyClick(window_, Qt::Key_Escape);
             QCOMPARE(window_->isVisible(), answer == Answer::Cancel);
         }
-        QCOMPARE(album_->Joined("SELECT Car0,Car1 FROM Image"), "Anna|others");
+        QCOMPARE(album_->Joined("SELECT length(Legend),Car0,Car1 FROM Image"), "40000|Anna|others");
     }
 
     void FollowsRenamedValuesAndLabels()
     {
         album_->Execute("INSERT INTO Car4 VALUES ('Anna')");
-        Open(1);
+        Open(2);
+        const auto& label = Find<QLabel>(*window_, "lblCar_4");
+        QCOMPARE(label.text(),
+                 "Caracteristic 5 / 8"); // beside both boxes, which share their values
+        TypeInto(7, "qQ");
+        Click(*window_, "cmdNextImage");
+        QVERIFY(Combo(4).findText("qQ") >= 0);
         TypeInto(4, "anna");
         dialogs_->ExpectInput("Replace all occurences of Anna by :", "Anne", "Anna");
         WhenModal("frmEditTables", [](QWidget& tables) {
@@ -154,42 +125,20 @@ private slots:
             auto& list = Find<QListWidget>(tables, "lstCar");
             list.setCurrentItem(list.findItems("Anna", Qt::MatchExactly).first());
             Click(tables, "cmdReplace");
-            WhenModal("frmEditLabels", [](QWidget& labels) {
-                Find<QLineEdit>(labels, "txtCar_4").setText("First name");
-                Click(labels, "cmdExit");
-            });
-            Click(tables, "cmdEditLabels");
             Click(tables, "cmdClose");
         });
         Click(*window_, "cmdEditTables");
         QCOMPARE(Combo(4).currentText(), "Anne");
-        QCOMPARE(Find<QLabel>(*window_, "lblCar_4").text(), "First name");
-        Click(*window_, "cmdExit");
-        QCOMPARE(album_->Joined("SELECT Car4 FROM Image"), "Anne");
-        QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "-; Anne");
-    }
-
-    void NumbersColumnsUntilTheyHaveNames()
-    {
-        Open(1);
-        const auto caption = [this](const char* name) {
-            return Find<QLabel>(*window_, name).text();
-        };
-        const auto& offer = Find<QPushButton>(*window_, "cmdEditLabels");
-        QCOMPARE(caption("lblCar_0"), "Caracteristic 1");
-        QCOMPARE(caption("lblCar_11"), "Caracteristic 12");
-        QCOMPARE(caption("lblCar_3"), "Caracteristic 4 / 7"); // beside both boxes
-        QCOMPARE(Combo(6).accessibleName(), "Caracteristic 7");
-        TypeInto(0, "Anna");
         WhenModal("frmEditLabels", [](QWidget& labels) {
-            Find<QLineEdit>(labels, "txtCar_3").setText("First name");
+            Find<QLineEdit>(labels, "txtCar_4").setText("First name");
             Click(labels, "cmdExit");
         });
         Click(*window_, "cmdEditLabels");
-        QCOMPARE(caption("lblCar_3"), "First name");
-        QCOMPARE(caption("lblCar_4"), "Caracteristic 5 / 8");
-        QCOMPARE(Combo(0).currentText(), "Anna");
-        QVERIFY(!offer.isVisible());
+        QCOMPARE(label.text(), "First name");
+        QVERIFY(!Find<QPushButton>(*window_, "cmdEditLabels").isVisible());
+        Click(*window_, "cmdExit");
+        QCOMPARE(album_->Joined("SELECT Car4,Car7 FROM Image"), "-|qQ; Anne|-");
+        QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "-; qQ; Anne");
     }
 
     void AsksBeforeItLosesAnything()
@@ -216,7 +165,6 @@ private slots:
         Delete(files[0], Answer::Cancel);
         QCOMPARE(Shown(), files[0]);
         Delete(files[0], Answer::No);
-        QCOMPARE(Shown(), files[1]);
         Delete(files[1], Answer::Yes);
         QCOMPARE(Shown(), files[2]);
         QVERIFY(QFile::exists(files[0]) && !QFile::exists(files[1]));
@@ -227,7 +175,6 @@ private slots:
         next_ = {last};
         Delete(files[2], Answer::No);
         QVERIFY(!window_->isVisible());
-        QCOMPARE(window_->CurrentImage, "");
         QCOMPARE(window_->TakenOut, files);
 
         // A folder in the file's place cannot be deleted as a file, whoever runs the test.
@@ -236,7 +183,6 @@ private slots:
         album_->AddImageRow(path);
         Open({path});
         Delete(path, Answer::Yes, "The file '" + path + "' cannot be deleted: ");
-        QCOMPARE(window_->CurrentImage, path);
         QCOMPARE(album_->Rows("SELECT File FROM Image ORDER BY rowid"), QStringList({last, path}));
     }
 
@@ -261,22 +207,19 @@ private slots:
         const QStringList before = rows();
         dialogs_.reset();
         const PatientDialogs patient;
-        bool hasFailed = true;
-        int trials = 0;
-        for (int steps = 0; hasFailed; ++steps, ++trials) {
-            Open({album_->PathOf("a.png"), album_->PathOf("b.png")});
-            {
-                const FailingEngine failing(steps);
-                Click(*window_, "cmdNextImage");
-                hasFailed = failing.HasFailed();
-            }
-            const bool isFirst = window_->CurrentImage.endsWith("a.png");
-            QCOMPARE(Find<QLineEdit>(*window_, "txtLegend").text(), isFirst ? "A" : "B");
-            QCOMPARE(Combo(4).currentText(), isFirst ? "Anna" : "Bob");
-            window_->close();
-            QCOMPARE(rows(), before);
-        }
-        QVERIFY(trials > 2);
+        FailAtEachStep(
+            1,
+            [this] {
+                Open({album_->PathOf("a.png"), album_->PathOf("b.png")});
+            },
+            [this] { Click(*window_, "cmdNextImage"); },
+            [&] {
+                const bool isFirst = window_->CurrentImage.endsWith("a.png");
+                QCOMPARE(Find<QLineEdit>(*window_, "txtLegend").text(), isFirst ? "A" : "B");
+                QCOMPARE(Combo(4).currentText(), isFirst ? "Anna" : "Bob");
+                window_->close();
+                QCOMPARE(rows(), before);
+            });
     }
 
 private:

@@ -49,10 +49,10 @@ private slots:
     void MovesUpAndDown()
     {
         AddFour();
-        QVERIFY(MoveChapterUp("C"));
-        QCOMPARE(Links(), QStringList({"1|0|3", "2|3|4", "3|1|2", "4|2|0"}));
-        QVERIFY(MoveChapterUp("C"));
-        QCOMPARE(Links(), QStringList({"1|3|2", "2|1|4", "3|0|1", "4|2|0"}));
+        for (const char* links : {"1|0|3; 2|3|4; 3|1|2; 4|2|0", "1|3|2; 2|1|4; 3|0|1; 4|2|0"}) {
+            QVERIFY(MoveChapterUp("C"));
+            QCOMPARE(Links().join("; "), links);
+        }
         QVERIFY(!MoveChapterUp("C"));
         QVERIFY(MoveChapterDown("B"));
         QCOMPARE(Links(), QStringList({"1|3|4", "2|4|0", "3|0|1", "4|1|2"}));
@@ -65,6 +65,8 @@ private slots:
         album_->Execute("UPDATE Chapter SET NextChapter=77 WHERE Id=4");
         QVERIFY(MoveChapterUp("D"));
         QCOMPARE(Links(), QStringList({"1|0|4", "2|4|0", "3|4|77", "4|1|3"}));
+        QCOMPARE(DeleteChapter("D"), ChapterDeletion::Deleted);
+        QCOMPARE(Links(), QStringList({"1|0|3", "2|4|0", "3|1|77"}));
     }
 
     void FindsTheNameMeant()
@@ -83,33 +85,17 @@ private slots:
         }
     }
 
-    void ChaptersWithoutAName()
-    {
-        AddFour();
-        album_->Execute("UPDATE Chapter SET Name=NULL WHERE Id=1");
-        album_->Execute("UPDATE Chapter SET Name=CAST(x'41FF' AS TEXT) WHERE Id=2");
-        album_->Execute("UPDATE Chapter SET Name=x'00FF' WHERE Id=4");
-        for (int round = 0; round < 2; ++round) // the second time names come with their rows
-            QCOMPARE(ChapterNames().join(';'), "(no name);(no name 2);C;(no name 3)");
-        QCOMPARE(ChapterTitle(4), "(no name 3)");
-        QCOMPARE(FindChapter("C"), std::optional(3));
-        QVERIFY(MoveChapterUp("(no name 3)"));
-        QVERIFY(RenameChapter(FindChapter("(no name 3)").value(), "Named"));
-        QCOMPARE(DeleteChapter("(no name 2)"), ChapterDeletion::Deleted);
-        QCOMPARE(ChapterNames().join(';'), "(no name);Named;C");
-    }
-
     void ListEndsAtBrokenLinks()
     {
         AddFour();
         const QStringList sound = Links();
         const std::pair<const char*, QString> rows[] = {
-            {"NextChapter=1 WHERE Id=3", "A B C"},        // a cycle
-            {"NextChapter=2 WHERE Id=2", "A B"},          // to itself
-            {"NextChapter=77 WHERE Id=2", "A B"},         // dangling
-            {"PreviousChapter=2 WHERE Id=1", ""},         // no first chapter
-            {"PreviousChapter=0 WHERE Id=3", "A B C D"}}; // two of them
+            {"NextChapter=1 WHERE Id=3", "A B C"}, // a cycle
+            {"NextChapter=2 WHERE Id=2", "A B"},   // to itself
+            {"NextChapter=77 WHERE Id=2", "A B"},  // dangling
+            {"PreviousChapter=2 WHERE Id=1", ""}}; // no first chapter
         for (const auto& [damage, listed] : rows) {
+            const InRow row(damage);
             album_->Execute(QString("UPDATE Chapter SET ") + damage);
             QCOMPARE(ChapterNames().join(u' '), listed);
             album_->Execute("UPDATE Chapter SET PreviousChapter=Id-1, NextChapter=(Id+1)%5");
@@ -125,23 +111,17 @@ private slots:
             {{"no first chapter", "UPDATE Chapter SET PreviousChapter=2 WHERE Id=1", whole},
              {"chapter unreachable", "UPDATE Chapter SET NextChapter=0 WHERE Id=1", whole},
              {"dangling next", "UPDATE Paragraph SET NextParagraph=99 WHERE Id=1", whole},
-             {"dangling previous", "UPDATE Paragraph SET PreviousParagraph=99 WHERE Id=2", whole},
              {"cycle", "UPDATE Paragraph SET NextParagraph=1 WHERE Id=3", whole},
              {"ring",
               "UPDATE Paragraph SET PreviousParagraph=2 WHERE Id=1; UPDATE Paragraph SET "
               "NextParagraph=1 WHERE Id=2",
-              whole},
-             {"two heads",
-              "UPDATE Paragraph SET NextParagraph=0 WHERE Id=1; UPDATE Paragraph SET "
-              "PreviousParagraph=0 WHERE Id=2",
               whole},
              {"put in but not linked back",
               "UPDATE Paragraph SET NextParagraph=3 WHERE Id=1; UPDATE Paragraph SET "
               "NextParagraph=0 "
               "WHERE Id=2; UPDATE Paragraph SET NextParagraph=2, PreviousParagraph=1 WHERE Id=3",
               "One:132 Two:45"},
-             {"into the next chapter", "UPDATE Paragraph SET NextParagraph=4 WHERE Id=3", whole},
-             {"wrong first", "UPDATE Chapter SET FirstParagraph=5 WHERE Id=1", whole},
+             {"wrong first", "UPDATE Chapter SET FirstParagraph=2 WHERE Id=1", whole},
              {"no first paragraph", "UPDATE Chapter SET FirstParagraph=0", whole},
              {"wrong chapter", "UPDATE Paragraph SET Chapter=77 WHERE Id=2", whole},
              {"chapter lost",

@@ -64,8 +64,20 @@ foreach(source IN LISTS sources)
   endif()
 endforeach()
 
+# The lowest floor's tests, and what they share, know none but that floor.
+file(GLOB_RECURSE tests RELATIVE ${SOURCE_DIR}/tests ${SOURCE_DIR}/tests/platform/*.h
+     ${SOURCE_DIR}/tests/platform/*.cpp)
+foreach(test IN LISTS tests)
+  file(STRINGS ${SOURCE_DIR}/tests/${test} higher
+       REGEX "^#include \"((core|catalogue|story|viewer|ui|app)/|support/Album)")
+  if(higher)
+    string(APPEND faults "tests/${test}: includes what a higher floor holds: ${higher}\n")
+  endif()
+endforeach()
+
 if(seen LESS 100 OR forms LESS 20)
-  message(FATAL_ERROR "only ${seen} include lines and ${forms} files of forms found: the check looks in the wrong place")
+  message(FATAL_ERROR "only ${seen} include lines and ${forms} files of forms found: the check looks "
+                      "in the wrong place")
 endif()
 if(faults)
   message(FATAL_ERROR "${faults}")

@@ -9,7 +9,6 @@
 
 #include <sqlcipher/sqlite3.h>
 
-#include <QImage>
 #include <QSettings>
 #include <QtTest>
 
@@ -176,6 +175,22 @@ FailingEngine::~FailingEngine()
     sqlite3_progress_handler(AlbumDatabase->GetEngine(), 0, nullptr, nullptr);
 }
 
+void FailAtEachStep(int every, const std::function<void()>& prepare,
+                    const std::function<void()>& act, const std::function<void()>& check)
+{
+    int trials = 0;
+    for (bool hasFailed = true; hasFailed && !QTest::currentTestFailed(); ++trials) {
+        prepare();
+        {
+            const FailingEngine failing(trials * every);
+            act();
+            hasFailed = failing.HasFailed();
+        }
+        check();
+    }
+    QVERIFY(trials > 2);
+}
+
 int ErrorOf(const std::function<void()>& action, QString* description)
 {
     try {
@@ -186,26 +201,4 @@ int ErrorOf(const std::function<void()>& action, QString* description)
         return error.GetNumber();
     }
     return 0;
-}
-
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void WriteFile(const QString& path, const QByteArray& contents)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        QTest::qFail(qPrintable("cannot write " + path), __FILE__, __LINE__);
-}
-
-void PaintPicture(const QString& path, QSize size, const QColor& color)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    if (!image.save(path))
-        QTest::qFail(qPrintable("cannot write " + path), __FILE__, __LINE__);
 }

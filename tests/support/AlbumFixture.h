@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-#include <QColor>
+#include "support/TestFiles.h"
+
 #include <QMap>
-#include <QSize>
-#include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -78,11 +76,10 @@ private:
     bool isOnce_;
 };
 
+// Has the engine fail at each of its steps in turn, every so many of them, until it fails no more:
+// each time something is made ready, done while the engine fails, and looked at afterwards.
+void FailAtEachStep(int every, const std::function<void()>& prepare,
+                    const std::function<void()>& act, const std::function<void()>& check);
+
 // The number of the error that an action ends with, and what it says; 0 when there is none.
 int ErrorOf(const std::function<void()>& action, QString* description = nullptr);
-
-QByteArray ReadFile(const QString& path);
-// Makes the folder too.
-void WriteFile(const QString& path, const QByteArray& contents = {});
-// Writes a one-coloured picture file; the kind follows from the name.
-void PaintPicture(const QString& path, QSize size, const QColor& color);

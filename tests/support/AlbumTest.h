@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Album.h"
 #include "support/AlbumFixture.h"
 #include "support/ScriptedDialogs.h"
 

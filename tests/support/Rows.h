@@ -19,3 +19,19 @@ void AddRows(std::initializer_list<const char*> columns,
     for (const auto& row : rows)
         std::apply(add, row);
 }
+
+// Where a test goes through a table by itself: names the row that fails, in a loop's first line.
+class InRow
+{
+public:
+    explicit InRow(const QString& name) : name_(name) {}
+    ~InRow()
+    {
+        if (QTest::currentTestFailed())
+            qInfo("in the row: %s", qPrintable(name_));
+    }
+    Q_DISABLE_COPY_MOVE(InRow)
+
+private:
+    QString name_;
+};

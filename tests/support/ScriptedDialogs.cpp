@@ -62,39 +62,27 @@ void ScriptedDialogs::ExpectBox(const QString& text, Icon icon, Buttons buttons,
     script_.push_back({Describe(icon, buttons, text), false, answer, {}});
 }
 
-void ScriptedDialogs::ExpectBoxBeginning(const QString& beginning, Icon icon)
+void ScriptedDialogs::ExpectBoxBeginning(const QString& beginning, Icon icon, Buttons buttons,
+                                         Answer answer)
 {
-    script_.push_back({Describe(icon, Buttons::Ok, beginning), true, Answer::Ok, {}});
+    script_.push_back({Describe(icon, buttons, beginning), true, answer, {}});
 }
 
-void ScriptedDialogs::ExpectInput(const QString& prompt, const QString& answer,
-                                  const QString& proposal)
+void ScriptedDialogs::ExpectText(const char* kind, const QString& prompt, const QString& answer,
+                                 const QString& proposal)
 {
-    script_.push_back({Describe("input", proposal, prompt), false, Answer::Ok, answer});
-}
-
-void ScriptedDialogs::ExpectOpenFile(const QString& title, const QString& path)
-{
-    script_.push_back({Describe("open", {}, title), false, Answer::Ok, path});
-}
-
-void ScriptedDialogs::ExpectSaveFile(const QString& title, const QString& path,
-                                     const QString& proposal)
-{
-    script_.push_back({Describe("save", proposal, title), false, Answer::Ok, path});
+    script_.push_back({Describe(kind, proposal, prompt), false, Answer::Ok, answer});
 }
 
 ScriptedDialogs::Step ScriptedDialogs::Take(const QString& shown)
 {
     DisturbWindows();
     const Step step = script_.empty() ? Step{"nothing", false, Answer::Ok, {}} : script_.front();
-    if (step.comparesBeginning ? shown.startsWith(step.shown) : shown == step.shown) {
-        script_.pop_front();
-        return step;
-    }
-    QTest::qFail(qPrintable("came: " + shown + "\nexpected: " + step.shown), __FILE__, __LINE__);
     if (!script_.empty())
         script_.pop_front();
+    if (step.comparesBeginning ? shown.startsWith(step.shown) : shown == step.shown)
+        return step;
+    QTest::qFail(qPrintable("came: " + shown + "\nexpected: " + step.shown), __FILE__, __LINE__);
     return {shown, false, Answer::Cancel, {}};
 }
 

@@ -34,10 +34,20 @@ public:
     void ExpectBox(const QString& text, Icon icon = Icon::Information,
                    Buttons buttons = Buttons::Ok, Answer answer = Answer::Ok);
     // For boxes whose text holds words of the system: only the beginning is compared.
-    void ExpectBoxBeginning(const QString& beginning, Icon icon);
-    void ExpectInput(const QString& prompt, const QString& answer, const QString& proposal = {});
-    void ExpectOpenFile(const QString& title, const QString& path);
-    void ExpectSaveFile(const QString& title, const QString& path, const QString& proposal = {});
+    void ExpectBoxBeginning(const QString& beginning, Icon icon, Buttons buttons = Buttons::Ok,
+                            Answer answer = Answer::Ok);
+    void ExpectInput(const QString& prompt, const QString& answer, const QString& proposal = {})
+    {
+        ExpectText("input", prompt, answer, proposal);
+    }
+    void ExpectOpenFile(const QString& title, const QString& path)
+    {
+        ExpectText("open", title, path, {});
+    }
+    void ExpectSaveFile(const QString& title, const QString& path, const QString& proposal = {})
+    {
+        ExpectText("save", title, path, proposal);
+    }
 
     bool IsDone() const { return script_.empty(); }
     // What stood above the prompt of the last input.
@@ -57,6 +67,8 @@ private:
         QString text;
     };
 
+    void ExpectText(const char* kind, const QString& prompt, const QString& answer,
+                    const QString& proposal);
     Step Take(const QString& shown);
 
     std::deque<Step> script_;

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "EveryWindow.h"
-#include "core/Album.h"
 #include "core/AlbumSets.h"
 #include "core/Parameters.h"
 #include "support/Rows.h"
 
-#include <QSettings>
 #include <QTextDocument>
 
 using namespace GeneralModule;
@@ -46,43 +44,6 @@ QStringList MisreadTexts(QWidget& window)
     return faults;
 }
 
-// Presses and clicks whatever a window has, and closes what comes up over it.
-void Prod(QWidget& window)
-{
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, [&window] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (modal && modal != &window)
-            modal->close();
-    });
-    closer.start(20);
-    const auto act = [&window](const auto& action) {
-        window.show();
-        action();
-        QCoreApplication::processEvents();
-    };
-    for (const int key :
-         {Qt::Key_Return, Qt::Key_Space, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down,
-          Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Delete, Qt::Key_E,
-          Qt::Key_N, Qt::Key_T, Qt::Key_F11, Qt::Key_Escape})
-        act([&] {
-            QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key(key));
-        });
-    for (QWidget* control : window.findChildren<QWidget*>()) {
-        const QString name = control->objectName();
-        const bool isOurs = !name.isEmpty() && !name.startsWith("qt_") && name != "cmdSysInfo";
-        for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
-            if (isOurs && control->isVisible() && control->isEnabled())
-                act([&] { QTest::mouseClick(control, button); });
-        }
-    }
-    for (QAction* entry : window.findChildren<QAction*>()) {
-        const QString name = entry->objectName();
-        if (entry->isEnabled() && name.startsWith("mnu") && !name.startsWith("mnuRecent"))
-            act([entry] { entry->trigger(); });
-    }
-}
-
 } // namespace
 
 // What every window makes of albums whose texts are hostile, and of none at all.
@@ -116,7 +77,7 @@ private slots:
         }
     }
 
-    // As after an opening that failed.
+    // As after an opening that failed; monkey_fuzz does more.
     void NothingCrashesWithoutAnAlbum_data() { AddEveryWindow(); }
 
     void NothingCrashesWithoutAnAlbum()
@@ -126,8 +87,18 @@ private slots:
         const PatientDialogs patient;
         QWidget& window = Open(name);
         ReleaseAlbum();
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, album_->PathOf("empty"));
-        Prod(window);
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, [&window] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (modal && modal != &window)
+                modal->close();
+        });
+        closer.start(20);
+        for (QPushButton* button : window.findChildren<QPushButton*>()) {
+            if (button->isVisibleTo(&window) && button->objectName() != "cmdSysInfo")
+                button->click();
+            window.show();
+        }
         QVERIFY(!IsAlbumOpen());
     }
 

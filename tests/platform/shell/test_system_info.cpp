@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/shell/SystemInfo.h"
-#include "support/AlbumFixture.h"
+#include "support/TestFiles.h"
 
 #include <QSettings>
 #include <QTemporaryDir>

@@ -1,65 +1,37 @@
 // SPDX-License-Identifier: MIT
-#include "platform/widgets/HeldEscape.h"
-#include "platform/widgets/KeyPreview.h"
+#include "platform/dialogs/Guard.h"
 #include "platform/widgets/LiteralText.h"
-#include "platform/widgets/PictureBox.h"
+#include "platform/widgets/QtDialogs.h"
 #include "platform/widgets/WindowSize.h"
 #include "platform/widgets/WorkProgress.h"
+#include "support/ModalDriver.h"
+#include "support/Rows.h"
+#include "support/TestFiles.h"
 
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTextDocument>
-#include <QVBoxLayout>
+#include <QThread>
 #include <QtTest>
 
-namespace {
-
-void SendKey(QWidget& target, int key, bool isRepeated)
-{
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, {}, isRepeated);
-    QCoreApplication::sendEvent(&target, &event);
-}
-
-} // namespace
+#include <stdexcept>
 
 class TestWidgets : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { Dialogs::Install(&dialogs_); }
+
+    // test_any_album looks at every window's.
     void TextsAreShownAsTheyStand()
     {
-        for (const QString& text : {QString("<img src='x'> & Co"), QString("Salt &amp; Pepper"),
-                                    QString("a < b\nc > d")}) {
-            QTextDocument tip;
-            tip.setHtml(AsToolTip(text));
-            QCOMPARE(tip.toPlainText(), text);
-            QVERIFY(Qt::mightBeRichText(AsToolTip(text)));
-        }
-        QCOMPARE(AsToolTip({}), "");
-        QWidget window;
-        window.setWindowTitle(AsWindowTitle("a[*]b" + QString(QChar(0)) + "\nc"));
-        QCOMPARE(window.windowTitle(), "a[*][*]b  c"); // which the toolkit shows as "a[*]b  c"
+        QTextDocument tip;
+        tip.setHtml(AsToolTip("Salt &amp; <b>\nc > d"));
+        QCOMPARE(tip.toPlainText(), "Salt &amp; <b>\nc > d");
+        QCOMPARE(AsWindowTitle("a[*]b" + QString(QChar(0)) + "\nc"), "a[*][*]b  c");
         const QString endless(1 << 20, u'x');
         QVERIFY(AsToolTip(endless).size() < 5000 && AsWindowTitle(endless).size() < 500);
-    }
-
-    void KeyPreviewSeesEachKeyOnce()
-    {
-        QWidget window;
-        auto* layer = new QWidget(&window);
-        auto* control = new QWidget(layer); // leaves every key unused
-        int seen = 0;
-        new KeyPreview(&window, [&seen](QKeyEvent&) {
-            ++seen;
-            return false;
-        });
-        for (int expected = 1; expected <= 3; ++expected) {
-            QTest::keyClick(control, Qt::Key_X);
-            QCOMPARE(seen, expected);
-        }
     }
 
     void WorkTakesNothingButItsStop()
@@ -67,96 +39,141 @@ private slots:
         QWidget window;
         QVBoxLayout layout(&window);
         QLineEdit field;
-        QPushButton other;
         WorkProgress progress;
         layout.addWidget(&field);
-        layout.addWidget(&other);
         layout.addWidget(&progress);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        const QSignalSpy clicks(&other, &QPushButton::clicked);
-        const auto use = [&] {
-            for (const int key : {Qt::Key_A, Qt::Key_Return})
-                QTest::keyClick(&field, Qt::Key(key));
-            QTest::mouseClick(&other, Qt::LeftButton);
-        };
-        const std::function<void()> ways[] = {
-            [&] { QTest::keyClick(&field, Qt::Key_Escape); },
-            [&] { QTest::mouseClick(progress.findChild<QPushButton*>("cmdStop"), Qt::LeftButton); },
-            [&] { window.close(); }};
-        for (const auto& stop : ways) {
+        for (const char* way : {"escape", "button", "frame"}) {
+            const InRow row(way);
             progress.Begin(10, true);
-            use();
+            QTest::keyClick(&field, Qt::Key_A);
             QVERIFY(progress.Advance(1));
-            stop();
+            if (*way == 'e')
+                QTest::keyClick(&field, Qt::Key_Escape);
+            else if (*way == 'b')
+                Click(progress, "cmdStop");
+            else
+                window.close();
             QVERIFY(!progress.Advance(2));
             progress.End();
             QVERIFY(window.isVisible());
         }
         QCOMPARE(field.text(), "");
-        QCOMPARE(clicks.count(), 0);
-        use();
+        QTest::keyClick(&field, Qt::Key_A);
         QCOMPARE(field.text(), "a");
-        QCOMPARE(clicks.count(), 1);
     }
 
     void WindowsRememberTheirSize()
     {
         const QTemporaryDir folder;
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
-        const auto open = [](QWidget& window) {
+        for (int time = 0; time < 3; ++time) {
+            QWidget window;
             window.setObjectName("frmX");
             KeepWindowSize(&window, {300, 200});
             window.show();
-        };
-        for (const QSize& size : {QSize(300, 200), QSize(411, 233)}) {
-            QWidget window;
-            open(window);
-            QCOMPARE(window.size(), size);
-            window.resize(411, 233);
+            QCOMPARE(window.size(), time == 0 ? QSize(300, 200) : QSize(411, 233));
+            time == 0 ? window.resize(411, 233) : window.showMaximized(); // which is not kept
             window.hide();
         }
-        QWidget window;
-        open(window);
-        window.showMaximized();
-        window.hide();
-        QWidget next;
-        open(next);
-        QCOMPARE(next.size(), QSize(411, 233));
     }
 
-    void HeldEscapeClosesOneWindow()
+    // The real boxes, answered from inside.
+    void AsksWithTheButtonsGiven()
     {
-        InstallHeldEscapeFilter();
-        QDialog lower;
-        QDialog upper(&lower);
-        lower.show();
-        upper.show();
-        SendKey(upper, Qt::Key_Escape, false);
-        QVERIFY(!upper.isVisible());
-        SendKey(lower, Qt::Key_Escape, true);
-        QVERIFY(lower.isVisible());
-        // As X11 repeats a key after a window has closed.
-        for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            QKeyEvent event(type, Qt::Key_Escape, Qt::NoModifier);
-            event.setTimestamp(700);
-            QCoreApplication::sendEvent(&lower, &event);
+        WhenModal("QMessageBox", [](QWidget& window) {
+            auto& box = dynamic_cast<QMessageBox&>(window);
+            QCOMPARE(box.text(), "Delete <b>it</b> ?");
+            QCOMPARE(box.textFormat(), Qt::PlainText);
+            QCOMPARE(box.standardButton(box.defaultButton()), QMessageBox::Cancel);
+            QCOMPARE(box.button(QMessageBox::Yes)->text(), "Remove");
+            box.button(QMessageBox::No)->click();
+        });
+        const auto answer = dialogs_.Ask({.text = "Delete <b>it</b> ?",
+                                          .icon = Dialogs::Icon::Question,
+                                          .buttons = Dialogs::Buttons::YesNoCancel,
+                                          .defaultAnswer = Dialogs::Answer::Cancel,
+                                          .yes = "Remove"});
+        QCOMPARE(answer, Dialogs::Answer::No);
+        WhenModal("QInputDialog", [](QWidget& window) {
+            auto& box = dynamic_cast<QInputDialog&>(window);
+            QCOMPARE(box.labelText(), "Salt & <b>Pepper</b>");
+            for (const QLabel* label : box.findChildren<QLabel*>())
+                QVERIFY(label->textFormat() == Qt::PlainText && !label->buddy());
+            QCOMPARE(Find<QLabel>(box, "lblNote").text(), "Wrong");
+            QCOMPARE(box.textValue(), "Old");
+            QCOMPARE(box.textEchoMode(), QLineEdit::Password);
+            box.setTextValue("New");
+            box.accept();
+        });
+        QCOMPARE(dialogs_.AskText({.prompt = "Salt & <b>Pepper</b>",
+                                   .note = "Wrong",
+                                   .proposal = "Old",
+                                   .isPassword = true}),
+                 "New");
+        // Cancelled and emptied are two things.
+        for (const bool isAccepted : {false, true}) {
+            WhenModal("QInputDialog", [isAccepted](QWidget& window) {
+                dynamic_cast<QInputDialog&>(window).done(isAccepted ? QDialog::Accepted
+                                                                    : QDialog::Rejected);
+            });
+            QCOMPARE(dialogs_.AskText({.prompt = "Name"}).isNull(), !isAccepted);
         }
-        QVERIFY(lower.isVisible());
-        SendKey(lower, Qt::Key_Escape, false);
-        QVERIFY(!lower.isVisible());
+        WhenModal("QMessageBox", [](QWidget& window) {
+            QCOMPARE(dynamic_cast<QMessageBox&>(window).text(), "42 went wrong");
+            window.close();
+        });
+        QVERIFY(!RunGuarded([] { throw std::runtime_error("42 went wrong"); }));
+        QVERIFY(RunGuarded([] {}));
     }
 
-    void ADoubleClickIsOnePress()
+    void ChoosesFiles()
     {
-        PictureBox box;
-        QSignalSpy presses(&box, &PictureBox::Pressed);
-        QTest::mouseClick(&box, Qt::LeftButton);
-        QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(1, 1), QPointF(1, 1),
-                           Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&box, &second);
-        QCOMPARE(presses.size(), 1);
+        const QTemporaryDir folder;
+        const auto choose = [](QWidget& window, const char* name) {
+            window.findChild<QLineEdit*>()->setText(name);
+            dynamic_cast<QDialog&>(window).done(QDialog::Accepted);
+        };
+        WhenModal("QFileDialog", [&choose](QWidget& window) {
+            QCOMPARE(dynamic_cast<QFileDialog&>(window).nameFilters(),
+                     QStringList("Album (*.alb)"));
+            choose(window, "mine");
+        });
+        QCOMPARE(dialogs_.AskSaveFile({"Create a new Album", "Album|*.alb", folder.path()}),
+                 folder.filePath("mine.alb"));
+        // A dot in the name is no extension, and the name that comes of it may be taken.
+        WriteFile(folder.filePath("Rome 12.5.alb"));
+        WhenModal("QFileDialog", [&choose](QWidget& window) {
+            WhenModal("QMessageBox", [&choose](QWidget& box) {
+                WhenModal("QFileDialog", [&](QWidget& again) { choose(again, "Rome 12.6"); });
+                box.close();
+            });
+            choose(window, "Rome 12.5");
+        });
+        QCOMPARE(dialogs_.AskSaveFile({"Create", "Album|*.alb", folder.path()}),
+                 folder.filePath("Rome 12.6.alb"));
     }
+
+    void LongWorkKeepsTheWindowsAlive()
+    {
+        const auto look = [](QWidget& window) { // which comes while the work goes on
+            QCOMPARE(Find<QLabel>(window, "lblWork").text(), "Working...");
+            QTest::keyClick(&window, Qt::Key_Escape);
+            QVERIFY(window.isVisible()); // until the work has noticed
+        };
+        WhenModal("frmLongWork", look, false);
+        dialogs_.RunLong("Working...", true, [&](const auto& isStopped) {
+            while (!isStopped())
+                QThread::msleep(5);
+        });
+        QVERIFY(!QApplication::activeModalWidget());
+        const auto fail = [](const auto&) { throw std::runtime_error("in vain"); };
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, dialogs_.RunLong("Working...", false, fail));
+    }
+
+private:
+    QtDialogs dialogs_;
 };
 
 QTEST_MAIN(TestWidgets)
