@@ -85,9 +85,9 @@ void FilterPanel::CreateGrid()
         lblCar_[std::size_t(column)] = label;
         grid.setCellWidget(LabelRow(column), GroupOf(column), label);
         auto* below = new QTableWidgetItem;
-        auto* behind = new QTableWidgetItem;
-        behind->setFlags(Qt::NoItemFlags); // arrow keys pass over it
-        grid.setItem(LabelRow(column), GroupOf(column), behind);
+        auto* back = new QTableWidgetItem;
+        back->setFlags(Qt::NoItemFlags); // arrow keys pass over it
+        grid.setItem(LabelRow(column), GroupOf(column), back);
         grid.setItem(LabelRow(column) + 1, GroupOf(column), below);
     }
     grid.setCurrentCell(1, 0);

@@ -10,7 +10,7 @@
 namespace {
 
 // The list below the grid cannot hold a hundred thousand, and nobody would look through them.
-constexpr std::size_t mostUnknownChoices = 1000;
+constexpr std::size_t maxUnknownChoices = 1000;
 
 bool IsRealValue(const QString& token)
 {
@@ -131,7 +131,7 @@ std::vector<FilterChoice> FilterChoices(int column, const QString& filter)
         choices.push_back({value, value});
         listed.insert(value.toCaseFolded());
     }
-    const std::size_t most = choices.size() + mostUnknownChoices;
+    const std::size_t most = choices.size() + maxUnknownChoices;
     for (const QString& value : FilterTokens(filter)) {
         if (!IsRealValue(value) || listed.contains(value.toCaseFolded()))
             continue;

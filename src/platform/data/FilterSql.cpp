@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::size_t mostValues = 900;    // the oldest engine takes 999 parameters
+constexpr std::size_t maxValues = 900;     // the oldest engine takes 999 parameters
 constexpr std::size_t fewestLookedUp = 24; // fewer are compared sooner than looked up
 
 bool IsAscii(const QString& text)
@@ -125,7 +125,7 @@ private:
 
     QByteArray AddValue(const FieldValue& value)
     {
-        if (result_.values.size() >= mostValues)
+        if (result_.values.size() >= maxValues)
             FailTooComplex(text_);
         result_.values.push_back(value);
         return '?' + QByteArray::number(qsizetype(result_.values.size()) + 1);

@@ -8,7 +8,7 @@
 #include <vector>
 
 // Some fields of a table, by their numbers.
-using FieldMarks = std::bitset<TableLayout::mostFields>;
+using FieldMarks = std::bitset<TableLayout::maxFields>;
 
 // Selects rows of one table: result column 0 is the engine's row number, the columns after it are
 // the fields that were marked.

@@ -75,7 +75,7 @@ int LookAtRow(unsigned, void* context, void* row, void*)
     if (!sql) // a row of the statistics that the engine reads afterwards
         return 0;
     const bool isPlain = sql->isEmpty() || IsPlainTable(*sql) || IsPlainIndex(*sql);
-    if (isPlain && ++watch.definitions <= mostSchemaObjects)
+    if (isPlain && ++watch.definitions <= maxSchemaObjects)
         return 0;
     if (!watch.refused)
         watch.refused = TextOf(statement, "name").value_or(QByteArray());

@@ -5,7 +5,7 @@ struct sqlite3;
 
 // Tables and indexes that a file may hold. An album has about thirty; tens of thousands slow every
 // statement.
-inline constexpr int mostSchemaObjects = 500;
+inline constexpr int maxSchemaObjects = 500;
 
 // An album from a stranger is data, not code. Throws DatabaseError NotADatabase when the file
 // defines anything but plain tables and indexes (triggers, views, virtual tables, expressions that

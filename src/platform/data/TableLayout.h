@@ -22,7 +22,7 @@ public:
     };
 
     // Above what an engine gives a table, unless it was built for more.
-    static constexpr int mostFields = 2048;
+    static constexpr int maxFields = 2048;
 
     // Throws DatabaseError NoSuchTable, or TooComplex for more fields than that.
     TableLayout(sqlite3* engine, const QString& table);

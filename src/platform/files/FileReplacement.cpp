@@ -29,8 +29,8 @@ constexpr char lockName[] = "lumenark-work"; // tells our folders from others of
 constexpr char fileName[] = "new";           // all that is made in the folder begins so
 constexpr char asideName[] = "old";          // and all that is set aside in it so
 constexpr std::array journalEndings{"-journal", "-wal", "-shm"};
-constexpr int mostFolders = 10; // that others may take away
-constexpr int mostLinks = 40;   // in a row; as many as systems follow
+constexpr int maxFolders = 10; // that others may take away
+constexpr int maxLinks = 40;   // in a row; as many as systems follow
 
 fs::path ToPath(const QString& path)
 {
@@ -52,7 +52,7 @@ QString ResolvePlace(const QString& place)
 {
     fs::path path = fs::absolute(ToPath(place));
     for (int links = 0; fs::is_symlink(fs::symlink_status(path)); ++links) {
-        if (links == mostLinks)
+        if (links == maxLinks)
             Fail(ELOOP);
         path = path.parent_path() / fs::read_symlink(path);
     }
@@ -177,7 +177,7 @@ FileReplacement::FileReplacement(const QString& place) : target_(ResolvePlace(pl
     RequireReplaceable(QFileInfo(target_));
     ClearFolders(parent);
     // Until it holds the lock, another program may take the folder for one that was left.
-    for (int trial = 0; !lock_ && trial < mostFolders && !QFileInfo::exists(folder_); ++trial) {
+    for (int trial = 0; !lock_ && trial < maxFolders && !QFileInfo::exists(folder_); ++trial) {
         folder_ = MakeFolder(parent);
         lock_ = LockFolder(folder_);
     }

@@ -15,7 +15,7 @@ namespace {
 // Of one file altogether: milliseconds that failing readers may keep silent, and how often one is
 // started again. A sound file needs neither.
 constexpr int patienceOfFile = 6000;
-constexpr int mostRestarts = 40;
+constexpr int maxRestarts = 40;
 
 // Of one file altogether. Sound texts are at most twice as long here as in the file, where they may
 // be packed; values that take a bit or none there take five bytes. Rows or tables that all claim
@@ -23,7 +23,7 @@ constexpr int mostRestarts = 40;
 constexpr qint64 volumeFactor = 40;
 constexpr qint64 volumeBase = 4 * 1024 * 1024;
 
-constexpr qsizetype mostTables = 10000;
+constexpr qsizetype maxTables = 10000;
 
 OldValue TakeValue(FrameContents& contents)
 {
@@ -51,7 +51,7 @@ struct OldAlbumFile::Progress
     bool isRest = false; // rows on pages that the table's map leaves out
     std::vector<OldValue> values;
 
-    void MoveBehind(quint32 page, quint32 row)
+    void MovePast(quint32 page, quint32 row)
     {
         nextPage = page;
         nextRow = row + 1;
@@ -86,7 +86,7 @@ bool OldAlbumFile::ReadList(bool wholeFile)
         FrameContents contents(frame->contents);
         if (frame->kind == OldAlbumStream::Header)
             hasPassword_ = contents.Number() != 0;
-        else if (frame->kind == OldAlbumStream::Table && tables_.size() < mostTables) {
+        else if (frame->kind == OldAlbumStream::Table && tables_.size() < maxTables) {
             const quint32 page = contents.Number();
             tables_.push_back({page, contents.Text()});
         } else if (frame->kind == OldAlbumStream::End) {
@@ -150,7 +150,7 @@ bool OldAlbumFile::RunReader(const Table& table, Progress& progress, OldTableVis
     while (const auto frame = reader.Next(patience_)) {
         volume_ = earlier + reader.GetVolume();
         if (volume_ > volumeBase + volumeFactor * size_) {
-            restarts_ = mostRestarts;
+            restarts_ = maxRestarts;
             return false;
         }
         if (TakeFrame(frame->kind, frame->contents, progress, visitor))
@@ -207,7 +207,7 @@ bool OldAlbumFile::TakeFrame(OldAlbumStream::Frame kind, QByteArrayView bytes, P
     } else if (kind == OldAlbumStream::LostRow && !isSurplus) {
         ++progress.outcome.lostRows;
     }
-    progress.MoveBehind(page, row);
+    progress.MovePast(page, row);
     return false;
 }
 
@@ -216,14 +216,14 @@ bool OldAlbumFile::TakeFrame(OldAlbumStream::Frame kind, QByteArrayView bytes, P
 // without the table's map. False when nothing is left to try.
 bool OldAlbumFile::PlanNextRun(Progress& progress)
 {
-    if (patience_ <= 0 || restarts_ >= mostRestarts)
+    if (patience_ <= 0 || restarts_ >= maxRestarts)
         return false;
     ++restarts_;
     if (!progress.careful) {
         progress.careful = true;
     } else if (progress.isTrying) {
         ++progress.outcome.lostRows;
-        progress.MoveBehind(progress.nextPage, progress.nextRow);
+        progress.MovePast(progress.nextPage, progress.nextRow);
     } else if (!progress.outcome.mapIsDamaged && !progress.isRest) {
         progress.outcome.mapIsDamaged = true;
     } else {

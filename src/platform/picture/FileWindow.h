@@ -26,9 +26,9 @@ public:
     }
 
 protected:
-    qint64 readData(char* data, qint64 mostBytes) override
+    qint64 readData(char* data, qint64 maxBytes) override
     {
-        const qint64 wanted = std::min(mostBytes, bytes_ - at_);
+        const qint64 wanted = std::min(maxBytes, bytes_ - at_);
         if (wanted <= 0 || (file_.pos() != at_ && !file_.seek(at_)))
             return -1;
         const qint64 got = file_.read(data, wanted);

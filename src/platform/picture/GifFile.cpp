@@ -4,7 +4,7 @@
 namespace {
 
 // Comments included; a still picture of this size does not exist.
-constexpr qint64 mostGifBytes = 32 << 20;
+constexpr qint64 maxGifBytes = 32 << 20;
 
 constexpr char pictureBegin = '\x2C';
 constexpr char extension = '\x21';
@@ -22,7 +22,7 @@ QByteArray ReadPieces(QIODevice& file)
 {
     QByteArray pieces;
     char length = 0;
-    while (file.pos() < mostGifBytes && file.getChar(&length)) {
+    while (file.pos() < maxGifBytes && file.getChar(&length)) {
         pieces += length;
         if (length == 0)
             break;
@@ -51,7 +51,7 @@ QByteArray ReadFirstOfGif(QIODevice& file)
         return gif;
     gif += file.read(PaletteBytes(uchar(gif[flagsAt])));
     char introducer = 0;
-    while (file.pos() < mostGifBytes && file.getChar(&introducer) && introducer != trailer) {
+    while (file.pos() < maxGifBytes && file.getChar(&introducer) && introducer != trailer) {
         if (introducer == pictureBegin)
             return gif + ReadPicture(file) + trailer;
         char kind = 0;

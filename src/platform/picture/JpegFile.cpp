@@ -26,13 +26,13 @@ enum Marker : uchar {
 };
 
 // Thumbnails, depth maps and profiles included; nothing real comes near.
-constexpr qint64 mostHeadBytes = 32 << 20;
+constexpr qint64 maxHeadBytes = 32 << 20;
 
 constexpr qint64 bytesPerBlock = 128; // 8x8 coefficients of two bytes
 
 // A scan may say "nothing new" for 32,767 blocks in two bytes, and the decoder still goes to each:
 // eight nanoseconds, so about a second. A progressive photograph of 100 megapixels takes a third.
-constexpr qint64 mostBlockVisits = 128LL << 20;
+constexpr qint64 maxBlockVisits = 128LL << 20;
 
 bool IsProgressiveFrame(uchar marker)
 {
@@ -83,7 +83,7 @@ private:
 uchar ReadMarker(QIODevice& file)
 {
     char byte = 0;
-    while (file.pos() < mostHeadBytes && file.getChar(&byte)) {
+    while (file.pos() < maxHeadBytes && file.getChar(&byte)) {
         if (uchar(byte) != fill)
             continue;
         while (uchar(byte) == fill && file.getChar(&byte)) {
@@ -144,21 +144,21 @@ qint64 BlocksOf(const QByteArray& frame)
     const qint64 height = qFromBigEndian<quint16>(frame.constData() + 1);
     const qint64 width = qFromBigEndian<quint16>(frame.constData() + 3);
     const int count = std::min<int>(uchar(frame[5]), int(frame.size() - headBytes) / colourBytes);
-    qint64 mostAcross = 1;
-    qint64 mostDown = 1;
+    qint64 maxAcross = 1;
+    qint64 maxDown = 1;
     qint64 perUnit = 0;
     for (int i = 0; i < count; ++i) {
         const uchar factors = uchar(frame[headBytes + i * colourBytes + 1]);
         const qint64 across = factors >> 4;
         const qint64 down = factors & 0x0F;
-        mostAcross = std::max(mostAcross, across);
-        mostDown = std::max(mostDown, down);
+        maxAcross = std::max(maxAcross, across);
+        maxDown = std::max(maxDown, down);
         perUnit += across * down;
     }
     const auto units = [](qint64 pixels, qint64 most) {
         return (pixels + 8 * most - 1) / (8 * most);
     };
-    return units(width, mostAcross) * units(height, mostDown) * perUnit;
+    return units(width, maxAcross) * units(height, maxDown) * perUnit;
 }
 
 qint64 BlocksOfJpeg(const QByteArray& jpeg)
@@ -173,7 +173,7 @@ QByteArray ReadJpegHead(QIODevice& file)
 {
     QByteArray head = file.read(2);
     Choice choice;
-    while (file.pos() < mostHeadBytes) {
+    while (file.pos() < maxHeadBytes) {
         const uchar marker = ReadMarker(file);
         if (marker == none)
             break;
@@ -250,10 +250,10 @@ qint64 JpegWholeBytes(const QByteArray& jpeg)
 
 bool HasSensibleScans(const QByteArray& jpeg)
 {
-    const qint64 mostScans = mostBlockVisits / std::max<qint64>(BlocksOfJpeg(jpeg), 1);
+    const qint64 maxScans = maxBlockVisits / std::max<qint64>(BlocksOfJpeg(jpeg), 1);
     qint64 scans = 0;
-    for (Segment segment = NextSegment(jpeg, 0); segment.marker != none && scans <= mostScans;
+    for (Segment segment = NextSegment(jpeg, 0); segment.marker != none && scans <= maxScans;
          segment = NextSegment(jpeg, segment.next))
         scans += segment.marker == scan;
-    return scans <= mostScans;
+    return scans <= maxScans;
 }

@@ -26,16 +26,16 @@ namespace {
 
 // For one picture while it is decoded, the file's bytes included where they are in memory. With
 // what the program takes besides, reading any file stays below 512 MiB.
-constexpr int mostMebibytes = 432;
-constexpr qint64 mostDecoderBytes = qint64(mostMebibytes) << 20;
+constexpr int maxMebibytes = 432;
+constexpr qint64 maxDecoderBytes = qint64(maxMebibytes) << 20;
 
 // A picture that takes more than this is decoded while no other such picture is, so that the memory
 // does not grow with the number of cores.
 constexpr qint64 bytesOfLarge = 128LL << 20;
 
 // Larger than any screen; guards the allocation only.
-constexpr int mostTargetSide = 1 << 15;
-constexpr qint64 mostTargetPixels = 64LL << 20;
+constexpr int maxTargetSide = 1 << 15;
+constexpr qint64 maxTargetPixels = 64LL << 20;
 
 // A file's decoder on its way to pixels. Not to be copied or moved: the reader points to the
 // device.
@@ -46,13 +46,13 @@ public:
     {
         // Some decoders set memory aside before they tell even the size.
         static std::once_flag limitSet;
-        std::call_once(limitSet, [] { QImageReader::setAllocationLimit(mostMebibytes); });
+        std::call_once(limitSet, [] { QImageReader::setAllocationLimit(maxMebibytes); });
         if (!OpenPictureFile(file_, path)) {
             return;
         }
         const QByteArray format = PictureFormatOf(file_);
         bytesUpToSize_ = BytesUpToSize(format);
-        if (format.isEmpty() || bytesUpToSize_ > mostDecoderBytes) {
+        if (format.isEmpty() || bytesUpToSize_ > maxDecoderBytes) {
             return;
         }
         format_ = format;
@@ -65,8 +65,7 @@ public:
     QSize Size()
     {
         const QSize size = HeaderSize();
-        if (!IsPlausibleSize(format_, size, file_.size()) ||
-            DecoderBytes(size) > mostDecoderBytes) {
+        if (!IsPlausibleSize(format_, size, file_.size()) || DecoderBytes(size) > maxDecoderBytes) {
             return {};
         }
         return IsTurned() ? size.transposed() : size;
@@ -232,8 +231,8 @@ private:
 
 bool IsPlausibleTarget(QSize size)
 {
-    return !size.isEmpty() && size.width() <= mostTargetSide && size.height() <= mostTargetSide &&
-           qint64(size.width()) * size.height() <= mostTargetPixels;
+    return !size.isEmpty() && size.width() <= maxTargetSide && size.height() <= maxTargetSide &&
+           qint64(size.width()) * size.height() <= maxTargetPixels;
 }
 
 QImage DecodeTo(const QString& path, QSize size)

@@ -35,9 +35,8 @@ QImage ScaledAtOnce(QImage image, QSize size)
 
 void CompletePalette(QImage& image)
 {
-    constexpr int mostPaletteBits = 8;
-    if (image.pixelFormat().colorModel() != QPixelFormat::Indexed ||
-        image.depth() > mostPaletteBits)
+    constexpr int maxPaletteBits = 8;
+    if (image.pixelFormat().colorModel() != QPixelFormat::Indexed || image.depth() > maxPaletteBits)
         return;
     QList<QRgb> palette = image.colorTable();
     const qsizetype colours = qsizetype(1) << image.depth();

@@ -18,7 +18,7 @@ public:
     bool isSequential() const override { return true; }
 
 protected:
-    qint64 readData(char* data, qint64 mostBytes) override;
+    qint64 readData(char* data, qint64 maxBytes) override;
     qint64 writeData(const char*, qint64) override { return -1; }
 
 private:

@@ -27,7 +27,7 @@ constexpr quint16 uncompressed = 1;
 constexpr qint64 bytesPerTagByte = 5;
 
 // Stored strips that are larger than this many times what they hold are cut by the decoder.
-constexpr qint64 mostStoredPerDecoded = 10;
+constexpr qint64 maxStoredPerDecoded = 10;
 
 // By the types' numbers, from 0; those that are not there have no size.
 constexpr std::array<int, 19> typeBytes{0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8, 4, 0, 0, 8, 8, 8};
@@ -167,9 +167,9 @@ qint64 TiffDecoderBytes(QIODevice& file)
 {
     const Directory directory(file);
     const qint64 decoded = directory.StripBytes();
-    const qint64 mostStored =
-        directory.IsUncompressed() ? decoded : Product({decoded, mostStoredPerDecoded});
+    const qint64 maxStored =
+        directory.IsUncompressed() ? decoded : Product({decoded, maxStoredPerDecoded});
     const qint64 most = std::numeric_limits<qint64>::max() / 4;
-    return std::min(decoded, most) + std::min(mostStored, file.size()) +
+    return std::min(decoded, most) + std::min(maxStored, file.size()) +
            std::min(directory.TagBytes() * bytesPerTagByte, most);
 }

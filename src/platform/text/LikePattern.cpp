@@ -9,7 +9,7 @@ namespace {
 
 // What one place of a text may take, for a part that can only be tried at each: as many characters
 // as the longest file name has, each of which may be listed in both letter cases.
-constexpr std::size_t mostAtOnePlace = 255;
+constexpr std::size_t maxAtOnePlace = 255;
 
 bool HasNoCase(char32_t character)
 {
@@ -153,7 +153,7 @@ void LikePattern::PrepareMiddle()
         if (isPlain)
             overlaps_[i] = OverlapsOf(segments_[i]);
         else
-            tooCostly_ = tooCostly_ || cost > mostAtOnePlace;
+            tooCostly_ = tooCostly_ || cost > maxAtOnePlace;
     }
 }
 

@@ -5,10 +5,10 @@
 
 namespace {
 
-constexpr unsigned mostColumns = 255; // of a table, by the format
+constexpr unsigned maxColumns = 255; // of a table, by the format
 constexpr int lastNumberAtJet3 = 0x10;
 constexpr int lastNumberAtJet4 = 0x14;
-constexpr int mostRows = 1000; // of a page, that the library finds
+constexpr int maxRows = 1000; // of a page, that the library finds
 
 // Two bits beside a row's offset in its page.
 constexpr int offsetBits = 0x1FFF;
@@ -23,7 +23,7 @@ JetTable::JetTable(const JetFile& file, std::uint32_t page) : file_(file), handl
     entry_.object_type = MDB_TABLE;
     entry_.table_pg = page;
     table_ = mdb_read_table(&entry_);
-    if (!table_ || table_->num_cols == 0 || table_->num_cols > mostColumns)
+    if (!table_ || table_->num_cols == 0 || table_->num_cols > maxColumns)
         return;
     lastNumber_ = std::uint32_t(
         mdb_get_int32(handle_->pg_buf, IS_JET3(handle_) ? lastNumberAtJet3 : lastNumberAtJet4));
@@ -103,7 +103,7 @@ void JetTable::ReadPage(std::uint32_t firstRow, Visitor& visitor)
     const std::uint32_t page = nextPage_ - 1;
     const int countAt = handle_->fmt->row_count_offset;
     const int room = (int(handle_->fmt->pg_size) - countAt - 2) / 2;
-    const int rows = std::min({mdb_get_int16(handle_->pg_buf, countAt), room, mostRows});
+    const int rows = std::min({mdb_get_int16(handle_->pg_buf, countAt), room, maxRows});
     for (int row = int(firstRow); row < rows; ++row) {
         const Place place{page, std::uint32_t(row)};
         int start = 0;

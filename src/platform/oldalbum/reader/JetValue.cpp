@@ -70,7 +70,7 @@ JetValue ReadOnePiece(const JetFile& file, std::uint32_t place, std::size_t size
     return {length < size ? State::Cut : State::Whole, file.ToUtf8({text, length})};
 }
 
-JetValue ReadMemo(const JetFile& file, int start, int size, std::size_t mostBytes)
+JetValue ReadMemo(const JetFile& file, int start, int size, std::size_t maxBytes)
 {
     if (size == 0)
         return {State::Whole, {}};
@@ -84,7 +84,7 @@ JetValue ReadMemo(const JetFile& file, int start, int size, std::size_t mostByte
         const auto* text = reinterpret_cast<const char*>(page) + start + memoHead;
         return {State::Whole, file.ToUtf8({text, std::size_t(size - memoHead)})};
     }
-    if (length > mostBytes)
+    if (length > maxBytes)
         return {State::Unreadable, {}};
     return head & memoInOnePiece ? ReadOnePiece(file, place, length)
                                  : ReadPieces(file, place, length);
@@ -104,7 +104,7 @@ JetValue ReadOther(const JetFile& file, const MdbColumn& column, int start, int 
 } // namespace
 
 JetValue ReadValue(const JetFile& file, const MdbColumn& column, const MdbField& field,
-                   int rowStart, int rowSize, std::size_t mostBytes)
+                   int rowStart, int rowSize, std::size_t maxBytes)
 {
     // A truth value is never Null: that bit holds it.
     if (column.col_type == MDB_BOOL)
@@ -119,7 +119,7 @@ JetValue ReadValue(const JetFile& file, const MdbColumn& column, const MdbField&
         return {State::Whole, file.ToUtf8({text, std::size_t(field.siz)})};
     }
     case MDB_MEMO:
-        return ReadMemo(file, field.start, field.siz, mostBytes);
+        return ReadMemo(file, field.start, field.siz, maxBytes);
     case MDB_BYTE:
     case MDB_INT:
     case MDB_LONGINT:

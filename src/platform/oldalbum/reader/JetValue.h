@@ -20,6 +20,6 @@ struct JetValue
 };
 
 // Reads a field of the row that lies at rowStart in the file's current page. No value is longer
-// than mostBytes, and no chain of pieces is followed further than the value's own size says.
+// than maxBytes, and no chain of pieces is followed further than the value's own size says.
 JetValue ReadValue(const JetFile& file, const MdbColumn& column, const MdbField& field,
-                   int rowStart, int rowSize, std::size_t mostBytes);
+                   int rowStart, int rowSize, std::size_t maxBytes);

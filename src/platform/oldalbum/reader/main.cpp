@@ -32,7 +32,7 @@ namespace {
 
 constexpr std::uint32_t catalogPage = 2; // of the table of all tables
 constexpr long secondsPerPage = 2;       // of processor time; a page takes some microseconds
-constexpr rlim_t mostMemory = 512 * 1024 * 1024;
+constexpr rlim_t maxMemory = 512 * 1024 * 1024;
 constexpr std::uint32_t systemFlags = 0x80000002;
 
 // The clock counts the processor's time only, so that neither a slow disk nor a busy machine ends
@@ -49,7 +49,7 @@ void LimitMyself()
     const rlimit none = {0, 0};
     setrlimit(RLIMIT_CORE, &none);
 #ifndef __SANITIZE_ADDRESS__ // which reserves far more than it uses
-    const rlimit memory = {mostMemory, mostMemory};
+    const rlimit memory = {maxMemory, maxMemory};
     setrlimit(RLIMIT_AS, &memory);
 #endif
     // What the library takes from the environment would change what it reads.
