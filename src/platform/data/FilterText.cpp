@@ -5,8 +5,8 @@
 
 namespace {
 
-// The engine's parser holds 100 symbols, of which a level takes up to three, and conditions stand
-// in parentheses of the statement's own.
+// The engine's parser holds 100 symbols. A level takes up to three, and the statement adds
+// parentheses of its own.
 constexpr int deepestNesting = 16;
 constexpr int maxComparisons = 200'000;
 
