@@ -5,9 +5,8 @@
 
 #include <algorithm>
 
-// The first bytes of a file, as a device of its own: what lies after them is not there. Unlike the
-// file itself it cannot be mapped into memory, where a file that another program cuts short would
-// end this one.
+// A device that ends after the first bytes of a file. Unlike the file itself it cannot be mapped
+// into memory, where truncation by another program would crash this one.
 class FileWindow : public QIODevice
 {
 public:

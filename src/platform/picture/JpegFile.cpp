@@ -25,13 +25,14 @@ enum Marker : uchar {
     fill = 0xFF,
 };
 
-// Thumbnails, depth maps and profiles included; nothing real comes near.
+// Thumbnails, depth maps and profiles included; real files are far smaller.
 constexpr qint64 maxHeadBytes = 32 << 20;
 
 constexpr qint64 bytesPerBlock = 128; // 8x8 coefficients of two bytes
 
-// A scan may say "nothing new" for 32,767 blocks in two bytes, and the decoder still goes to each:
-// eight nanoseconds, so about a second. A progressive photograph of 100 megapixels takes a third.
+// A scan may say "nothing new" for 32,767 blocks in two bytes, and the decoder still visits each.
+// At eight nanoseconds a visit this is about a second. A progressive photograph of 100 megapixels
+// takes a third of it.
 constexpr qint64 maxBlockVisits = 128LL << 20;
 
 bool IsProgressiveFrame(uchar marker)
@@ -41,11 +42,11 @@ bool IsProgressiveFrame(uchar marker)
 
 bool IsFrame(uchar marker)
 {
-    // Three in the range of the frames are none: two kinds of tables and a reserved one.
+    // Three markers in this range are not frames: two kinds of tables and a reserved one.
     return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
 
-// Those that stand alone, without a length.
+// Markers without a length and a body.
 bool IsBare(uchar marker)
 {
     return marker == 0x01 || (marker >= restartFirst && marker <= end);
@@ -56,7 +57,7 @@ bool IsOfPrograms(uchar marker)
     return (marker >= programFirst && marker <= programLast) || marker == comment;
 }
 
-// Of those that programs added, the few that say how the pixels are to be shown.
+// Selects the few application segments that affect how the pixels are shown.
 class Choice
 {
 public:
@@ -79,7 +80,7 @@ private:
     std::bitset<16> seen_;
 };
 
-// Goes past whatever stands before the next marker, as the decoder does.
+// Skips whatever precedes the next marker, as the decoder does.
 uchar ReadMarker(QIODevice& file)
 {
     char byte = 0;
@@ -97,11 +98,11 @@ uchar ReadMarker(QIODevice& file)
 struct Segment
 {
     uchar marker = none;
-    qsizetype at = 0;   // of its marker
-    qsizetype next = 0; // after it; for a scan, where its data begin
+    qsizetype at = 0;   // where its marker begins
+    qsizetype next = 0; // where it ends; for a scan, where its data begin
 };
 
-// The next one at or after a place, in the scans' data as well; marker is none at the end.
+// The next segment at or after a place, even within scan data; marker is none at the end.
 Segment NextSegment(const QByteArray& jpeg, qsizetype at)
 {
     const auto byteAt = [&jpeg](qsizetype index) { return uchar(jpeg[index]); };
@@ -134,7 +135,7 @@ QByteArray FrameOf(const QByteArray& jpeg, uchar& marker)
     return {};
 }
 
-// 8x8 coefficients each, of all colours, as the decoder sets them aside.
+// Number of 8x8 blocks of all colours, as the decoder allocates them.
 qint64 BlocksOf(const QByteArray& frame)
 {
     constexpr int headBytes = 6;
@@ -203,7 +204,7 @@ void AppendJpegScans(QByteArray& jpeg, QIODevice& file)
     jpeg.truncate(headBytes + std::max<qint64>(got, 0));
 
     qsizetype kept = headBytes; // what is kept ends here
-    qsizetype from = headBytes; // and goes on there
+    qsizetype from = headBytes; // what is kept next begins here
     qsizetype to = jpeg.size();
     const auto keepUpTo = [&](qsizetype place) {
         if (kept == from) {

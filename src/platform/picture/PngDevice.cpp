@@ -19,7 +19,7 @@ constexpr qint64 checksumBytes = 4;
 // Real profiles hold some kilobytes, those of scanners up to two megabytes.
 constexpr qint64 maxProfileBytes = 4 << 20;
 
-// Pixels come in pieces of eight kilobytes and more; a file of millions of empty pieces would take
+// Pixels come in chunks of eight kilobytes and more; a file of millions of empty chunks would take
 // minutes.
 constexpr qint64 maxChunks = 1 << 20;
 
@@ -29,7 +29,7 @@ struct WantedChunk
     qint64 maxBytes;
 };
 
-// Each stands at most once, and before the pixels.
+// Each occurs at most once, before the pixels.
 constexpr std::array<WantedChunk, 10> wantedChunks{{
     {"IHDR", 13},
     {"PLTE", 768},
@@ -43,8 +43,8 @@ constexpr std::array<WantedChunk, 10> wantedChunks{{
     {"iCCP", maxProfileBytes},
 }};
 
-// The length that begins a profile, inside a chunk that holds the profile's name, a byte and then
-// the profile, deflated. The decoder takes that much memory before it looks any further.
+// The length at the beginning of a profile. The chunk holds the profile's name, a byte and the
+// deflated profile. The decoder allocates that length before it reads any further.
 qint64 ProfileBytes(QByteArray& chunk)
 {
     constexpr qint64 none = std::numeric_limits<qint64>::max();
@@ -106,18 +106,18 @@ bool PngDevice::BeginNextChunk()
     }
     if (ended_)
         return false;
-    // Also where the file has none, or a damaged one: its pixels may be whole.
+    // Added even where the file has none, or a damaged one: its pixels may be complete.
     ready_ = QByteArray("\0\0\0\0IEND\xAE\x42\x60\x82", 12);
     ended_ = true;
     return true;
 }
 
-// False when this one is left out.
+// False when this chunk is left out.
 bool PngDevice::BeginChunk(const QByteArray& head)
 {
     const qint64 length = qFromBigEndian<quint32>(head.constData());
     const QByteArray type = head.mid(4);
-    // Pixels come a little at a time, so where a file was cut off what is there can be shown.
+    // Pixels are streamed, so that the part of a truncated file that is there can be shown.
     if (type == "IDAT") {
         inPixels_ = true;
         ready_ = head;

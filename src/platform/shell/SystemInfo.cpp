@@ -30,7 +30,7 @@ QVariant ReadMachineSetting(const QString& keyName, const QString& valueName)
 #endif
 }
 
-// None when the registry says nothing that can be used.
+// None when the registry has no usable entry.
 std::optional<Command> CommandFromRegistry()
 {
     QString path;

@@ -54,7 +54,7 @@ public:
     }
 
 private:
-    // An open menu or list goes away first: it would keep the keyboard to itself.
+    // An open menu or list is closed first: it would keep the keyboard.
     static QWidget* WindowOf(QWidget* widget)
     {
         if (!QApplication::activePopupWidget())
@@ -142,8 +142,7 @@ void HelpWindow::Read(const QString& file)
     }
 }
 
-// The last chapters are too short to come to the upper edge; the one chosen stays marked all the
-// same.
+// The last chapters are too short to reach the upper edge; the chosen one stays marked anyway.
 void HelpWindow::ScrollTo(const QString& chapter)
 {
     const QScopedValueRollback<bool> guided(isGuided_, true);
@@ -159,7 +158,7 @@ void HelpWindow::FollowText()
     while (chapter + 1 < lstContents_->count() &&
            lstContents_->item(chapter + 1)->data(placeRole).toInt() <= top)
         ++chapter;
-    const QSignalBlocker quiet(lstContents_); // the text is where it shall be
+    const QSignalBlocker quiet(lstContents_); // the text must not move
     lstContents_->setCurrentRow(chapter);
 }
 
@@ -170,12 +169,12 @@ void HelpWindow::GoTo(const QString& chapter)
             lstContents_->setCurrentRow(row);
     }
     txtHelp_->setFocus();
-    // The text is laid out for the window's size first.
+    // Later, when the text has been laid out for the window's size.
     QMetaObject::invokeMethod(
         this, [this, chapter] { ScrollTo(chapter); }, Qt::QueuedConnection);
 }
 
-// From the place found last on, and behind the end from the beginning.
+// Searches from the last match on, and after the end from the beginning.
 void HelpWindow::Search()
 {
     const QString text = txtSearch_->text();
