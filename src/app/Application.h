@@ -6,7 +6,7 @@
 // Gives an application without windows the program's name and version.
 void NameProgram();
 
-// Shows what no handler has caught, and goes on.
+// Shows exceptions that no handler has caught, and goes on.
 class Application : public QApplication
 {
     Q_OBJECT

@@ -24,11 +24,11 @@ namespace {
 
 struct Arguments
 {
-    QString album; // absolute, because the program makes its own folder the current one
+    QString album; // absolute, because the program changes the current folder
     QString tour;  // folder for the pictures of a tour, empty for none
 };
 
-// Whether the program is only asked what it is, which needs no display.
+// Whether the arguments only ask for help or the version, which needs no display.
 bool AsksOnly(int argc, char** argv)
 {
     static constexpr std::array<std::string_view, 5> questions{"-h", "--help", "--help-all", "-v",
@@ -63,8 +63,8 @@ Arguments ReadArguments()
     return {absolute(parser.positionalArguments().value(0)), absolute(parser.value(tour))};
 }
 
-// For measuring the start from outside: ends the program once its window has been painted, children
-// and all.
+// For measuring start-up from outside: ends the program once its window and all its children have
+// been painted.
 class EndAfterFirstPaint : public QObject
 {
 public:
