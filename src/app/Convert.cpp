@@ -40,7 +40,7 @@ void Complain(const QString& about, const QString& text)
     Print(stderr, QStringLiteral("lumenark: %1: %2").arg(QDir::toNativeSeparators(about), text));
 }
 
-// A failure described here, not in a layer below.
+// A failure whose text comes from here, not from a layer below.
 struct Trouble
 {
     QString about;

@@ -59,7 +59,7 @@ public:
             fields_ += CarField(*twin);
     }
 
-    // A picture has one value, whatever it holds.
+    // A picture's field is one value, even if it contains ";".
     int InPictures()
     {
         return ReplaceIn(

@@ -72,7 +72,7 @@ private:
 
     std::unique_ptr<Ui::frmEditImage> ui_;
     ValueBoxes* boxes_;
-    PictureRecord controls_; // shown_ as the controls give it back
+    PictureRecord controls_; // shown_ as the controls return it
     PictureRecord shown_;    // as the album holds it
     bool isKnown_ = false;   // the album holds the picture
     bool isLoaded_ = false;

@@ -54,5 +54,5 @@ private:
     void cmdExit_Click();
 
     std::unique_ptr<Ui::frmOrganizeParagraphs> ui_;
-    std::vector<qint32> paragraphs_; // of the lines
+    std::vector<qint32> paragraphs_; // one for each line
 };

@@ -263,7 +263,7 @@ void FileReplacement::Commit(Taken taken)
         throw std::system_error(error);
     }
 #ifdef Q_OS_UNIX
-    // The file is in its place, even if the file system cannot write a folder through.
+    // The file is in its place, even if the file system cannot sync a folder.
     try {
         WriteThrough(QFileInfo(target_).absolutePath(), O_RDONLY);
     } catch (const std::system_error&) {

@@ -20,10 +20,8 @@ FolderListing ListFolders(const QString& folder);
 // The path of something in a folder. The folder may or may not end in the separator.
 QString PathIn(const QString& folder, const QString& name);
 
-// Where a user looks for documents first: the folder that the desktop keeps for them, else the
-// user's own.
+// Where a user looks for documents first: the desktop's folder for them, else the home folder.
 QString UsersDocumentFolder();
 
-// Where a user looks for pictures first: the folder that the desktop keeps for them, else the
-// user's own.
+// Where a user looks for pictures first: the desktop's folder for them, else the home folder.
 QString UsersPictureFolder();

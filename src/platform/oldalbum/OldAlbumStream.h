@@ -37,7 +37,7 @@ enum Exit {
     BadUse = 2,
     WrongPassword = 3,
     NotReadable = 4,     // unknown version, or the first page is damaged
-    TableUnreadable = 5, // the table's own description is damaged
+    TableUnreadable = 5, // the table's definition is damaged
 };
 
 } // namespace OldAlbumStream

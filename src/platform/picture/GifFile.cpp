@@ -3,7 +3,7 @@
 
 namespace {
 
-// Comments included; a still picture of this size does not exist.
+// Including comments; no still picture is this large.
 constexpr qint64 maxGifBytes = 32 << 20;
 
 constexpr char pictureBegin = '\x2C';

@@ -21,7 +21,7 @@ struct PictureInfo
 // error.
 PictureInfo ReadPictureInfo(const QString& path);
 
-// Decodes the picture straight to size (pixels, upright), turned as the file asks and in sRGB.
+// Decodes the picture directly at size (pixels, upright), turned as the file asks and in sRGB.
 // Returns a null image when the file cannot be read.
 QImage ReadPicture(const QString& path, QSize size);
 

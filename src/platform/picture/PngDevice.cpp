@@ -94,7 +94,7 @@ qint64 PngDevice::readData(char* data, qint64 maxBytes)
     return done > 0 || maxBytes == 0 ? done : -1;
 }
 
-// False when all has been given.
+// False when everything has been given.
 bool PngDevice::BeginNextChunk()
 {
     while (!ended_ && ++chunks_ <= maxChunks) {

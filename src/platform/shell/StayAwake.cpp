@@ -17,7 +17,7 @@ struct StayAwake::State
     std::optional<QDBusConnection> bus;
     bool isWanted = false;
     bool isAsking = false;
-    std::optional<uint> cookie; // of the desktop's inhibition while it lasts
+    std::optional<uint> cookie; // of the desktop's promise while it holds
 
     static void Settle(const std::shared_ptr<State>& state);
     void Ask(const std::shared_ptr<State>& self);

@@ -21,7 +21,8 @@
 namespace {
 
 constexpr int anchorRole = Qt::UserRole;
-constexpr int placeRole = Qt::UserRole + 1; // of the chapter's heading in the text, in characters
+constexpr int placeRole =
+    Qt::UserRole + 1; // where the chapter's heading is in the text, in characters
 
 int PlaceOfAnchor(const QTextDocument& text, const QString& anchor)
 {

@@ -16,7 +16,7 @@ class KeyPreview : public QObject
     Q_OBJECT
 
 public:
-    // Returns true when the key is used up.
+    // Returns true when the key is used.
     using Handler = std::function<bool(QKeyEvent&)>;
 
     KeyPreview(QWidget* window, Handler handler);
