@@ -101,7 +101,7 @@ bool IsBetween(const QByteArray& state, const QByteArray& before, const QByteArr
     return state.count('\n') >= before.count('\n') && state.count('\n') <= after.count('\n');
 }
 
-QString FaultOfChains(int mostAside)
+QString FaultOfChains(int maxAside)
 {
     const QStringList chapters = ChapterNames();
     if (chapters.size() != ChapterSet->RecordCount())
@@ -117,7 +117,7 @@ QString FaultOfChains(int mostAside)
     for (ParagraphSet->MoveFirst(); !ParagraphSet->AtEnd(); ParagraphSet->MoveNext()) {
         if (reached.contains(ParagraphSet->Number(u"Id")))
             continue;
-        if (++aside > mostAside || !ParagraphSet->TextOrEmpty(u"Text").isEmpty())
+        if (++aside > maxAside || !ParagraphSet->TextOrEmpty(u"Text").isEmpty())
             return QStringLiteral("paragraph %1 is not reached; %2")
                 .arg(ParagraphSet->Number(u"Id"))
                 .arg(Links());

@@ -18,4 +18,4 @@ bool IsBetween(const QByteArray& state, const QByteArray& before, const QByteArr
 // What is wrong with the chapters and paragraphs of the open album: each must be reached along its
 // chain. So many paragraphs may lie aside as long as nothing is written in them: they were created
 // and not saved yet.
-QString FaultOfChains(int mostAside);
+QString FaultOfChains(int maxAside);

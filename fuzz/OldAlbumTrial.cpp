@@ -16,7 +16,7 @@ using namespace GeneralModule;
 
 namespace {
 
-constexpr qint64 mostMilliseconds = 10000;
+constexpr qint64 maxMilliseconds = 10000;
 constexpr int versionAt = 0x14;
 
 class Damage
@@ -159,7 +159,7 @@ TrialResult TryConversion(const QByteArray& contents, const QString& folder)
         place.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     left.removeOne(QStringLiteral("old.alb"));
     QFile unchanged(from);
-    if (result.milliseconds > mostMilliseconds)
+    if (result.milliseconds > maxMilliseconds)
         result.fault = QStringLiteral("took %1 ms").arg(result.milliseconds);
     else if (!unchanged.open(QIODevice::ReadOnly) || unchanged.readAll() != contents)
         result.fault = QStringLiteral("the old album was changed");

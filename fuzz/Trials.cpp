@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr int mostFaults = 20;
-constexpr qsizetype mostShown = 4000; // bytes of an input
+constexpr int maxFaults = 20;
+constexpr qsizetype maxShown = 4000; // bytes of an input
 
 // Of the trial that runs, for the handlers below.
 QByteArray currentInput;
@@ -49,7 +49,7 @@ QByteArray Escaped(const QByteArray& bytes)
 
 void ShowInput()
 {
-    if (currentInput.size() <= mostShown) {
+    if (currentInput.size() <= maxShown) {
         std::printf("  input: %s\n", Escaped(currentInput).constData());
         return;
     }
@@ -111,7 +111,7 @@ extern "C" const char* __ubsan_default_options()
     return "abort_on_error=1:print_stacktrace=1";
 }
 
-Trials::Trials(int argc, char** argv, int mostSeconds) : mostSeconds_(mostSeconds)
+Trials::Trials(int argc, char** argv, int maxSeconds) : maxSeconds_(maxSeconds)
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
@@ -148,7 +148,7 @@ bool Trials::Next()
         time_.start(); // what is made ready before is not counted
     trial_ = isFirst && onlyTrial_ >= 0 ? onlyTrial_ : trial_ + 1;
     LimitTime(0);
-    if (faults_ >= mostFaults || (!isFirst && onlyTrial_ >= 0) ||
+    if (faults_ >= maxFaults || (!isFirst && onlyTrial_ >= 0) ||
         (onlyTrial_ < 0 && time_.elapsed() >= seconds_ * 1000))
         return false;
     currentTrial = trial_;
@@ -156,7 +156,7 @@ bool Trials::Next()
     std::seed_seq sequence{quint32(seed), quint32(seed >> 32), quint32(trial_),
                            quint32(trial_ >> 32)};
     random_.seed(sequence);
-    LimitTime(mostSeconds_);
+    LimitTime(maxSeconds_);
     return true;
 }
 
@@ -171,7 +171,7 @@ void Trials::SetInput(const QByteArray& input)
 void Trials::AddInput(const QByteArray& line)
 {
     currentInput += line + '\n';
-    const qsizetype surplus = currentInput.size() - mostShown / 2;
+    const qsizetype surplus = currentInput.size() - maxShown / 2;
     if (surplus > 0)
         currentInput.remove(0, currentInput.indexOf('\n', surplus - 1) + 1);
     if (onlyTrial_ >= 0) {

@@ -18,8 +18,8 @@ class Trials
 {
 public:
     // Ends the program with status 2 for arguments that it does not know. A trial that takes more
-    // than mostSeconds of processor time is ended, and the program with it.
-    Trials(int argc, char** argv, int mostSeconds);
+    // than maxSeconds of processor time is ended, and the program with it.
+    Trials(int argc, char** argv, int maxSeconds);
 
     const QStringList& GetFiles() const { return files_; }
 
@@ -57,6 +57,6 @@ private:
     qint64 trial_ = -1;
     qint64 onlyTrial_ = -1;
     qint64 accepted_ = 0;
-    int mostSeconds_;
+    int maxSeconds_;
     int faults_ = 0;
 };

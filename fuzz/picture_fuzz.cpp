@@ -26,11 +26,11 @@ namespace {
 // A file may take three seconds, and this many times longer under sanitizers; memory there is
 // counted with what they keep for themselves.
 #ifdef __SANITIZE_ADDRESS__
-constexpr int mostSeconds = 20;
+constexpr int maxSeconds = 20;
 #define MOST_MEBIBYTES "768"
 #else
-constexpr int mostSeconds = 3;
-constexpr long mostKibibytes = 512L << 10;
+constexpr int maxSeconds = 3;
+constexpr long maxKibibytes = 512L << 10;
 #endif
 
 // A file with a tail of zeros, which take no place on the disk.
@@ -108,7 +108,7 @@ void DamageBytes(QByteArray& bytes, Trials& trials)
 void CheckMemory([[maybe_unused]] Trials& trials)
 {
 #ifndef __SANITIZE_ADDRESS__
-    static long most = mostKibibytes;
+    static long most = maxKibibytes;
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     if (usage.ru_maxrss > most)
@@ -174,7 +174,7 @@ int main(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
     KeepDecodersQuiet();
-    Trials trials(argc, argv, mostSeconds);
+    Trials trials(argc, argv, maxSeconds);
     const QList<QByteArray> files = PaintedFiles() + FilesOf(trials.GetFiles());
     const QTemporaryDir folder;
     while (trials.Next()) {

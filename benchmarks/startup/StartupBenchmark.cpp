@@ -18,7 +18,7 @@ namespace {
 
 constexpr int runCount = 21;
 constexpr int warmUps = 2; // runs that fill the file cache and do not count
-constexpr int mostMilliseconds = 30000;
+constexpr int maxMilliseconds = 30000;
 
 struct Program
 {
@@ -38,7 +38,7 @@ std::optional<double> RunOnce(const Program& program)
     QElapsedTimer timer;
     timer.start();
     process.start(program.path, program.arguments);
-    const bool ended = process.waitForFinished(mostMilliseconds);
+    const bool ended = process.waitForFinished(maxMilliseconds);
     const qint64 nanoseconds = timer.nsecsElapsed();
     if (!ended || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
         std::fprintf(stderr, "%s: %s\n", qUtf8Printable(program.path),

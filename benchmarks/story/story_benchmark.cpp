@@ -22,7 +22,7 @@ namespace {
 constexpr int pictures = 1'000'000;
 constexpr int paragraphs = 100'000;
 constexpr int perChapter = 1'000;
-constexpr int mostPreviewed = 5'000;
+constexpr int maxPreviewed = 5'000;
 constexpr int everyMatch = 200; // pictures per match: 5,000 matches
 
 const QString longText =
@@ -153,7 +153,7 @@ void PreviewList_Ours(benchmark::State& state, int column)
     int count = 0;
     for (auto _ : state) {
         PictureList list;
-        BuildPictureList(query, list, mostPreviewed, [](int) {});
+        BuildPictureList(query, list, maxPreviewed, [](int) {});
         const QStringList files = list.GetFiles();
         count = int(files.size());
     }

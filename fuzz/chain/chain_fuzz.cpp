@@ -22,8 +22,8 @@ using namespace GeneralModule;
 
 namespace {
 
-constexpr int mostChapters = 7;
-constexpr int mostParagraphs = 8; // in a chapter
+constexpr int maxChapters = 7;
+constexpr int maxParagraphs = 8; // in a chapter
 
 ParagraphDraft Edited(const ParagraphPlace& place, const QString& text)
 {
@@ -98,7 +98,7 @@ private:
         switch (trials_.Below(6)) {
         case 0:
         case 1:
-            if (model_.chapters.size() < mostChapters)
+            if (model_.chapters.size() < maxChapters)
                 CreateChapterAfter(at);
             break;
         case 2:
@@ -192,7 +192,7 @@ private:
 
     void CreateNext(StoryModel::Chapter& chapter, ParagraphPlace place)
     {
-        if (chapter.paragraphs.size() >= mostParagraphs)
+        if (chapter.paragraphs.size() >= maxParagraphs)
             return Step(place);
         Note("create after paragraph", place.paragraph);
         const QString text = NewText();

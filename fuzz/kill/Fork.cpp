@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr unsigned mostSeconds = 600; // for a process that is not killed, on a busy machine
+constexpr unsigned maxSeconds = 600; // for a process that is not killed, on a busy machine
 
 } // namespace
 
@@ -31,7 +31,7 @@ Fork::Fork(const std::function<void(int)>& work)
     }
     close(pipe[0]);
     std::signal(SIGALRM, SIG_DFL);
-    alarm(mostSeconds);
+    alarm(maxSeconds);
     int status = 0;
     try {
         work(pipe[1]);

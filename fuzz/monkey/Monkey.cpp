@@ -16,7 +16,7 @@ namespace {
 
 constexpr unsigned hangSeconds = 60; // without a turn of the event loop, whatever else is running
 constexpr qint64 slowMilliseconds = 20000; // the same, for work that does come to an end
-constexpr int mostRefusals = 200;
+constexpr int maxRefusals = 200;
 // Starts another program.
 const QString outside = QStringLiteral("cmdSysInfo");
 
@@ -85,7 +85,7 @@ void Monkey::CloseFront()
     if (front->inherits("LongWorkDialog"))
         return; // goes when its work is done
     Note("close", *front);
-    if (++refusals_ > mostRefusals) {
+    if (++refusals_ > maxRefusals) {
         trials_.Fault(QStringLiteral("does not close"));
         std::_Exit(trials_.Finish());
     }

@@ -31,7 +31,7 @@ using namespace GeneralModule;
 namespace {
 
 constexpr int skipped = 77; // as CTest knows it
-constexpr int mostActions = 250;
+constexpr int maxActions = 250;
 
 // As the program's own, but an error that comes up here is a fault.
 class Program : public QApplication
@@ -88,7 +88,7 @@ void Play(Trials& trials, Monkey& monkey, RandomDialogs& dialogs, const QString&
     SeedRandom(std::uint32_t(trials.Random()()));
     frmOpenChapter window(album.isEmpty() ? QString() : folder + '/' + album);
     window.show();
-    monkey.Play(window, 1 + trials.Below(mostActions));
+    monkey.Play(window, 1 + trials.Below(maxActions));
     if (monkey.GetVisits().size() > 1)
         trials.CountAccepted();
     window.close();

@@ -28,8 +28,8 @@ namespace {
 using namespace OldAlbumStream;
 
 constexpr char scriptVariable[] = "LUMENARK_FUZZ_READER";
-constexpr qint64 mostMilliseconds = 20000; // of an album, whose readers may all be slow
-constexpr long mostKilobytes = 700000;     // more than a row may have, and what the sanitizers take
+constexpr qint64 maxMilliseconds = 20000; // of an album, whose readers may all be slow
+constexpr long maxKilobytes = 700000;     // more than a row may have, and what the sanitizers take
 
 // What the reader does after its stream: the first byte of a script.
 constexpr int fails = 1;
@@ -249,9 +249,9 @@ int main(int argc, char** argv)
         } catch (const std::exception& error) {
             trials.Fault(QString::fromUtf8(error.what()));
         }
-        if (time.elapsed() > mostMilliseconds)
+        if (time.elapsed() > maxMilliseconds)
             trials.Fault(QStringLiteral("took %1 ms").arg(time.elapsed()));
-        if (PeakKilobytes() > mostKilobytes)
+        if (PeakKilobytes() > maxKilobytes)
             trials.Fault(QStringLiteral("took %1 KiB of memory").arg(PeakKilobytes()));
     }
     return trials.Finish();

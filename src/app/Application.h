@@ -9,7 +9,7 @@
 void NameProgram();
 
 // Made before the first window: brings the translations, the boxes and the keys that work in every
-// window. Shows what no handler has caught, and goes on.
+// window. Shows exceptions that no handler has caught, and goes on.
 class Application : public QApplication
 {
     Q_OBJECT

@@ -40,7 +40,7 @@ void Complain(const QString& about, const QString& text)
     Print(stderr, QStringLiteral("lumenark: %1: %2").arg(QDir::toNativeSeparators(about), text));
 }
 
-// A failure that was not put in words by the layers below.
+// A failure whose text comes from here, not from a layer below.
 struct Trouble
 {
     QString about;
@@ -59,7 +59,7 @@ void CheckSignals()
         throw Interrupted();
 }
 
-// So that the half-made album is cleaned away before the program ends.
+// So that the unfinished album is removed before the program ends.
 void CatchSignals()
 {
     for (const int signal : {SIGINT, SIGTERM})
@@ -73,7 +73,7 @@ int EndBySignal()
     return Failed;
 }
 
-// The first line, without its end.
+// The file's first line, without its line end.
 QString ReadPassword(const QString& path)
 {
     QFile file(path);

@@ -23,7 +23,7 @@ void InstallTranslations(QCoreApplication& application)
         if (!Install(application, QStringLiteral("lumenark_") + language,
                      QStringLiteral(":/translations")))
             continue;
-        // Of the same language, so that no box speaks two.
+        // In the same language, so that no box mixes two.
         Install(application, QStringLiteral("qtbase_") + language,
                 QLibraryInfo::path(QLibraryInfo::TranslationsPath));
         return;

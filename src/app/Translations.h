@@ -3,6 +3,6 @@
 
 class QCoreApplication;
 
-// Puts the program's texts, and those of the toolkit's own boxes, in the user's language where
-// there is a translation; they stay English where there is none. Before the first window.
+// Translates the program's texts, and those of the toolkit's own boxes, into the user's language;
+// they stay English where there is no translation. Call before the first window opens.
 void InstallTranslations(QCoreApplication& application);

@@ -16,7 +16,7 @@
 
 namespace {
 
-// Whether the program is only asked what it is, which needs no display.
+// Whether the arguments only ask for help or the version, which needs no display.
 bool AsksOnly(int argc, char** argv)
 {
     static constexpr std::array<std::string_view, 5> questions{"-h", "--help", "--help-all", "-v",

@@ -13,12 +13,12 @@ using GeneralModule::Quoted;
 
 namespace {
 
-// UTF-16 units of one character: a base and 30 accents, the most that Unicode's Stream-Safe Text
-// Format (UAX #15) allows, each of two units.
+// UTF-16 units of one character: a base and 30 accents, the maximum in Unicode's Stream-Safe Text
+// Format (UAX #15), of two units each.
 constexpr qsizetype longestCharacter = 62;
 
-// UTF-16 units of the first characters, as a reader counts them: never half of a surrogate pair,
-// never a letter without the accents that combine with it.
+// Length in UTF-16 units of the first characters as a reader counts them: never half a surrogate
+// pair, never a letter without its combining accents.
 qsizetype LengthOfFirst(int characters, const QString& text)
 {
     const qsizetype looked = std::min(text.size(), characters * longestCharacter);
@@ -85,7 +85,7 @@ QString AddValueToTable(int column, const QString& typed)
 {
     const QString value = CleanValue(typed.isEmpty() ? noValue : typed);
     RecordSet table(AlbumDatabase, ValueTableOf(column));
-    // The engine itself finds equal only what differs in the case of A to Z.
+    // The engine's own uniqueness ignores case only for A to Z.
     table.FindFirst(QStringLiteral("[Name] = ") + Quoted(value));
     if (!table.NoMatch())
         return {};

@@ -10,7 +10,7 @@
 #include <optional>
 
 // What the columns of Columns.h may hold. Those of groups 1 and 2 are twins: they describe two
-// subjects of the same kind and share their labels and their tables of allowed values.
+// subjects of the same kind, and share labels and tables of allowed values.
 
 using GeneralModule::CarField;
 using GeneralModule::columnCount;
@@ -32,8 +32,8 @@ constexpr int GroupOf(int column)
     return column / columnsPerGroup;
 }
 
-// The column whose label and value table a column goes by: 6, 7, 8 go by 3, 4, 5, every other by
-// its own.
+// The column whose label and value table a column uses: 6, 7, 8 use those of 3, 4, 5, all others
+// their own.
 constexpr int LabelledColumnOf(int column)
 {
     return GroupOf(column) == 2 ? column - columnsPerGroup : column;
@@ -46,23 +46,23 @@ QString ValueTableOf(int column);
 std::optional<int> TwinColumnOf(int column);
 
 // Markers begin with neither a letter of any script, nor a comma, nor a digit from 0 to 9. They
-// mean something to the program and are not for users to delete or change.
+// mean something to the program; users cannot delete or change them.
 bool IsSpecialMarker(const QString& value);
 
-// A typed text as a value may stand in a filter: no ";", blanks for apostrophes, at most 20
-// characters, no blanks at the ends. May be empty.
+// A typed text made fit for filters: no ";", blanks for apostrophes, maximum 20 characters, no
+// blanks at the ends. May be empty.
 QString CleanValue(const QString& typed);
 
-// What becomes of a text typed for a picture: an ordinary value or nothing stays, whatever begins
-// with "-" is the mark for no value, and any other marker loses its first character.
+// The value of a text typed for a picture: an ordinary value or an empty text stays, a text that
+// begins with "-" becomes "-", and any other marker loses its first character.
 QString NormalizedValue(const QString& typed);
 
 // The allowed values of a column, in the order in which they were added.
 QStringList ValuesOf(int column);
 
 // Adds the value, cleaned, to a column's table; an empty one counts as "-". Returns the value
-// added, or an empty text when the table holds it already, in whatever letter case. Throws
-// DatabaseError when the album cannot be changed.
+// added, or an empty text when the table already holds it, ignoring case. Throws DatabaseError when
+// the album cannot be changed.
 QString AddValueToTable(int column, const QString& typed);
 
 // Pictures and paragraphs that have the value keep it.

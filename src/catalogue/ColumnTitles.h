@@ -3,13 +3,13 @@
 
 #include <QString>
 
-// What columns of characteristics are called where the user sees them. A column without a label is
-// called by its number, counted from 1: "Caracteristic 7".
+// Titles of the columns of characteristics for the user. A column without a label gets its number,
+// counted from 1: "Caracteristic 7".
 
 QString ColumnTitle(int column);
 
-// For the one caption that a column and its twin share: their label, else both numbers.
+// For a caption that a column shares with its twin: their label, else both numbers.
 QString SharedTitle(int column);
 
-// Whether the album names any of its columns.
+// Whether any column of the album has a label.
 bool HasColumnLabels();

@@ -41,7 +41,7 @@ public:
 private:
     enum class Turn { DirectlyInFolder, Deeper };
 
-    // False when the work shall stop.
+    // False when the work must stop.
     bool Take(Turn turn, WriteBatch& batch)
     {
         const QString pattern = EscapedForLike(oldFolder_) + QStringLiteral("*.*");
@@ -51,7 +51,7 @@ private:
             const QString path = images_.Text(file_);
             const bool isDeeper = FolderOf(path).size() > oldFolder_.size();
             hasDeeper_ = hasDeeper_ || isDeeper;
-            // What the first turn moved deeper has had its turn.
+            // Skips what the first turn has moved to a deeper folder.
             if (isDeeper == (turn == Turn::Deeper) && !moved_.contains(path))
                 Repoint(path, batch);
             if (!progress_(done_.updated))
@@ -90,11 +90,11 @@ private:
     const QString& oldFolder_;
     const QString& newFolder_;
     const MovingProgress& progress_;
-    // A record set of its own: while the windows are kept alive, others move the shared one.
+    // A separate record set: while the windows are kept alive, others move the shared one.
     RecordSet images_;
     int file_;
     Statement findHolder_;
-    QSet<QString> moved_; // paths now, where the second turn may come upon them
+    QSet<QString> moved_; // new paths that the second turn may find
     bool hasDeeper_ = false;
     RepointedPictures done_;
 };

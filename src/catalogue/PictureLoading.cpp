@@ -16,7 +16,7 @@ namespace {
 
 using GeneralModule::AlbumDatabase;
 
-constexpr int filesPerLook = 1000; // at the folder, whether it is still there
+constexpr int filesPerLook = 1000; // between two checks that the folder still exists
 
 void RequireFolder(const QString& folder)
 {
@@ -28,7 +28,7 @@ void RequireFolder(const QString& folder)
             .toStdString());
 }
 
-// A picture without values; fields that are not named get the table's defaults.
+// Adds a picture without values; fields not named here get the table's defaults.
 QByteArray InsertSql()
 {
     QByteArray fields = "\"File\",\"Legend\"";
@@ -40,8 +40,8 @@ QByteArray InsertSql()
     return "INSERT INTO \"Image\" (" + fields + ") VALUES (" + values + ')';
 }
 
-// Statements instead of a record set: reading a filter and setting fourteen fields for each file
-// would take as long as everything else.
+// Statements instead of a record set: parsing a filter and setting fourteen fields for each file
+// would take as long as all the rest.
 class Loader
 {
 public:

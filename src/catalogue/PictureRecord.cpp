@@ -25,12 +25,12 @@ QString HeldSpelling(int column, const QString& value)
     return table.NoMatch() ? QString() : table.TextOrEmpty(u"Name");
 }
 
-// The value that a typed text stands for; in the column's table afterwards.
+// The value that a typed text stands for, added to the column's table.
 QString StoreValue(int column, const QString& typed)
 {
     if (typed.isEmpty())
         return noValue;
-    // Looked up as it is first: a marker may be chosen, though not typed.
+    // Looked up unchanged first: a marker may be chosen, though not typed.
     QString held = HeldSpelling(column, typed);
     if (!held.isEmpty())
         return held;
@@ -136,7 +136,7 @@ PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
 
 QString TakeOutPicture(const QString& file, bool deleteFile)
 {
-    // Begun before the file goes: an album that cannot be changed is found out here.
+    // Begins before the file is deleted: this fails if the album cannot be changed.
     WriteBatch batch(AlbumDatabase);
     const QString trouble = deleteFile ? DeleteFile(file) : QString();
     if (trouble.isEmpty() && FindPicture(file))

@@ -8,7 +8,7 @@
 #include <array>
 #include <optional>
 
-// What the album tells of a picture.
+// What the album holds about a picture.
 struct PictureRecord
 {
     QString legend;
@@ -17,35 +17,34 @@ struct PictureRecord
     bool operator==(const PictureRecord&) const = default;
 };
 
-// Whether the open album holds any picture, and how many: counting reads the whole table.
+// Whether the open album has any picture, and how many. Counting reads the whole table.
 bool HasPictures();
 qint64 CountPictures();
 
-// None when the album holds no picture of that File.
+// None when the album has no picture with that File.
 std::optional<PictureRecord> ReadPictureRecord(const QString& file);
 
-// What was edited of the record that was shown, laid over what is stored now: another window may
-// have changed the picture meanwhile. Fields in conflict are taken from edited where prefersEdited,
-// else as they are stored.
+// Applies the edit of the shown record to the stored one, which another window may have changed
+// since. Fields in conflict are taken from edited if prefersEdited, else from stored.
 PictureRecord MergeRecord(const PictureRecord& shown, const PictureRecord& edited,
                           const PictureRecord& stored, bool prefersEdited);
 
-// Whether a field was edited here and meanwhile changed to something else in the album.
+// Whether a field was edited here and changed differently in the album.
 bool HasConflict(const PictureRecord& shown, const PictureRecord& edited,
                  const PictureRecord& stored);
 
-// For a person to tell two versions apart: the legend and the values.
+// The legend and the values, so that a person can tell two versions apart.
 QString DescribeRecord(const PictureRecord& record);
 
-// Writes what a person made of the record that was shown. A value that was not touched stays as it
-// is, also one that its table no longer offers; an empty one becomes "-"; a new one is cleaned and
-// added to its table, and one that the table holds in another letter case is taken from there.
-// Returns the record as it is now; edited when the album no longer holds the picture. Ask for
-// conflicts before. Throws DatabaseError.
+// Writes the edit of the shown record. An unchanged value stays, even one that its table no longer
+// offers; an empty one becomes "-"; a new one is cleaned and added to its table, and one that the
+// table holds in another letter case takes the table's spelling. Returns the record as now stored,
+// or edited when the album no longer holds the picture. Settle conflicts before. Throws
+// DatabaseError.
 PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
                                 const PictureRecord& edited);
 
-// Takes the picture out of the album, and deletes its file before when that is wanted; one that is
-// not there counts as deleted. Returns why the file cannot be deleted, with nothing changed then;
-// empty when the picture is out of the album. Throws DatabaseError.
+// Removes the picture from the album, after deleting its file if deleteFile is set; a missing file
+// counts as deleted. Returns why the file cannot be deleted, with nothing changed; empty on
+// success. Throws DatabaseError.
 QString TakeOutPicture(const QString& file, bool deleteFile);

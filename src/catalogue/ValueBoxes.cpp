@@ -13,9 +13,8 @@
 
 namespace {
 
-// Of the entry that is the value, else of one that differs from it in letter case only; -1 for
-// none. Faster than the toolkit's own search, which matters with thousands of entries in twelve
-// lists.
+// Index of the value, else of an entry that differs only in letter case; -1 for none. Faster than
+// the toolkit's own search, which matters with thousands of entries in twelve lists.
 int IndexOf(const QStringList& values, const QString& value)
 {
     const qsizetype exact = values.indexOf(value);
@@ -84,8 +83,7 @@ bool ValueBoxes::UseKey(const QKeyEvent& key)
     return completion_->UseKey(key);
 }
 
-// What is typed takes the place of the value that was there, also after a click: after a "-"
-// nothing could be typed.
+// Typing replaces the box's value, even after a click: nothing could be typed after a "-".
 bool ValueBoxes::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn) {

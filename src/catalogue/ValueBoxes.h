@@ -15,8 +15,8 @@ class QStringListModel;
 class ValueCompletion;
 
 // The twelve boxes of a window in which a picture's values are chosen or typed, named cboCategory_0
-// to cboCategory_11, with the values that each column's table allows. Twins offer the same values,
-// held once.
+// to cboCategory_11. They offer the allowed values of their columns. Twins share one list of
+// values.
 class ValueBoxes : public QObject
 {
     Q_OBJECT
@@ -28,17 +28,17 @@ public:
 
     // The allowed values of each labelled column.
     void SetTables(const std::map<int, QStringList>& values);
-    // Adds the value to what a column offers, once.
+    // Adds the value to what a column offers, unless it is there.
     void Offer(int column, const QString& value);
 
-    // A value that the table does not offer is shown all the same, with no entry selected, so that
-    // nobody takes the picture for one without.
+    // A value that the table does not offer is shown too, with no entry selected, so that the
+    // picture does not seem to have none.
     void ShowValues(const Values& values);
     Values GetValues() const;
 
     QComboBox* GetBox(int column) const { return boxes_[std::size_t(column)]; }
 
-    // True when the list of completions uses up the key.
+    // True when the list of completions uses the key.
     bool UseKey(const QKeyEvent& key);
 
 protected:

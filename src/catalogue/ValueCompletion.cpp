@@ -13,8 +13,8 @@ namespace {
 
 constexpr int shownAtOnce = 12; // lines
 
-// By sort keys: comparing the texts themselves takes several times as long, which thousands of
-// values would let one feel.
+// By sort keys: comparing the texts themselves takes several times as long, noticeably with
+// thousands of values.
 QStringList Sorted(const QStringList& values)
 {
     QCollator collator;
@@ -59,11 +59,11 @@ void ValueCompletion::SetValues(const QStringList& values)
         CreateList();
 }
 
-// Only when it is needed: a window opens many times, and most often nobody types a value.
+// Only when needed: a window opens many times, usually without a value being typed.
 void ValueCompletion::CreateList()
 {
     auto* list = new QListView;
-    list->setUniformItemSizes(true); // or each line would be measured
+    list->setUniformItemSizes(true); // else each line would be measured
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setSelectionBehavior(QAbstractItemView::SelectRows);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -78,7 +78,7 @@ bool ValueCompletion::UseKey(const QKeyEvent& key)
         return false;
     const bool isChosen = list_->currentIndex().isValid();
     if (isEscape)
-        list_->setCurrentIndex({}); // the box shows what was typed again
+        list_->setCurrentIndex({}); // the box shows the typed text again
     list_->hide();
     return isChosen || isEscape;
 }
@@ -92,7 +92,7 @@ bool ValueCompletion::eventFilter(QObject* watched, QEvent* event)
         return true;
     if (!IsEnter(key) || !widget())
         return QCompleter::eventFilter(watched, event);
-    // The list took it from the box, which may have a use for it.
+    // The list took the key from the box, which may use it.
     QCoreApplication::sendEvent(widget(), event);
     return true;
 }

@@ -8,9 +8,9 @@ class QKeyEvent;
 class QListView;
 class QStringListModel;
 
-// Offers known values below the box in which one is typed: those that hold what was typed, in any
-// place and any letter case, in alphabetical order. It puts nothing into the box that was not
-// chosen there. One serves several boxes in turn.
+// Offers known values below the box in which one is typed: those that contain the typed text,
+// ignoring case, in alphabetical order. Puts nothing into the box that was not chosen. One object
+// serves several boxes in turn.
 class ValueCompletion : public QCompleter
 {
     Q_OBJECT
@@ -18,11 +18,11 @@ class ValueCompletion : public QCompleter
 public:
     explicit ValueCompletion(QObject* parent);
 
-    // What is offered from now on, in any order. Costs next to nothing for the same values again.
+    // Sets the values to offer, in any order. Costs next to nothing for the same values again.
     void SetValues(const QStringList& values);
 
-    // Enter takes the chosen value, and Esc brings back what was typed; both close the list. True
-    // when the key is used up: not where the list is closed, nor for Enter while none is chosen.
+    // Enter takes the chosen value, and Esc restores the typed text; both close the list. True when
+    // the key is used: not while the list is closed, nor for Enter while nothing is chosen.
     bool UseKey(const QKeyEvent& key);
 
 protected:
@@ -31,7 +31,7 @@ protected:
 private:
     void CreateList();
 
-    QStringList source_; // as they were given
+    QStringList source_; // as given
     QStringListModel* values_;
     QListView* list_ = nullptr; // the completer's own
 };

@@ -3,6 +3,6 @@
 
 #include <QString>
 
-// Asks for a value until the answer, cleaned, begins with a letter or a figure, and returns it;
-// empty when the user gave up. The proposal is offered in the first box.
+// Asks for a value until the cleaned answer begins with a letter or a digit, and returns it; empty
+// when the user gave up. The first box offers the proposal.
 QString AskForValue(const QString& prompt, const QString& proposal);

@@ -22,8 +22,8 @@ bool IsSame(const QString& first, const QString& second)
     return first.compare(second, Qt::CaseInsensitive) == 0;
 }
 
-// A paragraph's filter with the value replaced. Twice in one group a value says no more than once;
-// a "!" begins a new group, where it says something else.
+// A paragraph's filter with the value replaced. A second occurrence in a group is redundant and
+// left out; a "!" begins a new group, where the value has another meaning.
 QString ReplacedInList(const QString& filter, const QString& old, const QString& replacement)
 {
     if (IsSame(filter, old))
@@ -32,7 +32,7 @@ QString ReplacedInList(const QString& filter, const QString& old, const QString&
     if (!tokens.contains(old, Qt::CaseInsensitive))
         return filter;
     QStringList kept;
-    bool isHeld = false; // the group has the replacement
+    bool isHeld = false; // the group already has the replacement
     for (const QString& token : tokens) {
         const bool isMeant = IsSame(token, old) || IsSame(token, replacement);
         if (isMeant && isHeld)
@@ -59,7 +59,7 @@ public:
             fields_ += CarField(*twin);
     }
 
-    // A picture has one value, whatever it holds.
+    // A picture's field is one value, even if it contains ";".
     int InPictures()
     {
         return ReplaceIn(
@@ -83,12 +83,12 @@ public:
     }
 
 private:
-    // One pass finds them all: a changed row lies behind, and meets the condition again only where
-    // the two values differ in letter case alone. Returns how many rows were changed.
+    // One pass finds all rows. A changed row is not found again, even where the two values differ
+    // only in letter case. Returns how many rows were changed.
     template<typename Replaced>
     int ReplaceIn(const QString& tableName, const QString& condition, Replaced replaced)
     {
-        // A record set of its own: while the windows are kept alive, others move the shared one.
+        // A separate record set: while the windows are kept alive, others move the shared one.
         RecordSet table(AlbumDatabase, tableName);
         QStringList conditions;
         std::vector<int> numbers;

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-// Told how many rows were changed so far, also while none is found for a while.
+// Called with the number of rows changed so far, also when that has not increased.
 using ReplacementProgress = std::function<void(int changed)>;
 
 struct ReplacedValues
@@ -14,10 +14,10 @@ struct ReplacedValues
     int paragraphs = 0;
 };
 
-// Gives every picture that has the value old in the column, or in its twin, the value replacement
-// there, and carries it through the filters of the paragraphs, alone or in a list of values; one
-// that a list would then hold twice goes. Puts replacement in the place of old in the column's
-// table; where the table holds it already the two become one. Compared without regard to letter
-// case. Returns how many rows were changed. Throws DatabaseError; then nothing at all is changed.
+// Replaces the value old with replacement in the column and its twin of every picture, and in the
+// paragraphs' filters, alone or in a list of values; a list does not get the same value twice. In
+// the column's table replacement takes the place of old; if it is already there, the two become
+// one. Values are compared ignoring case. Returns how many rows were changed. Throws DatabaseError;
+// then nothing is changed.
 ReplacedValues ReplaceValue(int column, const QString& old, const QString& replacement,
                             const ReplacementProgress& progress);

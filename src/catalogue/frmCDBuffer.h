@@ -9,8 +9,8 @@ namespace Ui {
 class frmCDBuffer;
 }
 
-// Settings of a buffer for pictures on CD-ROM. The program fills no such buffer: the window is kept
-// as it was drawn, reads and stores nothing, and no menu entry opens it.
+// Settings of a buffer for pictures on CD-ROM. The program has no such buffer: the window is kept
+// as designed, reads and stores nothing, and no menu entry opens it.
 class frmCDBuffer : public QDialog
 {
     Q_OBJECT

@@ -62,7 +62,7 @@ void frmEditImage::ConnectControls()
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
 }
 
-// What is known of a picture can be read in an album that cannot be changed, too.
+// In a read-only album the picture's description can still be read.
 void frmEditImage::ShowOnly()
 {
     for (int column = 0; column < columnCount; ++column)
@@ -97,8 +97,8 @@ QLabel* frmEditImage::LabelOf(const QString& name) const
     return findChild<QLabel*>(name);
 }
 
-// Here and below everything is read before a control is touched: what cannot be read leaves the
-// window as it was.
+// Here and below everything is read before a control is touched, so that a failure leaves the
+// window unchanged.
 void frmEditImage::DisplayCaracteristicNames()
 {
     std::map<int, QStringList> values;
@@ -206,7 +206,7 @@ void frmEditImage::cmdExit_Click()
     close();
 }
 
-// Saved first, so that a value just typed stands in its table, and a replacement reaches it.
+// Saves first, so that a value just typed is in its table, and a replacement finds it.
 void frmEditImage::cmdEditTables_Click()
 {
     if (!SavePicture())
@@ -238,7 +238,7 @@ PictureRecord frmEditImage::ControlValues() const
     return {ui_->txtLegend->text(), boxes_->GetValues()};
 }
 
-// What nobody has touched is as it was shown, whatever a control of one line makes of it.
+// Unedited fields keep the shown value, even where a one-line control changes it.
 PictureRecord frmEditImage::GetRecord() const
 {
     return MergeRecord(controls_, ControlValues(), shown_, true);
@@ -280,7 +280,7 @@ bool frmEditImage::SavePicture()
     return true;
 }
 
-// Every way out leads through here.
+// Called however the window is closed.
 void frmEditImage::reject()
 {
     if (SaveBeforeLeaving())

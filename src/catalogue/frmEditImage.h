@@ -18,9 +18,8 @@ namespace Ui {
 class frmEditImage;
 }
 
-// Describes one picture of the album, and then the next ones of the selection that it belongs to.
-// Whoever opens it sets the public state and then calls exec(). However it is left, what was typed
-// is saved.
+// Describes one picture of the album, then the next ones of its selection. Set the public state
+// before calling exec(). What was typed is saved however the window is left.
 class frmEditImage : public QDialog
 {
     Q_OBJECT
@@ -29,15 +28,15 @@ public:
     explicit frmEditImage(QWidget* parent = nullptr);
     ~frmEditImage() override;
 
-    // File of the picture on show; empty afterwards when it was taken out of the album.
+    // File of the picture shown; empty afterwards if it was removed from the album.
     QString CurrentImage;
-    // Taking the picture out closes the window; else the next one follows.
+    // Removing the picture closes the window, instead of showing the next one.
     bool IsSinglePicture = false;
-    // File of the next picture of the selection, empty when there is none left.
+    // File of the next picture of the selection, empty when none is left.
     std::function<QString()> NextPicture;
-    // Whether the selection holds further pictures; without it there is no Next Picture.
+    // Whether the selection has more pictures; if not set, there is no Next Picture.
     std::function<bool()> HasNextPicture;
-    // Files that were taken out of the album here.
+    // Files that were removed from the album here.
     QStringList TakenOut;
 
     void reject() override;
@@ -64,7 +63,8 @@ private:
     PictureRecord ControlValues() const;
     PictureRecord GetRecord() const;
     bool SettleConflict();
-    // False when another window has changed the same and the user wants to stay; nothing is saved.
+    // False, with nothing saved, when another window has changed the same and the user wants to
+    // stay.
     bool SavePicture();
     void GoToNextPicture();
     bool SaveBeforeLeaving();
@@ -72,7 +72,7 @@ private:
 
     std::unique_ptr<Ui::frmEditImage> ui_;
     ValueBoxes* boxes_;
-    PictureRecord controls_; // shown_ as the controls give it back
+    PictureRecord controls_; // shown_ as the controls return it
     PictureRecord shown_;    // as the album holds it
     bool isKnown_ = false;   // the album holds the picture
     bool isLoaded_ = false;

@@ -51,7 +51,7 @@ void frmEditLabels::Form_Load()
         Load(txtCar(column), CarField(column));
 }
 
-// A label that could not be read is not in the list, and so is never written.
+// A label that cannot be read is not added to the list, and so never written.
 void frmEditLabels::Load(QLineEdit* box, const QString& parameter)
 {
     const QString loaded = GetParam(parameter);

@@ -24,15 +24,16 @@ private:
     struct Label
     {
         QLineEdit* box;
-        QString parameter; // that holds it
-        QString loaded;    // as the album held it
-        QString shown;     // the same as the box gives it back
+        QString parameter; // of the album that holds the label
+        QString loaded;    // as read from the album
+        QString shown;     // loaded as the box returns it
     };
 
     void Form_Load();
     void Load(QLineEdit* box, const QString& parameter);
     std::vector<Label> EditedLabels() const;
-    // Takes away what is to stay as another window made it. False when the user wants to stay.
+    // Removes the labels where another window's change is to stay. False when the user wants to
+    // stay.
     bool SettleConflicts(std::vector<Label>& edited);
     void cmdExit_Click();
 

@@ -26,7 +26,7 @@ namespace {
 
 constexpr QSize proposedSize(820, 600);
 
-// First column of the tables that each optCaracteristic stands for; the twin groups are one choice.
+// First column of each optCaracteristic; the twin groups are one choice.
 constexpr std::array firstColumns{0, 3, 9};
 
 constexpr int widestCaption = 200; // logical pixels
@@ -130,7 +130,7 @@ void frmEditTables::ShowCaptions()
     }
 }
 
-// A table that cannot be read leaves the one on show, and its options chosen.
+// If a table cannot be read, the current one and its options stay.
 void frmEditTables::ShowTable(bool isGroupNew)
 {
     auto stay = qScopeGuard([this] {
@@ -165,7 +165,7 @@ QString frmEditTables::SelectedValue() const
     return selected.isEmpty() ? QString() : selected.constFirst()->text();
 }
 
-// In whatever letter case; none when the list does not hold it.
+// Ignoring case; null when the list does not hold the value.
 QListWidgetItem* frmEditTables::ListedItem(const QString& value) const
 {
     return ui_->lstCar->findItems(value, Qt::MatchFixedString).value(0);
@@ -194,7 +194,7 @@ void frmEditTables::cmdDelete_Click()
         return Tell(tr("Sorry, you can't delete the special markers"), Dialogs::Icon::Warning);
     RemoveValueFromTable(column_, value);
     delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
-    // The list would choose the neighbour, and a double click delete that one too.
+    // Else the list would choose the neighbour, which a double click would delete too.
     ui_->lstCar->setCurrentRow(-1);
 }
 

@@ -15,14 +15,13 @@ namespace Ui {
 class frmEditTables;
 }
 
-// Keeps the tables of allowed values: adds and deletes values, and replaces one throughout the
-// album.
+// Edits the tables of allowed values: adds and deletes values, and replaces one in the whole album.
 class frmEditTables : public QDialog
 {
     Q_OBJECT
 
 public:
-    // Shows the album's picture of that File beside the tables.
+    // Shows the album's picture with that File beside the tables.
     frmEditTables(const QString& picture, QWidget* parent);
     ~frmEditTables() override;
 
@@ -46,5 +45,5 @@ private:
     QListWidgetItem* ListedItem(const QString& value) const;
 
     std::unique_ptr<Ui::frmEditTables> ui_;
-    int column_ = -1; // whose table is shown: 0 to 5 or 9 to 11; -1 when none is chosen
+    int column_ = -1; // its table is shown: 0 to 5 or 9 to 11; -1 when none is chosen
 };

@@ -11,7 +11,7 @@ namespace Ui {
 class frmLoadFiles;
 }
 
-// Brings the picture files of a folder into the album.
+// Adds the picture files of a folder to the album.
 class frmLoadFiles : public QDialog
 {
     Q_OBJECT

@@ -12,7 +12,7 @@ namespace Ui {
 class frmReloadPictures;
 }
 
-// Tells the album where pictures are now whose files were moved to another folder.
+// Updates the paths of pictures whose files were moved to another folder.
 class frmReloadPictures : public QDialog
 {
     Q_OBJECT

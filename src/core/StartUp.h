@@ -5,12 +5,11 @@
 
 namespace GeneralModule {
 
-// Before the main window opens an album: seeds the random numbers from the clock and makes the
-// program's folder the current one.
+// Seeds the random numbers from the clock and makes the program's folder the current one. Called by
+// the main window before it opens an album.
 void InitModule();
 
-// Path of the help file, in the program's folder; the one in the user's language where there is
-// one.
+// Path of the help file in the program's folder, in the user's language if there is one.
 QString HelpFile();
 
 } // namespace GeneralModule

@@ -17,9 +17,9 @@ namespace {
 
 constexpr int tokenRole = Qt::UserRole;
 constexpr int longestInCell = 1000; // characters; more than any screen is wide
-constexpr int labelPadding = 3;     // logical pixels; texts of both cells begin at one place
+constexpr int labelPadding = 3;     // logical pixels; aligns the texts of both cells
 
-// Each group is a column of the grid; a characteristic takes two cells, its label above its values.
+// Each group is a column of the grid; a characteristic has two cells, its label above its values.
 int LabelRow(int column)
 {
     return column % columnsPerGroup * 2;
@@ -30,7 +30,7 @@ bool IsChoosingKey(int key)
     return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-// Keeps its whole text, whatever of it there is room for.
+// Keeps its whole text, and draws what there is room for.
 class CarLabel : public ClickLabel
 {
 protected:
@@ -85,17 +85,17 @@ void FilterPanel::CreateGrid()
         lblCar_[std::size_t(column)] = label;
         grid.setCellWidget(LabelRow(column), GroupOf(column), label);
         auto* below = new QTableWidgetItem;
-        auto* behind = new QTableWidgetItem;
-        behind->setFlags(Qt::NoItemFlags); // arrow keys pass over it
-        grid.setItem(LabelRow(column), GroupOf(column), behind);
+        auto* back = new QTableWidgetItem;
+        back->setFlags(Qt::NoItemFlags); // arrow keys skip it
+        grid.setItem(LabelRow(column), GroupOf(column), back);
         grid.setItem(LabelRow(column) + 1, GroupOf(column), below);
     }
     grid.setCurrentCell(1, 0);
     FitGridHeight();
 }
 
-// The grid shows all of itself, without scrolling, in whatever font the desktop has; in a high
-// window its rows are a little higher and the list beside it is longer.
+// The grid is shown whole, without scrolling, in any font; in a high window its rows are a little
+// higher and the list beside it is longer.
 void FilterPanel::FitGridHeight()
 {
     QTableWidget& grid = *ui_->grdCar;
@@ -117,7 +117,7 @@ void FilterPanel::changeEvent(QEvent* event)
 
 void FilterPanel::ShowLabels()
 {
-    // Read first: what cannot be read leaves the panel as it was.
+    // Everything is read first, so that a failure leaves the panel unchanged.
     QStringList groups;
     for (int group = 0; group < groupCount; ++group)
         groups += GeneralModule::CaractLabel(group);
@@ -145,7 +145,7 @@ void FilterPanel::SetValues(const CarValues& values)
     CloseList();
 }
 
-// Roles, not colours: they follow the desktop's theme.
+// Palette roles instead of colours follow the desktop's theme.
 void FilterPanel::ShowFilter(int column)
 {
     const QString& value = values_[std::size_t(column)];
@@ -167,7 +167,7 @@ void FilterPanel::lblCar_Click(int column)
     OpenList(column);
 }
 
-// A click on the values means the characteristic above them.
+// A click on the values chooses the characteristic above them.
 void FilterPanel::grdCar_Click(int row, int gridColumn)
 {
     OpenList(gridColumn * columnsPerGroup + row / 2);

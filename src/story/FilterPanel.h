@@ -14,8 +14,8 @@ namespace Ui {
 class FilterPanel;
 }
 
-// A paragraph's picture filter: all twelve characteristics by group, each with the values it asks
-// for below its label, and beside them the list of values of the one being changed.
+// A paragraph's picture filter: all twelve characteristics by group, each with its chosen values
+// below its label, and beside them the list of values of the one being changed.
 class FilterPanel : public QWidget
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     explicit FilterPanel(QWidget* parent = nullptr);
     ~FilterPanel() override;
 
-    // Names of the open album. Closes the list.
+    // Reads the labels of the open album. Closes the list.
     void ShowLabels();
 
     // Closes the list.
@@ -54,5 +54,5 @@ private:
     std::array<ClickLabel*, columnCount> lblCar_{};
     std::array<QString, columnCount> names_; // with their groups
     CarValues values_;
-    int openColumn_ = -1; // whose values lstCar shows, -1 for none
+    int openColumn_ = -1; // its values are in lstCar; -1 for none
 };

@@ -9,8 +9,8 @@
 
 namespace {
 
-// The list below the grid cannot hold a hundred thousand, and nobody would look through them.
-constexpr std::size_t mostUnknownChoices = 1000;
+// The list cannot hold a hundred thousand, and nobody would look through them.
+constexpr std::size_t maxUnknownChoices = 1000;
 
 bool IsRealValue(const QString& token)
 {
@@ -22,7 +22,7 @@ bool HasRealValue(const QStringList& tokens)
     return std::any_of(tokens.begin(), tokens.end(), IsRealValue);
 }
 
-// A value with ";" inside would be read back as two.
+// A value that contains ";" would be read back as two.
 bool CanBeChosen(const QString& value)
 {
     return !value.isEmpty() && !value.contains(u';') && value != negation && value != anyValue;
@@ -131,7 +131,7 @@ std::vector<FilterChoice> FilterChoices(int column, const QString& filter)
         choices.push_back({value, value});
         listed.insert(value.toCaseFolded());
     }
-    const std::size_t most = choices.size() + mostUnknownChoices;
+    const std::size_t most = choices.size() + maxUnknownChoices;
     for (const QString& value : FilterTokens(filter)) {
         if (!IsRealValue(value) || listed.contains(value.toCaseFolded()))
             continue;

@@ -10,8 +10,7 @@
 #include <array>
 #include <vector>
 
-// What a paragraph stores for one characteristic (see PictureFilter.h), as a person changes it:
-// value by value.
+// Editing what a paragraph stores for one characteristic (see PictureFilter.h), value by value.
 
 inline const QString anyValue = QStringLiteral("*");
 inline const QString negation = QStringLiteral("!");
@@ -22,36 +21,35 @@ using CarValues = std::array<QString, columnCount>;
 // "*" for every column.
 CarValues AnyValues();
 
-// The values and "!" of a stored filter, in their order; none when it lets every picture through.
-// An empty value ends the list.
+// The values and "!" of a stored filter, in order; none when it accepts every picture. An empty
+// value ends the list.
 QStringList FilterTokens(const QString& filter);
 
 bool Restricts(const QString& filter);
 
-// As it may be stored: a "!" that no value follows is left out, and "*" stands for no value at all.
+// The filter as stored: without a "!" that no value follows, and "*" when it has no value.
 QString StorableFilter(const QString& filter);
 
-// The tokens of a filter, for asking about many.
+// The tokens of a filter, for many look-ups.
 class HeldTokens
 {
 public:
     explicit HeldTokens(const QString& filter);
-    bool Contain(const QString& token) const; // in any letter case
+    bool Contain(const QString& token) const; // ignoring case
 
 private:
     QSet<QString> folded_;
 };
 
-// Adds the value, or takes it away where the filter holds it, in any letter case. "!" turns the
-// whole filter round; alone it waits for the first value. "*" resets.
+// Adds the value, or removes it if the filter has it, ignoring case. "!" inverts the whole filter;
+// alone it waits for the first value. "*" resets.
 QString ToggleToken(const QString& filter, const QString& token);
 
 // For a person to read: "Anna, Paul", "not Anna, Paul", "*".
 QString DescribeFilter(const QString& filter);
 
-// What can be chosen for a column: reset, "!", the values of its table in alphabetical order with
-// the special markers first, and values that the filter holds but the table no longer does, the
-// first thousand of them.
+// The choices for a column: reset, "!", the values of its table in alphabetical order with the
+// special markers first, and the filter's values that are no longer in the table, maximum 1,000.
 struct FilterChoice
 {
     QString text;

@@ -12,7 +12,7 @@ class QKeyEvent;
 class QListWidget;
 class QWidget;
 
-// Puts a placeholder that the user chooses from a list into a paragraph's text.
+// Inserts a placeholder that the user chooses from a list into a paragraph's text.
 class MarkerInsertion : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     {
         ParagraphText* text;
         QListWidget* list;
-        QWidget* begin;  // shown while the list is not
+        QWidget* begin;  // shown while the list is hidden
         QWidget* cancel; // shown beside the list
     };
 
@@ -34,7 +34,7 @@ public:
     void Begin();
     void Cancel();
     void Hide() { ShowList(false); }
-    // Of the list while it has the focus: true when the key is used up.
+    // A key of the list while it has the focus. True when the key is used.
     bool UseKey(const QKeyEvent& key);
 
 private:

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-// What a person writes of a paragraph.
+// What a person edits of a paragraph.
 struct ParagraphContent
 {
     QString text;                   // in stored form, see ParagraphMarkers.h
@@ -17,14 +17,14 @@ struct ParagraphContent
 struct Paragraph
 {
     qint32 id = 0;
-    qint32 chapter = 0; // that it belongs to, 0 for none
+    qint32 chapter = 0; // its chapter, 0 for none
     ParagraphContent content;
-    QString fileSelection; // pattern of its pictures' paths, see PictureQuery
+    QString fileSelection; // pattern of picture paths, see PictureQuery
 
     // The pictures that it shows.
     PictureQuery GetQuery() const { return {content.values, fileSelection, id}; }
 };
 
-// None when the open album holds no such paragraph. ParagraphSet stands on it otherwise. Throws
+// None when the open album has no such paragraph; otherwise moves ParagraphSet to it. Throws
 // DatabaseError, NoAlbum while no album is open.
 std::optional<Paragraph> ReadParagraph(qint32 id);

@@ -24,8 +24,8 @@ void RequireParagraph(qint32 paragraph)
         FailGone();
 }
 
-// The set must be in the middle of an edit. A value that is there already is not written again:
-// leafing through a chapter then costs no write to disk.
+// The set must be in the middle of an edit. A value already stored is not written again, so that
+// paging through a chapter does not write to disk.
 void SetText(QStringView field, const QString& value)
 {
     if (ParagraphSet->IsNull(field) || ParagraphSet->Text(field) != value)
@@ -38,7 +38,7 @@ struct Neighbours
     qint32 next;
 };
 
-// As stored, on the current row.
+// The current row's links as stored.
 Neighbours CurrentNeighbours()
 {
     return {LinkIn(*ParagraphSet, u"PreviousParagraph"), LinkIn(*ParagraphSet, u"NextParagraph")};
@@ -65,9 +65,9 @@ void WriteChanges(const ParagraphContent& stored, const ParagraphContent& conten
     }
 }
 
-// A new paragraph is linked to when it is saved, not when it is made. Where another window made one
-// after the same paragraph and has saved it meanwhile, that one follows this one from now on;
-// otherwise neither the chain nor a list would show it any more.
+// A new paragraph is linked to when it is saved, not when it is created. If another window has
+// saved a new one after the same paragraph since, that one follows this one from now on; otherwise
+// neither the chain nor a list would show it any more.
 Neighbours MakeRoom(const ParagraphPlace& place, Neighbours stored)
 {
     if (ChainOfParagraphs().Find(stored.previous) == 0)
@@ -81,8 +81,8 @@ Neighbours MakeRoom(const ParagraphPlace& place, Neighbours stored)
     return isAtSamePlace ? Neighbours{stored.previous, follower} : stored;
 }
 
-// A chapter that begins with another paragraph keeps it: the one deleted was then not part of what
-// the chapter leads to.
+// A chapter that begins with another paragraph keeps it: the deleted one was then not in the
+// chapter's chain.
 void ReplaceFirstParagraph(qint32 chapter, qint32 gone, qint32 next)
 {
     if (FindById(*ChapterSet, chapter) && LinkIn(*ChapterSet, u"FirstParagraph") == gone)
@@ -177,7 +177,7 @@ void DeleteParagraph(ParagraphPlace& place)
 {
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     const ParagraphContent content = LoadParagraph(place.paragraph);
-    SaveParagraph(place, {content, content}); // its neighbours may not lead to it yet
+    SaveParagraph(place, {content, content}); // its neighbours may not link to it yet
     RequireParagraph(place.paragraph);
     const Neighbours stored = CurrentNeighbours();
     ParagraphSet->Delete();

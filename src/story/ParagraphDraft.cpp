@@ -8,7 +8,7 @@ using GeneralModule::MergeEdit;
 
 namespace {
 
-// Filters are compared as they would be stored: one that waits for its first value is no change.
+// Filters are compared as stored: a "!" that waits for its first value is no change.
 bool ConflictsAt(std::size_t column, const ParagraphDraft& draft, const ParagraphContent& stored)
 {
     return IsConflict(StorableFilter(draft.shown.values[column]),

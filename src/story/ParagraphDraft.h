@@ -6,22 +6,21 @@
 #include <QString>
 #include <QStringList>
 
-// What a person makes of a paragraph. Another window may change the paragraph meanwhile, so only
-// what differs from what was shown is written.
+// A person's edit of a paragraph. Another window may change the paragraph too, so only what differs
+// from what was shown is written.
 struct ParagraphDraft
 {
     ParagraphContent shown;
     ParagraphContent edited;
 };
 
-// Whether a part was edited here and meanwhile changed to something else in the album.
+// Whether a part was edited here and changed differently in the album.
 bool HasConflict(const ParagraphDraft& draft, const ParagraphContent& stored);
 
-// What was edited laid over what is stored. A part in conflict is taken from the draft where
-// prefersEdited, else as it is stored.
+// Applies the edit to the stored content. A part in conflict is taken from the draft if
+// prefersEdited, else from stored.
 ParagraphContent MergeDraft(const ParagraphDraft& draft, const ParagraphContent& stored,
                             bool prefersEdited);
 
-// For a person to tell two versions apart: how the text begins, and the filter's restrictions after
-// it.
+// The text's beginning and the filter's restrictions, so that a person can tell two versions apart.
 QString DescribeContent(const ParagraphContent& content);

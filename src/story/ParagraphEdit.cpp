@@ -54,7 +54,7 @@ bool ParagraphEdit::Save(const ParagraphPlace& place)
     return true;
 }
 
-// A filter that waits for its first value goes on waiting.
+// A filter that waits for its first value stays so.
 void ParagraphEdit::ShowSaved(qint32 paragraph)
 {
     const ParagraphContent edited = controls_.read();

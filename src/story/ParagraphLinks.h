@@ -3,9 +3,9 @@
 
 #include <QString>
 
-// Pictures that a paragraph shows whatever its filter says.
+// Links to pictures that a paragraph shows whatever its filter says.
 
 bool IsLinked(qint32 paragraph, const QString& file);
 
-// Once only: a picture that is linked already is not linked again.
+// A picture that is already linked is not linked again.
 void SetLinked(qint32 paragraph, const QString& file, bool linked);

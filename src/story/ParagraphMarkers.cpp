@@ -17,7 +17,7 @@ namespace {
 const QString opening = QStringLiteral("<[");
 const QString closing = QStringLiteral("]>");
 
-// Field of the picture that a placeholder stands for; none when it is no placeholder.
+// The picture's field for a placeholder; none when it is not a placeholder.
 std::optional<QString> FieldOf(const QString& marker)
 {
     if (marker == QLatin1String("Picture Legend"))
@@ -29,8 +29,8 @@ std::optional<QString> FieldOf(const QString& marker)
     return std::nullopt;
 }
 
-// What stands from there to the closing sign; empty when that is further off than in any marker, of
-// which "Picture Legend" is the longest. Looking further would read a long text again and again.
+// The text from there to the closing sign; empty when that is further away than in the longest
+// marker, "Picture Legend". Searching further would read a long text again and again.
 QString MarkerAt(const QString& text, qsizetype inside)
 {
     const QString start = text.mid(inside, 14 + closing.size());
@@ -42,7 +42,7 @@ QString ValueOf(const QString& field, bool isKnownPicture)
     return isKnownPicture ? GeneralModule::ImageSet->TextOrEmpty(field) : QString();
 }
 
-// A marker ends at the first ">>", stands in one line, and must not be taken for a "<" before it.
+// A marker ends at the first ">>", is on one line, and must not merge with a "<" before it.
 bool CanNameMarker(const QString& label)
 {
     static const QRegularExpression bad(QStringLiteral("^<|<<|>>|[\\x00-\\x1f\\x{2028}\\x{2029}]"));
@@ -121,7 +121,7 @@ QString FillPictureMarkers(const QString& text, const QString& pictureFile)
                                        GeneralModule::Quoted(pictureFile));
     const bool isKnownPicture = !GeneralModule::ImageSet->NoMatch();
 
-    // What was filled in is not looked at again: a legend may hold "<[" itself.
+    // Filled-in text is not searched again: a legend may contain "<[" itself.
     QString filled;
     qsizetype done = 0;
     while (true) {

@@ -20,7 +20,7 @@ bool IsDown(ChainDirection direction)
     return direction == ChainDirection::Next;
 }
 
-// The row before a paragraph leads to another one instead: the paragraph before it, or the chapter.
+// Makes the previous paragraph, or the chapter if there is none, lead to the paragraph.
 void SetWayTo(const ParagraphPlace& place, qint32 previous, qint32 paragraph)
 {
     if (previous > 0)
@@ -41,14 +41,15 @@ void Exchange(const ParagraphPlace& place, qint32 upper, qint32 lower)
     batch.Finish();
 }
 
-// The paragraphs of a chapter between which one that comes from a neighbouring chapter is put.
+// The neighbours in a chapter of a paragraph that comes from a neighbouring chapter.
 struct Gap
 {
     qint32 previous = 0;
     qint32 next = 0;
 };
 
-// At the chapter's beginning or end. A broken album's chapter may lead to the paragraph already.
+// At the chapter's beginning or end. In a damaged album the chapter may already lead to the
+// paragraph.
 Gap GapIn(qint32 chapter, qint32 paragraph, ChainDirection direction)
 {
     const qint32 first = FirstParagraphOf(chapter);

@@ -7,20 +7,20 @@
 
 #include <vector>
 
-// Moving paragraphs within a chapter and across its ends, for a place whose paragraph is in the
-// place's chapter. Rows of one move are committed together.
+// Moving paragraphs within a chapter and across its ends. The place's paragraph must be in the
+// place's chapter. All rows of one move are committed together.
 
-// Exchanges the paragraph with the next or the previous one; at its chapter's end or beginning, it
-// becomes the first of the next chapter or the last of the previous one, and the place follows it
-// there. False, and nothing changed, where there is no such chapter.
+// Exchange the paragraph with the next or the previous one. At its chapter's end or beginning it
+// becomes the first of the next chapter or the last of the previous one, and the place follows it.
+// False, with nothing changed, when there is no such chapter.
 bool MoveParagraphDown(ParagraphPlace& place);
 bool MoveParagraphUp(ParagraphPlace& place);
 
 struct ParagraphLine
 {
     qint32 paragraph;
-    QString text; // in display form and in one line, which may be cut off
+    QString text; // in display form, on one line, possibly cut off
 };
 
-// The chapter's paragraphs in their order.
+// The chapter's paragraphs in order.
 std::vector<ParagraphLine> ListParagraphs(qint32 chapter);

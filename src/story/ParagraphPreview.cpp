@@ -84,7 +84,7 @@ QString ParagraphPreview::GetPicture() const
 void ParagraphPreview::ShowText(const QString& stored)
 {
     const QString text = FillPictureMarkers(stored, GetPicture());
-    controls_.text->clear(); // which costs nothing to wrap anew
+    controls_.text->clear(); // an empty text costs nothing to wrap again
     controls_.text->setWordWrapMode(WrapModeFor(text));
     controls_.text->setPlainText(text);
 }

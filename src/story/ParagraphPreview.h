@@ -12,18 +12,18 @@ class QCheckBox;
 class QLabel;
 class QPlainTextEdit;
 
-// How a paragraph reads beside its pictures, which are shown one after the other. The pictures are
-// the album's as it is stored: save before.
+// Previews a paragraph beside its pictures, shown one after the other. The pictures are searched in
+// the album as stored, so save first.
 class ParagraphPreview : public QObject
 {
     Q_OBJECT
 
 public:
-    // The controls of a window that show it.
+    // The window's controls for the preview.
     struct Controls
     {
         FittedPicture* stage;
-        QLabel* noPicture; // takes the stage's place
+        QLabel* noPicture; // replaces the stage
         QCheckBox* isLinked;
         QPlainTextEdit* text;
         QLabel* feedback;
@@ -31,19 +31,19 @@ public:
 
     ParagraphPreview(const Controls& controls, QObject* parent);
 
-    // The paragraph whose links the check box shows and sets; no picture is shown.
+    // Sets the paragraph whose links the check box shows and changes. Shows no picture.
     void SetParagraph(qint32 paragraph);
 
     // Lists the paragraph's pictures and shows the first. Throws DatabaseError for a filter that
-    // the engine refuses; no picture is shown then.
+    // the engine refuses; then no picture is shown.
     void FindPictures();
-    // False, and nothing changed, when none is left.
+    // False, with nothing changed, when none is left.
     bool ShowNext();
     // An empty file shows none.
     void ShowPicture(const QString& file);
     QString GetPicture() const;
 
-    // Fills the placeholders of a text in stored form for the picture on show.
+    // Shows a text in stored form, its placeholders filled for the current picture.
     void ShowText(const QString& stored);
 
 signals:

@@ -12,10 +12,10 @@
 namespace {
 
 constexpr double pointSize = 13; // for writing at length
-// Characters of markup; taking out more piece by piece keeps a person waiting.
+// Characters of markup; removing more piece by piece would be too slow.
 constexpr qsizetype longestCleanedSingly = 5000;
 
-// Undo must be able to go back behind a paste and its cleaning, so it does not clean again.
+// Undo must be able to go back past a paste and its cleaning, so it does not clean again.
 bool Cleans(const QKeyEvent& key)
 {
     switch (key.key()) {
@@ -42,7 +42,7 @@ ParagraphText::ParagraphText(QWidget* parent) : QPlainTextEdit(parent)
     document()->setDocumentMargin(12);
 }
 
-// Never laid out word by word while an endless one is there, neither the old text nor the new.
+// Neither the old text nor the new may be wrapped at words while it has an endless one.
 void ParagraphText::SetText(const QString& text)
 {
     WrapFor(text);
@@ -95,7 +95,7 @@ void ParagraphText::ReplaceAll(const QString& text, qsizetype caret)
     setTextCursor(cursor);
 }
 
-// Edits the document instead of replacing its text. Positions in the raw text are the document's.
+// Edits the document instead of replacing its text. Positions in the raw text equal the document's.
 void ParagraphText::CleanPasted()
 {
     const QString text = document()->toRawText();

@@ -3,8 +3,8 @@
 
 #include <QPlainTextEdit>
 
-// The box that a paragraph is written in. Every key first cleans what was pasted before; caret and
-// undo history stay.
+// The box that a paragraph is written in. Every key first cleans pasted text; caret and undo
+// history stay.
 class ParagraphText : public QPlainTextEdit
 {
     Q_OBJECT
@@ -14,11 +14,11 @@ public:
 
     // Begins a new undo history.
     void SetText(const QString& text);
-    // Lines end with "\n". Blanks that do not break are kept, which the toolkit's own text would
-    // turn into common ones.
+    // Lines end with "\n". Non-breaking spaces are kept; the toolkit's own text would have ordinary
+    // ones.
     QString GetText() const;
 
-    // At the caret, in place of what is selected.
+    // At the caret, replacing the selection.
     void Insert(const QString& text);
 
 protected:

@@ -5,8 +5,8 @@
 
 #include <array>
 
-// Text pasted from web pages brings along a little markup, which is taken out when the user goes
-// on typing.
+// Text pasted from web pages contains a little markup, which is removed when the user continues
+// typing.
 
 struct PastedMarkup
 {
@@ -14,7 +14,7 @@ struct PastedMarkup
     QString replacement;
 };
 
-// To be replaced one kind after the other; upper and lower case differ.
+// Replaced in this order; case matters.
 const std::array<PastedMarkup, 12>& PastedMarkups();
 
 QString CleanPastedText(const QString& text);

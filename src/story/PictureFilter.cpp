@@ -30,7 +30,7 @@ public:
             if (token == negation) {
                 Open(QStringLiteral("NOT("), QStringLiteral(") AND NOT("));
                 negated = true;
-                // The group just opened takes its first value without OR.
+                // The new group takes its first value without OR.
                 firstValue = true;
                 continue;
             }
@@ -86,8 +86,8 @@ void AddMatchingPictures(const QString& filter, PictureList& pictures, int maxim
     }
 }
 
-// "([File] LIKE 'folder/*.jpg')". With ";" in it the selection also stands for each of its
-// patterns, all in that folder: what a file list shows for them is what a person expects to see.
+// "([File] LIKE 'folder/*.jpg')". A selection with ";" also stands for each of its patterns, all in
+// that folder: people expect the same files as in a file list.
 QString BuildFileFilter(const QString& selection)
 {
     const QString folder = FolderOf(selection);
@@ -111,7 +111,8 @@ QString BuildCarFilter(const CarValues& filters)
 {
     CarFilterWriter writer;
     for (int column = 0; column < columnCount; ++column) {
-        // Old albums may hold what the editor would not store; it is read as the editor shows it.
+        // Old albums may hold filters that the editor would not store; they are read as it shows
+        // them.
         const QString values = StorableFilter(filters[std::size_t(column)]);
         if (values != anyValue)
             writer.AddColumn(column, values);
@@ -121,7 +122,7 @@ QString BuildCarFilter(const CarValues& filters)
 
 QString SwapCarGroups(const QString& filter)
 {
-    // The letters D, E, F keep columns 3 to 5 apart while 6 to 8 take their place.
+    // The letters D, E, F stand for columns 3 to 5 while 6 to 8 take their place.
     const auto column = [](int number) -> QString { return QLatin1Char('[') + CarField(number); };
     const auto marker = [](int number) { return QStringLiteral("[Car") + QChar(u'A' + number); };
     QString swapped = filter;

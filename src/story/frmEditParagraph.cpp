@@ -43,7 +43,7 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
         {ui_->txtParagraph, ui_->lstInsertCar, ui_->cmdInsertCar, ui_->cmdCancelInsert}, this);
     KeepWindowSize(this, proposedSize);
     ConnectControls();
-    // Both columns begin at one height, with and without drawings on their buttons.
+    // Both columns start at the same height, with or without icons on their buttons.
     for (QWidget* heading :
          std::initializer_list<QWidget*>{ui_->lblText, ui_->cmdInsertCar, ui_->cmdCancelInsert})
         heading->setMinimumHeight(ui_->cmdPreview->sizeHint().height());
@@ -83,7 +83,7 @@ void frmEditParagraph::ConnectControls()
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
 }
 
-// A "q" that is typed into the text is a q.
+// A "q" typed into the text is not a shortcut.
 bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
 {
     const bool isShortcut = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
@@ -103,13 +103,13 @@ void frmEditParagraph::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (event->spontaneous())
         return;
-    // Later, because a window that is on its way to be shown cannot be closed yet.
+    // Later, because a window that is just being shown cannot be closed yet.
     if (!RunGuarded([this] { ShowParagraph(); }))
         QTimer::singleShot(0, this, &frmEditParagraph::LeaveUnsaved);
     ui_->txtParagraph->setFocus();
 }
 
-// Whoever clicks into the preview of the text wants to write.
+// A click into the preview of the text starts writing.
 bool frmEditParagraph::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn)
@@ -117,7 +117,7 @@ bool frmEditParagraph::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
-// Later, when the click that brought the focus is done with the preview.
+// Later, when the preview has handled the click that gave it the focus.
 void frmEditParagraph::txtParagraphPreview_GotFocus()
 {
     QTimer::singleShot(0, this, Guarded(this, &frmEditParagraph::lblText_Click));
@@ -129,8 +129,8 @@ void frmEditParagraph::ShowParagraph()
     ClearPreview();
 }
 
-// Everything is read before the first control is touched: what cannot be read leaves them as they
-// were, and nothing that is half there can be saved.
+// Everything is read before the first control is touched: a failure leaves them unchanged, and
+// nothing incomplete can be saved.
 void frmEditParagraph::FillFromAlbum()
 {
     const QString chapter = GeneralModule::ChapterTitle(CurrentChapter);
@@ -143,7 +143,7 @@ void frmEditParagraph::FillFromAlbum()
     edit_.Load(content);
 }
 
-// The text box keeps caret and history where it holds the text already.
+// The text box keeps caret and history if it already holds the text.
 void frmEditParagraph::SetContent(const ParagraphContent& content)
 {
     const QString text = ToDisplayMarkers(content.text, insertion_->GetMarkers());
@@ -173,7 +173,7 @@ void frmEditParagraph::GoTo(const ParagraphPlace& place)
     stay.dismiss();
 }
 
-// For a place that there is no way back from.
+// For cases where the former place cannot be kept.
 void frmEditParagraph::GoToOrLeave(const std::function<ParagraphPlace()>& findPlace)
 {
     auto leave = qScopeGuard([this] { LeaveUnsaved(); });
@@ -207,7 +207,7 @@ void frmEditParagraph::cmdEndOfChapter_Click()
     StepTo(ChainStep::Last, ui_->cmdEndOfChapter);
 }
 
-// Where there is no further paragraph, caret and preview stay as they are.
+// If there is no further paragraph, caret and preview stay.
 void frmEditParagraph::StepTo(ChainStep step, const QPushButton* button)
 {
     if (!edit_.SettleConflict(CurrentParagraph))
@@ -218,7 +218,7 @@ void frmEditParagraph::StepTo(ChainStep step, const QPushButton* button)
         GoTo(place);
     else
         edit_.ShowSaved(CurrentParagraph);
-    // Who came by mouse goes on writing; a button that was pressed by a key has the focus.
+    // After a mouse click the user continues writing; a button pressed by key has the focus.
     if (!isPreview_ && focusWidget() != button)
         ui_->txtParagraph->setFocus();
 }
@@ -229,7 +229,7 @@ void frmEditParagraph::cmdCreateNext_Click()
         return;
     ParagraphPlace place = GetPlace();
     const ParagraphContent created = CreateNextParagraph(place, edit_.GetDraft());
-    // Not read back: it links to its neighbours once it is saved, so nobody may lose sight of it.
+    // Not read back: its neighbours link to it only once it is saved, so it must not be lost now.
     CurrentParagraph = place.paragraph;
     edit_.Unload();
     edit_.Load(created);
@@ -265,7 +265,7 @@ void frmEditParagraph::cmdOrganize_Click()
     });
 }
 
-// Markers in the text are named anew, so what was typed is saved first.
+// Markers in the text get new names, so what was typed is saved first.
 void frmEditParagraph::filterPanel_LabelsWanted()
 {
     if (!SaveParagraph())
@@ -307,7 +307,7 @@ bool frmEditParagraph::SaveParagraph()
     return edit_.Save(GetPlace());
 }
 
-// However the window is left, by its frame too.
+// Called however the window is left, by its frame too.
 void frmEditParagraph::reject()
 {
     if (edit_.SaveOrGiveUp(GetPlace()))
@@ -359,7 +359,7 @@ void frmEditParagraph::cmdNextImage_Click()
         lblText_Click();
 }
 
-// A preview shows at once what a changed filter finds.
+// The preview is updated at once when the filter changes.
 void frmEditParagraph::filterPanel_Change()
 {
     if (isPreview_)
@@ -379,14 +379,14 @@ void frmEditParagraph::imgImage_MouseDown()
         EditPicture(file);
 }
 
-// Everything may have changed there: the picture, labels, values, and the paragraph with them.
+// The picture, labels, values, and the paragraph with them may have changed there.
 void frmEditParagraph::EditPicture(const QString& file)
 {
     frmEditImage window(this);
     window.CurrentImage = file;
     window.IsSinglePicture = true;
     window.exec();
-    // What cannot be read again must not be saved either: a value may have got another name.
+    // What cannot be read again must not be saved: a value may have been replaced.
     auto leave = qScopeGuard([this] { LeaveUnsaved(); });
     FillFromAlbum();
     leave.dismiss();

@@ -16,11 +16,11 @@ namespace Ui {
 class frmEditParagraph;
 }
 
-// The paragraph editor: text, picture filter and linked pictures of one paragraph, and the way from
-// paragraph to paragraph of its chapter. Every way out of a paragraph saves it.
+// The paragraph editor: text, picture filter and linked pictures of one paragraph, with steps to
+// the other paragraphs of its chapter. Every way out of a paragraph saves it.
 //
-// Whoever opens it sets chapter and paragraph, shows it modally, and takes them back: the user may
-// have gone elsewhere, and no paragraph may be left.
+// Set chapter and paragraph before showing it modally, and read them afterwards: the user may have
+// gone elsewhere, or no paragraph may be left.
 class frmEditParagraph : public QDialog
 {
     Q_OBJECT
@@ -45,7 +45,7 @@ private:
     void ShowParagraph();
     void FillFromAlbum();
     ParagraphPlace GetPlace() const { return {CurrentChapter, CurrentParagraph}; }
-    // Throws, and stays where it is, when the paragraph there cannot be read.
+    // Throws and stays when the paragraph there cannot be read.
     void GoTo(const ParagraphPlace& place);
     void GoToOrLeave(const std::function<ParagraphPlace()>& findPlace);
     void LeaveUnsaved();
@@ -53,7 +53,7 @@ private:
     void ClearPreview();
     ParagraphContent GetContent() const;
     QString Describe(const ParagraphContent& content) const;
-    // False when the user wants to stay; then whatever the save was to be for must not happen.
+    // False when the user wants to stay; then do not go on with the intended action.
     bool SaveParagraph();
 
     void cmdFirstParagraph_Click();

@@ -100,7 +100,7 @@ bool frmOrganizeParagraphs::lstParagraph_KeyDown(QKeyEvent& key)
 void frmOrganizeParagraphs::RefreshParagraphList()
 {
     const BusyPointer busy;
-    // Read first: what cannot be read leaves the list as it was.
+    // Everything is read first, so that a failure leaves the list unchanged.
     const QString chapter = GeneralModule::ChapterTitle(CurrentChapter);
     const std::vector<ParagraphLine> lines = ListParagraphs(CurrentChapter);
     setWindowTitle(AsWindowTitle(tr("Organize Paragraphs from Chapter '%1'").arg(chapter)));
@@ -119,7 +119,7 @@ void frmOrganizeParagraphs::RefreshParagraphList()
     RefreshButtons();
 }
 
-// In a chapter that was only paged to no line is selected, and so nothing can be moved there.
+// In a chapter reached only by paging no line is selected, so nothing can be moved.
 void frmOrganizeParagraphs::RefreshButtons()
 {
     const bool isSelected = ui_->lstParagraph->currentRow() >= 0;

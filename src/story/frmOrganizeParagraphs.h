@@ -17,8 +17,8 @@ class frmOrganizeParagraphs;
 // The paragraph organiser: lists the paragraphs of a chapter, one line each, and moves them within
 // it and into the chapters before and after it.
 //
-// Whoever opens it sets chapter and paragraph and shows it modally; afterwards CurrentParagraph is
-// the one chosen. CurrentChapter is the one listed, which need not be the paragraph's own.
+// Set chapter and paragraph before showing it modally; afterwards CurrentParagraph is the chosen
+// one. CurrentChapter is the listed one, which need not be the paragraph's own.
 class frmOrganizeParagraphs : public QDialog
 {
     Q_OBJECT
@@ -54,5 +54,5 @@ private:
     void cmdExit_Click();
 
     std::unique_ptr<Ui::frmOrganizeParagraphs> ui_;
-    std::vector<qint32> paragraphs_; // of the lines
+    std::vector<qint32> paragraphs_; // one for each line
 };

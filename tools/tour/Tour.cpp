@@ -18,14 +18,14 @@
 namespace {
 
 constexpr int stepPause = 60;   // milliseconds between steps, for windows to draw themselves
-constexpr int patience = 20000; // milliseconds until a window that does not come ends the tour
+constexpr int patience = 20000; // milliseconds to wait for a window before the tour ends
 
 } // namespace
 
 Tour::Tour(const QString& folder, QWidget* mainWindow)
     : QObject(mainWindow), folder_(folder), mainWindow_(mainWindow)
 {
-    QDir().mkpath(folder_); // where that fails, the first picture tells
+    QDir().mkpath(folder_); // if this fails, writing the first picture does too
     PlanReading();
     PlanWriting();
     PlanIndexing();
@@ -113,7 +113,7 @@ void Tour::PlanOtherWindows()
         const char* entry;
         const char* window;
         const char* picture;
-        const char* folder = nullptr; // the list that is led to the pictures
+        const char* folder = nullptr; // the list that goes to the pictures' folder
     };
     for (const Window& window : {
              Window{"mnuLoadPictures", "frmLoadFiles", "loading", "dirPicturesToLoad"},
@@ -172,8 +172,8 @@ void Tour::With(const QString& name, std::function<void(Part*)> action)
     });
 }
 
-// A button that opens a modal window does not return before that closes, so it is pressed from the
-// event loop while the tour goes on.
+// Clicking a button that opens a modal window returns only when that window closes, so the event
+// loop does it while the tour continues.
 void Tour::Click(const QString& button)
 {
     With<QPushButton>(button,

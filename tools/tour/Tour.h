@@ -9,9 +9,9 @@
 
 class QWidget;
 
-// Goes through the program's windows by itself, with the keys and buttons of a person, and writes a
-// picture of each into a folder. Needs an album that is open and has a story; ends the program when
-// it is through, with status 1 when a window did not come or a picture could not be written.
+// Goes through the program's windows by itself, with keys and buttons as a person would, and writes
+// a picture of each into a folder. Needs an open album with a story. Ends the program when done,
+// with status 1 when a window did not appear or a picture could not be written.
 class Tour : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ private:
     void ShowFolder(const QString& list);
     void Resize(int width, int height);
     QWidget* Front() const;
-    // Does something with a part of the window in front; ends the tour when it has no such part.
+    // Runs the action on a part of the front window; ends the tour when there is no such part.
     template<typename Part>
     void With(const QString& name, std::function<void(Part*)> action);
     void Fail(const QString& text);

@@ -9,10 +9,10 @@
 
 namespace {
 
-constexpr std::size_t mostSetAside = 1000; // rows; only damage makes any
+constexpr std::size_t maxSetAside = 1000; // rows; only damage makes any
 // A last number further than this above the highest identifier is taken for damage: believing it
 // could leave no identifiers for new rows.
-constexpr qint64 mostNumbersUnused = 10'000'000;
+constexpr qint64 maxNumbersUnused = 10'000'000;
 
 bool IsValueTable(const QString& table)
 {
@@ -310,7 +310,7 @@ void OldAlbumTable::InsertNumbered(const Row& row)
         highest_ = std::max(highest_, *number);
         if (!TryInsert(row))
             InsertUnderAnotherName(row);
-    } else if (setAside_.size() < mostSetAside) {
+    } else if (setAside_.size() < maxSetAside) {
         setAside_.push_back(row);
     } else {
         report_.AddProblem(OldAlbumReport::tr("%1, row %2: left out, it has no identifier.")
@@ -375,7 +375,7 @@ qint64 OldAlbumTable::Finish()
 {
     if (batch_) {
         if (layout_ && layout_->GetIdentity() >= 0) {
-            if (lastNumber_ <= highest_ + mostNumbersUnused)
+            if (lastNumber_ <= highest_ + maxNumbersUnused)
                 highest_ = std::clamp(lastNumber_, highest_, highestIdentifier);
             SetLastNumber();
             InsertSetAside();

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr char fieldType[] = " TEXT COLLATE NOCASE";
-constexpr int mostFields = 900; // a statement takes 999 values
+constexpr int maxFields = 900; // a statement takes 999 values
 
 // Null when the engine does it under neither name.
 QString FirstTaken(const QString& name, const std::function<void(const QByteArray&)>& action)
@@ -37,7 +37,7 @@ namespace GeneralModule {
 QString MakeOwnTable(Database& database, const QString& table, const QString& firstField)
 {
     Statement count(database.GetEngine(), "SELECT count(*) FROM sqlite_master");
-    const bool hasRoom = count.Step() && count.GetInteger(0) < mostSchemaObjects;
+    const bool hasRoom = count.Step() && count.GetInteger(0) < maxSchemaObjects;
     count.Reset();
     if (!hasRoom)
         return {};
@@ -49,7 +49,7 @@ QString MakeOwnTable(Database& database, const QString& table, const QString& fi
 
 QString AddOwnField(Database& database, const QString& table, const QString& field)
 {
-    if (TableLayout(database.GetEngine(), table).Count() >= mostFields)
+    if (TableLayout(database.GetEngine(), table).Count() >= maxFields)
         return {};
     return FirstTaken(field, [&](const QByteArray& quoted) {
         database.Execute("ALTER TABLE " + QuotedName(table.toUtf8()) + " ADD COLUMN " + quoted +

@@ -11,7 +11,7 @@
 
 namespace {
 
-// The third generation does not know the setting and takes no notice of it.
+// The third generation does not know the setting and ignores it.
 void SetFormat(sqlite3* engine, const QByteArray& schema, int format)
 {
     if (format == CipherFile::libraryFormat)
@@ -23,8 +23,8 @@ void SetFormat(sqlite3* engine, const QByteArray& schema, int format)
         ThrowEngineError(engine, code);
 }
 
-// The library takes a text such as x'0123...' for the key itself, of 32 bytes or of 48 with its
-// salt, and not for a password. A line feed at its end makes it a password like any other.
+// The library takes a text such as x'0123...' for a raw key (32 bytes, or 48 with the salt), not
+// for a password. A line feed at its end makes it an ordinary password.
 QByteArray OrdinaryKey(const QByteArray& password)
 {
     const bool isRawLength = password.size() == 2 * 32 + 3 || password.size() == 2 * 48 + 3;
@@ -35,7 +35,7 @@ QByteArray OrdinaryKey(const QByteArray& password)
 
 } // namespace
 
-// The spellings after the first are for albums whose password was taken as it was typed.
+// The other spellings are for albums whose password was used just as it was typed.
 QList<QByteArray> CipherKeys(const QString& password)
 {
     QList<QByteArray> keys;

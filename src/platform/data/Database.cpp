@@ -16,9 +16,9 @@
 namespace {
 
 constexpr int busyMilliseconds = 3000; // longer than any commit of another program should take
-constexpr int largestValue = 64 * 1024 * 1024; // bytes; a memo of a life's story has about one
+constexpr int largestValue = 64 * 1024 * 1024; // bytes; a life's story takes about 1 MB
 
-// Returns whether the file has a password; throws for what no password opens.
+// Whether the file has a password. Throws for a file that no password can open.
 bool NeedsPassword(const QString& path)
 {
     const QString shown = QDir::toNativeSeparators(path);
@@ -47,15 +47,15 @@ bool NeedsPassword(const QString& path)
     return false;
 }
 
-// Second line of defence behind CheckSchema: no statement may run anything that the album's schema
-// brings along (then the last argument names it), nor reach another file.
+// Second line of defence after CheckSchema: no statement may run code from the album's schema (the
+// last argument then names it) or reach another file.
 int Authorize(void*, int action, const char*, const char*, const char*, const char* source)
 {
     const bool reachesOut = action == SQLITE_ATTACH || action == SQLITE_CREATE_VTABLE;
     return source || reachesOut ? SQLITE_DENY : SQLITE_OK;
 }
 
-// Whether a change broke off, which the engine undoes at the next opening.
+// Whether a change was interrupted; the engine undoes it at the next opening.
 bool IsHalfChanged(const QString& path)
 {
     return QFileInfo(path + QStringLiteral("-journal")).size() > 0;
@@ -111,7 +111,7 @@ void Database::Connect()
 #ifdef SQLITE_DBCONFIG_DEFENSIVE
     sqlite3_db_config(engine_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
 #endif
-    // Engines take no notice of settings that they do not know.
+    // An engine ignores settings that it does not know.
     for (const char* setting : {"PRAGMA trusted_schema=OFF", "PRAGMA cell_size_check=ON"}) {
         const int result = sqlite3_exec(engine_, setting, nullptr, nullptr, nullptr);
         if (result != SQLITE_OK)
@@ -120,7 +120,7 @@ void Database::Connect()
     sqlite3_set_authorizer(engine_, Authorize, nullptr);
 }
 
-// A wrong key shows only at the first read, and then looks like a file that is no database.
+// A wrong key is detected only at the first read, as a file that is not a database.
 void Database::Unlock(const QString& password)
 {
     password_ = password;
@@ -136,7 +136,7 @@ void Database::Unlock(const QString& password)
 
 bool Database::TryKey(const QByteArray& key, int format)
 {
-    // A connection that a key has failed on may keep settings of that key.
+    // After a wrong key the connection may keep settings of that key.
     if (!cipherKey_.isEmpty())
         Connect();
     cipherKey_ = key;
@@ -162,7 +162,7 @@ qint64 Database::GetPragma(const QByteArray& name)
     return pragma.Step() ? pragma.GetInteger(0) : 0;
 }
 
-// The engine takes a file whose last page is cut off for whole until something reads that page.
+// The engine does not notice that a file's last page is cut off until something reads it.
 void Database::CheckSize()
 {
     if (QFileInfo(path_).size() < GetPragma("page_count") * GetPragma("page_size"))
@@ -179,7 +179,7 @@ void Database::Prepare()
     CheckSize();
     Execute("COMMIT");
     RegisterSqlFunctions(engine_);
-    // One file that is safe to copy once closed, and nothing lost when the power goes.
+    // One file that is safe to copy once closed, and nothing lost in a power failure.
     Execute("PRAGMA journal_mode=DELETE");
     Execute("PRAGMA synchronous=FULL");
     Execute("PRAGMA cache_size=-8000");

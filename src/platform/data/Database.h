@@ -8,16 +8,15 @@
 
 struct sqlite3;
 
-// One open album file. Every change is committed to disk at once, except inside a WriteBatch.
-// Lives as long as a record set on it does.
+// One open album file. Every change is committed to disk at once, except inside a WriteBatch. Lives
+// as long as any record set on it.
 class Database
 {
 public:
-    // Opens an existing file for reading and writing, or for reading only where it or its folder
-    // cannot be written. The password counts only for a file that has one. Throws DatabaseError:
-    // NoSuchFile, CannotOpen, ReadOnly (when a change that broke off would have to be undone
-    // first), NotADatabase, WrongPassword (also when the password is missing), Damaged, InUse.
-    // Never makes a file.
+    // Opens an existing file for reading and writing, or only for reading if it or its folder is
+    // read-only. The password is ignored for a file without one. Throws DatabaseError: NoSuchFile,
+    // CannotOpen, ReadOnly (when an interrupted change must be undone first), NotADatabase,
+    // WrongPassword (also when the password is missing), Damaged, InUse. Never creates a file.
     static std::shared_ptr<Database> Open(const QString& path, const QString& password = {});
 
     ~Database();
@@ -25,24 +24,24 @@ public:
     Database& operator=(const Database&) = delete;
 
     const QString& GetPath() const { return path_; }
-    // What opened the file; empty for one without a password.
+    // The password that opened the file; empty when it has none.
     const QString& GetPassword() const { return password_; }
-    // See CipherFile; both mean nothing for a file without a password.
+    // See CipherFile; both are meaningless for a file without a password.
     const QByteArray& GetCipherKey() const { return cipherKey_; }
     int GetCipherFormat() const { return cipherFormat_; }
     sqlite3* GetEngine() const { return engine_; }
 
-    // Whatever would change it then throws ReadOnly.
+    // If true, any change throws ReadOnly.
     bool IsReadOnly() const { return isReadOnly_; }
 
-    // Goes up with every row that this program changes in the album; a row read under an earlier
-    // count may be stale.
+    // Increases with every row that this program changes in the album; a row read at a lower count
+    // may be stale.
     int ChangeCount() const;
 
     void Execute(const QByteArray& sql);
 
-    // Throws DatabaseError NoSuchFile when another file, or none, is at the path by now. Changes
-    // ask by themselves.
+    // Throws DatabaseError NoSuchFile when the path now holds another file or none. Changes check
+    // this by themselves.
     void RequireUnmoved() const;
 
 private:

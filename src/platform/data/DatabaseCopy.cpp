@@ -27,7 +27,7 @@ public:
             size_ = size;
     }
 
-    qint64 GetSize() const { return size_; } // negative when it cannot be told
+    qint64 GetSize() const { return size_; } // negative when unknown
 
     bool Read(QByteArray& block, qint64 from) const
     {
@@ -39,7 +39,7 @@ private:
     qint64 size_ = -1;
 };
 
-// Calls take on each block of the file; false when it cannot be read or take says so.
+// Calls take for each block of the file; false when reading or take fails.
 template<typename Take>
 bool ForEachBlock(const EngineFile& source, const Take& take)
 {
@@ -71,7 +71,7 @@ void CopyDatabaseFile(const Database& database, const QString& target)
     const auto write = [&copy](const QByteArray& block) {
         return copy.write(block) == block.size();
     };
-    // What a full disk or a drive that was pulled out leaves is found only by reading it back.
+    // Damage by a full disk or an unplugged drive is found only by reading the copy back.
     const auto isEqual = [&copy](const QByteArray& block) {
         return copy.read(block.size()) == block;
     };

@@ -7,7 +7,7 @@
 #include <exception>
 #include <string>
 
-// What the album's engine reports: a number that code and users know it by, and a sentence.
+// An error of the album's engine: a number that identifies it for code and users, and a sentence.
 class DatabaseError : public std::exception
 {
     Q_DECLARE_TR_FUNCTIONS(DatabaseError)

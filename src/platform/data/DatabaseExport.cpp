@@ -34,8 +34,8 @@ bool IsSound(const Database& database)
 void ExportDatabase(const Database& database, const QString& target, const QString& password)
 {
     database.RequireUnmoved();
-    // Connections of its own: the one that the program works on may not reach other files, and may
-    // be at work in another thread.
+    // Separate connections: the program's own must not reach other files, and may be in use in
+    // another thread.
     const auto connect = [&database] {
         return CipherFile(database.GetPath(), database.GetCipherKey(), database.GetCipherFormat());
     };

@@ -5,8 +5,7 @@
 
 class Database;
 
-// Writes everything that the database holds into an empty file that is there, whose permissions
-// stay, with that password or without one when it is empty, and checks the file by opening it.
-// Nobody can write to the database meanwhile; it may be read in another thread. Throws
-// DatabaseError when the file could not be made whole; what is in it then is worth nothing.
+// Writes the whole database into an existing empty file, whose permissions stay, encrypted unless
+// the password is empty, and checks the file by opening it. Nobody can write to the database during
+// this; another thread may read it. Throws DatabaseError on failure; the file is then useless.
 void ExportDatabase(const Database& database, const QString& target, const QString& password);

@@ -12,8 +12,8 @@ namespace {
 
 constexpr int firstBlock = 1024; // the smallest page that encrypted albums are written with
 
-// At least three bytes each: an encrypted album begins with random bytes, and two of them would
-// meet a shorter magic number once in 65,536 albums.
+// At least three bytes each: an encrypted album begins with random bytes, which would match a
+// two-byte magic number once in 65,536 albums.
 bool HasKnownMagic(const QByteArray& head)
 {
     static const std::array<QByteArray, 20> magics{
@@ -44,7 +44,7 @@ bool HasKnownMagic(const QByteArray& head)
                        [&head](const QByteArray& magic) { return head.startsWith(magic); });
 }
 
-// Encrypted pages are evenly mixed bytes. Chi-square over the byte values of the first 1,024 bytes
+// Encrypted pages look like random bytes. Chi-square over the byte values of the first 1,024 bytes
 // (255 degrees of freedom): 40,000 random blocks stayed below 363, deflated data begins at 690.
 bool LooksRandom(const QByteArray& block)
 {
@@ -79,8 +79,8 @@ DatabaseFileKind KindOfContents(QFile& file)
                                              : DatabaseFileKind::NotADatabase;
 }
 
-// The permission bits are asked beside the right to write: an administrator may write everything,
-// but a file that its owner protected is meant to stay as it is.
+// The permission bits are checked besides the right to write: an administrator can write
+// everything, but a file that its owner protected must not change.
 bool IsProtected(const QFileInfo& file)
 {
     constexpr auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;

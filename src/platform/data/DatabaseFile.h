@@ -3,19 +3,19 @@
 
 #include <QString>
 
-// What a file looks like from outside, told before the engine touches it.
+// What a file appears to be, found out before the engine touches it.
 enum class DatabaseFileKind {
     Missing,
     Unopenable,   // a folder, a device, or a file that may not be read
     Empty,        // 0 bytes: the engine would take it for a new database
     Plain,        // an album without a password
-    Encrypted,    // may be an album with a password; only trying tells
-    OldAlbum,     // made by the engine that albums were kept in formerly
-    NotADatabase, // something else, or an encrypted album cut off
+    Encrypted,    // may be an album with a password; only trying shows
+    OldAlbum,     // an album of the former file format
+    NotADatabase, // something else, or a truncated encrypted album
 };
 
 DatabaseFileKind KindOfDatabaseFile(const QString& path);
 
-// Whether the file or its folder cannot be written; the engine keeps a journal beside the file
-// while it changes it.
+// Whether the file or its folder cannot be written; the engine keeps a journal beside a file while
+// changing it.
 bool IsReadOnlyDatabaseFile(const QString& path);

@@ -9,8 +9,7 @@
 #include <optional>
 #include <vector>
 
-// Values for one row that are not written yet: for the row that it was opened for, or for a new
-// one. While it is closed it holds none.
+// Unwritten values for one row, either an existing one or a new one. Holds none while closed.
 class EditBuffer
 {
 public:
@@ -19,20 +18,20 @@ public:
 
     bool IsOpen() const { return state_ != State::Closed; }
 
-    // What an open buffer holds is dropped. The row is the engine's row number.
+    // Drops what an open buffer holds. row is the engine's row number.
     void OpenForRow(qint64 row);
     // The new row gets its identifier at once. Throws DatabaseError.
     void OpenForNewRow();
     void Close();
 
-    // Throws UpdateWithoutEdit when it is closed, TypeMismatch.
+    // Throws UpdateWithoutEdit when closed, TypeMismatch.
     void Set(int field, FieldValue value);
-    // A new row's field that was not set is Null here, and gets the table's default when written;
-    // nullptr for what the row itself has to say.
+    // The value in the buffer; nullptr when the row's own value counts. In a new row an unset field
+    // is Null, and gets the table's default when written.
     const FieldValue* Find(int field) const;
 
-    // Writes the values and closes. Throws UpdateWithoutEdit when it is closed, RecordDeleted when
-    // its row has gone, DuplicateKey and the like; it then stays open.
+    // Writes the values and closes. Throws UpdateWithoutEdit when closed, RecordDeleted when its
+    // row is gone, DuplicateKey and the like; the buffer then stays open.
     void Write();
 
 private:
@@ -41,7 +40,7 @@ private:
     void RequireOpen() const;
     void UpdateRow();
     void InsertRow();
-    // Those that write the values of the fields in the buffer.
+    // Statements that write the fields in the buffer.
     QByteArray UpdateSql() const;
     QByteArray InsertSql() const;
     std::shared_ptr<Statement> WriteStatement();
@@ -50,6 +49,6 @@ private:
     const TableLayout& layout_;
     State state_ = State::Closed;
     qint64 row_ = 0;
-    std::vector<std::pair<int, FieldValue>> values_; // by the order in which they were set
+    std::vector<std::pair<int, FieldValue>> values_; // in the order in which they were set
     KeptStatements<QByteArray, Statement> statements_;
 };

@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr std::size_t mostValues = 900;    // the oldest engine takes 999 parameters
-constexpr std::size_t fewestLookedUp = 24; // fewer are compared sooner than looked up
+constexpr std::size_t maxValues = 900;     // the oldest engine takes 999 parameters
+constexpr std::size_t fewestLookedUp = 24; // fewer are faster to compare one by one
 
 bool IsAscii(const QString& text)
 {
@@ -51,8 +51,8 @@ private:
             TranslateJoined(node.operands, " OR ");
     }
 
-    // Many values for one field take one parameter, and a look-up per row instead of as many
-    // comparisons. False when it is no such condition.
+    // Many values for one field become one parameter and one look-up per row instead of many
+    // comparisons. False when the node is not such a condition.
     bool TranslateAnyOf(const FilterNode& node)
     {
         if (node.operands.size() < fewestLookedUp)
@@ -73,8 +73,7 @@ private:
         return true;
     }
 
-    // By halves: one after the other, a long condition would be as deep for the engine as it is
-    // long.
+    // Nested by halves: for the engine a chain of conditions is as deep as it is long.
     void TranslateJoined(std::span<const FilterNode> operands, const char* word)
     {
         if (operands.size() == 1)
@@ -94,7 +93,7 @@ private:
         if (field.isNumber == (value != nullptr))
             FailMismatch(node.field);
         result_.condition += QuotedName(field.name) + '=' + AddValue(node.value);
-        // The engine's own comparison knows the letter case of ASCII only, but can use an index.
+        // The engine's own comparison ignores the case of ASCII letters only, but can use an index.
         if (value && field.ignoresCase && !IsAscii(*value))
             result_.condition += QByteArrayLiteral(" COLLATE ") + foldedCollation;
     }
@@ -125,7 +124,7 @@ private:
 
     QByteArray AddValue(const FieldValue& value)
     {
-        if (result_.values.size() >= mostValues)
+        if (result_.values.size() >= maxValues)
             FailTooComplex(text_);
         result_.values.push_back(value);
         return '?' + QByteArray::number(qsizetype(result_.values.size()) + 1);

@@ -5,10 +5,10 @@
 
 namespace {
 
-// The engine's parser holds 100 symbols, of which a level takes up to three, and conditions stand
-// in parentheses of the statement's own.
+// The engine's parser holds 100 symbols. A level takes up to three, and the statement adds
+// parentheses of its own.
 constexpr int deepestNesting = 16;
-constexpr int mostComparisons = 200'000;
+constexpr int maxComparisons = 200'000;
 
 class FilterParser
 {
@@ -117,7 +117,7 @@ FilterNode FilterParser::ParseFactor()
 
 FilterNode FilterParser::ParseComparison()
 {
-    if (++comparisons_ > mostComparisons)
+    if (++comparisons_ > maxComparisons)
         FailTooComplex(whole_);
     FilterNode node{FilterNode::Kind::Equals, ParseField(), {}, {}};
     if (TakeWord(QLatin1String("LIKE")))

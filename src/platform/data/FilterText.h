@@ -11,7 +11,7 @@
 // The criteria language of record sets:
 //   [Field]='text'   [Field]=5   [Field] LIKE 'pattern'   NOT x   x AND y   x OR y   (x)
 // NOT binds tighter than AND, AND tighter than OR; keywords in any letter case; a quote inside a
-// quoted text is written twice; texts may also stand between double quotes.
+// quoted text is written twice; double quotes work too.
 struct FilterNode
 {
     enum class Kind { Equals, Like, Not, And, Or };
@@ -22,11 +22,11 @@ struct FilterNode
     std::vector<FilterNode> operands; // Not: one; And, Or: two or more
 };
 
-// Throws DatabaseError BadFilter, with the text that failed, for anything else, an empty text too;
-// TooComplex when it is nested too deep or holds too many comparisons.
+// Throws DatabaseError BadFilter, with the text that failed, for anything else, including an empty
+// text; TooComplex when it is nested too deeply or has too many comparisons.
 FilterNode ParseFilter(QStringView text);
 
 // Throws TooComplex.
 [[noreturn]] void FailTooComplex(QStringView filter);
-// What a message shows of a filter, which may be a megabyte long.
+// The beginning of a filter for a message; the filter may be a megabyte long.
 QString Excerpt(QStringView filter);

@@ -13,8 +13,8 @@ NewIdentifiers::NewIdentifiers(sqlite3* engine, const QByteArray& table)
     last_ = std::max(LastGiven(), Highest("SELECT rowid AS number FROM " + QuotedName(table_)));
 }
 
-// What the engine has noted. A row out of the range overwrites the note; then only links can tell
-// of rows that were deleted.
+// The engine's own record. A row outside the range overwrites it; then only links still show which
+// identifiers deleted rows had.
 qint64 NewIdentifiers::LastGiven() const
 {
     Statement noted(engine_, "SELECT seq FROM sqlite_sequence WHERE name=?1");
@@ -28,7 +28,7 @@ qint64 NewIdentifiers::LastGiven() const
     return linked;
 }
 
-// Sorted rather than asked for its maximum, so that the engine begins at an index's end.
+// Sorted instead of MAX, so that the engine starts at the end of an index.
 qint64 NewIdentifiers::Highest(const QByteArray& select) const
 {
     Statement highest(engine_, "SELECT number FROM (" + select + ") WHERE number BETWEEN 1 AND " +
@@ -37,7 +37,7 @@ qint64 NewIdentifiers::Highest(const QByteArray& select) const
     return highest.Step() ? highest.GetInteger(0) : 0;
 }
 
-// What other tables hold in fields named after this one.
+// Selects the fields of other tables that are named after this table.
 QByteArrayList NewIdentifiers::LinkSelects() const
 {
     QByteArrayList selects;

@@ -7,17 +7,17 @@
 
 #include <limits>
 
-// Identifiers that a table's rows may have: 1 to this. Files can hold others.
+// Valid identifiers are 1 to this. Files can hold others.
 inline constexpr qint64 highestIdentifier = std::numeric_limits<qint32>::max();
 
-// Identifiers for new rows of a table that numbers them: each above every one that ever was,
-// deleted rows' too, because links to these may still lie about. A row whose number is out of the
-// range does not count. Once the highest has been given out they go down from there, past those
-// that a row has or that a field named after the table, as ParagraphId is, holds.
+// Identifiers for new rows of a numbered table: each is above all earlier ones, including those of
+// deleted rows, because links to these may remain. A row whose number is out of range does not
+// count. Once the highest is used up they count down from there, skipping those that a row has or
+// that a field named after the table, such as ParagraphId, holds.
 class NewIdentifiers
 {
 public:
-    // Throw DatabaseError; Next throws Overflow when there is none left.
+    // Throw DatabaseError; Next throws Overflow when none is left.
     NewIdentifiers(sqlite3* engine, const QByteArray& table);
     qint64 Next();
 
@@ -30,5 +30,5 @@ private:
     sqlite3* engine_;
     QByteArray table_;
     qint64 last_ = 0;
-    Statement isUsed_; // prepared once they go down
+    Statement isUsed_; // prepared once they count down
 };

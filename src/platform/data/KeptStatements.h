@@ -4,14 +4,14 @@
 #include <memory>
 #include <unordered_map>
 
-// Statements that are kept to be run again, by what tells them apart: preparing one takes longer
-// than running it. Never more than 64 of them, since filters typed by hand come in many shapes.
+// A cache of prepared statements by key: preparing one takes longer than running it. Holds at most
+// 64, since filters typed by hand vary a lot.
 template<typename Key, typename Kept>
 class KeptStatements
 {
 public:
-    // The one kept for that key, else what make returns, which is kept from then on. It stays valid
-    // when others push it out.
+    // The statement kept for that key, else the result of make, which is then kept. It stays valid
+    // after the cache drops it.
     template<typename Make>
     std::shared_ptr<Kept> Get(const Key& key, const Make& make)
     {

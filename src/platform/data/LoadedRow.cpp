@@ -36,7 +36,7 @@ void LoadedRow::Load(int field)
     statement.Bind(1, row_);
     if (!statement.Step())
         ThrowRecordDeleted();
-    // Also when memory runs out: an open statement holds a lock and takes no values.
+    // Also when memory runs out: an open statement holds a lock and accepts no values.
     const auto reset = qScopeGuard([&statement] { statement.Reset(); });
     Take(*query);
 }

@@ -5,25 +5,25 @@
 #include "platform/data/KeptStatements.h"
 #include "platform/data/RowQuery.h"
 
-// Values of fields of one row. Those that are loaded are what the album holds: a row that this
-// program changed since has none loaded.
+// Field values of one row as the album holds them: after any change by this program none count as
+// loaded.
 class LoadedRow
 {
 public:
     // Both must outlive it.
     LoadedRow(const Database& database, const TableLayout& layout);
 
-    // Goes over to another row, or anew to the same one: nothing of it is loaded.
+    // Turns to another row, or to the same one again, with nothing loaded.
     void Begin(qint64 row);
-    // Loads what a query that stands on the row has of it. Throws DatabaseError, and then nothing
-    // is loaded.
+    // Loads the fields that the query, which is on the row, selects. Throws DatabaseError; then
+    // nothing is loaded.
     void Take(const RowQuery& query);
 
     bool IsLoaded(int field) const { return IsFresh() && loaded_[std::size_t(field)]; }
-    // Loads the field, and anew those that are loaded: they are of one moment. Throws DatabaseError
-    // RecordDeleted when the row has gone.
+    // Loads the field, and reloads the others so that all are from the same moment. Throws
+    // DatabaseError RecordDeleted when the row is gone.
     void Load(int field);
-    // Of a field that is loaded; valid until another is.
+    // The value of a loaded field; valid until another is loaded.
     const FieldValue& At(int field) const { return values_[std::size_t(field)]; }
 
 private:
@@ -32,7 +32,7 @@ private:
     const Database& database_;
     const TableLayout& layout_;
     qint64 row_ = 0;        // the engine's row number
-    bool isLoaded_ = false; // loaded_ speaks of this row
+    bool isLoaded_ = false; // loaded_ applies to this row
     int changes_ = 0;       // the database's change count when it was loaded
     FieldMarks loaded_;
     std::vector<FieldValue> values_; // by field

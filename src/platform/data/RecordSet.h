@@ -18,8 +18,8 @@ public:
     RecordSet(const RecordSet&) = delete;
     RecordSet& operator=(const RecordSet&) = delete;
 
-    // While one lives, going from row to row keeps the engine's statement open, which is many times
-    // faster than asking anew for each row. Make one in the routine that loops.
+    // While one lives, moving from row to row keeps the engine's statement open, which is many
+    // times faster than a new query for each row. Create one in the routine that loops.
     class Walk
     {
     public:
@@ -34,8 +34,8 @@ public:
 
     const std::shared_ptr<Database>& GetDatabase() const { return database_; }
 
-    // The first row, or the next one after the current row, that meets the filter. When there is
-    // none, NoMatch is true and the current row stays. An empty filter is met by every row.
+    // Go to the first row, or to the next after the current one, that meets the filter. When there
+    // is none, NoMatch is true and the current row stays. Every row meets an empty filter.
     void FindFirst(const QString& filter);
     void FindNext(const QString& filter);
     bool NoMatch() const { return noMatch_; }
@@ -46,10 +46,10 @@ public:
     bool AtEnd() const { return cursor_.GetPlace() == TableCursor::Place::End; }
 
     bool IsEmpty();
-    qint64 RecordCount(); // reads the whole table; ask IsEmpty where that is meant
+    qint64 RecordCount(); // reads the whole table; use IsEmpty where that is enough
 
-    // Number of a field for the routines below, which take it in the place of its name in loops
-    // that count. Throws NoSuchField.
+    // Number of a field, which the routines below take instead of its name in loops where time
+    // matters. Throws NoSuchField.
     int FieldNumber(QStringView field) const;
     bool HasField(QStringView field) const { return layout_.Find(field) >= 0; }
 
@@ -65,7 +65,7 @@ public:
     QString TextOrEmpty(int field);
     QString TextOrEmpty(QStringView field) { return TextOrEmpty(FieldNumber(field)); }
 
-    // Changes gather in a buffer until Update; going to another row drops them.
+    // Changes are buffered until Update; moving to another row drops them.
     void Edit();
     // A new row has its identifier at once; fields not set get the table's defaults.
     void AddNew();
@@ -73,24 +73,24 @@ public:
     void Set(int field, const QString& text) { buffer_.Set(field, text); }
     void Set(QStringView field, const QString& text) { buffer_.Set(FieldNumber(field), text); }
     void Set(QStringView field, qint64 number) { buffer_.Set(FieldNumber(field), number); }
-    // Throws DuplicateKey, ReadOnly, DiskFull and the like; the buffer then stays. After a row was
-    // added the current row is the one before AddNew.
+    // Throws DuplicateKey, ReadOnly, DiskFull and the like; the buffer then stays. After an added
+    // row the current row is the one from before AddNew.
     void Update();
     void CancelUpdate();
-    // Afterwards there is no current row until the set is moved; FindNext and MoveNext go on from
-    // where the row was.
+    // Afterwards there is no current row until the set is moved; FindNext and MoveNext continue
+    // from where the row was.
     void Delete();
 
 private:
     const FieldValue& Value(int field);
-    // Column of the walk's statement where the field can be read; 0 when it is to be loaded.
+    // Column of the walk's statement that holds the field; 0 when it must be loaded.
     int OpenColumn(int field) const { return buffer_.IsOpen() ? 0 : cursor_.OpenColumn(field); }
 
     std::shared_ptr<Database> database_;
     TableLayout layout_;
     QByteArray table_; // quoted
     TableCursor cursor_;
-    LoadedRow row_; // that cursor_ is on
+    LoadedRow row_; // the row that cursor_ is on
     EditBuffer buffer_;
     bool noMatch_ = true;
 };

@@ -7,8 +7,8 @@
 #include <bitset>
 #include <vector>
 
-// Some fields of a table, by their numbers.
-using FieldMarks = std::bitset<TableLayout::mostFields>;
+// A set of a table's fields, by number.
+using FieldMarks = std::bitset<TableLayout::maxFields>;
 
 // Selects rows of one table: result column 0 is the engine's row number, the columns after it are
 // the fields that were marked.
@@ -16,7 +16,7 @@ class RowQuery
 {
 public:
     RowQuery() = default; // selects nothing until another one is assigned
-    // The condition is SQL, and may have an ORDER BY after it. Throws DatabaseError.
+    // The condition is SQL, optionally followed by ORDER BY. Throws DatabaseError.
     RowQuery(sqlite3* engine, const TableLayout& layout, const FieldMarks& fields,
              const QByteArray& condition);
 
@@ -26,7 +26,7 @@ public:
     const FieldMarks& Marks() const { return marks_; }
     // The fields in the order of their columns.
     const std::vector<int>& Fields() const { return fields_; }
-    // Result column of a field, 0 for one that is not selected.
+    // Result column of a field, 0 when it is not selected.
     int ColumnOf(int field) const { return columns_.empty() ? 0 : columns_[std::size_t(field)]; }
 
 private:

@@ -65,8 +65,8 @@ std::optional<QByteArray> TextOf(sqlite3_stmt* row, const char* column)
     return std::nullopt;
 }
 
-// The engine tells of each row of the schema before it parses the definition there. The parser
-// looks for interruptions at the first blank, which comes before anything that can do harm.
+// The engine reports each row of the schema before it parses the definition in it. Its parser
+// checks for interruption at the first blank, before anything that can do harm.
 int LookAtRow(unsigned, void* context, void* row, void*)
 {
     auto& watch = *static_cast<SchemaWatch*>(context);
@@ -75,7 +75,7 @@ int LookAtRow(unsigned, void* context, void* row, void*)
     if (!sql) // a row of the statistics that the engine reads afterwards
         return 0;
     const bool isPlain = sql->isEmpty() || IsPlainTable(*sql) || IsPlainIndex(*sql);
-    if (isPlain && ++watch.definitions <= mostSchemaObjects)
+    if (isPlain && ++watch.definitions <= maxSchemaObjects)
         return 0;
     if (!watch.refused)
         watch.refused = TextOf(statement, "name").value_or(QByteArray());
@@ -83,7 +83,7 @@ int LookAtRow(unsigned, void* context, void* row, void*)
     return 0;
 }
 
-// Has the engine read the schema, which it does once and then keeps until the file changes.
+// Makes the engine read the schema, which it keeps until the file changes.
 void LoadSchema(sqlite3* engine)
 {
     SchemaWatch watch{engine};
@@ -119,7 +119,7 @@ const char* CollationOf(sqlite3* engine, const QByteArray& table, const QByteArr
     return collation;
 }
 
-// A name that the engine does not know tells of an object that is defined under another one.
+// If the engine does not know a table's name, the table's definition gives another one.
 void CheckColumns(sqlite3* engine, const QByteArray& table)
 {
     bool isKnown = false;
@@ -134,7 +134,7 @@ void CheckColumns(sqlite3* engine, const QByteArray& table)
 
 void CheckIndexes(sqlite3* engine, const QByteArray& table)
 {
-    constexpr int expression = -2; // in the place of a column's number
+    constexpr int expression = -2; // instead of a column's number
     Statement indexes(engine, "PRAGMA index_list(" + QuotedName(table) + ')');
     while (indexes.Step()) {
         const QByteArray name = TextAt(indexes, 1);
@@ -147,13 +147,13 @@ void CheckIndexes(sqlite3* engine, const QByteArray& table)
     }
 }
 
-// Of what is defined, the tables. Each has a name and a place of its own.
+// The tables' names. Every object must have a name and a root page of its own.
 QList<QByteArray> ReadTables(sqlite3* engine)
 {
     const qint64 pages = PageCount(engine);
     QSet<qint64> roots;
     QList<QByteArray> tables;
-    // The engine knows this one by itself, under several names; no definition may claim one.
+    // The engine's own table under all its names; no definition may claim one.
     QSet<QByteArray> names{"sqlite_master", "sqlite_schema", "sqlite_temp_master",
                            "sqlite_temp_schema"};
     Statement objects(engine, "SELECT type, name, sql, rootpage FROM sqlite_master");
@@ -175,8 +175,8 @@ QList<QByteArray> ReadTables(sqlite3* engine)
 
 } // namespace
 
-// Tables are asked for by the names that the file gives them. As each of these is there once and is
-// known to the engine, no table is left out, even where a file gives its tables wrong names.
+// Tables are queried by the names in the file. As each name occurs once and is known to the engine,
+// no table is missed even if the file names its tables wrongly.
 void CheckSchema(sqlite3* engine)
 {
     LoadSchema(engine);

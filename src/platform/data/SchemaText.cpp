@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr qsizetype longestDefinition = 1 << 20; // bytes; an album's longest has about 500
+constexpr qsizetype longestDefinition = 1 << 20; // bytes; the longest in an album has about 500
 
-// The end of what begins here and is neither word nor sign: a quoted name or text, or a comment.
+// Length of the quoted name, quoted text or comment at the beginning; 0 when there is none.
 std::size_t EndOfQuoted(std::string_view sql)
 {
     std::string_view end;
@@ -27,7 +27,7 @@ std::size_t EndOfQuoted(std::string_view sql)
     return found == std::string_view::npos ? sql.size() : found + end.size();
 }
 
-// The definition without its quoted names and texts and its comments, each blank a single one.
+// The definition without quoted names, quoted texts and comments, with single blanks.
 QString Bare(const QByteArray& definition)
 {
     QByteArray bare;
@@ -42,9 +42,9 @@ QString Bare(const QByteArray& definition)
 
 } // namespace
 
-// The engine writes a definition back with exactly this beginning, whatever the author typed. None
-// of the words can be a name unless it is quoted. A default in parentheses may be a number or a
-// text, of which nothing is left here. What follows the columns changes how rows are kept.
+// The engine stores every definition with exactly this beginning, whatever the author typed. None
+// of the words can be an unquoted name. A default in parentheses may be a number or a text, which
+// Bare has removed. Options after the columns change how rows are stored.
 bool IsPlainTable(const QByteArray& sql)
 {
     static const QRegularExpression active(
@@ -57,7 +57,7 @@ bool IsPlainTable(const QByteArray& sql)
     return bare.endsWith(u')') && !bare.contains(active);
 }
 
-// A condition comes after the columns; a call or a query has parentheses of its own.
+// A condition would follow the columns; a call or a query would add parentheses.
 bool IsPlainIndex(const QByteArray& sql)
 {
     if ((!sql.startsWith("CREATE INDEX ") && !sql.startsWith("CREATE UNIQUE INDEX ")) ||

@@ -3,11 +3,11 @@
 
 #include <QByteArray>
 
-// What an album's file defines, judged by the definitions' text alone: the engine's parser has not
-// seen them yet, and some that no author could have had stored crash it.
+// Judges an album's definitions by their text alone: the engine's parser has not seen them yet, and
+// forged ones can crash it.
 
-// Columns, their types, simple defaults and keys. Nothing that is computed, checked or selected,
-// no rule for settling conflicts (which deletes rows unasked), and rows that have a number.
+// True for columns with types, simple defaults and keys. False for anything computed, checked or
+// selected, for conflict rules (which delete rows unasked), and for tables without row numbers.
 bool IsPlainTable(const QByteArray& sql);
-// Columns by their names, of all rows.
+// True for an index of plain columns over all rows.
 bool IsPlainIndex(const QByteArray& sql);

@@ -26,7 +26,7 @@ void DeletePattern(void* pattern)
     delete static_cast<LikePattern*>(pattern);
 }
 
-// The compiled pattern is kept beside the statement's argument, so a scan compiles it once.
+// The compiled pattern is stored with the statement's argument, so a scan compiles it once.
 template<LikePattern::Case caseRule>
 void EngineLike(sqlite3_context* context, int, sqlite3_value** arguments)
 {
@@ -43,7 +43,7 @@ void EngineLike(sqlite3_context* context, int, sqlite3_value** arguments)
     sqlite3_result_int(context, pattern->Matches(TextOf(arguments[1])));
 }
 
-// The values of a list, sorted for looking up. Written as JoinedForAnyOf writes them.
+// The values of a list made by JoinedForAnyOf, sorted for look-up.
 class ValueSet
 {
 public:
@@ -74,11 +74,11 @@ private:
     }
 
     std::string joined_;
-    std::vector<std::string_view> values_; // in joined_
+    std::vector<std::string_view> values_; // views of joined_
 };
 
-// What the engine keeps beside the statement's first argument, so that a scan makes it once; made
-// from that argument when there is none yet. None when memory is short.
+// The set stored with the statement's first argument, made from it at first use, so that a scan
+// makes it once. Null when memory is short.
 const ValueSet* KeptValues(sqlite3_context* context, sqlite3_value* argument)
 {
     if (const void* kept = sqlite3_get_auxdata(context, 0))
@@ -106,8 +106,8 @@ int CompareFoldedTexts(void*, int firstSize, const void* first, int secondSize, 
 
 } // namespace
 
-// Each value with its length in bytes before it: "4:Anna3:Bob". No character could divide them, for
-// a value may hold any.
+// Each value follows its length in bytes: "4:Anna3:Bob". No character could separate them, since a
+// value may contain any.
 QString JoinedForAnyOf(const QStringList& values)
 {
     QString joined;

@@ -14,7 +14,7 @@ void ThrowMoved()
 
 namespace {
 
-// Copying everything to another file tells only by its message why it failed.
+// A failed export to another file gives the reason only in its message.
 int CodeOf(sqlite3* engine, int code)
 {
     if (code != SQLITE_ERROR)
@@ -45,7 +45,7 @@ void ThrowEngineError(sqlite3* engine, int code)
         throw DatabaseError(DatabaseError::DiskFull,
                             DatabaseError::tr("The disk is full; the last change was not made."));
     case SQLITE_READONLY:
-        // Said at the first change; reading goes on in the file that was opened.
+        // Reported at the first change; reading continues in the file that was opened.
         if (sqlite3_extended_errcode(engine) == SQLITE_READONLY_DBMOVED)
             ThrowMoved();
         [[fallthrough]];
@@ -121,7 +121,7 @@ void Statement::BindNull(int parameter)
 
 void Statement::BindUtf8(int parameter, QByteArrayView text)
 {
-    // Without an address the engine would take an empty text for none.
+    // For a null pointer the engine would bind Null instead of an empty text.
     const char* bytes = text.isEmpty() ? "" : text.data();
     Check(sqlite3_bind_text64(handle_, parameter, bytes, sqlite3_uint64(text.size()), SQLITE_STATIC,
                               SQLITE_UTF8));
@@ -143,7 +143,7 @@ bool Statement::Step()
     if (code == SQLITE_ROW)
         return true;
     sqlite3* engine = sqlite3_db_handle(handle_);
-    // Resetting repeats the failure's code, which is why the message is fetched only afterwards.
+    // Resetting repeats the failure's code, so the message is fetched only afterwards.
     sqlite3_reset(handle_);
     if (code != SQLITE_DONE)
         ThrowEngineError(engine, code);

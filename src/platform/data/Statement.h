@@ -12,8 +12,8 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-// A value that is neither number nor text. Only whoever asks for it is refused: one bad field must
-// not keep its row from being found.
+// A value that is neither number nor text. Only reading it fails: one bad field must not keep its
+// row from being found.
 struct UnreadableValue
 {
 };
@@ -21,7 +21,7 @@ struct UnreadableValue
 // A field's value: nothing (Null), a whole number or a text.
 using FieldValue = std::variant<std::monostate, qint64, QString, UnreadableValue>;
 
-// Turns the engine's last result code into the error that the program knows, and throws it.
+// Throws the DatabaseError for the engine's last result code.
 [[noreturn]] void ThrowEngineError(sqlite3* engine, int code);
 // The open file is no longer the one at its path.
 [[noreturn]] void ThrowMoved();
@@ -40,8 +40,8 @@ public:
 
     bool IsPrepared() const { return handle_ != nullptr; }
 
-    // Bound values stay until they are bound anew; texts are copied. They throw DatabaseError, and
-    // TooComplex for a text above the engine's limit.
+    // Values stay bound until they are replaced; texts are copied. Throw DatabaseError, TooComplex
+    // for a text above the engine's limit.
     void Bind(int parameter, qint64 number);
     void Bind(int parameter, const QString& text);
     void Bind(int parameter, const FieldValue& value);
@@ -49,7 +49,7 @@ public:
     // Not copied: it must stay until the statement has run.
     void BindUtf8(int parameter, QByteArrayView text);
 
-    // True when a row stands ready, false after the last; throws DatabaseError. A statement that
+    // True when a row is ready, false after the last; throws DatabaseError. A statement that
     // returned false or threw has been reset and holds no lock.
     bool Step();
     void Reset() noexcept;

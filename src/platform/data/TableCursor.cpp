@@ -63,8 +63,8 @@ bool TableCursor::GoTo(const QString& filter, qint64 after, LoadedRow& found)
     return true;
 }
 
-// A row that this program changed may have moved in or out of the filter, and a field asked for
-// meanwhile is not in the open statement: both begin a new run after the current row.
+// A row that this program changed may now meet the filter or no longer meet it, and a newly wanted
+// field is not in the open statement: in both cases a new run starts after the current row.
 bool TableCursor::CanGoOn(const QString& filter) const
 {
     return open_ && IsFresh() && !query_->isOutdated && filter == filter_;
@@ -86,7 +86,7 @@ void TableCursor::Translate(const QString& filter)
     isTranslated_ = true;
 }
 
-// Ordered by row number always: an index would return rows in an order of its own.
+// Always ordered by row number: an index would return rows in its own order.
 void TableCursor::Prepare()
 {
     if (!query_->isOutdated)
@@ -110,7 +110,7 @@ void TableCursor::AcceptRow(LoadedRow& found)
         open_ = true;
         return;
     }
-    // Also when memory runs out: an open statement holds a lock and takes no values.
+    // Also when memory runs out: an open statement holds a lock and accepts no values.
     const auto reset = qScopeGuard([&statement] { statement.Reset(); });
     found.Take(query_->rows);
 }
@@ -121,7 +121,7 @@ void TableCursor::EndWalk()
         CloseStatement();
 }
 
-// The fields of the current row are gone with the statement; they are loaded anew when asked for.
+// The fields of the current row are lost with the statement; they are loaded when needed.
 void TableCursor::CloseStatement()
 {
     if (open_)

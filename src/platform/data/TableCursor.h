@@ -7,27 +7,26 @@
 
 class LoadedRow;
 
-// A place among the rows of one table: on a row, where a row was before it was deleted, or past the
-// last. It changes only when a row was found to stand on, or when it is told to. A statement stays
-// open from row to row only while a walk lives.
+// A cursor in one table: on a row, where a deleted row was, or past the last. It moves only when it
+// finds a row, or is told to. A statement stays open from row to row only while a walk lives.
 class TableCursor
 {
 public:
     enum class Place { Row, DeletedRow, End };
 
-    // At the end. Both must outlive it.
+    // Starts at the end. Both must outlive it.
     TableCursor(const Database& database, const TableLayout& layout);
 
     Place GetPlace() const { return place_; }
     // The engine's row number, also that of a row just deleted.
     qint64 GetRow() const { return row_; }
-    // Throw NoCurrentRecord at the end, the latter also RecordDeleted.
+    // Throw NoCurrentRecord at the end; RequireRow also RecordDeleted.
     void RequirePlace() const;
     void RequireRow() const;
 
-    // Goes to the first row, or to the next one after its place, that meets the filter; false, and
-    // nothing moved, when there is none. The fields that the filter's query selects of a row found
-    // outside a walk are loaded into it at once. Throws DatabaseError.
+    // Goes to the first row, or to the next one, that meets the filter; false, without moving, when
+    // there is none. Outside a walk the fields that the filter's query selects are loaded into
+    // found at once. Throws DatabaseError.
     bool GoToFirst(const QString& filter, LoadedRow& found);
     bool GoToNext(const QString& filter, LoadedRow& found);
     void GoToEnd() { place_ = Place::End; }
@@ -36,7 +35,7 @@ public:
     void BeginWalk() { ++walks_; }
     void EndWalk();
 
-    // Rows found by the same filter later on bring this field with them.
+    // Rows that the same filter finds from now on include this field.
     void Want(int field);
     // Column of the open statement that holds the current row's field as the album has it; 0 when
     // there is none.
@@ -47,8 +46,8 @@ public:
     const Statement& OpenStatement() const { return query_->rows.GetStatement(); }
 
 private:
-    // A filter's shape with its statement, which selects the fields that were asked for on rows
-    // found by it so far: most routines ask for the same one or two every time.
+    // A filter's condition with its statement, which selects the fields wanted so far on rows that
+    // it found: most routines want the same one or two every time.
     struct Query
     {
         QByteArray condition;
@@ -78,6 +77,6 @@ private:
     KeptStatements<QByteArray, Query> queries_;
 
     int walks_ = 0;
-    bool open_ = false; // query_'s statement stands on the current row
+    bool open_ = false; // query_'s statement is on the current row
     int changes_ = -1;  // the database's change count when the row was found
 };

@@ -41,7 +41,7 @@ TableLayout::TableLayout(sqlite3* engine, const QString& table) : table_(table.t
         throw DatabaseError(DatabaseError::NoSuchTable,
                             DatabaseError::tr("The album has no table '%1'.").arg(table));
     }
-    if (Count() > mostFields) {
+    if (Count() > maxFields) {
         throw DatabaseError(DatabaseError::TooComplex,
                             DatabaseError::tr("Table '%1' has too many fields.").arg(table));
     }

@@ -15,14 +15,14 @@ public:
     struct Field
     {
         QByteArray name;  // for SQL
-        QString text;     // the same
+        QString text;     // the same, for callers
         bool isNumber;    // whole number, else text
         bool ignoresCase; // how its text compares; picture paths compare exactly
         bool isIdentity;  // assigned when a row is added
     };
 
-    // Above what an engine gives a table, unless it was built for more.
-    static constexpr int mostFields = 2048;
+    // Above the limit of engines, unless they were built for more.
+    static constexpr int maxFields = 2048;
 
     // Throws DatabaseError NoSuchTable, or TooComplex for more fields than that.
     TableLayout(sqlite3* engine, const QString& table);
@@ -31,7 +31,7 @@ public:
     int Count() const { return int(fields_.size()); }
     const Field& At(int field) const { return fields_[std::size_t(field)]; }
 
-    // Number of the field of that name in any letter case, -1 when there is none.
+    // Number of the field with that name, ignoring case; -1 when there is none.
     int Find(QStringView name) const;
     // Number of the field that identifies rows, -1 when there is none.
     int GetIdentity() const { return identity_; }

@@ -7,8 +7,8 @@
 
 class Database;
 
-// While one lives, changed rows are committed together: every so many rows, and at its end. Batches
-// may lie inside each other; the outermost one counts. What was done before an error stays done.
+// While one lives, changed rows are committed together: after every so many rows, and at its end.
+// Batches may be nested; only the outermost commits. What was done before an error stays done.
 class WriteBatch
 {
 public:
@@ -18,18 +18,18 @@ public:
         AtItsEnd
     };
 
-    // Throws DatabaseError InUse. Inside another batch commits counts for nothing.
+    // Throws DatabaseError InUse. In a nested batch commits is ignored.
     explicit WriteBatch(std::shared_ptr<Database> database, Commits commits = Commits::OnItsWay);
     ~WriteBatch();
     WriteBatch(const WriteBatch&) = delete;
     WriteBatch& operator=(const WriteBatch&) = delete;
 
-    // Call after each row: commits when enough has gathered, so that neither a long loop nor
-    // another program waits for ever. Throws DatabaseError.
+    // Call after each row: commits when enough has gathered, so that other programs need not wait
+    // for a long loop to end. Throws DatabaseError.
     void RowDone();
 
-    // Commits what is left and reports failure; the destructor of a batch that commits on its way
-    // does so too, but in silence.
+    // Commits what is left and reports failure; the destructor of an OnItsWay batch does the same
+    // silently.
     void Finish();
 
 private:

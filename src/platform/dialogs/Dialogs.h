@@ -6,8 +6,8 @@
 #include <functional>
 #include <optional>
 
-// The one door to message boxes, input boxes and file dialogs. Whoever asks needs to know no
-// window; tests put a script behind the door.
+// All message boxes, input boxes and file dialogs are opened here. Callers need not know a window;
+// tests install a script instead.
 class Dialogs
 {
 public:
@@ -17,12 +17,12 @@ public:
 
     struct Box
     {
-        QString text; // shown as it is, never as markup
+        QString text; // shown literally, never as markup
         Icon icon = Icon::None;
         Buttons buttons = Buttons::Ok;
         std::optional<Answer> defaultAnswer = {}; // the platform's choice when not given
         QString title = {};                       // the program's name when empty
-        // On the buttons Yes and No, where other words say better what they do.
+        // Captions for the buttons Yes and No where other words are clearer.
         QString yes = {};
         QString no = {};
     };
@@ -30,7 +30,7 @@ public:
     struct Input
     {
         QString prompt;
-        QString note = {}; // above the prompt: what was wrong with the last answer
+        QString note = {}; // shown above the prompt: what was wrong with the last answer
         QString proposal = {};
         QString title = {}; // the program's name when empty
         bool isPassword = false;
@@ -40,7 +40,7 @@ public:
     {
         QString title;
         QString filter;    // "Album|*.alb": a name, a bar, patterns separated by ";"
-        QString folder;    // where to begin; the current folder when empty
+        QString folder;    // where to start; the current folder when empty
         QString name = {}; // proposed for a file to save, without its folder
     };
 
@@ -53,21 +53,21 @@ public:
     virtual Answer Ask(const Box& box) = 0;
     // Null (and so empty) when the box was cancelled; not null when an empty text was confirmed.
     virtual QString AskText(const Input& input) = 0;
-    // The chosen path, empty when cancelled. AskSaveFile has asked before it returns an existing
-    // file, and has added the filter's extension to a name that does not end in it.
+    // The chosen path, empty when cancelled. AskSaveFile asks before it returns an existing file,
+    // and adds the filter's extension to a name without it.
     virtual QString AskOpenFile(const FileChoice& choice) = 0;
     virtual QString AskSaveFile(const FileChoice& choice) = 0;
 
-    // Does the work and returns when it is done; throws what the work throws. The text tells what
-    // is going on. Windows stay alive meanwhile, but take no keys or clicks. The work runs in a
-    // thread of its own: it asks and tells nothing, and touches nothing that a window shows.
-    // Without a screen it simply runs.
+    // Does the work and returns when it is done; throws what the work throws. The text says what is
+    // going on. Windows stay alive, but take no keys or clicks. The work runs in its own thread: it
+    // must open no boxes and touch nothing that a window shows. The default runs it in the caller's
+    // thread.
     virtual void RunLong(const QString& text, bool canStop, const Work& work);
 
-    // The dialogs in use. Install before the first use; the caller keeps them alive.
+    // The installed dialogs. Install before the first use; the caller keeps them alive.
     static Dialogs& Door();
     static void Install(Dialogs* dialogs);
 };
 
-// The commonest boxes.
+// A message with an Ok button.
 void Tell(const QString& text, Dialogs::Icon icon = Dialogs::Icon::Information);

@@ -5,9 +5,9 @@
 #include <functional>
 #include <utility>
 
-// The edge where errors meet the user: whatever an action throws is shown in a critical message box
-// and the program goes on. Exceptions must not pass through the toolkit's own frames, so every
-// handler is connected through Guarded.
+// Where errors reach the user: whatever an action throws is shown in a critical message box and the
+// program goes on. Exceptions must not pass through the toolkit's own frames, so every handler is
+// connected through Guarded.
 
 void ReportError(const std::exception& error);
 

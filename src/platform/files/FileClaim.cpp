@@ -9,14 +9,14 @@
 
 namespace {
 
-// In the user's own folder: nobody else can put a file or a link there.
+// In the user's own folder, where nobody else can put a file or a link.
 QString FolderOfClaims()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
            QStringLiteral("/lumenark");
 }
 
-// The same for each name that leads to the file.
+// The same for every path that leads to the file.
 QString ClaimOf(const QString& path)
 {
     const QString canonical = QFileInfo(path).canonicalFilePath();
@@ -33,7 +33,7 @@ FileClaim::FileClaim(const QString& path, const std::function<void()>& onCalled)
     call_ = claim + QLatin1String(".call");
     QDir().mkpath(FolderOfClaims());
     lock_ = std::make_unique<QLockFile>(claim);
-    lock_->setStaleLockTime(0); // however long it is held
+    lock_->setStaleLockTime(0); // valid however long it is held
     if (lock_->tryLock(0))
         TakeCalls(onCalled);
     else
@@ -55,7 +55,7 @@ void FileClaim::TakeCalls(const std::function<void()>& onCalled)
     watcher_ = std::make_unique<QFileSystemWatcher>(QStringList(call_));
     QObject::connect(watcher_.get(), &QFileSystemWatcher::fileChanged, watcher_.get(),
                      [path = call_, onCalled] {
-                         // Emptying it is a change, too.
+                         // Emptying it is also a change.
                          if (QFileInfo(path).size() > 0 && QFile::resize(path, 0))
                              onCalled();
                      });

@@ -8,8 +8,8 @@
 #include <functional>
 #include <memory>
 
-// Tells the other running copies of the program on this computer, for the same user, that this one
-// has a file open. It keeps nobody from the file. Whatever ends the program ends the claim.
+// Tells the same user's other running copies of the program on this computer that this one has a
+// file open. It does not lock the file. The claim ends with the program, however that ends.
 class FileClaim
 {
 public:
@@ -19,7 +19,7 @@ public:
     FileClaim(const FileClaim&) = delete;
     FileClaim& operator=(const FileClaim&) = delete;
 
-    // False when another running copy has the file. True also when that cannot be told.
+    // False when another running copy has the file. Also true when that is unknown.
     bool IsOurs() const { return isOurs_; }
 
     // Asks the copy that has the file to show itself.

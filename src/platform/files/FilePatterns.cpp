@@ -5,7 +5,7 @@
 
 namespace {
 
-// The character alone, or the list of both its letter cases.
+// The character itself, or a list of its two letter cases.
 QString AsLikeCharacter(char32_t character)
 {
     if (character == U'[' || character == U'#')

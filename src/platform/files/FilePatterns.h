@@ -8,9 +8,9 @@
 
 #include <vector>
 
-// Patterns of file names, as file lists take them: "*.jpg;*.gif". * stands for any run of
-// characters and ? for any one, in either letter case; everything else stands for itself. "*.*"
-// fits every name, also one without a dot. Without any pattern no name fits.
+// File name patterns of file lists: "*.jpg;*.gif". * stands for any run of characters and ? for any
+// one; everything else stands for itself, ignoring case. "*.*" fits every name, even one without a
+// dot. Without any pattern no name fits.
 class FilePatterns
 {
 public:
@@ -22,9 +22,9 @@ private:
     std::vector<LikePattern> patterns_;
 };
 
-// The same patterns as LIKE takes them, whether or not it regards letter case.
+// The same patterns for LIKE, whether or not it ignores case.
 QString AsLikePatterns(const QString& patterns);
 
-// What stands between the ";", and the whole text before it, because the name of a file may hold
-// ";" as well. A ";" in a list of characters does not divide.
+// The whole text, because a file name may contain ";", followed by its parts between the ";". A ";"
+// in a list of characters does not separate.
 QStringList SplitPatterns(const QString& patterns);

@@ -21,12 +21,12 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr char folderPattern[] = ".lumenark-";
-constexpr char lockName[] = "lumenark-work"; // tells our folders from others of such a name
-constexpr char fileName[] = "new";           // all that is made in the folder begins so
-constexpr char asideName[] = "old";          // and all that is set aside in it so
+constexpr char lockName[] = "lumenark-work"; // tells our folders from others with such a name
+constexpr char fileName[] = "new";           // beginning of every file made in the folder
+constexpr char asideName[] = "old";          // beginning of every file set aside in it
 constexpr std::array journalEndings{"-journal", "-wal", "-shm"};
-constexpr int mostFolders = 10; // that others may take away
-constexpr int mostLinks = 40;   // in a row; as many as systems follow
+constexpr int maxFolders = 10; // attempts; another program may remove a folder
+constexpr int maxLinks = 40;   // in a row; systems follow as many
 
 fs::path ToPath(const QString& path)
 {
@@ -43,12 +43,12 @@ QString Inside(const QString& folder, const char* name)
     throw std::system_error(error, std::generic_category());
 }
 
-// The file that is meant, which need not be there: links lead to it also where they dangle.
+// The file that the place leads to, which need not exist: dangling links are followed too.
 QString ResolvePlace(const QString& place)
 {
     fs::path path = fs::absolute(ToPath(place));
     for (int links = 0; fs::is_symlink(fs::symlink_status(path)); ++links) {
-        if (links == mostLinks)
+        if (links == maxLinks)
             Fail(ELOOP);
         path = path.parent_path() / fs::read_symlink(path);
     }
@@ -58,7 +58,7 @@ QString ResolvePlace(const QString& place)
     return QString::fromStdU16String(path.u16string());
 }
 
-// A file that its owner protected is meant to stay, also where the user may replace everything.
+// A file that its owner protected must stay, even for a user who may replace everything.
 void RequireReplaceable(const QFileInfo& file)
 {
     constexpr auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
@@ -66,7 +66,7 @@ void RequireReplaceable(const QFileInfo& file)
         Fail(EACCES);
 }
 
-// Only the user may look into it.
+// Makes a folder that only the user can open.
 QString MakeFolder(const QString& parent)
 {
     QByteArray name = QFile::encodeName(Inside(parent, folderPattern) + QLatin1String("XXXXXX"));
@@ -75,7 +75,7 @@ QString MakeFolder(const QString& parent)
     return QFile::decodeName(name);
 }
 
-// A program that is still running, here or on another computer, holds its lock.
+// Null while a running program, here or on another computer, holds the lock.
 std::unique_ptr<QLockFile> LockFolder(const QString& folder)
 {
     auto lock = std::make_unique<QLockFile>(Inside(folder, lockName));
@@ -85,7 +85,7 @@ std::unique_ptr<QLockFile> LockFolder(const QString& folder)
     return lock;
 }
 
-// Only what is made here is removed, so a folder that holds anything else stays.
+// Removes only files made here, so a folder that holds anything else stays.
 void RemoveFolder(const QString& folder, std::unique_ptr<QLockFile> lock)
 {
     const QDir contents(folder);
@@ -97,8 +97,8 @@ void RemoveFolder(const QString& folder, std::unique_ptr<QLockFile> lock)
     QDir().rmdir(folder);
 }
 
-// A program that is killed between making its lock and writing its number into it leaves one that
-// nobody can tell from a lock in use, but for its age.
+// A program killed between creating its lock and writing its number into it leaves one that only
+// its age distinguishes from a lock in use.
 void RemoveUnfilledLock(const QString& path)
 {
     constexpr qint64 longestFilling = 60; // seconds
@@ -119,8 +119,8 @@ bool ClearFolders(const QString& parent)
         RemoveUnfilledLock(Inside(folder, lockName));
         const QFileInfo mark(Inside(folder, lockName));
         if (!mark.isFile() || mark.isSymLink()) {
-            // One that a program was ended in when it had just made it, or nearly removed it, is
-            // empty; removing goes no further. Who works there makes another.
+            // A program killed just after making the folder, or just before removing it, leaves it
+            // empty; rmdir removes only an empty one. A program at work in it makes another.
             QDir().rmdir(folder);
             continue;
         }
@@ -132,7 +132,7 @@ bool ClearFolders(const QString& parent)
     return isAnyCleared;
 }
 
-// Journals of a file that is replaced would be played back into the new one.
+// The engine would play a replaced file's journals back into the new one.
 void MoveJournals(const QString& from, const QString& to, std::error_code& error)
 {
     for (const char* ending : journalEndings) {
@@ -161,8 +161,8 @@ FileReplacement::FileReplacement(const QString& place) : target_(ResolvePlace(pl
     const QString parent = QFileInfo(target_).absolutePath();
     RequireReplaceable(QFileInfo(target_));
     ClearFolders(parent);
-    // Until it holds the lock, another program may take the folder for one that was left.
-    for (int trial = 0; !lock_ && trial < mostFolders && !QFileInfo::exists(folder_); ++trial) {
+    // Until it is locked, another program may take the folder for a leftover.
+    for (int trial = 0; !lock_ && trial < maxFolders && !QFileInfo::exists(folder_); ++trial) {
         folder_ = MakeFolder(parent);
         lock_ = LockFolder(folder_);
     }
@@ -187,7 +187,7 @@ QString FileReplacement::GetHelperPath() const
     return path_ + QLatin1String("-helper");
 }
 
-// The permissions are there before the first byte is.
+// Sets the permissions before the first byte is written.
 void FileReplacement::MakeFile()
 {
     struct stat replaced = {};
@@ -198,7 +198,7 @@ void FileReplacement::MakeFile()
     if (file < 0)
         Fail(errno);
     mode_t mode = replaced.st_mode & 0777;
-    // Another group than the old file's does not get its rights.
+    // If the file cannot have the old file's group, its own group gets no rights.
     if (replaces && fchown(file, uid_t(-1), replaced.st_gid) != 0)
         mode &= ~mode_t(S_IRWXG);
     const bool done = !replaces || fchmod(file, mode) == 0;
@@ -233,13 +233,13 @@ void FileReplacement::Commit(Taken taken)
     std::error_code error;
     if (taken == Taken::Replace)
         fs::rename(ToPath(path_), ToPath(target_), error);
-    else if (!QFile::rename(path_, target_)) // refuses where a file has come meanwhile
+    else if (!QFile::rename(path_, target_)) // fails where a file now exists
         error = std::make_error_code(std::errc::file_exists);
     if (error) {
         PutJournalsBack();
         throw std::system_error(error);
     }
-    // The file has its name by now, whatever a file system that knows no such thing says.
+    // The file is in its place, even if the file system cannot sync a folder.
     try {
         WriteThrough(QFileInfo(target_).absolutePath(), O_RDONLY);
     } catch (const std::system_error&) {

@@ -38,7 +38,7 @@ bool ComesBefore(const QString& first, const QString& second)
     return order != 0 ? order < 0 : first < second;
 }
 
-// The kind of an entry comes with its name; only links are looked at one by one.
+// An entry's kind comes with its name; only links need a look-up each.
 template<typename IsMeant>
 FolderListing List(const QString& folder, IsMeant isMeant)
 {

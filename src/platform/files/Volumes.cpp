@@ -7,7 +7,7 @@
 
 namespace {
 
-// Kinds that hold no files of users, or hold them only until the computer is switched off.
+// Kinds that hold no user files, or only until the computer is switched off.
 bool IsPseudo(const QStorageInfo& volume)
 {
     static const QByteArrayList kinds{
@@ -22,7 +22,7 @@ bool IsPseudo(const QStorageInfo& volume)
 
 QStringList MountedVolumes()
 {
-    // Always there, also where the system does not tell of it, as in a changed root.
+    // Always there, even where the system does not list it, as after chroot.
     QStringList roots{QDir::toNativeSeparators(QDir::rootPath())};
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         const QString root = QDir::toNativeSeparators(volume.rootPath());

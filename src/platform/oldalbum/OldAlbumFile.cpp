@@ -12,18 +12,18 @@
 
 namespace {
 
-// Of one file altogether: milliseconds that failing readers may keep silent, and how often one is
-// started again. A sound file needs neither.
+// For a whole file: milliseconds that failing readers may be silent, and how often they are
+// restarted. A sound file needs neither.
 constexpr int patienceOfFile = 6000;
-constexpr int mostRestarts = 40;
+constexpr int maxRestarts = 40;
 
-// Of one file altogether. Sound texts are at most twice as long here as in the file, where they may
-// be packed; values that take a bit or none there take five bytes. Rows or tables that all claim
-// the same piece of the file can be far more.
+// For a whole file. Texts of a sound file are at most twice as long here as in the file, where they
+// may be packed; values of one bit or none take five bytes. Rows or tables that all claim the same
+// part of the file can be far more.
 constexpr qint64 volumeFactor = 40;
 constexpr qint64 volumeBase = 4 * 1024 * 1024;
 
-constexpr qsizetype mostTables = 10000;
+constexpr qsizetype maxTables = 10000;
 
 OldValue TakeValue(FrameContents& contents)
 {
@@ -39,19 +39,19 @@ OldValue TakeValue(FrameContents& contents)
 
 } // namespace
 
-// How far the reading of a table has come, over all runs of the reader.
+// Progress with a table over all runs of the reader.
 struct OldAlbumFile::Progress
 {
     Outcome outcome;
     qsizetype fields = 0;
     quint32 nextPage = 0;
     quint32 nextRow = 0;
-    bool isTrying = false; // the next row was announced and did not come yet
+    bool isTrying = false; // the next row was announced, but has not come yet
     bool careful = false;
-    bool isRest = false; // rows on pages that the table's map leaves out
+    bool isRest = false; // reading the pages that the table's map leaves out
     std::vector<OldValue> values;
 
-    void MoveBehind(quint32 page, quint32 row)
+    void MovePast(quint32 page, quint32 row)
     {
         nextPage = page;
         nextRow = row + 1;
@@ -75,7 +75,7 @@ OldAlbumFile::OldAlbumFile(const QString& path)
                 .arg(QDir::toNativeSeparators(path)));
 }
 
-// False when the list broke off.
+// False when the list is incomplete.
 bool OldAlbumFile::ReadList(bool wholeFile)
 {
     QStringList arguments{QStringLiteral("tables"), path_};
@@ -86,7 +86,7 @@ bool OldAlbumFile::ReadList(bool wholeFile)
         FrameContents contents(frame->contents);
         if (frame->kind == OldAlbumStream::Header)
             hasPassword_ = contents.Number() != 0;
-        else if (frame->kind == OldAlbumStream::Table && tables_.size() < mostTables) {
+        else if (frame->kind == OldAlbumStream::Table && tables_.size() < maxTables) {
             const quint32 page = contents.Number();
             tables_.push_back({page, contents.Text()});
         } else if (frame->kind == OldAlbumStream::End) {
@@ -117,7 +117,7 @@ OldAlbumFile::Outcome OldAlbumFile::ReadTable(const Table& table, OldTableVisito
     const qint64 rows = outcome.rows;
     if (!outcome.isWhole || outcome.mapIsDamaged || rows + outcome.lostRows >= outcome.statedRows)
         return outcome;
-    // Some rows did not come: perhaps the map lacks their pages.
+    // Some rows are missing: perhaps the map lacks their pages.
     progress.isRest = true;
     progress.nextPage = progress.nextRow = 0;
     ReadToEnd(table, progress, visitor);
@@ -134,7 +134,7 @@ bool OldAlbumFile::ReadToEnd(const Table& table, Progress& progress, OldTableVis
     return true;
 }
 
-// False when the reader broke off.
+// False when the reader stopped early.
 bool OldAlbumFile::RunReader(const Table& table, Progress& progress, OldTableVisitor& visitor)
 {
     QStringList arguments{QStringLiteral("rows"), path_, QString::number(table.page),
@@ -150,14 +150,14 @@ bool OldAlbumFile::RunReader(const Table& table, Progress& progress, OldTableVis
     while (const auto frame = reader.Next(patience_)) {
         volume_ = earlier + reader.GetVolume();
         if (volume_ > volumeBase + volumeFactor * size_) {
-            restarts_ = mostRestarts;
+            restarts_ = maxRestarts;
             return false;
         }
         if (TakeFrame(frame->kind, frame->contents, progress, visitor))
             return true;
     }
     if (reader.Finish() == OldAlbumStream::TableUnreadable)
-        progress.outcome.mapIsDamaged = progress.careful = true; // nothing else is worth a try
+        progress.outcome.mapIsDamaged = progress.careful = true; // nothing else can help
     return false;
 }
 
@@ -196,7 +196,7 @@ bool OldAlbumFile::TakeFrame(OldAlbumStream::Frame kind, QByteArrayView bytes, P
         progress.isTrying = true;
         return false;
     }
-    // A page that the map leaves out may be one that was given up: no more than the stated rows.
+    // A page that the map leaves out may be obsolete: take no more than the stated rows.
     const bool isSurplus = progress.isRest && progress.outcome.rows >= progress.outcome.statedRows;
     if (kind == OldAlbumStream::Row && progress.outcome.hasFields && !isSurplus) {
         progress.values.clear();
@@ -207,23 +207,23 @@ bool OldAlbumFile::TakeFrame(OldAlbumStream::Frame kind, QByteArrayView bytes, P
     } else if (kind == OldAlbumStream::LostRow && !isSurplus) {
         ++progress.outcome.lostRows;
     }
-    progress.MoveBehind(page, row);
+    progress.MovePast(page, row);
     return false;
 }
 
-// A reader that broke off is first started again from the last row that came, announcing each row
-// that it tries; then behind the row that it broke off at; then, where it broke off between rows,
-// without the table's map. False when nothing is left to try.
+// A reader that stopped early is first restarted after the last row that came, announcing each row
+// that it tries; then after the row where it stopped; then, if it stopped between rows, without the
+// table's map. False when nothing is left to try.
 bool OldAlbumFile::PlanNextRun(Progress& progress)
 {
-    if (patience_ <= 0 || restarts_ >= mostRestarts)
+    if (patience_ <= 0 || restarts_ >= maxRestarts)
         return false;
     ++restarts_;
     if (!progress.careful) {
         progress.careful = true;
     } else if (progress.isTrying) {
         ++progress.outcome.lostRows;
-        progress.MoveBehind(progress.nextPage, progress.nextRow);
+        progress.MovePast(progress.nextPage, progress.nextRow);
     } else if (!progress.outcome.mapIsDamaged && !progress.isRest) {
         progress.outcome.mapIsDamaged = true;
     } else {

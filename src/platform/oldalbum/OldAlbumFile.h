@@ -11,7 +11,7 @@
 
 class ReaderProcess;
 
-// A field's value in a former album.
+// A field's value in an album of the former file format.
 struct OldValue
 {
     enum class State { Null, Whole, Cut, Unreadable };
@@ -25,15 +25,15 @@ class OldTableVisitor
 {
 public:
     virtual ~OldTableVisitor() = default;
-    // Once, before all rows. lastNumber is the last one that was given to a row of the table by
-    // the engine of then, 0 when none was.
+    // Called once, before all rows. lastNumber is the last number that the former engine gave to a
+    // row of the table, 0 when it gave none.
     virtual void BeginTable(const QStringList& fields, qint64 lastNumber) = 0;
     virtual void TakeRow(const std::vector<OldValue>& values) = 0;
 };
 
-// An album in the former file format. Nothing of it is read in this process: the reader that is
-// started for each table may crash or hang on a damaged file, is started again behind the place
-// where that happened, and is given up when it fails too often. The file is never written.
+// An album in the former file format. It is not read in this process: a reader is started for each
+// table. When that crashes or hangs on a damaged file, it is restarted after that place, and given
+// up when it fails too often. The file is never written.
 class OldAlbumFile
 {
 public:
@@ -43,29 +43,29 @@ public:
         QString name;
     };
 
-    // What became of a table.
+    // The result of reading a table.
     struct Outcome
     {
         bool isWhole = false;      // read to its end
         bool hasFields = false;    // BeginTable was called
-        bool mapIsDamaged = false; // rows were looked for in the whole file
-        qint64 statedRows = 0;     // 0 also where the file was not closed properly
+        bool mapIsDamaged = false; // the whole file was searched for rows
+        qint64 statedRows = 0;     // also 0 when the file was not closed properly
         qint64 rows = 0;
         qint64 lostRows = 0;
     };
 
-    // Reads the list of tables. Throws DatabaseError: NotADatabase for a version that is not read
-    // or a damaged first page, Damaged, CannotOpen.
+    // Reads the list of tables. Throws DatabaseError: NotADatabase for an unknown version or a
+    // damaged first page, Damaged, CannotOpen.
     explicit OldAlbumFile(const QString& path);
 
     const QString& GetPath() const { return path_; }
     bool HasPassword() const { return hasPassword_; }
     bool PasswordFits(const QString& password) const;
-    // The list itself was damaged, so that tables may be missing in it.
+    // Whether the list itself was damaged, so that tables may be missing.
     bool ListIsDamaged() const { return listIsDamaged_; }
     const std::vector<Table>& GetTables() const { return tables_; }
 
-    // What the visitor throws passes through.
+    // Passes on what the visitor throws.
     Outcome ReadTable(const Table& table, OldTableVisitor& visitor);
 
 private:
@@ -85,5 +85,5 @@ private:
     std::vector<Table> tables_;
     int patience_;
     int restarts_ = 0;
-    qint64 volume_ = 0; // bytes that all readers wrote
+    qint64 volume_ = 0; // bytes written by all readers
 };

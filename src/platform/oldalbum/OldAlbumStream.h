@@ -4,31 +4,31 @@
 #include <cstddef>
 #include <cstdint>
 
-// What the reader of former albums writes to its standard output, for the program that started it.
-// A frame is its kind (one byte), the size of what follows (four bytes), and that. All numbers are
-// 32 bits, least byte first; texts are UTF-8 behind their size.
+// The standard output of the reader of former albums, read by the program that started it. A frame
+// is its kind (one byte), the size of its contents (four bytes) and the contents. All numbers are
+// 32-bit little-endian; texts are their size, then UTF-8.
 namespace OldAlbumStream {
 
 enum Frame : unsigned char {
     Header = 'H',  // 1 when the file has a password, else 0
     Table = 'T',   // first page, name
-    Columns = 'C', // rows that there should be, last identifier given, then the columns' names
-    Page = 'P',    // page that is read from now on
-    Attempt = 'A', // page and row that is tried next; written by a careful reader only
+    Columns = 'C', // stated number of rows, last identifier given, then the columns' names
+    Page = 'P',    // page that the next rows are on
+    Attempt = 'A', // page and row to be tried next; only from a careful reader
     Row = 'R',     // page, row, then the values
-    LostRow = 'X', // page and row that cannot be read
-    End = 'E',     // all was read; a stream without it broke off
+    LostRow = 'X', // page and row of an unreadable row
+    End = 'E',     // all was read; a stream without it is incomplete
 };
 
 constexpr std::size_t frameHead = 5; // bytes
 
-// A value is its size, perhaps marked, and its bytes; these two have none.
+// A value is its size, which may carry a mark, and its bytes. These two sizes have no bytes.
 constexpr std::uint32_t nullValue = 0xFFFFFFFF;
 constexpr std::uint32_t unreadableValue = 0xFFFFFFFE;
-// Beside the size: the end of the text is lost.
+// Set in the size when the end of the text is lost.
 constexpr std::uint32_t cutMark = 0x40000000;
 
-// Bytes that the values of one row may have together; what the album can hold.
+// Maximum bytes of all values of a row; the limit of the album.
 constexpr std::uint32_t largestRow = 64 * 1024 * 1024;
 
 // Exit codes of the reader.
@@ -36,8 +36,8 @@ enum Exit {
     Done = 0,
     BadUse = 2,
     WrongPassword = 3,
-    NotReadable = 4,     // not of a version that is read, or its first page is damaged
-    TableUnreadable = 5, // the table's own description is damaged
+    NotReadable = 4,     // unknown version, or the first page is damaged
+    TableUnreadable = 5, // the table's definition is damaged
 };
 
 } // namespace OldAlbumStream

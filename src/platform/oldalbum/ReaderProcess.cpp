@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int finishMilliseconds = 5000; // for a reader that has nothing left to do
-// Where all patience was used up, so that the tables behind one that hangs have a chance.
+constexpr int finishMilliseconds = 5000; // for a reader with nothing left to do
+// Minimum when all patience is used up, so that tables after one that hangs have a chance.
 constexpr int leastPatience = 250;
 constexpr quint32 largestFrame = OldAlbumStream::largestRow + 64 * 1024;
 
@@ -76,7 +76,7 @@ std::optional<ReaderProcess::Frame> ReaderProcess::Next(int& patience)
             const char* head = buffer_.constData() + used_;
             const auto size = qFromLittleEndian<quint32>(head + 1);
             if (size > largestFrame) {
-                process_.kill(); // nobody waits for what else it may have to say
+                process_.kill(); // the rest of its output is not wanted
                 return std::nullopt;
             }
             if (have >= qsizetype(OldAlbumStream::frameHead + size)) {
@@ -94,7 +94,7 @@ int ReaderProcess::Finish(const QByteArray& input)
 {
     process_.write(input);
     process_.closeWriteChannel();
-    // Waiting for a process that has ended already counts as failed.
+    // Waiting for a process that has already ended returns failure.
     if (process_.state() != QProcess::NotRunning && !process_.waitForFinished(finishMilliseconds))
         return -1;
     return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;

@@ -10,8 +10,8 @@
 
 #include <optional>
 
-// One run of the reader of former albums. Its frames are read while it works, never ahead: it waits
-// when they are not taken, so that memory does not grow with the file.
+// One run of the reader of former albums. Its frames are read as they are needed, and it waits
+// until they are, so that memory does not grow with the file.
 class ReaderProcess
 {
 public:
@@ -21,22 +21,23 @@ public:
         QByteArrayView contents; // valid until the next frame is asked for
     };
 
-    // The reader that lies in the program's folder.
+    // The reader in the program's folder.
     static QString ReaderPath();
 
-    // Throws DatabaseError CannotOpen when the reader is not there or cannot be started.
+    // Throws DatabaseError CannotOpen when the reader is missing or cannot be started.
     explicit ReaderProcess(const QStringList& arguments, const QString& program = ReaderPath());
     ~ReaderProcess();
 
-    // The next frame; nothing at the end of the stream, when the reader has been silent for
-    // patience milliseconds (it is ended then, and patience is 0), or when what it writes makes no
-    // sense. Takes the time waited for a reader that broke off from patience.
+    // The next frame. None at the end of the stream, when the reader has been silent for patience
+    // milliseconds (it is killed then, and patience is 0), or when its output is invalid. Subtracts
+    // from patience the time waited for a reader that stopped early.
     std::optional<Frame> Next(int& patience);
 
-    // All bytes that came.
+    // Number of bytes received.
     qint64 GetVolume() const { return volume_; }
 
-    // Writes to the reader, waits for its end and returns its exit code, -1 when it broke off.
+    // Writes to the reader, waits for its end and returns its exit code, -1 when it crashed or
+    // hung.
     int Finish(const QByteArray& input = {});
 
 private:
@@ -44,11 +45,11 @@ private:
 
     QProcess process_;
     QByteArray buffer_;
-    qsizetype used_ = 0; // of the buffer, by frames that were given out
+    qsizetype used_ = 0; // bytes of the buffer in frames already given out
     qint64 volume_ = 0;
 };
 
-// Takes numbers, texts and values off the front of a frame. What is not there reads as 0 or empty.
+// Takes numbers, texts and values off the front of a frame. Missing ones read as 0 or empty.
 class FrameContents
 {
 public:

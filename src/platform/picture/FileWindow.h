@@ -5,9 +5,8 @@
 
 #include <algorithm>
 
-// The first bytes of a file, as a device of its own: what lies after them is not there. Unlike the
-// file itself it cannot be mapped into memory, where a file that another program cuts short would
-// end this one.
+// A device that ends after the first bytes of a file. Unlike the file itself it cannot be mapped
+// into memory, where truncation by another program would crash this one.
 class FileWindow : public QIODevice
 {
 public:
@@ -26,9 +25,9 @@ public:
     }
 
 protected:
-    qint64 readData(char* data, qint64 mostBytes) override
+    qint64 readData(char* data, qint64 maxBytes) override
     {
-        const qint64 wanted = std::min(mostBytes, bytes_ - at_);
+        const qint64 wanted = std::min(maxBytes, bytes_ - at_);
         if (wanted <= 0 || (file_.pos() != at_ && !file_.seek(at_)))
             return -1;
         const qint64 got = file_.read(data, wanted);

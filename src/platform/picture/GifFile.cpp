@@ -3,26 +3,26 @@
 
 namespace {
 
-// Comments included; a still picture of this size does not exist.
-constexpr qint64 mostGifBytes = 32 << 20;
+// Including comments; no still picture is this large.
+constexpr qint64 maxGifBytes = 32 << 20;
 
 constexpr char pictureBegin = '\x2C';
 constexpr char extension = '\x21';
 constexpr char trailer = '\x3B';
-constexpr char graphicControl = '\xF9'; // the extension that says what is transparent
+constexpr char graphicControl = '\xF9'; // the extension that names the transparent colour
 
-// The bytes of a table of colours, as the flags before it tell; 0 when there is none.
+// Size of a colour table according to the flags before it; 0 when there is none.
 qint64 PaletteBytes(uchar flags)
 {
     return (flags & 0x80) != 0 ? 3LL << ((flags & 0x07) + 1) : 0;
 }
 
-// Pieces of up to 255 bytes, each after its length, up to one without any.
+// Pieces of up to 255 bytes, each preceded by its length, up to an empty one.
 QByteArray ReadPieces(QIODevice& file)
 {
     QByteArray pieces;
     char length = 0;
-    while (file.pos() < mostGifBytes && file.getChar(&length)) {
+    while (file.pos() < maxGifBytes && file.getChar(&length)) {
         pieces += length;
         if (length == 0)
             break;
@@ -51,7 +51,7 @@ QByteArray ReadFirstOfGif(QIODevice& file)
         return gif;
     gif += file.read(PaletteBytes(uchar(gif[flagsAt])));
     char introducer = 0;
-    while (file.pos() < mostGifBytes && file.getChar(&introducer) && introducer != trailer) {
+    while (file.pos() < maxGifBytes && file.getChar(&introducer) && introducer != trailer) {
         if (introducer == pictureBegin)
             return gif + ReadPicture(file) + trailer;
         char kind = 0;

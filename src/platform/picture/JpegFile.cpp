@@ -25,14 +25,15 @@ enum Marker : uchar {
     fill = 0xFF,
 };
 
-// Thumbnails, depth maps and profiles included; nothing real comes near.
-constexpr qint64 mostHeadBytes = 32 << 20;
+// Thumbnails, depth maps and profiles included; real files are far smaller.
+constexpr qint64 maxHeadBytes = 32 << 20;
 
 constexpr qint64 bytesPerBlock = 128; // 8x8 coefficients of two bytes
 
-// A scan may say "nothing new" for 32,767 blocks in two bytes, and the decoder still goes to each:
-// eight nanoseconds, so about a second. A progressive photograph of 100 megapixels takes a third.
-constexpr qint64 mostBlockVisits = 128LL << 20;
+// A scan may say "nothing new" for 32,767 blocks in two bytes, and the decoder still visits each.
+// At eight nanoseconds a visit this is about a second. A progressive photograph of 100 megapixels
+// takes a third of it.
+constexpr qint64 maxBlockVisits = 128LL << 20;
 
 bool IsProgressiveFrame(uchar marker)
 {
@@ -41,11 +42,11 @@ bool IsProgressiveFrame(uchar marker)
 
 bool IsFrame(uchar marker)
 {
-    // Three in the range of the frames are none: two kinds of tables and a reserved one.
+    // Three markers in this range are not frames: two kinds of tables and a reserved one.
     return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
 
-// Those that stand alone, without a length.
+// Markers without a length and a body.
 bool IsBare(uchar marker)
 {
     return marker == 0x01 || (marker >= restartFirst && marker <= end);
@@ -56,7 +57,7 @@ bool IsOfPrograms(uchar marker)
     return (marker >= programFirst && marker <= programLast) || marker == comment;
 }
 
-// Of those that programs added, the few that say how the pixels are to be shown.
+// Selects the few application segments that affect how the pixels are shown.
 class Choice
 {
 public:
@@ -79,11 +80,11 @@ private:
     std::bitset<16> seen_;
 };
 
-// Goes past whatever stands before the next marker, as the decoder does.
+// Skips whatever precedes the next marker, as the decoder does.
 uchar ReadMarker(QIODevice& file)
 {
     char byte = 0;
-    while (file.pos() < mostHeadBytes && file.getChar(&byte)) {
+    while (file.pos() < maxHeadBytes && file.getChar(&byte)) {
         if (uchar(byte) != fill)
             continue;
         while (uchar(byte) == fill && file.getChar(&byte)) {
@@ -97,11 +98,11 @@ uchar ReadMarker(QIODevice& file)
 struct Segment
 {
     uchar marker = none;
-    qsizetype at = 0;   // of its marker
-    qsizetype next = 0; // after it; for a scan, where its data begin
+    qsizetype at = 0;   // where its marker begins
+    qsizetype next = 0; // where it ends; for a scan, where its data begin
 };
 
-// The next one at or after a place, in the scans' data as well; marker is none at the end.
+// The next segment at or after a place, even within scan data; marker is none at the end.
 Segment NextSegment(const QByteArray& jpeg, qsizetype at)
 {
     const auto byteAt = [&jpeg](qsizetype index) { return uchar(jpeg[index]); };
@@ -134,7 +135,7 @@ QByteArray FrameOf(const QByteArray& jpeg, uchar& marker)
     return {};
 }
 
-// 8x8 coefficients each, of all colours, as the decoder sets them aside.
+// Number of 8x8 blocks of all colours, as the decoder allocates them.
 qint64 BlocksOf(const QByteArray& frame)
 {
     constexpr int headBytes = 6;
@@ -144,21 +145,21 @@ qint64 BlocksOf(const QByteArray& frame)
     const qint64 height = qFromBigEndian<quint16>(frame.constData() + 1);
     const qint64 width = qFromBigEndian<quint16>(frame.constData() + 3);
     const int count = std::min<int>(uchar(frame[5]), int(frame.size() - headBytes) / colourBytes);
-    qint64 mostAcross = 1;
-    qint64 mostDown = 1;
+    qint64 maxAcross = 1;
+    qint64 maxDown = 1;
     qint64 perUnit = 0;
     for (int i = 0; i < count; ++i) {
         const uchar factors = uchar(frame[headBytes + i * colourBytes + 1]);
         const qint64 across = factors >> 4;
         const qint64 down = factors & 0x0F;
-        mostAcross = std::max(mostAcross, across);
-        mostDown = std::max(mostDown, down);
+        maxAcross = std::max(maxAcross, across);
+        maxDown = std::max(maxDown, down);
         perUnit += across * down;
     }
     const auto units = [](qint64 pixels, qint64 most) {
         return (pixels + 8 * most - 1) / (8 * most);
     };
-    return units(width, mostAcross) * units(height, mostDown) * perUnit;
+    return units(width, maxAcross) * units(height, maxDown) * perUnit;
 }
 
 qint64 BlocksOfJpeg(const QByteArray& jpeg)
@@ -173,7 +174,7 @@ QByteArray ReadJpegHead(QIODevice& file)
 {
     QByteArray head = file.read(2);
     Choice choice;
-    while (file.pos() < mostHeadBytes) {
+    while (file.pos() < maxHeadBytes) {
         const uchar marker = ReadMarker(file);
         if (marker == none)
             break;
@@ -203,7 +204,7 @@ void AppendJpegScans(QByteArray& jpeg, QIODevice& file)
     jpeg.truncate(headBytes + std::max<qint64>(got, 0));
 
     qsizetype kept = headBytes; // what is kept ends here
-    qsizetype from = headBytes; // and goes on there
+    qsizetype from = headBytes; // what is kept next begins here
     qsizetype to = jpeg.size();
     const auto keepUpTo = [&](qsizetype place) {
         if (kept == from) {
@@ -250,10 +251,10 @@ qint64 JpegWholeBytes(const QByteArray& jpeg)
 
 bool HasSensibleScans(const QByteArray& jpeg)
 {
-    const qint64 mostScans = mostBlockVisits / std::max<qint64>(BlocksOfJpeg(jpeg), 1);
+    const qint64 maxScans = maxBlockVisits / std::max<qint64>(BlocksOfJpeg(jpeg), 1);
     qint64 scans = 0;
-    for (Segment segment = NextSegment(jpeg, 0); segment.marker != none && scans <= mostScans;
+    for (Segment segment = NextSegment(jpeg, 0); segment.marker != none && scans <= maxScans;
          segment = NextSegment(jpeg, segment.next))
         scans += segment.marker == scan;
-    return scans <= mostScans;
+    return scans <= maxScans;
 }

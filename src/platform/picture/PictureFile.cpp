@@ -12,9 +12,9 @@ namespace {
 
 struct Signature
 {
-    const char* format; // as the image plug-ins call it
+    const char* format; // its name for the image plug-ins
     QByteArrayView start;
-    QByteArrayView later; // after the start, where that alone says too little
+    QByteArrayView later; // after the start, where that alone is ambiguous
     qsizetype laterAt = 0;
 };
 
@@ -36,26 +36,26 @@ const std::array<Signature, 9>& Signatures()
     return signatures;
 }
 
-// No photograph comes near.
-constexpr qint64 mostFileBytes = 512LL << 20;
+// Far more than any photograph has.
+constexpr qint64 maxFileBytes = 512LL << 20;
 
-// JPEG and most PNG come line by line, so the limit there is patience: about two seconds.
-constexpr qint64 mostPixelsOfJpeg = 512LL << 20;
-constexpr qint64 mostPixelsOfPng = 256LL << 20;
-constexpr qint64 mostPixelsWhole = 128LL << 20;
+// JPEG and most PNG are decoded line by line, so only time limits them: about two seconds.
+constexpr qint64 maxPixelsOfJpeg = 512LL << 20;
+constexpr qint64 maxPixelsOfPng = 256LL << 20;
+constexpr qint64 maxPixelsWhole = 128LL << 20;
 
 // A block of 8x8 pixels takes at least one bit of a JPEG, so no more than 512 pixels come out of a
-// byte. Below the limit a file that was cut off still shows what is there.
+// byte. Below the limit a truncated file still shows what is there.
 constexpr qint64 pixelsPerJpegByte = 512;
-constexpr qint64 mostPixelsOfCutJpeg = 64LL << 20;
+constexpr qint64 maxPixelsOfCutJpeg = 64LL << 20;
 
 // The decoder reads a header of any length, a byte at a time.
-constexpr qint64 mostPnmHeaderBytes = 4096;
+constexpr qint64 maxPnmHeaderBytes = 4096;
 
-// After the signature three numbers, apart from each other by blanks and comments.
+// After the signature there must be three numbers, separated by blanks and comments.
 bool HasSensiblePnmHeader(QFile& file)
 {
-    const QByteArray head = file.peek(mostPnmHeaderBytes);
+    const QByteArray head = file.peek(maxPnmHeaderBytes);
     int numbers = 0;
     bool inComment = false;
     bool inNumber = false;
@@ -79,7 +79,7 @@ bool OpenPictureFile(QFile& file, const QString& path)
         return false;
     }
     file.setFileName(path);
-    return file.size() <= mostFileBytes && file.open(QIODevice::ReadOnly);
+    return file.size() <= maxFileBytes && file.open(QIODevice::ReadOnly);
 }
 
 QByteArray PictureFormatOf(QFile& file)
@@ -101,25 +101,25 @@ bool IsPlausibleSize(const QByteArray& format, QSize size, qint64 fileBytes)
     if (size.isEmpty()) {
         return false;
     }
-    if (format == "jpeg" && pixels > std::max(mostPixelsOfCutJpeg, fileBytes * pixelsPerJpegByte)) {
+    if (format == "jpeg" && pixels > std::max(maxPixelsOfCutJpeg, fileBytes * pixelsPerJpegByte)) {
         return false;
     }
     if (format == "png") {
-        return pixels <= mostPixelsOfPng;
+        return pixels <= maxPixelsOfPng;
     }
-    return pixels <= (format == "jpeg" ? mostPixelsOfJpeg : mostPixelsWhole);
+    return pixels <= (format == "jpeg" ? maxPixelsOfJpeg : maxPixelsWhole);
 }
 
 bool IsInterlacedPng(QFile& file)
 {
-    constexpr qsizetype headerBytes = 29; // with the first chunk up to this mark
+    constexpr qsizetype headerBytes = 29; // up to the interlace mark in the first chunk
     const QByteArray head = file.peek(headerBytes);
     return head.size() == headerBytes && head.back() != 0;
 }
 
 qint64 WebpBytes(QFile& file)
 {
-    constexpr qint64 headBytes = 8; // which the length does not count
+    constexpr qint64 headBytes = 8; // not counted in the length
     const QByteArray head = file.peek(headBytes);
     if (head.size() < headBytes) {
         return file.size();

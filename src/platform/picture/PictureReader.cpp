@@ -24,35 +24,34 @@
 
 namespace {
 
-// For one picture while it is decoded, the file's bytes included where they are in memory. With
-// what the program takes besides, reading any file stays below 512 MiB.
-constexpr int mostMebibytes = 432;
-constexpr qint64 mostDecoderBytes = qint64(mostMebibytes) << 20;
+// For one picture while it is decoded, including the file's bytes where they are in memory.
+// Together with the rest of the program, reading any file stays below 512 MiB.
+constexpr int maxMebibytes = 432;
+constexpr qint64 maxDecoderBytes = qint64(maxMebibytes) << 20;
 
-// A picture that takes more than this is decoded while no other such picture is, so that the memory
-// does not grow with the number of cores.
+// Pictures that need more than this are decoded one at a time, so that memory does not grow with
+// the number of cores.
 constexpr qint64 bytesOfLarge = 128LL << 20;
 
 // Larger than any screen; guards the allocation only.
-constexpr int mostTargetSide = 1 << 15;
-constexpr qint64 mostTargetPixels = 64LL << 20;
+constexpr int maxTargetSide = 1 << 15;
+constexpr qint64 maxTargetPixels = 64LL << 20;
 
-// A file's decoder on its way to pixels. Not to be copied or moved: the reader points to the
-// device.
+// A file with its decoder. Not to be copied or moved: the reader points to the device.
 class OpenPicture
 {
 public:
     explicit OpenPicture(const QString& path)
     {
-        // Some decoders set memory aside before they tell even the size.
+        // Some decoders allocate memory before they even give the size.
         static std::once_flag limitSet;
-        std::call_once(limitSet, [] { QImageReader::setAllocationLimit(mostMebibytes); });
+        std::call_once(limitSet, [] { QImageReader::setAllocationLimit(maxMebibytes); });
         if (!OpenPictureFile(file_, path)) {
             return;
         }
         const QByteArray format = PictureFormatOf(file_);
         bytesUpToSize_ = BytesUpToSize(format);
-        if (format.isEmpty() || bytesUpToSize_ > mostDecoderBytes) {
+        if (format.isEmpty() || bytesUpToSize_ > maxDecoderBytes) {
             return;
         }
         format_ = format;
@@ -65,8 +64,7 @@ public:
     QSize Size()
     {
         const QSize size = HeaderSize();
-        if (!IsPlausibleSize(format_, size, file_.size()) ||
-            DecoderBytes(size) > mostDecoderBytes) {
+        if (!IsPlausibleSize(format_, size, file_.size()) || DecoderBytes(size) > maxDecoderBytes) {
             return {};
         }
         return IsTurned() ? size.transposed() : size;
@@ -120,7 +118,7 @@ private:
         reader_.setFormat(format_);
     }
 
-    // What the decoder takes until it tells the picture's size. The file is at its start.
+    // Memory that the decoder needs up to the picture's size. The file is at its start.
     qint64 BytesUpToSize(const QByteArray& format)
     {
         if (format == "webp") {
@@ -129,7 +127,7 @@ private:
         return format == "tiff" ? TiffDecoderBytes(file_) : 0;
     }
 
-    // From memory the JPEG decoder is about a tenth faster, too: from a file it asks for 4 KiB at a
+    // The JPEG decoder is also about a tenth faster from memory: from a file it reads 4 KiB at a
     // time.
     void ReadFromMemory()
     {
@@ -146,7 +144,7 @@ private:
             return {};
         }
         const QSize size = reader_.size();
-        // A bitmap stored from the top down tells a negative height.
+        // A bitmap stored from the top down has a negative height.
         if (size.height() == std::numeric_limits<int>::min()) {
             return {};
         }
@@ -160,7 +158,8 @@ private:
         return (reader_.transformation() & QImageIOHandler::TransformationRotate90) != 0;
     }
 
-    // While it reads; other decoders hold the whole picture first. The size counts before the turn.
+    // Other decoders hold the whole picture before they scale it. The size is the one before the
+    // turn.
     bool IsScaledByDecoder(QSize size, QSize target) const
     {
         return IsJpeg() || (IsPngByLine() && target.width() <= size.width() &&
@@ -174,8 +173,8 @@ private:
                (pixels == QImage::Format_RGB32 || pixels == QImage::Format_ARGB32);
     }
 
-    // What the decoder of bitmaps draws over. It leaves out pixels that the file leaves out, and
-    // would show what the memory held before.
+    // The image that the bitmap decoder draws on. It skips pixels that the file leaves out, where
+    // uninitialised memory would show.
     QImage Prepared(QSize size) const
     {
         if (format_ != "bmp") {
@@ -186,7 +185,7 @@ private:
         return image;
     }
 
-    // At most, beside the picture in its final size.
+    // Maximum memory for decoding, besides the picture in its final size.
     qint64 DecoderBytes(QSize size)
     {
         if (IsJpeg()) {
@@ -195,15 +194,15 @@ private:
         if (IsPngByLine()) {
             return 0;
         }
-        // Decoders count fewer bits as these.
+        // Decoders use at least this many.
         constexpr qint64 fewestBytes = 4;
         constexpr int bitsPerByte = 8;
         const int bits = QImage::toPixelFormat(reader_.imageFormat()).bitsPerPixel();
         const qint64 count = qint64(size.width()) * size.height();
-        // A line is converted whole.
+        // Whole lines are converted.
         const qint64 bytes =
             count * std::max<qint64>(bits / bitsPerByte, fewestBytes) + size.width() * fewestBytes;
-        // Frames are laid over each other.
+        // Frames are drawn over each other.
         const int more = format_ != "webp" ? 0 : reader_.supportsAnimation() ? 3 : 1;
         return bytes + more * count * fewestBytes + bytesUpToSize_;
     }
@@ -223,17 +222,17 @@ private:
 
     QFile file_;
     QByteArray format_;
-    QByteArray bytes_; // of a JPEG, as far as it is read, or a GIF
+    QByteArray bytes_; // of a JPEG as far as it is read, or of a GIF
     bool isInterlaced_ = false;
     qint64 bytesUpToSize_ = 0;
-    std::unique_ptr<QIODevice> device_; // none where the decoder reads the file itself
+    std::unique_ptr<QIODevice> device_; // null where the decoder reads the file itself
     QImageReader reader_;
 };
 
 bool IsPlausibleTarget(QSize size)
 {
-    return !size.isEmpty() && size.width() <= mostTargetSide && size.height() <= mostTargetSide &&
-           qint64(size.width()) * size.height() <= mostTargetPixels;
+    return !size.isEmpty() && size.width() <= maxTargetSide && size.height() <= maxTargetSide &&
+           qint64(size.width()) * size.height() <= maxTargetPixels;
 }
 
 QImage DecodeTo(const QString& path, QSize size)
@@ -274,7 +273,7 @@ std::vector<QImage> ReadPictures(const std::vector<PictureRequest>& requests)
             images[i] = ReadPicture(requests[i].path, requests[i].size);
         }
     };
-    // This thread takes its share; a pool of its own cannot be held up by other work.
+    // This thread takes its share; a separate pool cannot be blocked by other work.
     const int helpers = std::min(QThread::idealThreadCount(), int(requests.size())) - 1;
     QThreadPool pool;
     pool.setMaxThreadCount(std::max(helpers, 0));

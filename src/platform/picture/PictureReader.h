@@ -9,7 +9,7 @@
 
 // The one way from a picture file to pixels: the same file looks the same in every window.
 
-// What a file's header tells.
+// What a file's header says.
 struct PictureInfo
 {
     QSize size; // pixels, upright (after the turn that the file asks for); empty when unreadable
@@ -17,11 +17,11 @@ struct PictureInfo
     bool IsReadable() const { return !size.isEmpty(); }
 };
 
-// Reads only the header. A file that is missing, of an unknown kind or damaged gives an unreadable
-// info, never an error.
+// Reads only the header. A missing, unknown or damaged file gives an unreadable info, never an
+// error.
 PictureInfo ReadPictureInfo(const QString& path);
 
-// Decodes the picture straight to size (pixels, upright), turned as the file asks and in sRGB.
+// Decodes the picture directly at size (pixels, upright), turned as the file asks and in sRGB.
 // Returns a null image when the file cannot be read.
 QImage ReadPicture(const QString& path, QSize size);
 
@@ -31,6 +31,6 @@ struct PictureRequest
     QSize size; // pixels, upright
 };
 
-// Decodes all of them on all cores and returns when the last is done; images stand in the order of
-// the requests, null where a file could not be read.
+// Decodes all of them on all cores and returns when the last is done; the images are in the order
+// of the requests, null where a file could not be read.
 std::vector<QImage> ReadPictures(const std::vector<PictureRequest>& requests);

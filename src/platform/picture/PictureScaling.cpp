@@ -11,7 +11,7 @@ namespace {
 
 constexpr qint64 pixelsPerBand = 4LL << 20;
 
-// A view of lines first to end - 1; image must outlive it.
+// A view of the lines from first to end - 1; image must outlive it.
 QImage LinesOf(const QImage& image, int first, int end)
 {
     QImage lines(image.constScanLine(first), image.width(), end - first, image.bytesPerLine(),
@@ -35,9 +35,8 @@ QImage ScaledAtOnce(QImage image, QSize size)
 
 void CompletePalette(QImage& image)
 {
-    constexpr int mostPaletteBits = 8;
-    if (image.pixelFormat().colorModel() != QPixelFormat::Indexed ||
-        image.depth() > mostPaletteBits)
+    constexpr int maxPaletteBits = 8;
+    if (image.pixelFormat().colorModel() != QPixelFormat::Indexed || image.depth() > maxPaletteBits)
         return;
     QList<QRgb> palette = image.colorTable();
     const qsizetype colours = qsizetype(1) << image.depth();
@@ -60,7 +59,7 @@ QImage ScaledToDraw(const QImage& image, QSize size)
     if (bands <= 1) {
         return ScaledAtOnce(image, size);
     }
-    // Each band gives one line at least.
+    // Each band gives at least one line.
     const QSize banded(size.width(), std::clamp(size.height(), bands, image.height()));
     QImage scaled(banded, image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
                                                   : QImage::Format_RGB32);

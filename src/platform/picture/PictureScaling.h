@@ -4,20 +4,20 @@
 #include <QImage>
 #include <QImageIOHandler>
 
-// Gives a picture with a palette a colour, black, for every number that its pixels may hold. Files
-// name more colours than they have, and what scales or converts the picture looks them up
-// unchecked.
+// Extends a picture's palette with black to every index that a pixel can hold. Pixels may use more
+// colours than the file has, and scaling and converting look them up unchecked.
 void CompletePalette(QImage& image);
 
-// To a format that needs no conversion at each paint.
+// Converts to a format that needs no conversion at each paint.
 void ConvertToDraw(QImage& image);
 
-// Scaled smoothly, in such a format and in the colours that image has. Large pictures are converted
-// and scaled a band of lines at a time, so that there is never a second one of their size.
+// Scaled smoothly, in such a format and in the image's own colour space. Large pictures are
+// converted and scaled a band of lines at a time, so that there is never a second one of their
+// size.
 QImage ScaledToDraw(const QImage& image, QSize size);
 
-// From the colours that its profile names to sRGB.
+// Converts from the colour space of the image's profile to sRGB.
 void ConvertToScreenColours(QImage& image);
 
-// Done after the colours: the reader's own turn loses the profile.
+// Called after the colours are converted: the reader's own turn loses the profile.
 void Turn(QImage& image, QImageIOHandler::Transformations turn);

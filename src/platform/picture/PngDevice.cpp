@@ -17,19 +17,19 @@ constexpr qint64 headBytes = 8; // a chunk's length and type
 constexpr qint64 checksumBytes = 4;
 
 // Real profiles hold some kilobytes, those of scanners up to two megabytes.
-constexpr qint64 mostProfileBytes = 4 << 20;
+constexpr qint64 maxProfileBytes = 4 << 20;
 
-// Pixels come in pieces of eight kilobytes and more; a file of millions of empty pieces would take
+// Pixels come in chunks of eight kilobytes and more; a file of millions of empty chunks would take
 // minutes.
-constexpr qint64 mostChunks = 1 << 20;
+constexpr qint64 maxChunks = 1 << 20;
 
 struct WantedChunk
 {
     const char* type;
-    qint64 mostBytes;
+    qint64 maxBytes;
 };
 
-// Each stands at most once, and before the pixels.
+// Each occurs at most once, before the pixels.
 constexpr std::array<WantedChunk, 10> wantedChunks{{
     {"IHDR", 13},
     {"PLTE", 768},
@@ -40,11 +40,11 @@ constexpr std::array<WantedChunk, 10> wantedChunks{{
     {"sBIT", 4},
     {"pHYs", 9},
     {"eXIf", 1 << 16},
-    {"iCCP", mostProfileBytes},
+    {"iCCP", maxProfileBytes},
 }};
 
-// The length that begins a profile, inside a chunk that holds the profile's name, a byte and then
-// the profile, deflated. The decoder takes that much memory before it looks any further.
+// The length at the beginning of a profile. The chunk holds the profile's name, a byte and the
+// deflated profile. The decoder allocates that length before it reads any further.
 qint64 ProfileBytes(QByteArray& chunk)
 {
     constexpr qint64 none = std::numeric_limits<qint64>::max();
@@ -70,11 +70,11 @@ PngDevice::PngDevice(QIODevice& file)
     open(ReadOnly);
 }
 
-qint64 PngDevice::readData(char* data, qint64 mostBytes)
+qint64 PngDevice::readData(char* data, qint64 maxBytes)
 {
     qint64 done = 0;
-    while (done < mostBytes && (!ready_.isEmpty() || streamed_ > 0 || BeginNextChunk())) {
-        const qint64 wanted = mostBytes - done;
+    while (done < maxBytes && (!ready_.isEmpty() || streamed_ > 0 || BeginNextChunk())) {
+        const qint64 wanted = maxBytes - done;
         qint64 got = 0;
         if (!ready_.isEmpty()) {
             got = std::min<qint64>(wanted, ready_.size());
@@ -91,13 +91,13 @@ qint64 PngDevice::readData(char* data, qint64 mostBytes)
         }
         done += got;
     }
-    return done > 0 || mostBytes == 0 ? done : -1;
+    return done > 0 || maxBytes == 0 ? done : -1;
 }
 
-// False when all has been given.
+// False when everything has been given.
 bool PngDevice::BeginNextChunk()
 {
-    while (!ended_ && ++chunks_ <= mostChunks) {
+    while (!ended_ && ++chunks_ <= maxChunks) {
         const QByteArray head = file_.read(headBytes);
         if (head.size() < headBytes || head.endsWith("IEND"))
             break;
@@ -106,18 +106,18 @@ bool PngDevice::BeginNextChunk()
     }
     if (ended_)
         return false;
-    // Also where the file has none, or a damaged one: its pixels may be whole.
+    // Added even where the file has none, or a damaged one: its pixels may be complete.
     ready_ = QByteArray("\0\0\0\0IEND\xAE\x42\x60\x82", 12);
     ended_ = true;
     return true;
 }
 
-// False when this one is left out.
+// False when this chunk is left out.
 bool PngDevice::BeginChunk(const QByteArray& head)
 {
     const qint64 length = qFromBigEndian<quint32>(head.constData());
     const QByteArray type = head.mid(4);
-    // Pixels come a little at a time, so where a file was cut off what is there can be shown.
+    // Pixels are streamed, so that the part of a truncated file that is there can be shown.
     if (type == "IDAT") {
         inPixels_ = true;
         ready_ = head;
@@ -133,7 +133,7 @@ bool PngDevice::BeginChunk(const QByteArray& head)
         return false;
     }
     QByteArray chunk = file_.read(length + checksumBytes);
-    if (type == "iCCP" && ProfileBytes(chunk) > mostProfileBytes)
+    if (type == "iCCP" && ProfileBytes(chunk) > maxProfileBytes)
         return false;
     ready_ = head + chunk;
     return true;
@@ -143,7 +143,7 @@ bool PngDevice::IsWanted(const QByteArray& type, qint64 length)
 {
     const auto* wanted = std::ranges::find_if(
         wantedChunks, [&type](const WantedChunk& chunk) { return type == chunk.type; });
-    if (wanted == wantedChunks.end() || length > wanted->mostBytes || inPixels_)
+    if (wanted == wantedChunks.end() || length > wanted->maxBytes || inPixels_)
         return false;
     const auto row = std::size_t(wanted - wantedChunks.begin());
     const bool isFirst = !seen_[row];

@@ -6,19 +6,19 @@
 
 #include <bitset>
 
-// A PNG file without what its pixels and colours do not need. The decoder sets aside as much memory
-// as a chunk claims, and inflates every text and profile whole; so texts never reach it, a profile
-// only when it is of a sensible size, and a chunk that claims more than the file holds is the end.
+// A PNG file without what its pixels and colours do not need. The decoder allocates as much memory
+// as a chunk claims, and inflates every text and profile completely; so it gets no texts, no
+// profile of excessive size, and nothing after a chunk that claims more than the file holds.
 class PngDevice : public QIODevice
 {
 public:
-    // Opens itself at the place where the file is. The file must be open and outlive this.
+    // Opens itself at the file's current position. The file must be open and outlive this.
     explicit PngDevice(QIODevice& file);
 
     bool isSequential() const override { return true; }
 
 protected:
-    qint64 readData(char* data, qint64 mostBytes) override;
+    qint64 readData(char* data, qint64 maxBytes) override;
     qint64 writeData(const char*, qint64) override { return -1; }
 
 private:
@@ -29,9 +29,9 @@ private:
     QIODevice& file_;
     qint64 fileBytes_;
     QByteArray ready_;    // read and checked, to be given next
-    qint64 streamed_ = 0; // bytes of the file that are given after them as they are
+    qint64 streamed_ = 0; // bytes of the file to be given unchanged after ready_
     qint64 chunks_ = 0;
-    std::bitset<16> seen_; // by row of the table of chunks that are wanted
+    std::bitset<16> seen_; // by row of the table of wanted chunks
     bool inPixels_ = false;
     bool ended_ = false;
 };

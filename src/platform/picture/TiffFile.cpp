@@ -23,16 +23,16 @@ enum Tag : quint16 {
 
 constexpr quint16 uncompressed = 1;
 
-// While the decoder turns a tag's numbers into larger ones it holds both.
+// While the decoder converts a tag's numbers to larger ones it holds both.
 constexpr qint64 bytesPerTagByte = 5;
 
-// Stored strips that are larger than this many times what they hold are cut by the decoder.
-constexpr qint64 mostStoredPerDecoded = 10;
+// The decoder cuts stored strips that are more than this many times the size of their contents.
+constexpr qint64 maxStoredPerDecoded = 10;
 
-// By the types' numbers, from 0; those that are not there have no size.
+// By type number, from 0; unused numbers have no size.
 constexpr std::array<int, 19> typeBytes{0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8, 4, 0, 0, 8, 8, 8};
 
-// Any of the claimed numbers may be the largest.
+// Saturates, as any of the claimed numbers may be the maximum.
 qint64 Product(std::initializer_list<qint64> factors)
 {
     qint64 product = 1;
@@ -93,7 +93,7 @@ private:
         qint64* number = NumberOf(tag);
         if (!number || count == 0)
             return;
-        if (bytes > 4) { // the numbers lie elsewhere
+        if (bytes > 4) { // the numbers are elsewhere
             quint32 place = 0;
             stream_ >> place;
             file_.seek(place);
@@ -149,7 +149,7 @@ private:
     QIODevice& file_;
     QDataStream stream_;
     qint64 tagBytes_ = 0;
-    // As they count where a tag is not there.
+    // The defaults for missing tags.
     qint64 width_ = 0;
     qint64 height_ = 0;
     qint64 bits_ = 1;
@@ -167,9 +167,9 @@ qint64 TiffDecoderBytes(QIODevice& file)
 {
     const Directory directory(file);
     const qint64 decoded = directory.StripBytes();
-    const qint64 mostStored =
-        directory.IsUncompressed() ? decoded : Product({decoded, mostStoredPerDecoded});
+    const qint64 maxStored =
+        directory.IsUncompressed() ? decoded : Product({decoded, maxStoredPerDecoded});
     const qint64 most = std::numeric_limits<qint64>::max() / 4;
-    return std::min(decoded, most) + std::min(mostStored, file.size()) +
+    return std::min(decoded, most) + std::min(maxStored, file.size()) +
            std::min(directory.TagBytes() * bytesPerTagByte, most);
 }

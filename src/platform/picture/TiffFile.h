@@ -3,7 +3,7 @@
 
 #include <QIODevice>
 
-// Memory in bytes that the decoder takes besides the picture: for the tags, whose sizes are what
-// the file claims, and for one strip or tile, as stored and as decoded. A guess from the first
-// directory of a TIFF file; 0 when that cannot be read, as it cannot by the decoder.
+// Memory in bytes that the decoder needs besides the picture: for the tags, in the sizes that the
+// file claims, and for one strip or tile, both stored and decoded. Estimated from the first
+// directory of a TIFF file; 0 when that cannot be read, since the decoder cannot read it either.
 qint64 TiffDecoderBytes(QIODevice& file);

@@ -3,9 +3,8 @@
 
 #include <QString>
 
-// The folder that the executable lies in, without a trailing separator, and with it the files that
-// come with the program.
+// The folder of the executable and of the files that come with it, without a trailing separator.
 QString ProgramFolder();
 
-// A file of that name in the program's folder, separators as the platform writes them.
+// Path of a file in the program's folder, with native separators.
 QString ProgramFile(const QString& name);

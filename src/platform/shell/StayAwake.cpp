@@ -17,7 +17,7 @@ struct StayAwake::State
     std::optional<QDBusConnection> bus;
     bool isWanted = false;
     bool isAsking = false;
-    std::optional<uint> cookie; // of the desktop's promise, while it holds
+    std::optional<uint> cookie; // of the desktop's promise while it holds
 
     static void Settle(const std::shared_ptr<State>& state);
     void Ask(const std::shared_ptr<State>& self);
@@ -36,7 +36,7 @@ QDBusMessage Call(const QString& method)
     return message;
 }
 
-// Where none runs, asking for the bus would start one.
+// Without a running bus, a connection attempt would start one.
 bool IsSessionBusThere()
 {
     return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
@@ -52,7 +52,7 @@ bool StayAwake::State::FindBus()
     return bus && bus->isConnected();
 }
 
-// Also called with each answer, because the wish may have changed while it was on its way.
+// Also called after each answer, because the wish may have changed since the request.
 void StayAwake::State::Settle(const std::shared_ptr<State>& state)
 {
     if (state->isWanted && !state->cookie && !state->isAsking)

@@ -5,16 +5,16 @@
 
 #include <memory>
 
-// Asks the desktop to keep the screen bright and unlocked, through its session bus. Every call
-// returns at once; without a bus, or with a desktop that does not offer this, nothing happens.
+// Asks the desktop through the session bus to keep the screen bright and unlocked. Every call
+// returns at once; nothing happens without a bus, or where the desktop does not offer this.
 class StayAwake
 {
 public:
-    // The session bus, looked for when it is first needed.
+    // Uses the session bus, which is looked up when first needed.
     StayAwake();
-    // A bus that is connected under that name.
+    // Uses a bus that is already connected under that name.
     explicit StayAwake(const QString& busName);
-    // Lets the screen go.
+    // Ends the request.
     ~StayAwake();
     StayAwake(const StayAwake&) = delete;
     StayAwake& operator=(const StayAwake&) = delete;
@@ -23,5 +23,5 @@ public:
 
 private:
     struct State;
-    std::shared_ptr<State> state_; // shared with the answers that are still to come
+    std::shared_ptr<State> state_; // shared with pending answers
 };

@@ -24,7 +24,7 @@ QVariant ReadMachineSetting(const QString& keyName, const QString& valueName)
     return file.value(QString(keyName).replace(u'\\', u'/') + u'/' + valueName);
 }
 
-// None when the registry says nothing that can be used.
+// None when the registry has no usable entry.
 std::optional<Command> CommandFromRegistry()
 {
     QString path;

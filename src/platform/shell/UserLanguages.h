@@ -3,6 +3,6 @@
 
 #include <QStringList>
 
-// Codes (ISO 639: "fr") of the languages that the user's desktop prefers to English, the best
-// first; none for one that asks for English, or for nothing in particular.
+// ISO 639 codes ("fr") of the languages that the user's desktop prefers to English, the best first;
+// none when the desktop prefers English or states no preference.
 QStringList LanguagesBeforeEnglish();

@@ -7,9 +7,9 @@
 
 namespace {
 
-// What one place of a text may take, for a part that can only be tried at each: as many characters
-// as the longest file name has, each of which may be listed in both letter cases.
-constexpr std::size_t mostAtOnePlace = 255;
+// Maximum cost of a segment that must be tried at every position of a text: as many characters as
+// the longest file name has, each of them listed in both letter cases.
+constexpr std::size_t maxAtOnePlace = 255;
 
 bool HasNoCase(char32_t character)
 {
@@ -50,7 +50,7 @@ void LikePattern::Parse(std::string_view pattern)
     }
 }
 
-// Reads what stands after the opening bracket, up to and including the closing one.
+// Reads from after the opening bracket up to and including the closing one.
 bool LikePattern::ParseList(std::string_view& pattern)
 {
     const std::size_t end = pattern.find(']');
@@ -79,7 +79,7 @@ bool LikePattern::ParseList(std::string_view& pattern)
     }
     const Range& only = element.ranges.front();
     if (element.ranges.size() == 1 && only.first == only.last && !element.negated &&
-        HasNoCase(only.first)) // a wildcard that stands for itself
+        HasNoCase(only.first)) // a literal wildcard
         element = {Kind::Character, only.first};
     segments_.back().push_back(std::move(element));
     return true;
@@ -113,8 +113,8 @@ bool LikePattern::Fits(const Element& element, char32_t character) const
     return true;
 }
 
-// Takes the segment off the text's beginning; false, with the text half taken, when it does not
-// fit.
+// Removes the segment from the text's beginning; when it does not fit, returns false with part of
+// the text removed.
 bool LikePattern::TakeSegment(const Segment& segment, std::string_view& text) const
 {
     for (const Element& element : segment) {
@@ -124,8 +124,8 @@ bool LikePattern::TakeSegment(const Segment& segment, std::string_view& text) co
     return true;
 }
 
-// Takes the last segment off the text's end. It stands for a fixed number of characters, so it can
-// only fit in one place.
+// Removes the last segment from the text's end. Its length is fixed, so it can fit in only one
+// place.
 bool LikePattern::TakeTail(std::string_view& text) const
 {
     const Segment& tail = segments_.back();
@@ -153,11 +153,12 @@ void LikePattern::PrepareMiddle()
         if (isPlain)
             overlaps_[i] = OverlapsOf(segments_[i]);
         else
-            tooCostly_ = tooCostly_ || cost > mostAtOnePlace;
+            tooCostly_ = tooCostly_ || cost > maxAtOnePlace;
     }
 }
 
-// For each number of characters, how many of them at the end are also the segment's beginning.
+// For each number of matched characters, how many of the last ones are also the segment's
+// beginning.
 LikePattern::Overlaps LikePattern::OverlapsOf(const Segment& segment)
 {
     Overlaps overlaps(segment.size() + 1);
@@ -185,8 +186,8 @@ bool LikePattern::SkipPlain(const Segment& segment, const Overlaps& overlaps,
     return true;
 }
 
-// Cuts the text behind the first place where the segment fits. The first place is enough: it leaves
-// the most text for the segments that follow.
+// Cuts the text after the first place where the segment fits. That place leaves the longest text
+// for the segments that follow.
 bool LikePattern::SkipPast(std::size_t number, std::string_view& text) const
 {
     const Segment& segment = segments_[number];

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-// A wildcard pattern: * any run of characters, ? any one, # any digit 0 to 9, [list] one of the
-// listed characters or ranges, [!list] one that is not listed, [] nothing. To match a wildcard
+// A wildcard pattern: * any run of characters, ? any one, # any digit 0 to 9, [list] any character
+// of a list of characters and ranges, [!list] any other character, [] nothing. To match a wildcard
 // character itself, list it: [*].
 class LikePattern
 {
@@ -16,11 +16,11 @@ public:
 
     LikePattern(std::string_view utf8Pattern, Case caseRule);
 
-    // False for a list without its closing bracket or with a range that runs backwards, and for a
-    // pattern that is too costly; such a pattern matches nothing.
+    // False for a list without a closing bracket or with a reversed range, and for a pattern that
+    // is too costly; such a pattern matches nothing.
     bool IsValid() const { return valid_ && !IsTooCostly(); }
-    // Whether a part between two runs holds more than plain characters, and too much of it to be
-    // looked for at every place of a text.
+    // Whether a segment between two * holds more than plain characters, and too much of that to be
+    // tried at every position of a text.
     bool IsTooCostly() const { return tooCostly_; }
 
     // Whether the whole UTF-8 text fits the pattern.
@@ -35,7 +35,7 @@ private:
 
     enum class Kind { Character, AnyCharacter, Digit, List };
 
-    // Stands for exactly one character.
+    // Matches exactly one character.
     struct Element
     {
         Kind kind;
@@ -45,8 +45,8 @@ private:
     };
     using Segment = std::vector<Element>;
 
-    // Plain characters between two runs are looked for in one pass over the text: where one does
-    // not fit, so many of those that did are the beginning of the next place.
+    // Plain characters between two * are searched in one pass over the text: after a mismatch this
+    // many of the matched characters are already a match of the segment's beginning.
     using Overlaps = std::vector<std::size_t>;
 
     void Parse(std::string_view pattern);
@@ -60,16 +60,16 @@ private:
     bool SkipPlain(const Segment& segment, const Overlaps& overlaps, std::string_view& text) const;
     bool SkipPast(std::size_t segment, std::string_view& text) const;
 
-    // What stands between the runs: one segment more than there are runs.
+    // The parts between the *, one more than there are *.
     std::vector<Segment> segments_{1};
-    std::vector<Overlaps> overlaps_; // of each segment; none where it is not plain or at an end
+    std::vector<Overlaps> overlaps_; // of plain segments but the first and the last
     bool foldsCase_;
     bool valid_ = true;
     bool tooCostly_ = false;
 };
 
-// The program's own comparison of a text with a fixed pattern; upper and lower case differ.
+// Matches a text against a fixed pattern of the program's own; case matters.
 bool IsLike(const QString& text, const char* pattern);
 
-// The pattern text that matches just this text.
+// The pattern that matches just this text.
 QString EscapedForLike(const QString& text);

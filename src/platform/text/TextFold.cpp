@@ -8,7 +8,7 @@ constexpr bool IsContinuation(char byte)
     return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
-// Number of bytes that a leading byte announces, 1 for whatever announces nothing.
+// Number of bytes that a leading byte announces; 1 for any other byte.
 constexpr unsigned AnnouncedLength(unsigned char lead)
 {
     if (lead >= 0xF0 && lead < 0xF8)

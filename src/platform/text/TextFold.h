@@ -5,8 +5,8 @@
 
 #include <string_view>
 
-// Comparing text without regard to case. Accents count, and each character is folded by itself
-// (simple case folding of Unicode), so that folding never changes a text's length in characters.
+// Comparing text, ignoring case. Accents matter, and each character is folded by itself (simple
+// case folding of Unicode), so that folding never changes a text's length in characters.
 
 inline char32_t FoldCase(char32_t character)
 {
@@ -18,8 +18,9 @@ inline char32_t FoldCase(char32_t character)
 // TakeUtf8 for a text whose first byte is not ASCII.
 char32_t TakeLongUtf8(std::string_view& text);
 
-// Takes the first character off a UTF-8 text, which must not be empty. A byte that begins no valid
-// character counts as the character of its own number, so damaged text still compares.
+// Removes and returns the first character of a UTF-8 text, which must not be empty. A byte that
+// begins no valid character stands for the character with its number, so that damaged text can be
+// compared too.
 inline char32_t TakeUtf8(std::string_view& text)
 {
     const auto lead = static_cast<unsigned char>(text.front());

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Shows the busy mouse pointer while one lives; they may lie inside each other. A pointer that is
-// hidden stays so.
+// Shows the busy mouse pointer while one lives; they may be nested. A hidden pointer stays hidden.
 class BusyPointer
 {
 public:

@@ -3,7 +3,7 @@
 
 #include <QLabel>
 
-// A label for text of users, which is never taken for markup, that can be clicked.
+// A clickable label for users' text, which is never taken for markup.
 class ClickLabel : public QLabel
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 
 #include <QComboBox>
 
-// The mounted volumes, one of which is chosen. The list is read anew whenever it drops down.
+// A choice among the mounted volumes. The list is read again whenever it drops down.
 class DriveBox : public QComboBox
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
 
     // Root path of the chosen volume; empty when none is.
     QString GetDrive() const { return currentText(); }
-    // Chooses the volume that the path lies on, without DriveChanged.
+    // Chooses the volume of the path, without emitting DriveChanged.
     void ShowVolumeOf(const QString& path);
 
     void showPopup() override;

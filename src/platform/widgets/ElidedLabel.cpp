@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int widestHint = 160; // logical pixels that a short text gets whole
+constexpr int widestHint = 160; // logical pixels; a text up to this width is shown whole
 
 } // namespace
 

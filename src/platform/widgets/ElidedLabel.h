@@ -3,8 +3,8 @@
 
 #include <QLabel>
 
-// Shows a plain text on one line. One that is too long loses its middle, is shown whole in the tool
-// tip, and makes no window wider. One that is short is never cut, unless the form ignores its
+// Shows a plain text on one line. A text that is too long is elided in the middle, shown whole in
+// the tool tip, and makes no window wider. A short text is never cut, unless the form ignores its
 // width.
 class ElidedLabel : public QLabel
 {

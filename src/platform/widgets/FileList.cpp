@@ -10,7 +10,7 @@
 FileList::FileList(QWidget* parent) : QListView(parent), model_(new QStringListModel(this))
 {
     setModel(model_);
-    // With 100,000 names the view must not measure each.
+    // The view must not measure each of 100,000 names.
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     setTextElideMode(Qt::ElideMiddle);

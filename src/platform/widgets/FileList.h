@@ -19,15 +19,15 @@ public:
     explicit FileList(QWidget* parent = nullptr);
 
     const QString& GetPath() const { return path_; }
-    // Reads the folder. When that fails half way a message box tells why, and what was read is
-    // shown. Another tells of files whose names cannot be shown, once for a folder.
+    // Reads the folder. When that fails half-way, a message box says why, and the names read so far
+    // are shown. Another box reports files whose names cannot be shown, once for each folder.
     void SetPath(const QString& path);
 
     const QString& GetPattern() const { return pattern_; }
     // Does not read the folder again.
     void SetPattern(const QString& pattern);
 
-    QStringList GetNames() const; // those on show
+    QStringList GetNames() const; // those shown
     int Count() const;
     void SelectRow(int row);
 
@@ -36,7 +36,7 @@ private:
 
     QString path_;
     QString pattern_ = QStringLiteral("*.*");
-    QStringList files_; // of the folder, whatever the pattern
+    QStringList files_; // all in the folder, whatever the pattern
     LeftOutNames leftOut_;
     QStringListModel* model_;
 };

@@ -10,11 +10,11 @@ namespace {
 
 const QColor groundColor(0x1f, 0x20, 0x23);
 
-// Stands in for a picture whose size cannot be told; logical pixels.
+// Used for a picture whose size is unknown; logical pixels.
 constexpr QSize unreadableSize(320, 240);
 
-// While the window's edge is dragged the picture is stretched, and decoded once it rests this long
-// (milliseconds).
+// While the window's edge is dragged the picture is stretched. It is decoded when the edge has
+// rested this long (milliseconds).
 constexpr int decodePause = 120;
 
 } // namespace
@@ -62,7 +62,7 @@ void FittedPicture::resizeEvent(QResizeEvent*)
     Place();
     if (!imgImage_->isVisibleTo(this))
         return;
-    // A picture that was decoded before the window had its size would show as a blur.
+    // A picture decoded before the window had its size would be blurred.
     const double wanted = imgImage_->width() * devicePixelRatioF();
     if (imgImage_->GetPicture().width() * 2 < wanted)
         Decode();

@@ -6,8 +6,8 @@
 
 class PictureBox;
 
-// A dark ground with one picture in its middle, made smaller where it must be to fit, never larger.
-// The picture's box is named imgImage.
+// A dark background with one picture in its middle, scaled down to fit if necessary, never up. The
+// picture's box is named imgImage.
 class FittedPicture : public QWidget
 {
     Q_OBJECT
@@ -15,8 +15,8 @@ class FittedPicture : public QWidget
 public:
     explicit FittedPicture(QWidget* parent = nullptr);
 
-    // Shows the album's picture file, read from path (the same, or its local copy). An empty file
-    // shows none.
+    // Shows the album's picture file, read from path (the same, or its local copy). Shows none for
+    // an empty file.
     void ShowPicture(const QString& file, const QString& path);
 
     QSize sizeHint() const override { return {480, 320}; }
@@ -31,6 +31,6 @@ private:
 
     PictureBox* imgImage_;
     QString path_;
-    QSize naturalSize_; // device pixels; empty for a picture that cannot be read
+    QSize naturalSize_; // device pixels; empty for an unreadable picture
     QTimer decodeDelay_;
 };

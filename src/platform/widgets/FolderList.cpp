@@ -14,7 +14,7 @@ namespace {
 
 constexpr int pathRole = Qt::UserRole;
 
-// The folder's ancestors from the root on, and itself.
+// The folder's ancestors from the root on, then the folder itself.
 QStringList Chain(const QString& path)
 {
     QStringList chain{path};

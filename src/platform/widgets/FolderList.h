@@ -5,9 +5,8 @@
 
 #include <QTreeWidget>
 
-// Shows one folder: the folders that it lies in, itself, and below it the folders that it holds. A
-// double click or Enter goes to the folder under the pointer or the cursor, Backspace to the one
-// above.
+// Shows one folder: the folders above it, itself, and the folders in it. A double click or Enter
+// goes to the folder under the pointer or the cursor, Backspace to the parent folder.
 class FolderList : public QTreeWidget
 {
     Q_OBJECT
@@ -16,14 +15,14 @@ class FolderList : public QTreeWidget
 public:
     explicit FolderList(QWidget* parent = nullptr);
 
-    // Without a separator at its end, but for a root.
+    // Without a separator at its end, except for a root.
     const QString& GetPath() const { return path_; }
-    // A folder that cannot be read is told in a message box, and the one on show stays. Another
-    // tells of folders whose names cannot be shown, once for each that holds such.
+    // If the folder cannot be read, a message box says so, and the current one stays. Another box
+    // reports folders whose names cannot be shown, once for each folder that holds some.
     void SetPath(const QString& path);
 
 signals:
-    // Also when the same folder was chosen and read again.
+    // Emitted even when the same folder was chosen and read again.
     void PathChanged(const QString& path);
 
 protected:

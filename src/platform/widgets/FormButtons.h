@@ -8,7 +8,7 @@
 
 #include <initializer_list>
 
-// A button of a form, its drawing in the icon theme ("" for none), and what a click on it runs.
+// A button of a form, the name of its icon ("" for none), and what a click on it runs.
 template<typename Form>
 struct FormButton
 {
@@ -17,7 +17,7 @@ struct FormButton
     void (Form::*handler)();
 };
 
-// An error that a handler throws is reported in a message box.
+// Errors that a handler throws are reported in a message box.
 template<typename Form>
 void ConnectButtons(Form* form, std::initializer_list<FormButton<Form>> buttons)
 {

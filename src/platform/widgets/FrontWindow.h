@@ -3,6 +3,6 @@
 
 class QWidget;
 
-// Brings the window to the front, or the one that is open over it. Where the desktop lets no window
-// come forward by itself, it marks the window in its task bar.
+// Brings the window, or the one open over it, to the front. A desktop that does not allow this
+// marks the window in its task bar.
 void BringToFront(QWidget* window);

@@ -25,19 +25,19 @@ public:
             lastRelease_ = key->timestamp();
         if (!isPress || !IsRepetition(*key))
             return false;
-        event->accept(); // as an override: not for the shortcuts
+        event->accept(); // as an override, so that no shortcut gets it
         return true;
     }
 
 private:
-    // When a window has just closed, X11 repeats a key as a release and a press of the same moment
-    // without the toolkit's noticing. 0 is the time of an event that some program made.
+    // When a window has just closed, X11 repeats a key as a release and a press with the same time,
+    // which the toolkit does not recognise. Events made by a program have time 0.
     bool IsRepetition(const QKeyEvent& press) const
     {
         return press.isAutoRepeat() || (lastRelease_ != 0 && press.timestamp() == lastRelease_);
     }
 
-    quint64 lastRelease_ = 0; // milliseconds of the window system
+    quint64 lastRelease_ = 0; // in the window system's milliseconds
 };
 
 } // namespace

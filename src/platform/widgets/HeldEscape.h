@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// From now on an Esc that is held down closes one window only: its repetitions go nowhere.
+// From now on holding Esc down closes only one window: repetitions are ignored.
 void InstallHeldEscapeFilter();

@@ -21,7 +21,8 @@
 namespace {
 
 constexpr int anchorRole = Qt::UserRole;
-constexpr int placeRole = Qt::UserRole + 1; // of the chapter's heading in the text, in characters
+constexpr int placeRole =
+    Qt::UserRole + 1; // where the chapter's heading is in the text, in characters
 
 int PlaceOfAnchor(const QTextDocument& text, const QString& anchor)
 {
@@ -54,7 +55,7 @@ public:
     }
 
 private:
-    // An open menu or list goes away first: it would keep the keyboard to itself.
+    // An open menu or list is closed first: it would keep the keyboard.
     static QWidget* WindowOf(QWidget* widget)
     {
         if (!QApplication::activePopupWidget())
@@ -142,8 +143,7 @@ void HelpWindow::Read(const QString& file)
     }
 }
 
-// The last chapters are too short to come to the upper edge; the one chosen stays marked all the
-// same.
+// The last chapters are too short to reach the upper edge; the chosen one stays marked anyway.
 void HelpWindow::ScrollTo(const QString& chapter)
 {
     const QScopedValueRollback<bool> guided(isGuided_, true);
@@ -159,7 +159,7 @@ void HelpWindow::FollowText()
     while (chapter + 1 < lstContents_->count() &&
            lstContents_->item(chapter + 1)->data(placeRole).toInt() <= top)
         ++chapter;
-    const QSignalBlocker quiet(lstContents_); // the text is where it shall be
+    const QSignalBlocker quiet(lstContents_); // the text must not move
     lstContents_->setCurrentRow(chapter);
 }
 
@@ -170,12 +170,12 @@ void HelpWindow::GoTo(const QString& chapter)
             lstContents_->setCurrentRow(row);
     }
     txtHelp_->setFocus();
-    // The text is laid out for the window's size first.
+    // Later, when the text has been laid out for the window's size.
     QMetaObject::invokeMethod(
         this, [this, chapter] { ScrollTo(chapter); }, Qt::QueuedConnection);
 }
 
-// From the place found last on, and behind the end from the beginning.
+// Searches from the last match on, and after the end from the beginning.
 void HelpWindow::Search()
 {
     const QString text = txtSearch_->text();

@@ -8,8 +8,8 @@ class QLineEdit;
 class QListWidget;
 class QTextBrowser;
 
-// Shows the program's help file, which is written in HTML: contents on the left, a field to search
-// above. Its chapters are headings with an anchor, named after the windows that they tell about.
+// Shows the program's help file, which is written in HTML: contents on the left, a search field
+// above. Its chapters are headings with anchors, named after the windows that they describe.
 class HelpWindow : public QDialog
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class HelpWindow : public QDialog
 public:
     HelpWindow(const QString& file, QWidget* parent);
 
-    // Goes to the chapter of that name, or stays at the beginning when there is none.
+    // Goes to the chapter with that name; stays at the beginning when there is none.
     void GoTo(const QString& chapter);
 
 private:
@@ -25,7 +25,7 @@ private:
     void Read(const QString& file);
     void Search();
     void ScrollTo(const QString& chapter);
-    // Marks the chapter in the contents that the upper edge of the text lies in.
+    // Marks in the contents the chapter at the upper edge of the text.
     void FollowText();
 
     QListWidget* lstContents_;
@@ -35,5 +35,5 @@ private:
     bool isGuided_ = false; // the text moves because a chapter was chosen
 };
 
-// From now on F1 shows the help file at the chapter of the window in front.
+// From now on F1 shows the front window's chapter of the help file.
 void InstallHelpKey(const QString& file);

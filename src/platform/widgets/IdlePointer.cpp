@@ -11,7 +11,7 @@ IdlePointer::IdlePointer(QWidget* window, int patience) : QObject(window), windo
     idle_.setInterval(patience);
     connect(&idle_, &QTimer::timeout, this, &IdlePointer::Hide);
     place_ = QCursor::pos();
-    // Asked of the application, because a movement is first told to whatever lies under it.
+    // On the application, because the widget under the pointer gets a movement first.
     qApp->installEventFilter(this);
     idle_.start();
 }
@@ -25,7 +25,7 @@ bool IdlePointer::eventFilter(QObject*, QEvent* event)
 {
     if (event->type() != QEvent::MouseMove && event->type() != QEvent::MouseButtonPress)
         return false;
-    // Some systems tell a movement when only what lies under the pointer has changed.
+    // Some systems report a movement when only the window under the pointer has changed.
     const QPoint place = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
     if (place == place_ && event->type() == QEvent::MouseMove)
         return false;

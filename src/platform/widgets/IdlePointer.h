@@ -7,9 +7,8 @@
 
 class QWidget;
 
-// Hides the mouse pointer over a window that has not been touched by the mouse for a moment, and
-// brings it back with the next movement. Another window in front of it keeps its pointer. The
-// window owns it.
+// Hides the mouse pointer over a window where the mouse has been idle for a moment, and shows it
+// again at the next movement. Other windows in front keep their pointer. The window owns it.
 class IdlePointer : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ KeyPreview::KeyPreview(QWidget* window, Handler handler)
 
 bool KeyPreview::eventFilter(QObject* watched, QEvent* event)
 {
-    // Between two presses comes at least one of these; the next press may lie at the same address.
+    // At least one of these comes between two presses; the next press may have the same address.
     if (event->type() == QEvent::KeyRelease || event->type() == QEvent::ShortcutOverride)
         seen_ = nullptr;
     if (event->type() != QEvent::KeyPress)
@@ -23,7 +23,7 @@ bool KeyPreview::eventFilter(QObject* watched, QEvent* event)
     auto* control = qobject_cast<QWidget*>(watched);
     if (!control || control->window() != window_)
         return false;
-    // A key that a control leaves unused goes up through its parents; it is looked at once.
+    // An unused key is passed to the control's parents; it is handled only once.
     if (event == seen_ && seenBy_ && control != seenBy_ && control->isAncestorOf(seenBy_))
         return false;
     seen_ = event;

@@ -9,14 +9,14 @@
 
 class QKeyEvent;
 
-// Shows a window every key before the control that has the focus gets it, so that a window's keys
-// work whichever button was used last. The window owns it.
+// Gives a window every key before the focused control gets it, so that the window's keys work
+// whichever button was used last. The window owns it.
 class KeyPreview : public QObject
 {
     Q_OBJECT
 
 public:
-    // Returns true when the key is used up.
+    // Returns true when the key is used.
     using Handler = std::function<bool(QKeyEvent&)>;
 
     KeyPreview(QWidget* window, Handler handler);

@@ -6,11 +6,11 @@
 
 struct FolderListing;
 
-// Tells of names in a folder that cannot be shown, once for each folder.
+// Reports names in a folder that cannot be shown, once for each folder.
 class LeftOutNames
 {
 public:
-    // Text takes their number and the folder as %1 and %2.
+    // In text %1 stands for their number and %2 for the folder.
     void Tell(const FolderListing& listing, const QString& folder, const QString& text);
 
 private:

@@ -12,7 +12,7 @@ class ListBoxWheel : public QObject
 public:
     using QObject::QObject;
 
-    // An open list is a window of its own and no QComboBox.
+    // An open list is a separate window, not a QComboBox.
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() != QEvent::Wheel || !qobject_cast<QComboBox*>(watched))
@@ -26,7 +26,7 @@ public:
 
 void KeepWheelFromListBoxes()
 {
-    static QPointer<ListBoxWheel> filter; // goes with the application
+    static QPointer<ListBoxWheel> filter; // deleted with the application
     if (filter)
         return;
     filter = new ListBoxWheel(qApp);

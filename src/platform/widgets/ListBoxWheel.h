@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// From now on the mouse wheel changes no closed list box of the program: what it is turned over
-// goes on to whatever scrolls around the box. Later calls do nothing.
+// From now on the mouse wheel does not change closed list boxes: it scrolls the area around them
+// instead. Later calls do nothing.
 void KeepWheelFromListBoxes();

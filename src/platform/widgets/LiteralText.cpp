@@ -27,8 +27,7 @@ QString WithoutControls(QString text, bool keepsLines)
 
 } // namespace
 
-// Always markup, with everything in the text escaped: plain text that merely looks like it is told
-// apart by a guess.
+// Always markup, with the text escaped: the toolkit only guesses whether a text is plain.
 QString AsToolTip(const QString& text)
 {
     return text.isEmpty()

@@ -3,12 +3,12 @@
 
 #include <QString>
 
-// Texts of albums and names of files, for places where the toolkit would read more into them than
-// what stands there. A text of any length is cut to what a screen can hold.
+// For showing texts of albums and file names literally where the toolkit would interpret them.
+// Texts are cut to what a screen can hold.
 
-// A tool tip that shows the text itself: the toolkit takes what looks like markup for markup, and
-// would open whatever file an <img> in it names.
+// A tool tip with the literal text: the toolkit takes what looks like markup for markup, and would
+// open the file of an <img>.
 QString AsToolTip(const QString& text);
 
-// A window's title in one line; the toolkit leaves out "[*]", its place for a mark of changes.
+// A window's title in one line; the toolkit would drop "[*]", its placeholder for a modified mark.
 QString AsWindowTitle(const QString& text);

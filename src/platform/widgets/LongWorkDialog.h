@@ -9,7 +9,7 @@
 
 class QPushButton;
 
-// Tells that long work goes on in another thread, and lets the user stop it. Comes up only when the
+// Shows that long work goes on in another thread, and lets the user stop it. Appears only when the
 // work takes a while.
 class LongWorkDialog : public QDialog
 {
@@ -21,7 +21,7 @@ public:
     // Returns when the work is done; throws what it threw.
     void Run(const Dialogs::Work& work);
 
-    // Stops the work, if that can be; the dialog goes when the work has ended.
+    // Stops the work if possible; the dialog closes when the work has ended.
     void reject() override;
 
 private:

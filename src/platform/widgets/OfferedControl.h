@@ -4,8 +4,8 @@
 #include <QString>
 #include <QVariant>
 
-// Enables a button or a menu entry where it is offered and nothing speaks against it; otherwise its
-// tool tip tells the reason, until it is offered again. An empty reason is none.
+// Enables a button or a menu entry if it is offered and reason is empty. A reason is its tool tip
+// until the next call without one.
 template<typename Control>
 void OfferUnless(Control& control, bool isOffered, const QString& reason)
 {

@@ -4,8 +4,8 @@
 #include <QImage>
 #include <QWidget>
 
-// A rectangle filled with one picture, which is brought to the box's size before it is given. Its
-// Tag tells which picture of the album it shows: the picture's File, empty when it shows none.
+// A rectangle filled with one picture, which the caller scales to the box's size. Its Tag is the
+// File of the album's picture that it shows, empty when it shows none.
 class PictureBox : public QWidget
 {
     Q_OBJECT
@@ -17,13 +17,12 @@ public:
     const QString& GetTag() const { return tag_; }
     void SetTag(const QString& tag);
 
-    // In device pixels. A null image shows a sign for a picture that could not be read.
+    // In device pixels. A null image shows a sign for an unreadable picture.
     void SetPicture(const QImage& picture);
     const QImage& GetPicture() const { return picture_; }
 
 signals:
-    // The second press of a double click is none of its own: it would undo at once what the first
-    // one did.
+    // The second press of a double click does not count: it would undo what the first one did.
     void Pressed(Qt::MouseButton button);
 
 protected:

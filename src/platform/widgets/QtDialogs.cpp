@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr int inputWidth = 420;   // logical pixels; a chapter's name or a path's end is seen whole
-constexpr int widestPrompt = 700; // logical pixels; a longer one goes on in the next line
+constexpr int inputWidth = 420; // logical pixels; shows a whole chapter's name or the end of a path
+constexpr int widestPrompt = 700;       // logical pixels; a longer one wraps
 constexpr qsizetype longestText = 3000; // characters; no screen holds more of a message
 
 QString Cut(const QString& text)
@@ -89,7 +89,7 @@ Dialogs::Answer FromQt(int button)
     }
 }
 
-// "Album|*.alb;*.bak" reads "Album (*.alb *.bak)" to the toolkit.
+// Turns "Album|*.alb;*.bak" into the toolkit's "Album (*.alb *.bak)".
 QString ToQtFilter(const QString& filter)
 {
     const QString patterns = filter.section(u'|', 1).replace(u';', u' ');
@@ -117,15 +117,15 @@ QString Choose(const Dialogs::FileChoice& choice, QFileDialog::AcceptMode mode)
     return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
 }
 
-// The toolkit adds an extension only to a name without any dot: "Rome 12.5" would stay as it is.
+// The toolkit adds an extension only to a name without any dot: "Rome 12.5" would get none.
 QString WithExtension(const QString& path, const QString& filter)
 {
     const QString ending = QLatin1Char('.') + FirstExtension(filter);
     return path.endsWith(ending, Qt::CaseInsensitive) ? path : path + ending;
 }
 
-// Prompts hold names of users, which must not be read as markup. A label that belongs to a field
-// would also take "&" for the mark of an access key, so the field gets its name in another way.
+// Prompts contain users' names, which must not be read as markup. A field's label would also take
+// "&" for an access key, so the field gets its name in another way.
 void ShowLiterally(QInputDialog& dialog)
 {
     for (QLabel* label : dialog.findChildren<QLabel*>()) {
@@ -174,7 +174,7 @@ QString QtDialogs::AskText(const Input& input)
     dialog.setLabelText(Cut(input.prompt));
     dialog.setTextValue(input.proposal);
     dialog.setTextEchoMode(input.isPassword ? QLineEdit::Password : QLineEdit::Normal);
-    dialog.sizeHint(); // makes the labels, which are not there before
+    dialog.sizeHint(); // creates the labels
     ShowLiterally(dialog);
     if (!input.note.isEmpty())
         AddNote(dialog, input.note);
@@ -196,7 +196,7 @@ QString QtDialogs::AskSaveFile(const FileChoice& choice)
         if (chosen.isEmpty())
             return {};
         const QString path = WithExtension(chosen, choice.filter);
-        // The dialog has asked about the name that was typed, which is not this one.
+        // The dialog has asked about the typed name, not about this one.
         if (path == chosen || !QFileInfo::exists(path) ||
             Ask({QCoreApplication::translate("QtDialogs",
                                              "'%1' exists already. Do you want to replace it?")

@@ -3,8 +3,8 @@
 
 #include "platform/dialogs/Dialogs.h"
 
-// The door's real side: the toolkit's message boxes, input boxes and file dialogs, modal to the
-// window in front.
+// The dialogs of the running program: the toolkit's message boxes, input boxes and file dialogs,
+// modal to the front window.
 class QtDialogs : public Dialogs
 {
 public:

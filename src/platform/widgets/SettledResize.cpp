@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int dragPause = 120; // milliseconds between two sizes that are told
+constexpr int dragPause = 120; // milliseconds between two reported sizes
 
 } // namespace
 
@@ -35,5 +35,5 @@ void SettledResize::Tell()
 {
     sinceTold_.start();
     RunGuarded(handler_);
-    sinceTold_.start(); // the handler's own time is no part of a drag
+    sinceTold_.start(); // the handler's own time does not count
 }

@@ -9,9 +9,8 @@
 
 class QWidget;
 
-// Tells a window's new size once it is on the screen: its first size at once, and the sizes that
-// come while an edge is dragged gathered into few. Nothing is told of a window that was closed. The
-// window owns it.
+// Reports the size of a window on the screen: its first size at once, and only a few of the sizes
+// while an edge is dragged. Reports nothing for a closed window. The window owns it.
 class SettledResize : public QObject
 {
 public:

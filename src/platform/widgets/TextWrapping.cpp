@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr qsizetype longestWord = 1000; // characters; more than any word or address has
+constexpr qsizetype longestWord = 1000; // characters; longer than any word or address
 
 bool HasLongRun(const QString& text)
 {
@@ -18,7 +18,7 @@ bool HasLongRun(const QString& text)
     return false;
 }
 
-// Lines may end in other places than blanks, nearly anywhere in some scripts.
+// Lines may break not only at blanks, but nearly anywhere in some scripts.
 bool HasEndlessWord(const QString& text)
 {
     QTextBoundaryFinder places(QTextBoundaryFinder::Line, text);

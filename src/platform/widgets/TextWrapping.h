@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTextOption>
 
-// How an edit box has to wrap a text: between words, or anywhere where one is endless. To find a
-// word's end the toolkit looks at all of it for each line, which for a megabyte takes a minute.
+// How an edit box should wrap a text: between words, or anywhere if a word is endless. For each
+// line the toolkit searches the whole rest of a word for its end, which takes a minute for a
+// megabyte.
 QTextOption::WrapMode WrapModeFor(const QString& text);

@@ -9,7 +9,7 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
-// A static library's resources are not there until they are asked for, outside any namespace.
+// Resources of a static library must be initialised explicitly, outside any namespace.
 static void LoadDrawings()
 {
     Q_INIT_RESOURCE(icons);

@@ -10,8 +10,8 @@ class QRect;
 
 // Line drawings of resources/icons, in the colours of the desktop's theme.
 
-// Sharp at every size and scale; follows the application's palette also when that changes, and
-// greys out for disabled controls. An unknown name gives an empty icon.
+// Sharp at every size and scale; follows changes of the application's palette, and is grey for
+// disabled controls. An unknown name gives an empty icon.
 QIcon ThemedIcon(const QString& name);
 
 // The program's own picture, in colours.

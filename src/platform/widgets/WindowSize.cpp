@@ -30,9 +30,8 @@ public:
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        // Not before: icons are there only now, and the album's own labels may come and change
-        // later. Without this the smallest size that the form gives would let a longer language's
-        // captions be cut off.
+        // Not earlier: icons exist only now, and the album's labels may change later. The form's
+        // own minimum size would cut off the captions of longer languages.
         if (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest)
             window_->setMinimumSize(window_->minimumSize().expandedTo(window_->minimumSizeHint()));
         const bool full = window_->isMaximized() || window_->isFullScreen();
@@ -55,6 +54,6 @@ void KeepWindowSize(QWidget* window, QSize proposed)
     const QSize room = window->screen()->availableSize() * 0.94;
     window->resize((kept.isEmpty() ? proposed : kept).boundedTo(room));
     new SizeKeeper(window);
-    // Every window comes here, so that none can be forgotten.
+    // Here because every window calls this.
     KeepWheelFromListBoxes();
 }

@@ -93,7 +93,7 @@ bool WorkProgress::eventFilter(QObject* watched, QEvent* event)
                           static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if ((isEscape || event->type() == QEvent::Close) && cmdStop_->isVisible())
         Stop();
-    // Accepted, this one says: not for the shortcuts.
+    // An accepted override keeps the key from shortcuts.
     event->setAccepted(event->type() == QEvent::ShortcutOverride);
     return true;
 }

@@ -7,9 +7,9 @@
 class QProgressBar;
 class QPushButton;
 
-// A bar that shows how far a long piece of work has come and keeps the windows alive meanwhile. As
-// long as the work runs, nothing else in the program takes keys or clicks but the stop button, and
-// Esc, which presses it. Hidden when there is no work.
+// A bar that shows the progress of long work and keeps the windows alive. While the work runs, the
+// program takes no keys or clicks except on the stop button, and Esc, which presses it. Hidden when
+// there is no work.
 class WorkProgress : public QWidget
 {
     Q_OBJECT
@@ -17,12 +17,12 @@ class WorkProgress : public QWidget
 public:
     explicit WorkProgress(QWidget* parent = nullptr);
 
-    // total 0: it is not known how much there is to do.
+    // total 0: the amount of work is unknown.
     void Begin(int total, bool canStop);
-    // Call often; costs next to nothing between two updates of the screen. False once the work
-    // shall stop.
+    // Call often; it costs next to nothing between two updates of the screen. False once the work
+    // must stop.
     bool Advance(int done);
-    // Whether the last Advance updated the screen: what else tells of the work is updated with it.
+    // Whether the last Advance updated the screen; update other progress displays then.
     bool HasShown() const { return hasShown_; }
     void End();
 

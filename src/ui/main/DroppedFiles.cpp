@@ -10,11 +10,11 @@
 namespace {
 
 const QString albumPatterns = QStringLiteral("*.alb;*.mdb");
-// Everything that the picture reader knows.
+// The usual extensions of what the picture reader knows; it also reads PPM and PGM.
 const QString picturePatterns =
     QStringLiteral("*.jpg;*.jpeg;*.gif;*.bmp;*.png;*.tif;*.tiff;*.webp");
 
-// Names of files are any bytes, and so a URL's may be.
+// A file name, and so the path of a URL, may be any bytes.
 bool IsValidText(const QUrl& url)
 {
     const QByteArray bytes = QByteArray::fromPercentEncoding(url.toEncoded());
@@ -26,7 +26,7 @@ class Sorter
 public:
     void Add(const QUrl& url)
     {
-        // Empty, and so no file, for one that is elsewhere.
+        // A URL that is not local gives an empty path, which is no file.
         const QFileInfo info(url.toLocalFile());
         if (info.isDir())
             AddFolder(QDir::toNativeSeparators(info.absoluteFilePath()));

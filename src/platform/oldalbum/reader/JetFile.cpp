@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t versionAt = 0x14;
 constexpr std::size_t passwordAt = 0x42;
 constexpr std::size_t creationDateAt = 0x72; // Jet 4: days since 1899-12-30
-constexpr std::size_t passwordSizeJet3 = 20; // bytes, filled up with zeros
+constexpr std::size_t passwordSizeJet3 = 20; // bytes, padded with zeros
 constexpr std::size_t passwordSizeJet4 = 40;
 
 bool HasHead(const char* path)
@@ -26,8 +26,8 @@ bool HasHead(const char* path)
            (head[versionAt] == MDB_VER_JET3 || head[versionAt] == MDB_VER_JET4);
 }
 
-// The library converts Jet 4's texts as if no character needed two code units, and makes each of
-// such a pair a question mark.
+// The library converts Jet 4's texts as UCS-2, and makes each half of a surrogate pair a question
+// mark.
 void ReadSurrogatePairs(MdbHandle* handle)
 {
     const iconv_t whole = iconv_open("UTF-8", "UTF-16LE");
@@ -47,7 +47,7 @@ std::unique_ptr<JetFile> JetFile::Open(const char* path)
     file->handle_ = mdb_open(path, MDB_NOFLAGS);
     if (!file->handle_)
         return nullptr;
-    // The library's own way to write a date tells neither the century nor day from month.
+    // The library's own date format omits the century and makes day and month ambiguous.
     mdb_set_date_fmt(file->handle_, "%Y-%m-%d %H:%M:%S");
     if (!IS_JET3(file->handle_))
         ReadSurrogatePairs(file->handle_);
@@ -90,13 +90,13 @@ std::string JetFile::GetPassword() const
 
 std::string JetFile::ToUtf8(std::string_view bytes) const
 {
-    // The library steps over what it cannot convert by two bytes and would miss an odd end.
+    // The library skips two bytes at a time over what it cannot convert, and would miss an odd end.
     const bool isPlainJet4 = !IS_JET3(handle_) && bytes.substr(0, 2) != "\xFF\xFE";
     if (isPlainJet4 && bytes.size() % 2 == 1)
         bytes.remove_suffix(1);
     if (bytes.empty())
         return {};
-    // No character takes more than three bytes for each of its own; one is for the closing zero.
+    // No character takes more than three bytes for each byte here; one is for the closing zero.
     std::string text(bytes.size() * 3 + 1, '\0');
     const int size =
         mdb_unicode2ascii(handle_, bytes.data(), bytes.size(), text.data(), text.size());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// First: the library's own header includes it inside a block for C.
+// Included first: the library's own header includes it inside extern "C".
 #include <glib.h>
 
 #include <mdbtools.h>
@@ -16,7 +16,7 @@
 class JetFile
 {
 public:
-    // Nothing when the file is not Jet 3 or Jet 4, or its first page cannot be read.
+    // Null when the file is not Jet 3 or Jet 4, or its first page cannot be read.
     static std::unique_ptr<JetFile> Open(const char* path);
     ~JetFile();
     JetFile(const JetFile&) = delete;
@@ -25,11 +25,11 @@ public:
     MdbHandle* GetHandle() const { return handle_; }
     std::uint32_t GetPageCount() const { return pageCount_; }
 
-    // The password that the first page holds, empty when there is none. It guards nothing: the
+    // The password stored in the first page, empty when there is none. It protects nothing: the
     // other pages can be read without it.
     std::string GetPassword() const;
 
-    // A text of the file as UTF-8.
+    // Converts a text of the file to UTF-8.
     std::string ToUtf8(std::string_view bytes) const;
 
 private:
@@ -37,5 +37,5 @@ private:
 
     MdbHandle* handle_ = nullptr;
     std::uint32_t pageCount_ = 0;
-    std::string firstPage_; // with the mask over its head taken off
+    std::string firstPage_; // with its header unmasked
 };

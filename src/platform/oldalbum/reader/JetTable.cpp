@@ -5,14 +5,14 @@
 
 namespace {
 
-constexpr unsigned mostColumns = 255; // of a table, by the format
+constexpr unsigned maxColumns = 255; // of a table, in the format
 constexpr int lastNumberAtJet3 = 0x10;
 constexpr int lastNumberAtJet4 = 0x14;
-constexpr int mostRows = 1000; // of a page, that the library finds
+constexpr int maxRows = 1000; // of a page; the library finds no more
 
-// Two bits beside a row's offset in its page.
+// A row's offset in its page, and two flag bits.
 constexpr int offsetBits = 0x1FFF;
-constexpr int pointerBit = 0x4000; // holds only where the row lies now
+constexpr int pointerBit = 0x4000; // holds only the row's new place
 constexpr int awayBit = 0x8000;    // reached through a pointer; both bits: deleted
 
 } // namespace
@@ -23,7 +23,7 @@ JetTable::JetTable(const JetFile& file, std::uint32_t page) : file_(file), handl
     entry_.object_type = MDB_TABLE;
     entry_.table_pg = page;
     table_ = mdb_read_table(&entry_);
-    if (!table_ || table_->num_cols == 0 || table_->num_cols > mostColumns)
+    if (!table_ || table_->num_cols == 0 || table_->num_cols > maxColumns)
         return;
     lastNumber_ = std::uint32_t(
         mdb_get_int32(handle_->pg_buf, IS_JET3(handle_) ? lastNumberAtJet3 : lastNumberAtJet4));
@@ -50,13 +50,13 @@ bool JetTable::IsOwnPage() const
            std::uint32_t(mdb_get_int32(handle_->pg_buf, 4)) == entry_.table_pg;
 }
 
-// Pages come in rising order, so that reading can be taken up again at one of them.
+// Pages come in ascending order, so that reading can resume at any of them.
 bool JetTable::GoToNextPage(Pages pages)
 {
     if (pages == Pages::OfMap) {
         while (mdb_read_next_dpg(table_)) {
-            // Where part of the map is unreadable the library goes through the file, and begins
-            // with the page it has just given.
+            // Where part of the map is unreadable the library goes through the file, starting with
+            // the page that it has just returned.
             if (handle_->cur_pg < nextPage_)
                 continue;
             nextPage_ = handle_->cur_pg + 1;
@@ -103,7 +103,7 @@ void JetTable::ReadPage(std::uint32_t firstRow, Visitor& visitor)
     const std::uint32_t page = nextPage_ - 1;
     const int countAt = handle_->fmt->row_count_offset;
     const int room = (int(handle_->fmt->pg_size) - countAt - 2) / 2;
-    const int rows = std::min({mdb_get_int16(handle_->pg_buf, countAt), room, mostRows});
+    const int rows = std::min({mdb_get_int16(handle_->pg_buf, countAt), room, maxRows});
     for (int row = int(firstRow); row < rows; ++row) {
         const Place place{page, std::uint32_t(row)};
         int start = 0;
@@ -111,7 +111,7 @@ void JetTable::ReadPage(std::uint32_t firstRow, Visitor& visitor)
         const bool found = mdb_find_row(handle_, row, &start, &size) == 0;
         const bool isPointer = start & pointerBit;
         if (start & awayBit)
-            continue; // deleted, or met through its pointer
+            continue; // deleted, or reached through its pointer
         visitor.BeforeRow(place);
         if (!found || size == 0)
             visitor.AtLostRow(place);

@@ -6,11 +6,10 @@
 #include <functional>
 #include <vector>
 
-// One table of a file: its columns and its live rows in the order of the table.
+// One table of a file: its columns, and its live rows in table order.
 //
-// The library itself gives rows as they lie in the file. A row that outgrew its page leaves a
-// pointer behind and lies elsewhere; the order of the table is that of the pointers, so they are
-// followed here.
+// The library itself returns rows in file order. A row that outgrew its page was moved and left a
+// pointer in its place. Table order is that of the pointers, so they are followed here.
 class JetTable
 {
 public:
@@ -20,8 +19,8 @@ public:
         std::uint32_t row = 0;
     };
 
-    // Where the pages are taken from: the table's own map, or, where that is damaged, every page of
-    // the file that says that it belongs to the table, or those of them that the map leaves out.
+    // Which pages to read: those in the table's own map; or, when that is damaged, all pages of the
+    // file that claim to belong to the table; or those of them that are not in the map.
     enum class Pages { OfMap, OfFile, OutsideMap };
 
     struct Visitor
@@ -29,24 +28,24 @@ public:
         virtual ~Visitor() = default;
         virtual void AtPage(std::uint32_t page) = 0;
         virtual void BeforeRow(Place place) = 0;
-        // The row lies in the file's current page while this runs.
+        // The row is in the file's current page during the call.
         virtual void AtRow(Place place, const std::vector<MdbField>& fields, int start,
                            int size) = 0;
         virtual void AtLostRow(Place place) = 0;
     };
 
-    // page: where the table describes itself.
+    // page: the one with the table's definition.
     JetTable(const JetFile& file, std::uint32_t page);
     ~JetTable();
     JetTable(const JetTable&) = delete;
     JetTable& operator=(const JetTable&) = delete;
 
-    // False when the description is damaged; then nothing else may be asked.
+    // False when the definition is damaged; then call nothing else.
     bool IsReadable() const { return table_ && table_->columns; }
 
     std::vector<const MdbColumn*> GetColumns() const;
     std::uint32_t GetRowCount() const { return table_->num_rows; } // as stated; 0 may be wrong
-    // The last number that was given to a row, also where that row is gone; 0 when never.
+    // The last number given to a row, even if that row is gone; 0 for none.
     std::uint32_t GetLastNumber() const { return lastNumber_; }
 
     void Read(Pages pages, Place from, Visitor& visitor);
@@ -64,7 +63,7 @@ private:
     MdbCatalogEntry entry_ = {};
     MdbTableDef* table_ = nullptr;
     std::uint32_t lastNumber_ = 0;
-    std::uint32_t nextPage_ = 0; // the first one that was not read yet
-    std::vector<bool> inMap_;    // pages to leave out, when those outside the map are read
+    std::uint32_t nextPage_ = 0; // the first one not read yet
+    std::vector<bool> inMap_;    // pages to skip when reading those outside the map
     std::vector<MdbField> fields_;
 };

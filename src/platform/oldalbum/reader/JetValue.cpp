@@ -9,13 +9,13 @@ namespace {
 
 using State = JetValue::State;
 
-// A long text's place in its row: size and kind, the first piece's page and row, four more bytes,
-// and the text itself where it is short.
+// A long text as stored in its row: size and kind, the first piece's page and row, four more bytes,
+// and the text itself if it is short.
 constexpr int memoHead = 12; // bytes
 constexpr std::uint32_t memoSizeBits = 0x3FFFFFFF;
 constexpr std::uint32_t memoInRow = 0x80000000;
 constexpr std::uint32_t memoInOnePiece = 0x40000000;
-constexpr int pieceHead = 4; // bytes: page and row of the piece behind it
+constexpr int pieceHead = 4; // bytes: page and row of the next piece
 
 std::uint32_t NumberAt(const void* bytes, int offset)
 {
@@ -39,8 +39,8 @@ bool FindPiece(const JetFile& file, std::uint32_t place, Piece& piece)
            piece.start >= 0 && std::size_t(piece.start) + piece.size <= pageSize;
 }
 
-// A text in pieces that each name the next. The library follows them until there is no next, which
-// is for ever where they form a ring; here a piece that comes again ends the text.
+// Reads a text whose pieces each name the next. The library follows them to the end, so it never
+// returns when they form a ring; here a repeated piece ends the text.
 JetValue ReadPieces(const JetFile& file, std::uint32_t place, std::size_t size)
 {
     std::string bytes;
@@ -70,7 +70,7 @@ JetValue ReadOnePiece(const JetFile& file, std::uint32_t place, std::size_t size
     return {length < size ? State::Cut : State::Whole, file.ToUtf8({text, length})};
 }
 
-JetValue ReadMemo(const JetFile& file, int start, int size, std::size_t mostBytes)
+JetValue ReadMemo(const JetFile& file, int start, int size, std::size_t maxBytes)
 {
     if (size == 0)
         return {State::Whole, {}};
@@ -84,7 +84,7 @@ JetValue ReadMemo(const JetFile& file, int start, int size, std::size_t mostByte
         const auto* text = reinterpret_cast<const char*>(page) + start + memoHead;
         return {State::Whole, file.ToUtf8({text, std::size_t(size - memoHead)})};
     }
-    if (length > mostBytes)
+    if (length > maxBytes)
         return {State::Unreadable, {}};
     return head & memoInOnePiece ? ReadOnePiece(file, place, length)
                                  : ReadPieces(file, place, length);
@@ -104,9 +104,9 @@ JetValue ReadOther(const JetFile& file, const MdbColumn& column, int start, int 
 } // namespace
 
 JetValue ReadValue(const JetFile& file, const MdbColumn& column, const MdbField& field,
-                   int rowStart, int rowSize, std::size_t mostBytes)
+                   int rowStart, int rowSize, std::size_t maxBytes)
 {
-    // A truth value is never Null: that bit holds it.
+    // A boolean is never Null: the Null bit holds its value.
     if (column.col_type == MDB_BOOL)
         return {State::Whole, field.is_null ? "0" : "1"};
     if (field.is_null)
@@ -119,7 +119,7 @@ JetValue ReadValue(const JetFile& file, const MdbColumn& column, const MdbField&
         return {State::Whole, file.ToUtf8({text, std::size_t(field.siz)})};
     }
     case MDB_MEMO:
-        return ReadMemo(file, field.start, field.siz, mostBytes);
+        return ReadMemo(file, field.start, field.siz, maxBytes);
     case MDB_BYTE:
     case MDB_INT:
     case MDB_LONGINT:

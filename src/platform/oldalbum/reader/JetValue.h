@@ -19,7 +19,7 @@ struct JetValue
     std::string text;
 };
 
-// Reads a field of the row that lies at rowStart in the file's current page. No value is longer
-// than mostBytes, and no chain of pieces is followed further than the value's own size says.
+// Reads a field of the row at rowStart in the file's current page. No value is longer than
+// maxBytes, and a chain of pieces is followed only up to the value's stated size.
 JetValue ReadValue(const JetFile& file, const MdbColumn& column, const MdbField& field,
-                   int rowStart, int rowSize, std::size_t mostBytes);
+                   int rowStart, int rowSize, std::size_t maxBytes);

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::size_t writeAt = 32 * 1024; // bytes; half of what a pipe holds
+constexpr std::size_t writeAt = 32 * 1024; // bytes; half a pipe's buffer
 
 void PutNumber(std::string& text, std::size_t at, std::uint32_t number)
 {

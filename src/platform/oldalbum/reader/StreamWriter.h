@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-// Puts frames together and writes them out. Ends the program when nobody reads them any more.
+// Builds frames and writes them out. Ends the program when nobody reads them any more.
 class StreamWriter
 {
 public:
@@ -17,7 +17,7 @@ public:
     void Text(std::string_view text, std::uint32_t mark = 0);
     void End();
 
-    // Bytes in the frame that is being put together.
+    // Bytes so far in the current frame.
     std::size_t GetFrameSize() const { return buffer_.size() - frameStart_; }
 
     void Flush();

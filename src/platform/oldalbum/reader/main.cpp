@@ -1,15 +1,14 @@
-// SPDX-License-Identifier: MIT
-// Reads albums of the former file format for Lumenark, which starts it as a process of its own:
-// such files come from anywhere, and a damaged one can make the library that reads them crash or
-// run for ever.
+// SPDX-License-Identifier: MIT Reads albums of the former file format for Lumenark, which starts it
+// as a separate process: such files come from anywhere, and a damaged one can make the library that
+// reads them crash or run for ever.
 //
 //   lumenark-import tables FILE [file]
 //   lumenark-import password FILE
 //   lumenark-import rows FILE PAGE FROM-PAGE FROM-ROW [careful] [file | rest]
 //
-// The password to try comes on standard input. "file" goes through all pages of the file instead
-// of those that the table's map names, "rest" through those that it leaves out; "careful" announces
-// each row before it is read. What is written, and the exit codes: OldAlbumStream.h.
+// The password to try is read from standard input. "file" reads all pages of the file instead of
+// those in the table's map, "rest" those not in the map; "careful" announces each row before it is
+// read. OldAlbumStream.h describes the output and the exit codes.
 #include "JetFile.h"
 #include "JetTable.h"
 #include "JetValue.h"
@@ -30,13 +29,13 @@ using namespace OldAlbumStream;
 
 namespace {
 
-constexpr std::uint32_t catalogPage = 2; // of the table of all tables
-constexpr long secondsPerPage = 2;       // of processor time; a page takes some microseconds
-constexpr rlim_t mostMemory = 512 * 1024 * 1024;
+constexpr std::uint32_t catalogPage = 2; // of the table that lists all tables
+constexpr long secondsPerPage = 2;       // of processor time; a page takes a few microseconds
+constexpr rlim_t maxMemory = 512 * 1024 * 1024;
 constexpr std::uint32_t systemFlags = 0x80000002;
 
-// The clock counts the processor's time only, so that neither a slow disk nor a busy machine ends
-// the reading. When it runs out the process is ended by its signal.
+// The timer counts processor time only, so that neither a slow disk nor a busy machine ends the
+// reading. When it expires, its signal kills the process.
 void WindUpClock()
 {
     itimerval time = {};
@@ -48,17 +47,17 @@ void LimitMyself()
 {
     const rlimit none = {0, 0};
     setrlimit(RLIMIT_CORE, &none);
-#ifndef __SANITIZE_ADDRESS__ // which reserves far more than it uses
-    const rlimit memory = {mostMemory, mostMemory};
+#ifndef __SANITIZE_ADDRESS__ // reserves far more address space than it uses
+    const rlimit memory = {maxMemory, maxMemory};
     setrlimit(RLIMIT_AS, &memory);
 #endif
-    // What the library takes from the environment would change what it reads.
+    // These variables would change how the library reads.
     for (const char* name : {"MDBICONV", "MDB_JET3_CHARSET", "MDBOPTS", "MDBPATH"})
         unsetenv(name);
     WindUpClock();
 }
 
-// The library prints remarks to both outputs; what it prints goes nowhere.
+// Discards what the library prints to standard output and standard error.
 int TakeOutput()
 {
     const int output = dup(STDOUT_FILENO);
@@ -137,7 +136,7 @@ private:
     bool careful_;
 };
 
-// Writes the tables of users out of the catalogue's rows.
+// Writes the user tables among the catalogue's rows.
 class CatalogWriter : public JetTable::Visitor
 {
 public:
@@ -276,6 +275,6 @@ int Run(const std::vector<std::string>& arguments)
 int main(int argc, char** argv)
 {
     LimitMyself();
-    // Straight out: the library keeps some memory to itself, which is no fault worth a report.
+    // Without cleaning up: the library leaks some memory, which needs no report.
     std::_Exit(Run(std::vector<std::string>(argv, argv + argc)));
 }
