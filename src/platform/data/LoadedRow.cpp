@@ -8,12 +8,6 @@ LoadedRow::LoadedRow(const Database& database, const TableLayout& layout)
 {
 }
 
-void LoadedRow::Begin(qint64 row)
-{
-    row_ = row;
-    isLoaded_ = false;
-}
-
 void LoadedRow::Take(const RowQuery& query)
 {
     isLoaded_ = false; // also when memory runs out halfway

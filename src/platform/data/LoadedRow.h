@@ -14,7 +14,11 @@ public:
     LoadedRow(const Database& database, const TableLayout& layout);
 
     // Turns to another row, or to the same one again, with nothing loaded.
-    void Begin(qint64 row);
+    void Begin(qint64 row)
+    {
+        row_ = row;
+        isLoaded_ = false;
+    }
     // Loads the fields that the query, which is on the row, selects. Throws DatabaseError; then
     // nothing is loaded.
     void Take(const RowQuery& query);
