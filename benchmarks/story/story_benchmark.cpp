@@ -148,7 +148,8 @@ void OneCommit_Bare(benchmark::State& state)
 void PreviewList_Ours(benchmark::State& state, int column)
 {
     Engine();
-    PictureQuery query{.linkedTo = 1};
+    PictureQuery query;
+    query.linkedTo = 1;
     query.values[std::size_t(column)] = QStringLiteral("Lake");
     int count = 0;
     for (auto _ : state) {

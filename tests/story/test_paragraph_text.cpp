@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "core/Parameters.h"
-#include "core/Parameters.h"
 #include "platform/data/DatabaseError.h"
 #include "story/FilterValues.h"
 #include "story/ParagraphMarkers.h"
