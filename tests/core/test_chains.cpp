@@ -69,6 +69,16 @@ private slots:
         QCOMPARE(Links(), QStringList({"1|0|3", "2|4|0", "3|1|77"}));
     }
 
+    void ListsChaptersWithoutAName()
+    {
+        AddFour();
+        album_->Execute("UPDATE Chapter SET Name=NULL WHERE Id=1");
+        album_->Execute("UPDATE Chapter SET Name=x'00FF' WHERE Id=4");
+        QCOMPARE(ChapterNames().join(';'), "(no name);B;C;(no name 2)");
+        QVERIFY(RenameChapter(FindChapter("(no name 2)").value(), "Named"));
+        QCOMPARE(ChapterNames().join(';'), "(no name);B;C;Named");
+    }
+
     void FindsTheNameMeant()
     {
         // What signs of a pattern could be taken for stands first in the table.
