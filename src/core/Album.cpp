@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/Album.h"
 
-#include "core/AlbumPassword.h"
 #include "core/AlbumSets.h"
+#include "core/PasswordChange.h"
 #include "core/RecentAlbums.h"
 #include "core/Settings.h"
 #include "core/oldalbum/OldAlbum.h"

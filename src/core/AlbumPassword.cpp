@@ -3,35 +3,14 @@
 
 #include "core/Album.h"
 #include "core/AlbumSets.h"
-#include "core/Settings.h"
+#include "core/PasswordChange.h"
 #include "platform/data/DatabaseExport.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/FileReplacement.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <system_error>
-
-namespace {
-
-const QString passwordSection = QStringLiteral("User");
-const QString changing = QStringLiteral("PasswordChange");
-
-// Remembers for the next start that the album's password is being changed.
-class RememberedChange
-{
-public:
-    explicit RememberedChange(const QString& album)
-    {
-        GeneralModule::SaveUserSetting(passwordSection, changing,
-                                       QFileInfo(album).canonicalFilePath());
-    }
-    ~RememberedChange() { GeneralModule::SaveUserSetting(passwordSection, changing, {}); }
-    Q_DISABLE_COPY_MOVE(RememberedChange)
-};
-
-} // namespace
 
 namespace GeneralModule {
 
@@ -46,7 +25,7 @@ void SetAlbumPassword(const QString& password)
     const QString oldPassword = AlbumDatabase->GetPassword();
     bool isReleased = false;
     try {
-        const RememberedChange change(album);
+        const RememberedPasswordChange change(album);
         FileReplacement replacement(album);
         Dialogs::Door().RunLong(
             QCoreApplication::translate("Album", "The album is being written anew..."), false,
@@ -63,22 +42,6 @@ void SetAlbumPassword(const QString& password)
                 .arg(QString::fromLocal8Bit(error.code().message().c_str())));
     }
     OpenAlbum(album, password);
-}
-
-void ClearBrokenPasswordChange(const QString& album)
-{
-    const QString changed = GetUserSetting(passwordSection, changing);
-    if (changed.isEmpty() || changed != QFileInfo(album).canonicalFilePath())
-        return;
-    SaveUserSetting(passwordSection, changing, {});
-    try {
-        if (FileReplacement::ClearLeftovers(album))
-            Tell(QCoreApplication::translate(
-                "Album", "The last change of this album's password was broken off. What it left "
-                         "beside the album has been removed."));
-    } catch (const std::system_error&) {
-        // The album is gone or out of reach, which its opening tells better.
-    }
 }
 
 } // namespace GeneralModule

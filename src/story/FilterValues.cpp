@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "story/FilterValues.h"
 
-#include "story/PictureFilter.h"
-
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -49,6 +47,14 @@ CarValues AnyValues()
     CarValues values;
     values.fill(anyValue);
     return values;
+}
+
+QString NextToken(QStringView& values)
+{
+    const qsizetype end = values.indexOf(u';');
+    const QStringView token = end < 0 ? values : values.first(end);
+    values = end < 0 ? QStringView() : values.sliced(end + 1);
+    return token.toString();
 }
 
 QStringList FilterTokens(const QString& filter)

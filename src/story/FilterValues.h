@@ -25,6 +25,10 @@ CarValues AnyValues();
 // value ends the list.
 QStringList FilterTokens(const QString& filter);
 
+// Removes and returns the first value of the list, with the ";" after it. A view, because removing
+// from a long text itself would move the rest at every step.
+QString NextToken(QStringView& values);
+
 bool Restricts(const QString& filter);
 
 // The filter as stored: without a "!" that no value follows, and "*" when it has no value.

@@ -99,14 +99,6 @@ QString BuildFileFilter(const QString& selection)
 
 } // namespace
 
-QString NextToken(QStringView& values)
-{
-    const qsizetype end = values.indexOf(u';');
-    const QStringView token = end < 0 ? values : values.first(end);
-    values = end < 0 ? QStringView() : values.sliced(end + 1);
-    return token.toString();
-}
-
 QString BuildCarFilter(const CarValues& filters)
 {
     CarFilterWriter writer;

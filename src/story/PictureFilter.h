@@ -14,10 +14,6 @@ using GeneralModule::PictureList;
 // of their file names. For each characteristic it stores "*" for any value, or values separated by
 // ";". The picture must have one of them, or, after a value "!", none of them.
 
-// Removes and returns the first value of the list, with the ";" after it. A view, because removing
-// from a long text itself would move the rest at every step.
-QString NextToken(QStringView& values);
-
 // The condition on characteristics; empty when each may have any value.
 QString BuildCarFilter(const CarValues& filters);
 
