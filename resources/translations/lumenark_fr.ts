@@ -18,10 +18,6 @@
         <translation>Si plus aucun album ne s&apos;ouvre, réinstallez les fichiers d&apos;exécution du programme.</translation>
     </message>
     <message>
-        <source>Please give the password for : </source>
-        <translation>Mot de passe de l&apos;album : </translation>
-    </message>
-    <message>
         <source>The template &apos;%1&apos; cannot be read: %2</source>
         <translation>Impossible de lire le modèle « %1 » : %2</translation>
     </message>
@@ -66,6 +62,10 @@
     <message>
         <source>The last change of this album&apos;s password was broken off. What it left beside the album has been removed.</source>
         <translation>Le dernier changement du mot de passe de cet album s&apos;est interrompu. Ce qu&apos;il avait laissé à côté de l&apos;album a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Please give the password for : %1</source>
+        <translation>Mot de passe de l&apos;album : %1</translation>
     </message>
 </context>
 <context>
@@ -640,10 +640,6 @@ Appuyez sur F1 pour l&apos;aide</translation>
 <context>
     <name>OldAlbumReport</name>
     <message>
-        <source>Please give the password for : </source>
-        <translation>Mot de passe de l&apos;album : </translation>
-    </message>
-    <message>
         <source>%1 (new).alb</source>
         <translation>%1 (nouveau).alb</translation>
     </message>
@@ -830,6 +826,10 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source>Table %1, field %2: values that cannot be read to their end: %3.</source>
         <translation>Table %1, champ %2 : valeurs impossibles à lire jusqu&apos;au bout : %3.</translation>
+    </message>
+    <message>
+        <source>Please give the password for : %1</source>
+        <translation>Mot de passe de l&apos;album : %1</translation>
     </message>
 </context>
 <context>
@@ -1064,16 +1064,16 @@ Le supprimer quand même ?</translation>
         <translation>OK</translation>
     </message>
     <message>
-        <source>About </source>
-        <translation>À propos de </translation>
-    </message>
-    <message>
-        <source>Version </source>
-        <translation>Version </translation>
-    </message>
-    <message>
         <source>System Information Is Unavailable At This Time</source>
         <translation>Les informations système ne sont pas disponibles pour le moment</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>À propos de %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
     </message>
 </context>
 <context>
@@ -1158,18 +1158,6 @@ Le supprimer quand même ?</translation>
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>Internal Error : Image File </source>
-        <translation>Erreur interne : fichier image </translation>
-    </message>
-    <message>
-        <source> not found</source>
-        <translation> introuvable</translation>
-    </message>
-    <message>
-        <source>Do you also want to delete the file </source>
-        <translation>Voulez-vous aussi supprimer le fichier </translation>
-    </message>
-    <message>
         <source>The picture could not be saved. Leave without saving ?</source>
         <translation>La photo n&apos;a pas pu être enregistrée. Quitter sans enregistrer ?</translation>
     </message>
@@ -1188,6 +1176,14 @@ Le supprimer quand même ?</translation>
     <message>
         <source>This picture</source>
         <translation>Cette photo</translation>
+    </message>
+    <message>
+        <source>Internal Error : Image File %1 not found</source>
+        <translation>Erreur interne : fichier image %1 introuvable</translation>
+    </message>
+    <message>
+        <source>Do you also want to delete the file %1 ?</source>
+        <translation>Voulez-vous aussi supprimer le fichier %1 ?</translation>
     </message>
 </context>
 <context>
@@ -1384,8 +1380,8 @@ Le supprimer quand même ?</translation>
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>Edit Paragraph from Chapter &apos;</source>
-        <translation>Modifier un paragraphe du chapitre &apos;</translation>
+        <source>Edit Paragraph from Chapter &apos;%1&apos;</source>
+        <translation>Modifier un paragraphe du chapitre &apos;%1&apos;</translation>
     </message>
 </context>
 <context>
@@ -1487,20 +1483,16 @@ Le supprimer quand même ?</translation>
         <translation>Désolé, les marques spéciales ne peuvent pas être modifiées</translation>
     </message>
     <message>
-        <source>Replace all occurences of </source>
-        <translation>Remplacer partout </translation>
-    </message>
-    <message>
-        <source> by :</source>
-        <translation> par :</translation>
-    </message>
-    <message>
         <source>%1 pictures and paragraphs changed</source>
         <translation>%1 photos et paragraphes modifiés</translation>
     </message>
     <message>
         <source>Pictures changed: %1, paragraphs changed: %2</source>
         <translation>Photos modifiées : %1, paragraphes modifiés : %2</translation>
+    </message>
+    <message>
+        <source>Replace all occurences of %1 by :</source>
+        <translation>Remplacer partout %1 par :</translation>
     </message>
 </context>
 <context>

@@ -145,7 +145,7 @@ void frmEditImage::ShowPicture(const QString& file)
     isKnown_ = record.has_value();
     ShowStored(record.value_or(PictureRecord()));
     if (!isKnown_)
-        Tell(tr("Internal Error : Image File ") + CurrentImage + tr(" not found"),
+        Tell(tr("Internal Error : Image File %1 not found").arg(CurrentImage),
              Dialogs::Icon::Critical);
 }
 
@@ -184,7 +184,7 @@ void frmEditImage::GoToNextPicture()
 void frmEditImage::cmdDelete_Click()
 {
     const Dialogs::Answer answer = Dialogs::Door().Ask(
-        {.text = tr("Do you also want to delete the file ") + CurrentImage + QStringLiteral(" ?"),
+        {.text = tr("Do you also want to delete the file %1 ?").arg(CurrentImage),
          .icon = Dialogs::Icon::Question,
          .buttons = Dialogs::Buttons::YesNoCancel,
          .defaultAnswer = Dialogs::Answer::Cancel});

@@ -205,8 +205,7 @@ void frmEditTables::cmdReplace_Click()
         return;
     if (IsSpecialMarker(old))
         return Tell(tr("Sorry, you can't modify the special markers"), Dialogs::Icon::Warning);
-    const QString replacement =
-        AskForValue(tr("Replace all occurences of ") + old + tr(" by :"), old);
+    const QString replacement = AskForValue(tr("Replace all occurences of %1 by :").arg(old), old);
     if (replacement.isEmpty() || replacement == old)
         return;
     RunReplacement(old, replacement);

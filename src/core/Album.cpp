@@ -124,7 +124,7 @@ bool OpenWithPassword(const QString& path, QString password)
             }
         }
         password = Dialogs::Door().AskText(
-            {.prompt = AlbumTexts::tr("Please give the password for : ") + path,
+            {.prompt = AlbumTexts::tr("Please give the password for : %1").arg(path),
              .note = password.isEmpty() ? QString() : AlbumTexts::tr("Wrong password"),
              .isPassword = true});
         if (password.isEmpty())

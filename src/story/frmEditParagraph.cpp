@@ -137,8 +137,7 @@ void frmEditParagraph::FillFromAlbum()
     std::vector<TextMarker> markers = ReadTextMarkers();
     const ParagraphContent content = LoadParagraph(CurrentParagraph);
     ui_->filterPanel->ShowLabels();
-    setWindowTitle(
-        AsWindowTitle(tr("Edit Paragraph from Chapter '") + chapter + QLatin1Char('\'')));
+    setWindowTitle(AsWindowTitle(tr("Edit Paragraph from Chapter '%1'").arg(chapter)));
     insertion_->SetMarkers(std::move(markers));
     edit_.Load(content);
 }

@@ -17,7 +17,7 @@ std::optional<QString> AskPassword(const OldAlbumFile& old, const QString& path)
     QString password;
     while (old.HasPassword() && !old.PasswordFits(password)) {
         password = Dialogs::Door().AskText(
-            {.prompt = OldAlbumReport::tr("Please give the password for : ") + path,
+            {.prompt = OldAlbumReport::tr("Please give the password for : %1").arg(path),
              .note = password.isEmpty() ? QString() : OldAlbumReport::tr("Wrong password"),
              .isPassword = true});
         if (password.isEmpty())

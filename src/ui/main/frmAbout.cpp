@@ -27,12 +27,12 @@ void frmAbout::cmdSysInfo_Click()
 void frmAbout::Form_Load()
 {
     const QString title = QApplication::applicationDisplayName();
-    setWindowTitle(tr("About ") + title);
+    setWindowTitle(tr("About %1").arg(title));
     ui_->lblTitle->setText(title);
     QFont font = ui_->lblTitle->font();
     font.setPointSizeF(font.pointSizeF() * 1.8);
     ui_->lblTitle->setFont(font);
-    ui_->lblVersion->setText(tr("Version ") + QApplication::applicationVersion());
+    ui_->lblVersion->setText(tr("Version %1").arg(QApplication::applicationVersion()));
     ui_->picIcon->setPixmap(ProgramIcon().pixmap(QSize(96, 96), devicePixelRatioF()));
     setFixedSize(sizeHint());
 }
