@@ -2,8 +2,8 @@
 #include "fuzz/kill/LongWork.h"
 
 #include "catalogue/MovedPictures.h"
+#include "catalogue/Picture.h"
 #include "catalogue/PictureLoading.h"
-#include "catalogue/PictureRecord.h"
 #include "catalogue/ValueReplacement.h"
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
@@ -165,13 +165,13 @@ void Describe(const QString&, int step)
 {
     std::mt19937 random{std::uint32_t(step)};
     const QString file = QStringLiteral("/p/%1.jpg").arg(1 + random() % 100);
-    const std::optional<PictureRecord> shown = ReadPictureRecord(file);
-    PictureRecord edited = shown.value();
+    const std::optional<Picture> shown = ReadPicture(file);
+    Picture edited = shown.value();
     switch (random() % 3) {
     case 0:
         edited.legend = QStringLiteral("described in step %1").arg(step);
         edited.values[4] = QStringLiteral("Value %1").arg(step);
-        SavePictureRecord(file, *shown, edited);
+        StorePicture(file, *shown, edited);
         break;
     case 1:
         SetLinked(1 + qint32(random() % 9), file, random() % 3 != 0);

@@ -931,17 +931,17 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>Picture</name>
+    <message>
+        <source>The file &apos;%1&apos; cannot be deleted: %2</source>
+        <translation>Impossible de supprimer le fichier « %1 » : %2</translation>
+    </message>
+</context>
+<context>
     <name>PictureLoading</name>
     <message>
         <source>The folder &apos;%1&apos; is no longer there.</source>
         <translation>Le dossier « %1 » n&apos;est plus là.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureRecord</name>
-    <message>
-        <source>The file &apos;%1&apos; cannot be deleted: %2</source>
-        <translation>Impossible de supprimer le fichier « %1 » : %2</translation>
     </message>
 </context>
 <context>

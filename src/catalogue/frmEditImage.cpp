@@ -136,27 +136,27 @@ void frmEditImage::cmdEditLabels_Click()
 
 void frmEditImage::ShowPicture(const QString& file)
 {
-    const std::optional<PictureRecord> record = ReadPictureRecord(file);
+    const std::optional<Picture> record = ReadPicture(file);
     const QString path = ResolvePictureFile(file);
     CurrentImage = file;
     ui_->stage->ShowPicture(file, path);
     ui_->lblFileName->setText(file);
     ui_->cmdNextImage->setVisible(HasNextPicture && HasNextPicture());
     isKnown_ = record.has_value();
-    ShowStored(record.value_or(PictureRecord()));
+    ShowStored(record.value_or(Picture()));
     if (!isKnown_)
         Tell(tr("Internal Error : Image File %1 not found").arg(CurrentImage),
              Dialogs::Icon::Critical);
 }
 
-void frmEditImage::ShowStored(const PictureRecord& record)
+void frmEditImage::ShowStored(const Picture& record)
 {
     shown_ = record;
     ShowRecord(record);
     controls_ = ControlValues();
 }
 
-void frmEditImage::ShowRecord(const PictureRecord& record)
+void frmEditImage::ShowRecord(const Picture& record)
 {
     boxes_->ShowValues(record.values);
     if (ui_->txtLegend->text() != record.legend)
@@ -213,7 +213,7 @@ void frmEditImage::cmdEditTables_Click()
         return;
     frmEditTables(CurrentImage, this).exec();
     DisplayCaracteristicNames();
-    ShowStored(ReadPictureRecord(CurrentImage).value_or(shown_));
+    ShowStored(ReadPicture(CurrentImage).value_or(shown_));
 }
 
 bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
@@ -233,32 +233,31 @@ bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
     return true;
 }
 
-PictureRecord frmEditImage::ControlValues() const
+Picture frmEditImage::ControlValues() const
 {
     return {ui_->txtLegend->text(), boxes_->GetValues()};
 }
 
 // Unedited fields keep the shown value, even where a one-line control changes it.
-PictureRecord frmEditImage::GetRecord() const
+Picture frmEditImage::GetRecord() const
 {
-    return MergeRecord(controls_, ControlValues(), shown_, true);
+    return MergePicture(controls_, ControlValues(), shown_, true);
 }
 
 // False when the user wants to stay.
 bool frmEditImage::SettleConflict()
 {
-    const PictureRecord edited = GetRecord();
+    const Picture edited = GetRecord();
     if (edited == shown_)
         return true;
-    const PictureRecord stored = ReadPictureRecord(CurrentImage).value_or(shown_);
+    const Picture stored = ReadPicture(CurrentImage).value_or(shown_);
     if (!HasConflict(shown_, edited, stored))
         return true;
     const ConflictChoice choice =
-        AskAboutConflict(tr("This picture"), DescribeRecord(edited), DescribeRecord(stored));
+        AskAboutConflict(tr("This picture"), DescribePicture(edited), DescribePicture(stored));
     if (choice == ConflictChoice::Stay)
         return false;
-    const PictureRecord merged =
-        MergeRecord(shown_, edited, stored, choice == ConflictChoice::KeepMine);
+    const Picture merged = MergePicture(shown_, edited, stored, choice == ConflictChoice::KeepMine);
     ShowStored(stored);
     ShowRecord(merged);
     return true;
@@ -270,7 +269,7 @@ bool frmEditImage::SavePicture()
         return true;
     if (!SettleConflict())
         return false;
-    const PictureRecord saved = SavePictureRecord(CurrentImage, shown_, GetRecord());
+    const Picture saved = StorePicture(CurrentImage, shown_, GetRecord());
     for (int column = 0; column < columnCount; ++column) {
         const QString& value = saved.values[std::size_t(column)];
         if (value != shown_.values[std::size_t(column)])

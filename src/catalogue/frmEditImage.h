@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "catalogue/PictureRecord.h"
+#include "catalogue/Picture.h"
 
 #include <QDialog>
 #include <QStringList>
@@ -58,10 +58,10 @@ private:
     void DisplayCaracteristicNames();
     void DisplayLabels();
     void ShowPicture(const QString& file);
-    void ShowStored(const PictureRecord& record);
-    void ShowRecord(const PictureRecord& record);
-    PictureRecord ControlValues() const;
-    PictureRecord GetRecord() const;
+    void ShowStored(const Picture& record);
+    void ShowRecord(const Picture& record);
+    Picture ControlValues() const;
+    Picture GetRecord() const;
     bool SettleConflict();
     // False, with nothing saved, when another window has changed the same and the user wants to
     // stay.
@@ -72,8 +72,8 @@ private:
 
     std::unique_ptr<Ui::frmEditImage> ui_;
     ValueBoxes* boxes_;
-    PictureRecord controls_; // shown_ as the controls return it
-    PictureRecord shown_;    // as the album holds it
-    bool isKnown_ = false;   // the album holds the picture
+    Picture controls_;     // shown_ as the controls return it
+    Picture shown_;        // as the album holds it
+    bool isKnown_ = false; // the album holds the picture
     bool isLoaded_ = false;
 };

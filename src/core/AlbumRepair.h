@@ -29,8 +29,9 @@ public:
 // the chapters are one chain, and each chapter's paragraphs are one. Only links change, and
 // identifiers that no link can hold: 0, below it, and above what a new row may have. A paragraph
 // of no chapter goes to the chapter of the paragraphs that it is linked with, or else to a new one
-// at the end. Where something was wrong a copy of the album as it was is kept beside it. Throws
-// DatabaseError; then nothing is changed and no copy is left.
+// at the end. Where something was wrong a copy of the album as it was is kept beside it. Moves
+// the current rows of ChapterSet and ParagraphSet. Throws DatabaseError, NoAlbum while no album is
+// open; then nothing is changed and no copy is left.
 RepairReport RepairAlbum();
 
 // What a person reads about it.

@@ -3,7 +3,8 @@
 
 #include <QString>
 
-// Links to pictures that a paragraph shows whatever its filter says.
+// Links to pictures that a paragraph of the open album shows whatever its filter says. They move
+// the current row of LinkedImagesSet, and throw DatabaseError, NoAlbum while no album is open.
 
 bool IsLinked(qint32 paragraph, const QString& file);
 

@@ -9,6 +9,8 @@
 
 // Moving paragraphs within a chapter and across its ends. The place's paragraph must be in the
 // place's chapter. All rows of one move are committed together.
+// They move the current rows of ParagraphSet and ChapterSet, and throw DatabaseError, NoAlbum while
+// no album is open.
 
 // Exchange the paragraph with the next or the previous one. At its chapter's end or beginning it
 // becomes the first of the next chapter or the last of the previous one, and the place follows it.

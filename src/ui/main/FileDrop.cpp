@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/FileDrop.h"
 
+#include "catalogue/Picture.h"
 #include "catalogue/PictureLoading.h"
-#include "catalogue/PictureRecord.h"
 #include "core/Album.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/widgets/BusyPointer.h"

@@ -2,7 +2,7 @@
 #include "ui/main/frmOpenChapter.h"
 #include "ui_frmOpenChapter.h"
 
-#include "catalogue/PictureRecord.h"
+#include "catalogue/Picture.h"
 #include "catalogue/frmLoadFiles.h"
 #include "catalogue/frmReloadPictures.h"
 #include "core/Album.h"

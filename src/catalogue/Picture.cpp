@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue/PictureRecord.h"
+#include "catalogue/Picture.h"
 
 #include "core/AlbumSets.h"
 #include "core/EditConflict.h"
@@ -53,7 +53,7 @@ QString DeleteFile(const QString& path)
     QFile file(path);
     if (file.remove() || !QFileInfo::exists(path))
         return {};
-    return QCoreApplication::translate("PictureRecord", "The file '%1' cannot be deleted: %2")
+    return QCoreApplication::translate("Picture", "The file '%1' cannot be deleted: %2")
         .arg(QDir::toNativeSeparators(path), file.errorString());
 }
 
@@ -69,34 +69,33 @@ qint64 CountPictures()
     return ImageSet->RecordCount();
 }
 
-std::optional<PictureRecord> ReadPictureRecord(const QString& file)
+std::optional<Picture> ReadPicture(const QString& file)
 {
     if (!FindPicture(file))
         return std::nullopt;
-    PictureRecord record;
+    Picture record;
     for (int column = 0; column < columnCount; ++column)
         record.values[std::size_t(column)] = ImageSet->TextOrEmpty(CarField(column));
     record.legend = ImageSet->TextOrEmpty(u"Legend");
     return record;
 }
 
-PictureRecord MergeRecord(const PictureRecord& shown, const PictureRecord& edited,
-                          const PictureRecord& stored, bool prefersEdited)
+Picture MergePicture(const Picture& shown, const Picture& edited, const Picture& stored,
+                     bool prefersEdited)
 {
-    PictureRecord merged{MergeEdit(shown.legend, edited.legend, stored.legend, prefersEdited), {}};
+    Picture merged{MergeEdit(shown.legend, edited.legend, stored.legend, prefersEdited), {}};
     for (std::size_t column = 0; column < columnCount; ++column)
         merged.values[column] = MergeEdit(shown.values[column], edited.values[column],
                                           stored.values[column], prefersEdited);
     return merged;
 }
 
-bool HasConflict(const PictureRecord& shown, const PictureRecord& edited,
-                 const PictureRecord& stored)
+bool HasConflict(const Picture& shown, const Picture& edited, const Picture& stored)
 {
-    return MergeRecord(shown, edited, stored, true) != MergeRecord(shown, edited, stored, false);
+    return MergePicture(shown, edited, stored, true) != MergePicture(shown, edited, stored, false);
 }
 
-QString DescribeRecord(const PictureRecord& record)
+QString DescribePicture(const Picture& record)
 {
     QStringList parts{record.legend};
     parts.append(QStringList(record.values.begin(), record.values.end()));
@@ -105,10 +104,9 @@ QString DescribeRecord(const PictureRecord& record)
     return parts.join(QStringLiteral(", "));
 }
 
-PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
-                                const PictureRecord& edited)
+Picture StorePicture(const QString& file, const Picture& shown, const Picture& edited)
 {
-    PictureRecord saved = edited;
+    Picture saved = edited;
     for (QString& value : saved.values) {
         if (value.isEmpty())
             value = noValue;
@@ -131,7 +129,7 @@ PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
         ImageSet->Set(u"Legend", saved.legend);
     ImageSet->Update();
     batch.Finish();
-    return ReadPictureRecord(file).value_or(saved);
+    return ReadPicture(file).value_or(saved);
 }
 
 QString TakeOutPicture(const QString& file, bool deleteFile)

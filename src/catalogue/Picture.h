@@ -8,13 +8,15 @@
 #include <array>
 #include <optional>
 
-// What the album holds about a picture.
-struct PictureRecord
+// What is known of the pictures of the open album. The routines move the current row of ImageSet,
+// and throw DatabaseError NoAlbum while no album is open.
+
+struct Picture
 {
     QString legend;
     std::array<QString, columnCount> values;
 
-    bool operator==(const PictureRecord&) const = default;
+    bool operator==(const Picture&) const = default;
 };
 
 // Whether the open album has any picture, and how many. Counting reads the whole table.
@@ -22,27 +24,25 @@ bool HasPictures();
 qint64 CountPictures();
 
 // None when the album has no picture with that File.
-std::optional<PictureRecord> ReadPictureRecord(const QString& file);
+std::optional<Picture> ReadPicture(const QString& file);
 
 // Applies the edit of the shown record to the stored one, which another window may have changed
 // since. Fields in conflict are taken from edited if prefersEdited, else from stored.
-PictureRecord MergeRecord(const PictureRecord& shown, const PictureRecord& edited,
-                          const PictureRecord& stored, bool prefersEdited);
+Picture MergePicture(const Picture& shown, const Picture& edited, const Picture& stored,
+                     bool prefersEdited);
 
 // Whether a field was edited here and changed differently in the album.
-bool HasConflict(const PictureRecord& shown, const PictureRecord& edited,
-                 const PictureRecord& stored);
+bool HasConflict(const Picture& shown, const Picture& edited, const Picture& stored);
 
 // The legend and the values, so that a person can tell two versions apart.
-QString DescribeRecord(const PictureRecord& record);
+QString DescribePicture(const Picture& record);
 
 // Writes the edit of the shown record. An unchanged value stays, even one that its table no longer
 // offers; an empty one becomes "-"; a new one is cleaned and added to its table, and one that the
 // table holds in another letter case takes the table's spelling. Returns the record as now stored,
 // or edited when the album no longer holds the picture. Settle conflicts before. Throws
 // DatabaseError.
-PictureRecord SavePictureRecord(const QString& file, const PictureRecord& shown,
-                                const PictureRecord& edited);
+Picture StorePicture(const QString& file, const Picture& shown, const Picture& edited);
 
 // Removes the picture from the album, after deleting its file if deleteFile is set; a missing file
 // counts as deleted. Returns why the file cannot be deleted, with nothing changed; empty on
