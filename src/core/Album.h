@@ -12,15 +12,15 @@ bool IsAlbumOpen();
 // Whether the open album can only be read: its file or its folder cannot be written. False while
 // none is open.
 bool IsAlbumReadOnly();
-// What to tell whoever wants to change it.
+// Why it cannot be changed, for the user to read.
 QString ReadOnlyReason();
 
-// Releases the album that is open, opens this one, and remembers it as the last one. Asks for the
-// password, unless the one given fits, until it does or the answer is empty. False, with a message
-// shown unless the user gave up, when the album could not be opened. No album is open while boxes
-// are up, nor after a failure. Of an album in the former file format a new one is made, if the user
-// agrees, and that is the one that is opened and remembered. Where another copy of the program has
-// the album open, the user may go there instead.
+// Closes the open album, opens this one, and remembers it as the last one. Unless the given
+// password is right, asks for one until it is or the answer is empty. Returns false when the album
+// was not opened, after a message unless the user gave up. No album is open while boxes are up, or
+// after a failure. An album in the former file format is converted if the user agrees, and the new
+// one is opened and remembered. If another copy of the program has the album open, the user may go
+// there instead.
 bool OpenAlbum(const QString& path, const QString& password = {});
 
 // Whether the last OpenAlbum ended with the user going to another window that has the album open.
@@ -33,7 +33,7 @@ void SetCallHandler(const std::function<void()>& onCalled);
 // fails; an existing file then stays as it was.
 bool CreateAlbumFile(const QString& path);
 
-// Ends the use of the album, so that its file may be moved or removed.
+// Closes the open album, so that its file can be moved or removed.
 void ReleaseAlbum();
 
 } // namespace GeneralModule

@@ -5,10 +5,9 @@
 
 namespace GeneralModule {
 
-// Copies the open album's file, still locked with its password where it has one, beside it under a
-// name of its own: "story (note).alb", numbered when that is taken. Nobody can write to the album
-// meanwhile. Returns the copy's path; throws DatabaseError when it cannot be made whole, and leaves
-// nothing behind then.
+// Copies the open album's file, still encrypted if it has a password, beside it under the name
+// "story (note).alb", numbered when that is taken. Nobody can write to the album during the copy.
+// Returns the copy's path. Throws DatabaseError when the copy fails; then no part of it remains.
 QString CopyAlbumBeside(const QString& note);
 
 } // namespace GeneralModule

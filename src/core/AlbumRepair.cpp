@@ -22,8 +22,8 @@ using namespace GeneralModule;
 
 namespace {
 
-// -1 for what is no link, nor the 0 that stands for none: it leads nowhere and is to be rewritten.
-// An album that cannot be read is no broken link.
+// -1 for a value that is neither a link nor 0, so that it is rewritten. A failed read is no broken
+// link: it throws.
 qint32 LinkOrBroken(RecordSet& set, QStringView field)
 {
     try {
@@ -80,7 +80,7 @@ private:
         }
     }
 
-    // From every paragraph that has a chapter on to those that are linked with it, either way.
+    // Spreads each chapter to the paragraphs linked with its own, in either direction.
     void AdoptByLinks()
     {
         QHash<qint32, QList<qint32>> neighbours;
@@ -187,8 +187,8 @@ private:
 
 namespace GeneralModule {
 
-// Tried first and taken back, because a sound album needs no copy, and a copy cannot be made any
-// more once changes are on their way.
+// Tried first and rolled back: a sound album needs no copy, and no copy can be made once changes
+// have begun.
 RepairReport RepairAlbum()
 {
     {

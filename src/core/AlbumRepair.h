@@ -27,14 +27,14 @@ public:
 
 // Checks the chains of chapters and paragraphs of the open album and makes them whole: afterwards
 // the chapters are one chain, and each chapter's paragraphs are one. Only links change, and
-// identifiers that no link can hold: 0, below it, and above what a new row may have. A paragraph
-// of no chapter goes to the chapter of the paragraphs that it is linked with, or else to a new one
-// at the end. Where something was wrong a copy of the album as it was is kept beside it. Moves
-// the current rows of ChapterSet and ParagraphSet. Throws DatabaseError, NoAlbum while no album is
-// open; then nothing is changed and no copy is left.
+// identifiers that no link can hold: 0, negative ones, and those above the range of new rows. A
+// paragraph without a chapter goes to the chapter of the paragraphs that it is linked with, or else
+// to a new one at the end. If anything was wrong, a copy of the unrepaired album is kept beside it.
+// Moves the current rows of ChapterSet and ParagraphSet. Throws DatabaseError, NoAlbum while no
+// album is open; then nothing is changed and no copy is left.
 RepairReport RepairAlbum();
 
-// What a person reads about it.
+// The report as sentences for the user.
 QString DescribeRepair(const RepairReport& report);
 
 } // namespace GeneralModule

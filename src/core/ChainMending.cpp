@@ -28,7 +28,7 @@ public:
         if (rows_.empty())
             return {};
         Place(FragmentFrom(Head(preferredHead)));
-        // First the pieces that begin somewhere, then what is left: rings.
+        // First the fragments that have a beginning, then the rest: cycles.
         for (const bool beginsSomewhere : {true, false}) {
             for (const ChainLink& row : rows_) {
                 if (!taken_.contains(row.id) && (!beginsSomewhere || !IsLedTo(row.id)))
@@ -71,11 +71,11 @@ private:
 
     void Place(Order fragment)
     {
-        const auto behind = places_.constFind(byId_[fragment.front()]->previous);
+        const auto previous = places_.constFind(byId_[fragment.front()]->previous);
         const auto before = places_.constFind(byId_[fragment.back()]->next);
         Order::iterator place = order_.end();
-        if (behind != places_.constEnd())
-            place = std::next(*behind);
+        if (previous != places_.constEnd())
+            place = std::next(*previous);
         else if (before != places_.constEnd() && *before != order_.begin())
             place = *before;
         for (auto row = fragment.begin(); row != fragment.end(); ++row)

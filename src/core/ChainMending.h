@@ -17,11 +17,11 @@ struct ChainLink
     bool operator==(const ChainLink&) const = default;
 };
 
-// The same rows as one whole chain, in its order. The chain begins with preferredHead when that is
-// a head, else with the first row that is one, else with the first row, and goes on along the
-// forward links that lead to a row of the chain and not back. Rows that it does not reach keep
-// together as their links do, and are put behind the row that they name as previous, before the one
-// that they lead to, or at the end. No row is left out and none comes twice.
+// The same rows as one unbroken chain, in order. The chain begins with preferredHead if that is a
+// head, else with the first row that is one, else with the first row, and follows the forward links
+// as long as they lead to a row not yet in it. Rows that it does not reach stay together as they
+// are linked, and are inserted after the row that they name as previous, before the one that they
+// lead to, or at the end. Every row occurs exactly once.
 std::vector<ChainLink> MendChain(const std::vector<ChainLink>& rows, qint32 preferredHead = 0);
 
 } // namespace GeneralModule

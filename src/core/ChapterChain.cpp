@@ -20,7 +20,7 @@ void WalkChapters(const Visit& visit)
     ChainOfChapters().Walk(FirstChapter(), ChainDirection::Next, visit);
 }
 
-// Of the current row; empty where it is missing or no valid text.
+// The current row's name; empty when it is missing or not valid text.
 QString StoredName()
 {
     try {
@@ -115,8 +115,8 @@ bool IsChapterName(const QString& name)
     return IsLike(name, "[A-Z]*") || IsLike(name, "#*");
 }
 
-// The comparison by pattern may meet another name first, where a wildcard stands for an apostrophe
-// or the name itself holds a wildcard character; the chapter meant is the one that reads the same.
+// The pattern may match another name first, because a wildcard stands for an apostrophe or the name
+// itself contains a wildcard. The chapter meant is the one with exactly this name.
 std::optional<qint32> FindChapter(const QString& name)
 {
     const QString like = QStringLiteral("[Name] like '") + LikeSafe(name) + QLatin1Char('\'');
@@ -167,7 +167,7 @@ bool RenameChapter(qint32 chapter, const QString& newName)
     return true;
 }
 
-// A chapter that is gone needs no links: a dangling one must not send the new links elsewhere.
+// Both neighbours are looked up first: a dangling link must not send the new links elsewhere.
 ChapterDeletion DeleteChapter(const QString& name)
 {
     const std::optional<qint32> gone = FindChapter(name);

@@ -7,15 +7,15 @@
 #include <optional>
 
 // The chapters of the open album, linked in reading order by PreviousChapter and NextChapter (0 =
-// none). Chapters are found by name; nothing remembers their identifiers between two operations.
-// The rows that one operation changes are committed together, all or none. All of it moves
-// ChapterSet, and throws DatabaseError, NoAlbum while no album is open.
+// none). Chapters are found by name; no identifier is kept between two operations. The rows that
+// one operation changes are committed together, all or none. All routines move the current row of
+// ChapterSet, and throw DatabaseError, NoAlbum while no album is open.
 namespace GeneralModule {
 
-// Names from the first chapter on, along NextChapter. A link to no chapter, or back to one that was
-// listed, ends the list; chapters that the first one does not lead to are not in it. Where the
-// album holds no name, or none that is valid text, "(no name)" stands for it, then "(no name 2)":
-// chapters are found by these too.
+// The names from the first chapter on, along NextChapter. The list ends at a link to no chapter or
+// back to one already listed; chapters that the first one does not lead to are not in it. A chapter
+// whose name is missing or not valid text is listed as "(no name)", the next one as "(no name 2)",
+// and can be found by that.
 QStringList ChapterNames();
 
 // The name of one chapter as it is listed; empty when there is no such chapter.
@@ -28,9 +28,9 @@ bool IsChapterName(const QString& name);
 // its row.
 std::optional<qint32> FindChapter(const QString& name);
 
-// Adds an empty chapter after the one named so, or as the first when that name is empty. Links
-// forward only: the chapter that followed keeps its PreviousChapter. Returns the new identifier.
-// Throws DatabaseError, DuplicateKey for a name that an unlisted chapter has.
+// Adds an empty chapter after the named one, or as the first when `after` is empty. Links forward
+// only: the chapter that followed keeps its PreviousChapter. Returns the new identifier. Throws
+// DatabaseError, DuplicateKey for a name that an unlisted chapter has.
 qint32 CreateChapter(const QString& name, const QString& after);
 
 // False, and nothing changed, when the chapter is not in the album any more. Throws DatabaseError,
@@ -41,9 +41,9 @@ bool RenameChapter(qint32 chapter, const QString& newName);
 // none.
 qint32 FirstChapter();
 
-// The chapter before it in reading order, 0 for the first one: the one that leads here, which is
-// not always the one that its own PreviousChapter names. Of a chapter that the reading order does
-// not reach the one that it names itself.
+// The chapter before it in reading order, 0 for the first one. That is the chapter whose link leads
+// here, not always the one in its own PreviousChapter, which counts only if the reading order does
+// not reach the chapter.
 qint32 ChapterLeadingTo(qint32 chapter);
 
 // The chapter after it, 0 when there is none.

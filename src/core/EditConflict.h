@@ -3,23 +3,24 @@
 
 #include <QString>
 
-// Two windows may have one album open. What a person edits is written over what was shown to them,
-// not over what somebody else has written there meanwhile.
+// Two windows may have one album open. An edit replaces what was shown to the user, never what
+// another window has written there since.
 namespace GeneralModule {
 
-// Whether a field was edited here, and meanwhile changed to something else in the album. The three
-// are what was shown, what a person made of it, and what the album holds now.
+// Whether a field was edited here and has been changed differently in the album. The arguments are
+// the text that was shown, the edited one, and the one that the album holds now.
 bool IsConflict(const QString& shown, const QString& edited, const QString& stored);
 
-// What was edited laid over what is stored: the edited text where there was an edit, the stored one
-// where there was none. Where both were changed prefersEdited says which.
+// The edited text if there was an edit, else the stored one. If both were changed, prefersEdited
+// decides.
 QString MergeEdit(const QString& shown, const QString& edited, const QString& stored,
                   bool prefersEdited);
 
 enum class ConflictChoice { KeepMine, TakeStored, Stay };
 
-// Asks which of the two versions counts. Subject names what was edited: "This paragraph". Long
-// versions are shown by their beginnings. Call with no batch open: the box may be up for long.
+// Asks the user which of the two versions to keep. The subject names what was edited, for example
+// "This paragraph". Long versions are shown shortened. Do not call with a batch open: the box may
+// stay up for long.
 ConflictChoice AskAboutConflict(const QString& subject, const QString& edited,
                                 const QString& stored);
 

@@ -5,9 +5,9 @@
 
 namespace GeneralModule {
 
-// The path that a picture of the album is to be read from: its local copy while that exists, else
-// file itself. A copy that has gone is forgotten in the album, where that can be changed.
-// Moves the current row of ImageSet. Throws DatabaseError, NoAlbum while no album is open.
+// The path from which to read a picture of the album: its local copy while that exists, else the
+// file itself. A missing copy is removed from the album, unless that is read-only. Moves the
+// current row of ImageSet. Throws DatabaseError, NoAlbum while no album is open.
 QString ResolvePictureFile(const QString& file);
 
 } // namespace GeneralModule

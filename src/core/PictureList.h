@@ -10,8 +10,8 @@
 
 namespace GeneralModule {
 
-// The pictures still to be shown, by the File that the album knows them by: first those linked to
-// the paragraph, then those that its filter found. Shrinks as screens are filled from it.
+// The pictures still to be shown, by their File in the album: first those linked to the paragraph,
+// then those that its filter found. It shrinks as screens are filled from it.
 class PictureList
 {
 public:
@@ -31,9 +31,9 @@ public:
     QString PickNext(bool atRandom, const std::function<bool(const QString&)>& isThere);
     // The picture that PickNext gave is on the screen and leaves the list.
     void TakePicked();
-    // Drops a picture that is in the album no more.
+    // Drops a picture that is no longer in the album.
     void Remove(const QString& file);
-    // Shown pictures that shall be shown again, before any other and in this order.
+    // Pictures to be shown again, before all others and in this order.
     void PutBack(const QStringList& files);
 
 private:

@@ -4,11 +4,11 @@
 #include <QString>
 #include <QStringList>
 
-// The albums that the user opened lately, kept for each user outside the albums.
+// The albums that the user opened recently, kept per user outside the albums.
 namespace GeneralModule {
 
-// Full paths, the latest first, each once, ten at most. The files may have gone meanwhile: looking
-// for each of them would wait for every sleeping disk and absent server.
+// Full paths, the latest first, each once, at most ten. Whether the files still exist is not
+// checked: that would wait for every sleeping disk and unreachable server.
 QStringList RecentAlbums();
 
 // Puts the album at the head of the list.

@@ -5,9 +5,9 @@ struct sqlite3;
 
 namespace GeneralModule {
 
-// Gives the chapters and paragraphs of an album whose identifier is out of the range of identifiers
-// a new one, and the links that name them with it; 0 is no link. Returns how many there were.
-// Throws DatabaseError. Hold a WriteBatch.
+// Gives a new identifier to chapters and paragraphs whose identifier is out of range, and updates
+// the links to them; 0 is no link. Returns how many rows were renumbered. Call inside a WriteBatch.
+// Throws DatabaseError.
 int RenumberRows(sqlite3* engine);
 
 } // namespace GeneralModule

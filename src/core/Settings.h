@@ -3,7 +3,7 @@
 
 #include <QString>
 
-// What the program remembers for each user outside the album.
+// Settings of the user, kept outside the album.
 namespace GeneralModule {
 
 // An empty text when the key was never saved.

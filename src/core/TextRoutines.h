@@ -6,7 +6,7 @@
 namespace GeneralModule {
 
 // Replaces every occurrence of find from position start on, counted from 1; upper and lower case
-// differ. What was put in is not searched again, so a replacement may contain find. An empty find
+// differ. Replaced text is not searched again, so a replacement may contain find. An empty find
 // changes nothing.
 QString ReplaceText(const QString& text, const QString& find, const QString& replacement,
                     int start);
@@ -15,7 +15,7 @@ QString ReplaceText(const QString& text, const QString& find, const QString& rep
 // does not end the quoted text.
 QString LikeSafe(const QString& name);
 
-// A text between single quotes, as filters hold it; quotes inside are doubled.
+// The text as a filter's literal: in single quotes, with quotes in it doubled.
 QString Quoted(const QString& text);
 
 } // namespace GeneralModule

@@ -56,7 +56,7 @@ struct Stopped
 {
 };
 
-// Nothing when the user has stopped it, and then there is no new album.
+// None when the user stopped it; then there is no new album.
 std::optional<OldAlbumReport> Convert(OldAlbumFile& old, const QString& target,
                                       const QString& password)
 {

@@ -17,8 +17,8 @@ struct NewAlbum
     bool isWhole;   // everything came over
 };
 
-// Offers to make a new album of one in the former file format: asks for its password where it has
-// one, whether to, and where to. Nothing when the user gave up. Throws DatabaseError.
+// Offers to make a new album of one in the former file format: asks for its password if it has one,
+// for consent, and for the new path. None when the user gave up. Throws DatabaseError.
 std::optional<NewAlbum> OfferConversion(const QString& path);
 
 } // namespace GeneralModule

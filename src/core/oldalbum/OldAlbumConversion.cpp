@@ -44,7 +44,7 @@ void WriteTemplate(const QString& path)
                    .arg(QDir::toNativeSeparators(path), target.errorString()));
 }
 
-// An album with a password never lies on the disk without it, not even while it is made.
+// An album with a password is never on the disk unencrypted, not even while it is made.
 void MakeEmptyAlbum(const FileReplacement& replacement, const QString& password)
 {
     if (password.isEmpty())
@@ -63,7 +63,7 @@ const OldAlbumFile::Table* FindTable(const OldAlbumFile& old, const QString& nam
     return found == tables.end() ? nullptr : &*found;
 }
 
-// Tells the order's owner that work goes on.
+// Reports to the caller that work goes on.
 class CheckedTable : public OldAlbumTable
 {
 public:

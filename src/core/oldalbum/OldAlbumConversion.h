@@ -17,10 +17,10 @@ struct ConversionOrder
     std::function<void()> check = {};
 };
 
-// Makes a new album of everything that can be read of the old one, which stays as it is. It is
-// written beside the target and takes its name only when it is whole and opens; when anything
-// throws, nothing is left of it and a file at the target's place stays as it was. Nothing is asked
-// or shown. Throws DatabaseError.
+// Makes a new album from everything that can be read in the old one, which is not changed. The new
+// file is written beside the target and gets its name only when it is complete and opens; if
+// anything throws, no part of it remains and an existing target is unchanged. Shows no boxes.
+// Throws DatabaseError.
 OldAlbumReport ConvertOldAlbum(OldAlbumFile& old, const ConversionOrder& order);
 
 } // namespace GeneralModule

@@ -8,7 +8,7 @@
 
 namespace GeneralModule {
 
-// What came over from an album in the former file format, and what did not.
+// What was taken over from an album in the former file format, and what was not.
 class OldAlbumReport
 {
     Q_DECLARE_TR_FUNCTIONS(OldAlbumReport)
@@ -19,7 +19,7 @@ public:
     qint64 pictures = 0;
     bool keepsPassword = false;
 
-    // Something that is not as it was in the old album: a sentence.
+    // A sentence about something that differs from the old album.
     void AddProblem(const QString& problem);
     // A picture's path; those of another system are kept as they are, and their folders named.
     void AddPicturePath(const QString& path);

@@ -13,10 +13,10 @@
 
 namespace GeneralModule {
 
-// Writes the rows of one table of a former album into the table of that name in a new album, in
-// place of what the template holds there. Identifiers stay as they are. Where the new album allows
-// a text or an identifier only once and the old one has it twice, nothing is lost:
-// - a chapter or parameter gets a number behind its name;
+// Writes the rows of one table of a former album into the table of that name in a new album,
+// replacing the template's rows. Identifiers stay the same. If the old table has a text or an
+// identifier twice that the new one allows only once, nothing is lost:
+// - a chapter or parameter gets a number after its name;
 // - a row whose identifier is missing or taken gets a new one, above all others where it can;
 // - a value of a characteristic's table that is there already is the same value.
 // Fields and whole tables of the user's own, which the template lacks, are added to the new album
@@ -32,7 +32,7 @@ public:
     // They throw DatabaseError.
     void BeginTable(const QStringList& fields, qint64 lastNumber) override;
     void TakeRow(const std::vector<OldValue>& values) override;
-    // Call when the table was read, also in part. Returns the rows that the new table holds.
+    // Call when the table has been read, even in part. Returns how many rows the new table has.
     qint64 Finish();
 
 private:
@@ -82,7 +82,7 @@ private:
     qint64 lastNumber_ = 0;
     qint64 highest_ = 0; // identifier
     qint64 rows_ = 0;    // taken from the old album
-    int suffix_ = 1;     // the last one that was put behind a name
+    int suffix_ = 1;     // the last one added to a name
 };
 
 } // namespace GeneralModule

@@ -5,13 +5,13 @@
 
 #include <QString>
 
-// Tables and fields that a user added to an old album, for which albums have no place of their own:
-// made anew in the new album, all of them for texts.
+// Tables and fields that a user added to an old album. They are added to the new album too, all as
+// texts.
 namespace GeneralModule {
 
-// Makes a table with that one field, or adds a field to a table. Returns the name under which it
-// was made: the one given or, where the engine does not take it, the same after an underscore; null
-// when it takes neither, or the album would hold more than it may.
+// Make a table with that one field, or add a field to a table. They return the name used: the given
+// one or, if the engine rejects it, the same with an underscore before it; null when both are
+// rejected or the album would exceed its limits.
 QString MakeOwnTable(Database& database, const QString& table, const QString& firstField);
 QString AddOwnField(Database& database, const QString& table, const QString& field);
 

@@ -7,8 +7,8 @@
 
 class ChapterList;
 
-// Opens, makes and closes albums for the main window. The chapter list and the menu of the albums
-// opened lately show what came of it.
+// Opens, makes and closes albums for the main window. The chapter list and the menu of recent
+// albums then show the result.
 class AlbumOpener
 {
     Q_DECLARE_TR_FUNCTIONS(AlbumOpener)
@@ -24,7 +24,7 @@ public:
     void OpenFirst(const QString& path);
     void AskAndOpen();
     void AskAndCreate();
-    // From whichever way the album was chosen. After a failure none is open.
+    // Opens the album however it was chosen. After a failure none is open.
     void Open(const QString& path);
 
 private:

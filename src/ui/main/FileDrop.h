@@ -12,7 +12,7 @@ class WorkProgress;
 struct DroppedFiles;
 
 // What the main window does with files that are dropped on it: an album is opened, pictures are
-// loaded into the open one. A message tells what came of it.
+// loaded into the open one. A message reports the result.
 class FileDrop
 {
     Q_DECLARE_TR_FUNCTIONS(FileDrop)

@@ -52,6 +52,6 @@ void RecentMenu::AddEntry(const QString& path, int place) const
         if (!QApplication::activeModalWidget())
             RunGuarded([&] { open(path); });
     };
-    // Later: opening fills this menu anew, and with it goes the entry that was chosen.
+    // Later: opening an album refills this menu and so deletes the chosen entry.
     QObject::connect(entry, &QAction::triggered, menu_, open, Qt::QueuedConnection);
 }

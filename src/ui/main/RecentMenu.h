@@ -15,7 +15,7 @@ public:
     // The menu must outlive it. Choosing an entry hands its path to open, with errors reported.
     RecentMenu(QMenu* menu, std::function<void(const QString& path)> open);
 
-    // Makes the entries anew.
+    // Replaces the entries.
     void Fill() const;
 
 private:
