@@ -13,13 +13,6 @@ namespace {
 
 using namespace GeneralModule;
 
-// Calls visit on each chapter in reading order until it returns false; ChapterSet stands on it.
-template<typename Visit>
-void WalkChapters(const Visit& visit)
-{
-    ChainOfChapters().Walk(FirstChapter(), ChainDirection::Next, visit);
-}
-
 // The current row's name; empty when it is missing or not valid text.
 QString StoredName()
 {
@@ -39,40 +32,36 @@ QString UnnamedTitle(int number)
                        : QCoreApplication::translate("ChapterChain", "(no name %1)").arg(number);
 }
 
-// Calls visit on the identifier and the name as it is listed of each chapter, until it returns
-// false; the set stands on the chapter.
-template<typename Visit>
-void WalkNames(const Visit& visit)
-{
-    int unnamed = 0;
-    WalkChapters([&](qint32 chapter) {
-        const QString name = StoredName();
-        return visit(chapter, name.isEmpty() ? UnnamedTitle(++unnamed) : name);
-    });
-}
-
 std::optional<qint32> FindListed(const QString& title)
 {
-    std::optional<qint32> found;
-    WalkNames([&](qint32 chapter, const QString& listed) {
-        if (listed == title)
-            found = chapter;
-        return !found;
-    });
-    return found;
+    for (const Chapter& chapter : Chapters()) {
+        if (chapter.title == title)
+            return chapter.id;
+    }
+    return std::nullopt;
 }
 
 } // namespace
 
 namespace GeneralModule {
 
+std::vector<Chapter> Chapters()
+{
+    std::vector<Chapter> chapters;
+    int unnamed = 0;
+    ChainOfChapters().Walk(FirstChapter(), ChainDirection::Next, [&](qint32 chapter) {
+        const QString name = StoredName();
+        chapters.push_back({chapter, name.isEmpty() ? UnnamedTitle(++unnamed) : name});
+        return true;
+    });
+    return chapters;
+}
+
 QStringList ChapterNames()
 {
     QStringList names;
-    WalkNames([&names](qint32, const QString& name) {
-        names += name;
-        return true;
-    });
+    for (const Chapter& chapter : Chapters())
+        names += chapter.title;
     return names;
 }
 
@@ -80,16 +69,14 @@ QString ChapterTitle(qint32 chapter)
 {
     if (!FindById(*ChapterSet, chapter))
         return {};
-    QString title = StoredName();
+    const QString title = StoredName();
     if (!title.isEmpty())
         return title;
-    title = UnnamedTitle(1); // of one that is not listed
-    WalkNames([&](qint32 visited, const QString& listed) {
-        if (visited == chapter)
-            title = listed;
-        return visited != chapter;
-    });
-    return title;
+    for (const Chapter& listed : Chapters()) {
+        if (listed.id == chapter)
+            return listed.title;
+    }
+    return UnnamedTitle(1);
 }
 
 qint32 FirstChapter()

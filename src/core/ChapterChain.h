@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <vector>
 
 // The chapters of the open album, linked in reading order by PreviousChapter and NextChapter (0 =
 // none). Chapters are found by name; no identifier is kept between two operations. The rows that
@@ -12,11 +13,18 @@
 // ChapterSet, and throw DatabaseError, NoAlbum while no album is open.
 namespace GeneralModule {
 
-// The names from the first chapter on, along NextChapter. The list ends at a link to no chapter or
+struct Chapter
+{
+    qint32 id = 0;
+    QString title; // as it is listed
+};
+
+// The chapters from the first one on, along NextChapter. The list ends at a link to no chapter or
 // back to one already listed; chapters that the first one does not lead to are not in it. A chapter
 // whose name is missing or not valid text is listed as "(no name)", the next one as "(no name 2)",
 // and can be found by that.
-QStringList ChapterNames();
+std::vector<Chapter> Chapters();
+QStringList ChapterNames(); // their titles
 
 // The name of one chapter as it is listed; empty when there is no such chapter.
 QString ChapterTitle(qint32 chapter);
