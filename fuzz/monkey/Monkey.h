@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QMap>
 #include <QObject>
@@ -41,7 +40,7 @@ private:
     QEventLoop loop_;
     QWidget* window_ = nullptr;
     QMap<QString, int> visits_;
-    QElapsedTimer sinceTick_;
+    qint64 tickBegan_ = 0; // processor time, milliseconds
     int left_ = 0;
     int refusals_ = 0; // of a window to close
 };
