@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSplitter>
@@ -24,15 +23,16 @@ constexpr int anchorRole = Qt::UserRole;
 constexpr int placeRole =
     Qt::UserRole + 1; // where the chapter's heading is in the text, in characters
 
-int PlaceOfAnchor(const QTextDocument& text, const QString& anchor)
+constexpr int chapterLevel = 2; // of its heading
+
+QString AnchorOf(const QTextBlock& heading)
 {
-    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-            if (part.fragment().charFormat().anchorNames().contains(anchor))
-                return part.fragment().position();
-        }
+    for (auto part = heading.begin(); !part.atEnd(); ++part) {
+        const QStringList names = part.fragment().charFormat().anchorNames();
+        if (!names.isEmpty())
+            return names.first();
     }
-    return 0;
+    return {};
 }
 
 class HelpKey : public QObject
@@ -129,17 +129,15 @@ void HelpWindow::Read(const QString& file)
         txtHelp_->setPlainText(tr("The help file '%1' cannot be read.").arg(file));
         return;
     }
-    const QString html = QString::fromUtf8(help.readAll());
     txtHelp_->setSearchPaths({QFileInfo(file).absolutePath()});
-    txtHelp_->setHtml(html);
-    static const QRegularExpression heading(
-        QStringLiteral("<h2><a name=\"([^\"]+)\"></a>([^<]+)</h2>"));
-    auto headings = heading.globalMatch(html);
-    while (headings.hasNext()) {
-        const QRegularExpressionMatch match = headings.next();
-        auto* item = new QListWidgetItem(match.captured(2), lstContents_);
-        item->setData(anchorRole, match.captured(1));
-        item->setData(placeRole, PlaceOfAnchor(*txtHelp_->document(), match.captured(1)));
+    txtHelp_->setHtml(QString::fromUtf8(help.readAll()));
+    const QTextDocument& text = *txtHelp_->document();
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() != chapterLevel)
+            continue;
+        auto* item = new QListWidgetItem(block.text(), lstContents_);
+        item->setData(anchorRole, AnchorOf(block));
+        item->setData(placeRole, block.position());
     }
 }
 
