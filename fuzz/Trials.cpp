@@ -194,6 +194,18 @@ void Trials::Fault(const QString& what)
     std::fflush(stdout);
 }
 
+int Trials::Run(const std::function<void()>& trial)
+{
+    while (Next()) {
+        try {
+            trial();
+        } catch (const std::exception& error) {
+            Fault(QString::fromUtf8(error.what()));
+        }
+    }
+    return Finish();
+}
+
 int Trials::Finish() const
 {
     const qint64 count = onlyTrial_ >= 0 ? 1 : trial_;

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <random>
 
 // What the programs of this folder share: arguments, clock, random numbers, and the report.
@@ -46,6 +47,8 @@ public:
     void CountAccepted() { ++accepted_; }
     void Fault(const QString& what);
 
+    // Runs the trial until the time is up; what it throws is a fault. Returns as Finish.
+    int Run(const std::function<void()>& trial);
     // Prints the numbers of trials and faults. Returns the program's status.
     int Finish() const;
 

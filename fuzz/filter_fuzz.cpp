@@ -228,17 +228,12 @@ int main(int argc, char** argv)
     const AlbumFixture album;
     const std::map<qint64, Row> rows = MakeRows();
     Trials trials(argc, argv, 10);
-    while (trials.Next()) {
+    return trials.Run([&] {
         QString filter =
             trials.OneIn(40) ? LargeFilter(trials) : AnyFilter(trials, trials.Below(5));
         if (trials.OneIn(3))
             Damage(filter, trials);
         trials.SetInput(filter.toUtf8());
-        try {
-            Try(trials, filter, rows);
-        } catch (const std::exception& error) {
-            trials.Fault(QString::fromUtf8(error.what()));
-        }
-    }
-    return trials.Finish();
+        Try(trials, filter, rows);
+    });
 }

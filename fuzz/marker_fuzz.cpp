@@ -3,7 +3,6 @@
 #include "core/AlbumSets.h"
 #include "core/Parameters.h"
 #include "fuzz/Trials.h"
-#include "platform/data/DatabaseError.h"
 #include "platform/data/WriteBatch.h"
 #include "story/ParagraphMarkers.h"
 #include "support/AlbumFixture.h"
@@ -132,14 +131,9 @@ int main(int argc, char** argv)
     for (int column = 0; column < 12; ++column)
         fields[QStringLiteral("Car%1").arg(column)] = QStringLiteral("<[%1").arg(column);
     album.AddImageRow(picture, fields);
-    while (trials.Next()) {
-        try {
-            LabelAnew(trials);
-            for (int text = 0; text < 100; ++text)
-                Try(trials, picture);
-        } catch (const DatabaseError& error) {
-            trials.Fault(error.GetDescription());
-        }
-    }
-    return trials.Finish();
+    return trials.Run([&] {
+        LabelAnew(trials);
+        for (int text = 0; text < 100; ++text)
+            Try(trials, picture);
+    });
 }

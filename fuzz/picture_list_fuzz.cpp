@@ -308,14 +308,9 @@ int main(int argc, char** argv)
     const AlbumFixture album;
     AlbumDatabase->Execute("PRAGMA synchronous=OFF");
     Trials trials(argc, argv, 20);
-    while (trials.Next()) {
-        try {
-            const std::vector<Picture> pictures = FillAlbum(trials);
-            for (int i = 0; i < 8; ++i)
-                Try(trials, pictures);
-        } catch (const std::exception& error) {
-            trials.Fault(QString::fromUtf8(error.what()));
-        }
-    }
-    return trials.Finish();
+    return trials.Run([&trials] {
+        const std::vector<Picture> pictures = FillAlbum(trials);
+        for (int i = 0; i < 8; ++i)
+            Try(trials, pictures);
+    });
 }

@@ -373,24 +373,19 @@ int main(int argc, char** argv)
     const AlbumFixture album;
     AlbumDatabase->Execute("PRAGMA synchronous=OFF");
     Trials trials(argc, argv, 30);
-    while (trials.Next()) {
-        try {
-            RunStatements("DELETE FROM Chapter; DELETE FROM Paragraph");
-            const int kind = trials.Below(4);
-            if (kind == 0) {
-                TryRepair(trials, album);
-            } else if (kind == 1) {
-                for (int i = 0; i < 200; ++i)
-                    TryMending(trials);
-            } else {
-                Author author(trials, album);
-                for (int i = trials.Below(80); i >= 0 && author.Work(); --i) {
-                }
+    return trials.Run([&] {
+        RunStatements("DELETE FROM Chapter; DELETE FROM Paragraph");
+        const int kind = trials.Below(4);
+        if (kind == 0) {
+            TryRepair(trials, album);
+        } else if (kind == 1) {
+            for (int i = 0; i < 200; ++i)
+                TryMending(trials);
+        } else {
+            Author author(trials, album);
+            for (int i = trials.Below(80); i >= 0 && author.Work(); --i) {
             }
-            trials.CountAccepted();
-        } catch (const std::exception& error) {
-            trials.Fault(QString::fromUtf8(error.what()));
         }
-    }
-    return trials.Finish();
+        trials.CountAccepted();
+    });
 }

@@ -136,16 +136,11 @@ int main(int argc, char** argv)
     const AlbumFixture album;
     AlbumDatabase->Execute("PRAGMA synchronous=OFF");
     Trials trials(argc, argv, 20);
-    while (trials.Next()) {
-        // The numbers begin anew, so that a trial does the same alone.
+    return trials.Run([&] {
+        // The numbers start again, so that a trial does the same alone.
         RunStatements("DELETE FROM Paragraph; DELETE FROM sqlite_sequence");
         Model model;
-        try {
-            Try(trials, album, model);
-            trials.CountAccepted();
-        } catch (const std::exception& error) {
-            trials.Fault(QString::fromUtf8(error.what()));
-        }
-    }
-    return trials.Finish();
+        Try(trials, album, model);
+        trials.CountAccepted();
+    });
 }

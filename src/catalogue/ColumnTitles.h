@@ -5,6 +5,7 @@
 
 // Titles of the columns of characteristics for the user. A column without a label gets its number,
 // counted from 1: "Caracteristic 7".
+// They move the current row of ParamsSet, and throw DatabaseError, NoAlbum while no album is open.
 
 QString ColumnTitle(int column);
 

@@ -41,6 +41,26 @@ std::optional<qint32> FindListed(const QString& title)
     return std::nullopt;
 }
 
+// The neighbour that a chapter changes places with is the one in reading order: an insertion leaves
+// the backward link of the chapter after it as it was. The last chapter may lead back to one
+// before it, which is no neighbour.
+bool MoveChapter(const QString& name, ChainDirection direction)
+{
+    const std::optional<qint32> moved = FindChapter(name);
+    if (!moved)
+        return false;
+    const bool isUp = direction == ChainDirection::Previous;
+    const qint32 upper = isUp ? ChapterLeadingTo(*moved) : *moved;
+    const qint32 lower = isUp ? *moved : NextChapter(*moved);
+    if (upper == 0 || lower == 0 || ChapterLeadingTo(lower) != upper)
+        return false;
+    const qint32 before = ChapterLeadingTo(upper);
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    ChainOfChapters().Exchange(before, upper, lower);
+    batch.Finish();
+    return true;
+}
+
 } // namespace
 
 namespace GeneralModule {
@@ -172,30 +192,6 @@ ChapterDeletion DeleteChapter(const QString& name)
     batch.Finish();
     return ChapterDeletion::Deleted;
 }
-
-namespace {
-
-// The neighbour that a chapter changes places with is the one in reading order: an insertion leaves
-// the backward link of the chapter after it as it was. The last chapter may lead back to one
-// before it, which is no neighbour.
-bool MoveChapter(const QString& name, ChainDirection direction)
-{
-    const std::optional<qint32> moved = FindChapter(name);
-    if (!moved)
-        return false;
-    const bool isUp = direction == ChainDirection::Previous;
-    const qint32 upper = isUp ? ChapterLeadingTo(*moved) : *moved;
-    const qint32 lower = isUp ? *moved : NextChapter(*moved);
-    if (upper == 0 || lower == 0 || ChapterLeadingTo(lower) != upper)
-        return false;
-    const qint32 before = ChapterLeadingTo(upper);
-    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
-    ChainOfChapters().Exchange(before, upper, lower);
-    batch.Finish();
-    return true;
-}
-
-} // namespace
 
 bool MoveChapterUp(const QString& name)
 {

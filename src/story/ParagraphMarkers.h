@@ -22,7 +22,8 @@ struct TextMarker
 // Reading back what was shown gives what was stored, for every text and all labels: if a label
 // would make a marker equal to another one (two columns with the same label, or none) or end it too
 // early (a ">>" in it), the marker is shown in its stored form. Of columns with equal labels the
-// first gets the words.
+// first gets the words. Moves the current row of ParamsSet. Throws DatabaseError, NoAlbum while no
+// album is open.
 std::vector<TextMarker> ReadTextMarkers();
 
 // Convert every occurrence from stored to display form and back. Anything else stays as typed.
@@ -31,5 +32,6 @@ QString ToStoredMarkers(const QString& text, const std::vector<TextMarker>& mark
 
 // The stored text with every placeholder filled for the picture of that File. A placeholder is
 // removed when the album has no such picture, or the picture no value there. A "<[" that begins no
-// placeholder stays.
+// placeholder stays. Moves the current row of ImageSet. Throws DatabaseError, NoAlbum while no album
+// is open.
 QString FillPictureMarkers(const QString& text, const QString& pictureFile);

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int maximumPreviewed = 5000; // pictures
+constexpr int maxPreviewed = 5000; // pictures
 
 } // namespace
 
@@ -31,25 +31,23 @@ ParagraphPreview::ParagraphPreview(const Controls& controls, QObject* parent)
     ShowPicture({});
 }
 
-void ParagraphPreview::SetParagraph(qint32 paragraph)
+void ParagraphPreview::Begin(qint32 paragraph)
 {
     paragraph_ = paragraph;
     pictures_.clear();
+    controls_.feedback->clear();
     ShowPicture({});
 }
 
 void ParagraphPreview::FindPictures()
 {
     const BusyPointer busy;
-    pictures_.clear();
-    controls_.feedback->clear();
-    ShowPicture({});
     const std::optional<Paragraph> paragraph = ReadParagraph(paragraph_);
     if (!paragraph)
         return;
     PictureList found;
-    BuildPictureList(paragraph->GetQuery(), found, maximumPreviewed, [this](int count) {
-        controls_.feedback->setText(tr("%1 images found").arg(count));
+    BuildPictureList(paragraph->GetQuery(), found, maxPreviewed, [this](int count) {
+        controls_.feedback->setText(tr("%n images found", nullptr, count));
         controls_.feedback->repaint();
     });
     pictures_ = found.GetFiles();
@@ -61,7 +59,7 @@ bool ParagraphPreview::ShowNext()
     if (pictures_.isEmpty())
         return false;
     ShowPicture(pictures_.takeFirst());
-    controls_.feedback->setText(tr("%1 images left").arg(pictures_.size()));
+    controls_.feedback->setText(tr("%n images left", nullptr, int(pictures_.size())));
     return true;
 }
 

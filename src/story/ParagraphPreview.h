@@ -31,11 +31,11 @@ public:
 
     ParagraphPreview(const Controls& controls, QObject* parent);
 
-    // Sets the paragraph whose links the check box shows and changes. Shows no picture.
-    void SetParagraph(qint32 paragraph);
+    // Begins with a paragraph, whose links the check box then shows and changes. Shows no picture.
+    void Begin(qint32 paragraph);
 
     // Lists the paragraph's pictures and shows the first. Throws DatabaseError for a filter that
-    // the engine refuses; then no picture is shown.
+    // the engine refuses; then no picture is shown. Call Begin before.
     void FindPictures();
     // False, with nothing changed, when none is left.
     bool ShowNext();

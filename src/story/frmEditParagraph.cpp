@@ -328,7 +328,7 @@ void frmEditParagraph::SetPreviewMode(bool isPreview)
 void frmEditParagraph::ClearPreview()
 {
     SetPreviewMode(false);
-    preview_->SetParagraph(CurrentParagraph);
+    preview_->Begin(CurrentParagraph);
 }
 
 void frmEditParagraph::cmdPreview_Click()
@@ -344,8 +344,8 @@ void frmEditParagraph::RefreshPictureList()
 {
     if (!SaveParagraph())
         return;
-    preview_->ShowPicture({});
-    preview_->ShowText(GetContent().text);
+    preview_->Begin(CurrentParagraph);
+    preview_->ShowText(GetContent().text); // for as long as the search takes
     preview_->FindPictures();
     preview_->ShowText(GetContent().text);
 }

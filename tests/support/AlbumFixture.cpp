@@ -91,6 +91,20 @@ qint32 AlbumFixture::AddParagraph(qint32 chapter, const QString& text,
     return id;
 }
 
+qint32 AlbumFixture::AddThreeChapters(QSize pictureSize)
+{
+    for (const char* name : {"a", "b", "c"})
+        AddPicture(QString(name) + ".png", {{"Car0", name}, {"Legend", QString("the ") + name}},
+                   pictureSize);
+    const qint32 one = AddChapter("One");
+    AddChapter("Empty");
+    const qint32 three = AddChapter("Three");
+    AddParagraph(one, "First: <[Picture Legend]>", {{"Car0", "a"}});
+    AddParagraph(one, "Second: <[0]>", {{"Car0", "b"}});
+    AddParagraph(three, "Third", {{"Car0", "c"}});
+    return one;
+}
+
 void AlbumFixture::Link(qint32 paragraph, const QString& file)
 {
     LinkedImagesSet->AddNew();

@@ -44,6 +44,9 @@ public:
     // characteristics not named are "*". Returns its identifier.
     qint32 AddParagraph(qint32 chapter, const QString& text,
                         const QMap<QString, QString>& fields = {});
+    // "One" with two paragraphs, "Empty" with none, and "Three" with one, each paragraph with a
+    // picture of its own: a, b and c. Returns the first chapter.
+    qint32 AddThreeChapters(QSize pictureSize);
     void Link(qint32 paragraph, const QString& file);
 
     // What a query returns through a connection of its own, each row as its values joined by "|",

@@ -86,17 +86,7 @@ private slots:
     void ForeseesEachStep()
     {
         Reading story;
-        for (const char* name : {"a", "b", "c"})
-            story.album.AddPicture(QString(name) + ".png",
-                                   {{"Car0", name}, {"Legend", QString("the ") + name}},
-                                   {300, 600});
-        const qint32 one = story.album.AddChapter("One");
-        story.album.AddChapter("Empty");
-        const qint32 three = story.album.AddChapter("Three");
-        story.album.AddParagraph(one, "First: <[Picture Legend]>", {{"Car0", "a"}});
-        story.album.AddParagraph(one, "Second: <[0]>", {{"Car0", "b"}});
-        story.album.AddParagraph(three, "Third", {{"Car0", "c"}});
-        story.Begin(one);
+        story.Begin(story.album.AddThreeChapters({300, 600}));
         QCOMPARE(story.paper.legend, "First: the a");
         const QString offer = "Click HERE to create first paragraph of the new chapter 'Empty'";
         struct Step

@@ -11,16 +11,7 @@ private slots:
     void ReadsAStoryByKeys()
     {
         OpenViewer story;
-        for (const char* name : {"a", "b", "c"})
-            story.album.AddPicture(QString(name) + ".png",
-                                   {{"Car0", name}, {"Legend", QString("the ") + name}});
-        const qint32 one = story.album.AddChapter("One");
-        story.album.AddChapter("Empty");
-        const qint32 three = story.album.AddChapter("Three");
-        story.album.AddParagraph(one, "First: <[Picture Legend]>", {{"Car0", "a"}});
-        story.album.AddParagraph(one, "Second: <[0]>", {{"Car0", "b"}});
-        story.album.AddParagraph(three, "Third", {{"Car0", "c"}});
-        story.Open(one);
+        story.Open(story.album.AddThreeChapters({60, 40}));
         const QString first = "First: the a; One; a";
         const QString second = "Second: b; One; b";
         const QString third = "Third; Three; c";
