@@ -126,7 +126,7 @@ private slots:
         QCOMPARE(story.album.Joined("SELECT count(*) FROM Paragraph"), "3"); // none was made
         story.album.Execute("DELETE FROM Chapter");                          // by another program
         const QSignalSpy ended(&story.reader, &StoryReader::Ended);
-        story.reader.GoTo({three, 3});
+        story.reader.GoTo({3, 3});
         story.reader.Go(NextParagraph);
         QCOMPARE(ended.size(), 1);
     }
