@@ -921,13 +921,19 @@ Le supprimer quand même ?</translation>
         <source>Click to edit image</source>
         <translation>Cliquez pour modifier la photo</translation>
     </message>
-    <message>
-        <source>%1 images found</source>
-        <translation>%1 photos trouvées</translation>
+    <message numerus="yes">
+        <source>%n images found</source>
+        <translation>
+            <numerusform>%n photo trouvée</numerusform>
+            <numerusform>%n photos trouvées</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 images left</source>
-        <translation>%1 photos restantes</translation>
+    <message numerus="yes">
+        <source>%n images left</source>
+        <translation>
+            <numerusform>%n photo restante</numerusform>
+            <numerusform>%n photos restantes</numerusform>
+        </translation>
     </message>
 </context>
 <context>

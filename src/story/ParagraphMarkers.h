@@ -32,6 +32,6 @@ QString ToStoredMarkers(const QString& text, const std::vector<TextMarker>& mark
 
 // The stored text with every placeholder filled for the picture of that File. A placeholder is
 // removed when the album has no such picture, or the picture no value there. A "<[" that begins no
-// placeholder stays. Moves the current row of ImageSet. Throws DatabaseError, NoAlbum while no album
-// is open.
+// placeholder stays. Moves the current row of ImageSet. Throws DatabaseError, NoAlbum while no
+// album is open.
 QString FillPictureMarkers(const QString& text, const QString& pictureFile);
