@@ -189,6 +189,15 @@ private slots:
         }
     }
 
+    void ALinkToItselfMovesNowhere()
+    {
+        OneChapter album({"a", "b"});
+        album.Execute("UPDATE Paragraph SET NextParagraph=2 WHERE Id=2");
+        album.place.paragraph = 2;
+        QVERIFY(MoveParagraphUp(album.place));
+        QCOMPARE(album.Joined(chainSql), "1|1|2|0|a; 2|1|0|1|b");
+    }
+
     // How whole ones move is for chain_fuzz to see.
     void MovesAcrossBrokenLinks()
     {

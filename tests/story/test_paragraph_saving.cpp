@@ -119,6 +119,21 @@ private slots:
         }
     }
 
+    // What is typed after a step that failed belongs to the paragraph that is still shown.
+    void WhatIsTypedAfterAFailureIsSaved()
+    {
+        const PatientDialogs dialogs;
+        std::optional<Writing> writing;
+        FailAtEachStep(
+            13, [&] { writing.reset(), writing.emplace(); },
+            [&] { writing->Click("cmdNextParagraph"); },
+            [&] {
+                QTest::keyClicks(&writing->TextBox(), "x");
+                writing->Click("cmdExit");
+                QVERIFY(writing->Texts().contains('x'));
+            });
+    }
+
     // Wherever the engine fails on the way, and once it works again, no paragraph is overwritten.
     void WhatCannotBeReadIsNotSaved()
     {

@@ -131,6 +131,20 @@ private slots:
         QCOMPARE(ended.size(), 1);
     }
 
+    void StaysWhereThePageStillIs()
+    {
+        Reading story;
+        story.Begin(story.album.AddThreeChapters({60, 40}));
+        bool hasThrown = false;
+        FailAtEachStep(
+            1,
+            [&] {
+                story.reader.GoTo({1, 1});
+            },
+            [&] { hasThrown = ErrorOf([&] { story.reader.Go(StoryWay::NextParagraph); }) != 0; },
+            [&] { QCOMPARE(story.reader.Position.paragraph, hasThrown ? 1 : 2); });
+    }
+
     void ZoomsAndPages()
     {
         Reading story;

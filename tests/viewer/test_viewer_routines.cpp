@@ -66,6 +66,7 @@ private slots:
             {"", nextChapter_, {4, 4}, "paragraph 4/5"},
             {"", top_, {4, 4}, "chapter 3/0"}, // skips no empty one
             {paragraph + "NextParagraph=99 WHERE Id=2", next_, {1, 2}, "chapter 4/4"},
+            {paragraph + "NextParagraph=2 WHERE Id=2", next_, {1, 2}, "chapter 4/4"},
             {paragraph + "PreviousParagraph=99 WHERE Id=2", previous_, {1, 2}, "paragraph 1/1"},
             {paragraph + "NextParagraph=4 WHERE Id=5", nextChapter_, {4, 4}, "paragraph 4/5"},
             {paragraph + "PreviousParagraph=3 WHERE Id=1", top_, {1, 2}, "paragraph 1/3"},
