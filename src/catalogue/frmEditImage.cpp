@@ -142,6 +142,8 @@ void frmEditImage::ShowPicture(const QString& file)
     ui_->stage->ShowPicture(file, path);
     ui_->lblFileName->setText(file);
     ui_->cmdNextImage->setVisible(HasNextPicture && HasNextPicture());
+    if (ForeseeNextPicture)
+        ui_->stage->Expect(ForeseeNextPicture());
     isKnown_ = record.has_value();
     ShowStored(record.value_or(Picture()));
     if (!isKnown_)

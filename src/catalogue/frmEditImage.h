@@ -34,6 +34,8 @@ public:
     bool IsSinglePicture = false;
     // File of the next picture of the selection, empty when none is left.
     std::function<QString()> NextPicture;
+    // Path of that picture, which stays the next one; empty when none is left. May be left unset.
+    std::function<QString()> ForeseeNextPicture;
     // Whether the selection has more pictures; if not set, there is no Next Picture.
     std::function<bool()> HasNextPicture;
     // Files that were removed from the album here.

@@ -157,6 +157,11 @@ bool IsAlbumOpen()
     return FindOpenedAlbum() != nullptr;
 }
 
+AlbumVersion GetAlbumVersion()
+{
+    return {AlbumDatabase->ChangeCount(), AlbumDatabase->ForeignVersion()};
+}
+
 bool IsAlbumReadOnly()
 {
     const Album* album = FindOpenedAlbum();

@@ -9,6 +9,18 @@ namespace GeneralModule {
 
 bool IsAlbumOpen();
 
+// Of what the open album's tables hold. Two that are equal mean that nothing has changed.
+struct AlbumVersion
+{
+    int changesHere = 0;      // by this program
+    qint64 changesAbroad = 0; // by others
+
+    bool operator==(const AlbumVersion&) const = default;
+};
+
+// Throws DatabaseError, NoAlbum while none is open.
+AlbumVersion GetAlbumVersion();
+
 // Whether the open album can only be read: its file or its folder cannot be written. False while
 // none is open.
 bool IsAlbumReadOnly();

@@ -7,12 +7,30 @@
 
 #include <QFileInfo>
 
+namespace {
+
+using GeneralModule::ImageSet;
+
+// Makes the picture's row the current one.
+QString LocalCopyOf(const QString& file)
+{
+    ImageSet->FindFirst(QStringLiteral("[File]=") + GeneralModule::Quoted(file));
+    return ImageSet->NoMatch() ? QString() : ImageSet->TextOrEmpty(u"SourceFile");
+}
+
+} // namespace
+
 namespace GeneralModule {
+
+QString FindPictureFile(const QString& file)
+{
+    const QString copy = LocalCopyOf(file);
+    return !copy.isEmpty() && QFileInfo::exists(copy) ? copy : file;
+}
 
 QString ResolvePictureFile(const QString& file)
 {
-    ImageSet->FindFirst(QStringLiteral("[File]=") + Quoted(file));
-    const QString copy = ImageSet->NoMatch() ? QString() : ImageSet->TextOrEmpty(u"SourceFile");
+    const QString copy = LocalCopyOf(file);
     if (copy.isEmpty())
         return file;
     if (QFileInfo::exists(copy))

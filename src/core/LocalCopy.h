@@ -10,4 +10,7 @@ namespace GeneralModule {
 // current row of ImageSet. Throws DatabaseError, NoAlbum while no album is open.
 QString ResolvePictureFile(const QString& file);
 
+// The same path, but a missing copy stays in the album.
+QString FindPictureFile(const QString& file);
+
 } // namespace GeneralModule

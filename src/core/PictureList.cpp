@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/PictureList.h"
 
-#include "core/RandomNumbers.h"
-
 #include <algorithm>
 
 namespace GeneralModule {
@@ -34,6 +32,11 @@ QStringList PictureList::GetFiles() const
     QStringList files(upcoming_.begin(), upcoming_.end());
     files.append(QStringList(files_.begin(), files_.end()));
     return files;
+}
+
+int PictureList::RandomBelow(int below)
+{
+    return std::uniform_int_distribution<int>(0, below - 1)(random_);
 }
 
 void PictureList::Pick(bool atRandom)

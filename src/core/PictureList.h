@@ -4,18 +4,23 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
 #include <deque>
 #include <functional>
+#include <random>
 #include <vector>
 
 namespace GeneralModule {
 
 // The pictures still to be shown, by their File in the album: first those linked to the paragraph,
-// then those that its filter found. It shrinks as screens are filled from it.
+// then those that its filter found. It shrinks as screens are filled from it. It has random numbers
+// of its own, so that a copy gives the same pictures in the same order.
 class PictureList
 {
 public:
     void Clear();
+    // Begins another random order.
+    void Shuffle(std::uint32_t seed) { random_.seed(seed); }
     void AddLinked(const QString& file); // before any other picture
     void Add(const QString& file);
     bool HoldsLinked(const QString& file) const;
@@ -38,10 +43,12 @@ public:
 
 private:
     void Pick(bool atRandom);
+    int RandomBelow(int below);
 
     std::deque<QString> upcoming_;
     std::vector<QString> files_;
     int linked_ = 0; // leading entries of files_ that are linked pictures
+    std::mt19937 random_;
 };
 
 } // namespace GeneralModule

@@ -15,9 +15,9 @@ std::mt19937& Random()
 
 namespace GeneralModule {
 
-int RandomBelow(int below)
+std::uint32_t RandomSeed()
 {
-    return below > 0 ? std::uniform_int_distribution<int>(0, below - 1)(Random()) : 0;
+    return std::uint32_t(Random()());
 }
 
 void SeedRandom(std::uint32_t seed)

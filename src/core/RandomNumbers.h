@@ -5,9 +5,9 @@
 
 namespace GeneralModule {
 
-// A random whole number from 0 to below - 1; 0 when below is less than 1. The same numbers come at
-// every start until SeedRandom was called.
-int RandomBelow(int below);
+// A number for a list to begin its random order with. The same numbers come at every start until
+// SeedRandom was called.
+std::uint32_t RandomSeed();
 
 void SeedRandom(std::uint32_t seed);
 

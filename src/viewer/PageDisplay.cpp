@@ -3,6 +3,7 @@
 
 #include "platform/dialogs/Guard.h"
 #include "platform/files/PathRoutines.h"
+#include "platform/picture/LookAhead.h"
 #include "story/ParagraphMarkers.h"
 #include "viewer/StorySurface.h"
 #include "viewer/ViewerFlags.h"
@@ -11,9 +12,22 @@
 
 #include <utility>
 
+namespace {
+
+constexpr int screensHeld = 3; // besides the one on show
+
+qint64 BytesOf(const ScreenShape& shape)
+{
+    constexpr qint64 bytesPerPixel = 4;
+    const QSize pixels = (QSizeF(shape.area) * shape.pixelRatio).toSize();
+    return pixels.width() * bytesPerPixel * pixels.height();
+}
+
+} // namespace
+
 void PageDisplay::Begin(const PageText& page)
 {
-    text_ = page.text;
+    page_ = page;
     if (!page.title.isEmpty())
         surface_->SetTitle(page.title);
     surface_->Arrange(page.arrangedFor);
@@ -39,32 +53,25 @@ void PageDisplay::TellFailure()
         RunGuarded([&failure] { std::rethrow_exception(failure); });
 }
 
-Screenful PageDisplay::NextScreen(int lines) const
-{
-    return PrepareScreen(list_, surface_->GetShape(lines), GeneralModule::PictureAtRandom);
-}
-
+// Either all of it happens or nothing.
 void PageDisplay::ShowNextScreen(int lines)
 {
     const auto work = surface_->BeginWork();
-    Show(NextScreen(lines));
+    const ScreenShape shape = surface_->GetShape(lines);
+    PictureList list = list_;
+    std::vector<ShownPicture> pictures = FillScreen(list, shape, GeneralModule::PictureAtRandom);
+    lookAhead_.SetRoom(screensHeld * BytesOf(shape));
+    std::vector<QImage> images = lookAhead_.Take(RequestsFor(pictures, shape.pixelRatio));
+    list_ = std::move(list);
+    displayed_ = std::move(pictures);
+    surface_->ShowPictures(displayed_, std::move(images));
+    surface_->SetNotice(Notice());
 }
 
 void PageDisplay::ShowScreenAgain(int lines)
 {
-    QStringList files;
-    for (const ShownPicture& picture : displayed_)
-        files += picture.file;
-    list_.PutBack(files);
+    list_.PutBack(FilesOf(displayed_));
     ShowNextScreen(lines);
-}
-
-void PageDisplay::Show(Screenful screen)
-{
-    list_ = std::move(screen.rest);
-    displayed_ = std::move(screen.pictures);
-    surface_->ShowPictures(displayed_, std::move(screen.images));
-    surface_->SetNotice(Notice());
 }
 
 // Why the screen holds no pictures; empty when it does.
@@ -78,7 +85,7 @@ QString PageDisplay::Notice() const
 
 void PageDisplay::ShowText()
 {
-    surface_->SetLegend(FillPictureMarkers(text_, GetLastDisplayed()));
+    surface_->SetLegend(FillPictureMarkers(page_.text, GetLastDisplayed()));
 }
 
 void PageDisplay::ShowCountLeft()
@@ -91,8 +98,8 @@ void PageDisplay::ShowAlone(const ShownPicture& picture, bool hasText)
 {
     const ScreenShape shape = surface_->GetShape(0);
     const ShownPicture large{picture.file, picture.path, PlaceOfSinglePicture(picture.path, shape)};
-    surface_->ShowFullSize(large, DecodePictures({large}, shape.pixelRatio).front());
-    const QString pattern = hasText ? text_ : QStringLiteral("<[Picture Legend]>");
+    surface_->ShowFullSize(large, ReadPictures(RequestsFor({large}, shape.pixelRatio)).front());
+    const QString pattern = hasText ? page_.text : QStringLiteral("<[Picture Legend]>");
     const QString text = FillPictureMarkers(pattern, picture.file);
     surface_->SetLegend(text.isEmpty() ? FileNameOf(picture.file) : text);
 }

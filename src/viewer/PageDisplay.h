@@ -10,6 +10,7 @@
 #include <exception>
 #include <vector>
 
+class LookAhead;
 class StorySurface;
 
 // What stands on a surface: a screenful of pictures from a list, and a text that may speak of the
@@ -17,6 +18,8 @@ class StorySurface;
 class PageDisplay
 {
 public:
+    explicit PageDisplay(LookAhead& lookAhead) : lookAhead_(lookAhead) {}
+
     // Everything below is shown there; what stands on another surface stays.
     void DrawOn(StorySurface& surface) { surface_ = &surface; }
     StorySurface& Surface() const { return *surface_; }
@@ -31,8 +34,6 @@ public:
     // whole: while the box is up the window may be resized and be drawn again.
     void TellFailure();
 
-    // The pictures that the list would give next. Nothing is shown or taken.
-    Screenful NextScreen(int lines) const;
     void ShowNextScreen(int lines);
     // The pictures of the screen once more, as many as now find room.
     void ShowScreenAgain(int lines);
@@ -47,18 +48,19 @@ public:
     const std::vector<ShownPicture>& GetDisplayed() const { return displayed_; }
     QString GetLastDisplayed() const; // empty when the screen is
     const PictureList& GetList() const { return list_; }
+    const PageText& GetPage() const { return page_; }
     void SetList(const PictureList& list) { list_ = list; }
     // Forgets pictures that are no longer in the album; the surface still shows them.
     void Remove(const QStringList& files);
 
 private:
-    void Show(Screenful screen);
     QString Notice() const;
 
+    LookAhead& lookAhead_;
     StorySurface* surface_ = nullptr;
     PictureList list_;
     std::exception_ptr failure_; // not yet reported
     bool hasFound_ = false;      // pictures, whether their files are there or not
     std::vector<ShownPicture> displayed_;
-    QString text_; // before its markers are filled
+    PageText page_;
 };

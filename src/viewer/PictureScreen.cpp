@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/PictureScreen.h"
 
-#include "core/LocalCopy.h"
-#include "platform/picture/PictureReader.h"
-
 #include <QFileInfo>
 
 #include <algorithm>
@@ -44,14 +41,15 @@ QRect ToPixels(const UnitRect& place, QSize area)
 
 } // namespace
 
-std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape, bool atRandom)
+std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape, bool atRandom,
+                                     PathOfPicture pathOf)
 {
     std::vector<ShownPicture> pictures;
     std::vector<UnitRect> places;
     LineLayout layout(shape.lines, shape.maxTotalHeight);
     QString path;
-    const auto isThere = [&path](const QString& file) {
-        path = GeneralModule::ResolvePictureFile(file);
+    const auto isThere = [&path, pathOf](const QString& file) {
+        path = pathOf(file);
         return QFileInfo::exists(path);
     };
     while (places.size() < maxPictures) {
@@ -77,20 +75,19 @@ QRect PlaceOfSinglePicture(const QString& path, const ScreenShape& shape)
     return ToPixels(*layout.Place(NaturalSize(path, shape)), shape.area);
 }
 
-std::vector<QImage> DecodePictures(const std::vector<ShownPicture>& pictures, qreal pixelRatio)
+QStringList FilesOf(const std::vector<ShownPicture>& pictures)
+{
+    QStringList files;
+    for (const ShownPicture& picture : pictures)
+        files += picture.file;
+    return files;
+}
+
+std::vector<PictureRequest> RequestsFor(const std::vector<ShownPicture>& pictures, qreal pixelRatio)
 {
     std::vector<PictureRequest> requests;
     requests.reserve(pictures.size());
     for (const ShownPicture& picture : pictures)
         requests.push_back({picture.path, (QSizeF(picture.place.size()) * pixelRatio).toSize()});
-    return ReadPictures(requests);
-}
-
-Screenful PrepareScreen(PictureList list, const ScreenShape& shape, bool atRandom)
-{
-    Screenful screen;
-    screen.pictures = FillScreen(list, shape, atRandom);
-    screen.images = DecodePictures(screen.pictures, shape.pixelRatio);
-    screen.rest = std::move(list);
-    return screen;
+    return requests;
 }

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/LocalCopy.h"
 #include "core/PictureList.h"
+#include "platform/picture/PictureReader.h"
 #include "viewer/LineLayout.h"
 
-#include <QImage>
 #include <QRect>
 #include <QSize>
 #include <QString>
@@ -29,26 +30,22 @@ struct ShownPicture
     QRect place;  // logical pixels
 };
 
-// The maximum number of pictures on a screen.
-constexpr int maxPictures = 21;
+constexpr int maxPictures = 21; // on a screen
+constexpr int maxLines = 4;
 
 // Takes as many pictures from the list as find room, at random or in list order, and returns where
 // they stand, with each line centred. Reads only the files' headers. Pictures whose file is gone
-// are dropped from the list; one that cannot be read keeps its place on the screen.
-std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape, bool atRandom);
+// are dropped from the list; one that cannot be read keeps its place on the screen. pathOf tells
+// where an album's picture is read from.
+using PathOfPicture = QString (*)(const QString& file);
+std::vector<ShownPicture> FillScreen(PictureList& list, const ScreenShape& shape, bool atRandom,
+                                     PathOfPicture pathOf = GeneralModule::ResolvePictureFile);
 
 // The place of one picture that has the whole band to itself.
 QRect PlaceOfSinglePicture(const QString& path, const ScreenShape& shape);
 
-// The pictures decoded at their size on the screen, in the same order; null for an unreadable one.
-std::vector<QImage> DecodePictures(const std::vector<ShownPicture>& pictures, qreal pixelRatio);
+QStringList FilesOf(const std::vector<ShownPicture>& pictures);
 
-// A screen of pictures, ready to be shown.
-struct Screenful
-{
-    PictureList rest; // what the list holds after it
-    std::vector<ShownPicture> pictures;
-    std::vector<QImage> images; // one for each of pictures, null for an unreadable one
-};
-
-Screenful PrepareScreen(PictureList list, const ScreenShape& shape, bool atRandom);
+// What to decode for them: each at its size on the screen, in the same order.
+std::vector<PictureRequest> RequestsFor(const std::vector<ShownPicture>& pictures,
+                                        qreal pixelRatio);

@@ -48,6 +48,10 @@ void IndexPicture(StoryReader& reader, const QString& file, QWidget* window)
         upcoming.TakePicked();
         return next;
     };
+    indexing.ForeseeNextPicture = [&] {
+        const QString next = upcoming.PickNext(GeneralModule::PictureAtRandom, isThere);
+        return next.isEmpty() ? QString() : GeneralModule::FindPictureFile(next);
+    };
     indexing.exec();
     reader.ShowIndexed(upcoming, indexing.TakenOut);
 }

@@ -1,34 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/StoryReader.h"
 
+#include "core/RandomNumbers.h"
 #include "viewer/StorySurface.h"
 #include "viewer/ViewerFlags.h"
 
 #include <QScopeGuard>
 
-namespace {
-
-constexpr int maxLines = 4;
-
-StoryStep TakeStep(StoryWay way, StoryPosition& position)
-{
-    switch (way) {
-    case StoryWay::NextParagraph:
-        return StepToNextParagraph(position);
-    case StoryWay::PreviousParagraph:
-        return StepToPreviousParagraph(position);
-    case StoryWay::NextChapter:
-        return StepToNextChapter(position);
-    case StoryWay::TopOfChapter:
-        return StepToTopOfChapter(position);
-    }
-    return StoryStep::Nothing;
-}
-
-} // namespace
-
 StoryReader::StoryReader(std::function<bool()> isInFront, QObject* parent)
-    : QObject(parent), autoview_([this] { StepByItself(); }, std::move(isInFront), this)
+    : QObject(parent),
+      lookAhead_(isInFront, this),
+      display_(lookAhead_),
+      autoview_([this] { StepByItself(); }, isInFront, this),
+      seeds_(GeneralModule::RandomSeed())
 {
 }
 
@@ -39,24 +23,52 @@ StoryMode StoryReader::GetMode() const
     return Position.paragraph > 0 ? StoryMode::Story : StoryMode::EmptyChapter;
 }
 
-Outlook StoryReader::Foresee(StoryWay way) const
+Outlook StoryReader::GetOutlook() const
 {
-    Outlook outlook;
-    outlook.position = Position;
-    outlook.step = TakeStep(way, outlook.position);
-    const bool isPage = outlook.step == StoryStep::Paragraph || outlook.step == StoryStep::Chapter;
-    const std::optional<PageText> page = isPage ? TextAt(outlook.position) : std::nullopt;
-    if (!page)
-        return outlook;
-    const bool atRandom = outlook.position.paragraph > 0 || GeneralModule::PictureAtRandom;
-    outlook.page = *page;
-    outlook.found = FindPicturesAt(outlook.position, [](int) {});
-    outlook.screen = PrepareScreen(
-        outlook.found.list, display_.Surface().ShapeFor(page->arrangedFor, Nblines), atRandom);
+    return {StoryStep::Nothing,      Position,           Nblines, display_.GetPage(),
+            display_.GetDisplayed(), display_.GetList(), seeds_};
+}
+
+Outlook StoryReader::Foresee(StoryWay way)
+{
+    Outlook outlook = GetOutlook();
+    Foresight(display_.Surface(), found_).Step(outlook, way);
     return outlook;
 }
 
+Outlook StoryReader::Foresee(LikelyMove move)
+{
+    Outlook outlook = GetOutlook();
+    Foresight foresight(display_.Surface(), found_);
+    for (int i = 0; i < move.times; ++i)
+        foresight.Move(outlook, move.move);
+    return outlook;
+}
+
+void StoryReader::BeginLookingAhead()
+{
+    std::vector<LookAhead::Plan> plans;
+    for (const LikelyMove& move : LikelyMoves(lastMove_)) {
+        // Several pictures keep all cores busy anyway.
+        if (move.times > 1 && display_.GetDisplayed().size() > 1)
+            continue;
+        plans.emplace_back([this, move] {
+            const qreal pixelRatio = display_.Surface().GetShape(Nblines).pixelRatio;
+            return RequestsFor(Foresee(move).pictures, pixelRatio);
+        });
+    }
+    lookAhead_.Begin(std::move(plans));
+}
+
 void StoryReader::Go(StoryWay way)
+{
+    lastMove_ = way == StoryWay::PreviousParagraph || way == StoryWay::TopOfChapter
+                    ? StoryMove::PreviousParagraph
+                    : StoryMove::NextParagraph;
+    Step(way);
+}
+
+void StoryReader::Step(StoryWay way)
 {
     StoryPosition next = Position;
     const StoryStep step = TakeStep(way, next);
@@ -111,7 +123,7 @@ void StoryReader::ShowPosition()
     if (isParagraph)
         GeneralModule::PictureAtRandom = true;
     ShowPage(*page,
-             [this](const CountFeedback& feedback) { return FindPicturesAt(Position, feedback); });
+             [this](const CountFeedback& feedback) { return found_.Find(Position, feedback); });
     display_.ShowText();
     display_.Surface().SetLegendAlignment(isParagraph && Nblines >= 3 ? Qt::AlignLeft
                                                                       : Qt::AlignHCenter);
@@ -123,7 +135,9 @@ void StoryReader::ShowPage(const PageText& page, const Search& search)
     display_.Begin(page);
     {
         const auto work = display_.Surface().BeginWork();
-        display_.SetFound(search([this](int count) { display_.ShowCountFound(count); }));
+        FoundPictures found = search([this](int count) { display_.ShowCountFound(count); });
+        found.list.Shuffle(std::uint32_t(seeds_()));
+        display_.SetFound(std::move(found));
     }
     display_.ShowNextScreen(Nblines);
     ScreenChanged();
@@ -133,6 +147,7 @@ void StoryReader::ScreenChanged()
 {
     LastImageDisplayed = display_.GetLastDisplayed();
     autoview_.Release(); // a picture that was shown alone is hidden now
+    BeginLookingAhead();
 }
 
 void StoryReader::DisplaySelection()
@@ -173,12 +188,14 @@ void StoryReader::DisplayFromBeginning()
 
 void StoryReader::ShowNextPictures()
 {
+    lastMove_ = StoryMove::NextPictures;
     if (display_.GetList().Count() == 0)
-        return Go(StoryWay::NextParagraph);
+        return Step(StoryWay::NextParagraph);
     display_.ShowNextScreen(Nblines);
     ScreenChanged();
     if (display_.GetDisplayed().empty() && GetMode() == StoryMode::Story)
-        return Go(StoryWay::NextParagraph); // none of the files left in the list is there any more
+        return Step(
+            StoryWay::NextParagraph); // none of the files left in the list is there any more
     ShowText(GetMode() == StoryMode::Selection);
 }
 
@@ -187,6 +204,7 @@ void StoryReader::ZoomIn()
     if (Nblines == 0)
         return;
     --Nblines;
+    lastMove_ = StoryMove::ZoomIn;
     ShowScreenAgain();
     ShowText(GetMode() == StoryMode::Selection);
 }
@@ -198,6 +216,7 @@ void StoryReader::ZoomOut()
     if (Nblines == maxLines)
         return;
     ++Nblines;
+    lastMove_ = StoryMove::ZoomOut;
     ShowScreenAgain();
     ShowText(GetMode() != StoryMode::Story);
 }
@@ -241,6 +260,7 @@ void StoryReader::ShowIndexed(const PictureList& upcoming, const QStringList& ta
         ShowScreenAgain();
     }
     ShowText(isSelection);
+    BeginLookingAhead(); // the album may have changed
 }
 
 void StoryReader::SwitchAutoview()

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/picture/LookAhead.h"
 #include "viewer/Autoview.h"
+#include "viewer/Foresight.h"
 #include "viewer/PageDisplay.h"
-#include "viewer/StoryWalk.h"
 
 #include <QObject>
 
 #include <functional>
+#include <random>
 
 enum class StoryMode {
     Story,        // a paragraph is read
@@ -15,33 +17,16 @@ enum class StoryMode {
     Selection,    // pictures outside the story
 };
 
-// The ways from one page of a story to another.
-enum class StoryWay {
-    NextParagraph,
-    PreviousParagraph,
-    NextChapter,
-    TopOfChapter,
-};
-
-// What a step would show.
-struct Outlook
-{
-    StoryStep step = StoryStep::Nothing;
-    StoryPosition position; // after the step
-    // Filled only where the step leads to a page:
-    PageText page;
-    FoundPictures found;
-    Screenful screen;
-};
-
 // Reads a story, or the pictures of a selection, page by page and draws them on whatever surface it
-// is given. It knows no window.
+// is given. It knows no window. While the event loop waits, it makes ready what may be shown next;
+// the same pictures are shown without.
 class StoryReader : public QObject
 {
     Q_OBJECT
 
 public:
-    // isInFront tells whether the user sees the surface; autoview waits while it is covered.
+    // isInFront tells whether the user sees the surface; autoview waits while it is covered, and
+    // nothing is made ready.
     explicit StoryReader(std::function<bool()> isInFront, QObject* parent = nullptr);
 
     // What is read. Whoever changes it calls DisplayAgain, or takes a step from there.
@@ -55,11 +40,13 @@ public:
     // To be called before anything is displayed.
     void DrawOn(StorySurface& surface) { display_.DrawOn(surface); }
 
-    // Where the step leads, and what it would show on the surface. Nothing is shown or changed,
-    // but for the current rows of the album's record sets. Throws DatabaseError.
-    Outlook Foresee(StoryWay way) const;
-    // The next pictures of the page on show, in the same way.
-    Screenful ForeseePictures() const { return display_.NextScreen(Nblines); }
+    // Where the step leads, and what it would show on the surface; its pictures are empty where the
+    // same ones stay. Nothing is shown or changed, but for the current rows of the album's record
+    // sets. Throws DatabaseError.
+    Outlook Foresee(StoryWay way);
+    Outlook Foresee(LikelyMove move);
+    // Whether what may come next is being made ready.
+    bool IsLookingAhead() const { return lookAhead_.IsWorking(); }
     // Takes the step, or emits Ended when there is nothing left to read. A step that fails throws
     // DatabaseError and leaves the position where it was.
     void Go(StoryWay way);
@@ -103,13 +90,20 @@ signals:
 private:
     using Search = std::function<FoundPictures(const CountFeedback&)>;
 
+    void Step(StoryWay way);
     void ShowPosition();
     void ShowPage(const PageText& page, const Search& search);
     void ShowScreenAgain();
     void ScreenChanged();
+    Outlook GetOutlook() const;
+    void BeginLookingAhead();
     void ShowText(bool isCounting);
     void StepByItself();
 
+    LookAhead lookAhead_;
     PageDisplay display_;
     Autoview autoview_;
+    FoundAhead found_;
+    StoryMove lastMove_ = StoryMove::NextParagraph;
+    std::mt19937 seeds_; // see Outlook
 };

@@ -156,7 +156,7 @@ bool Database::IsReadable()
     }
 }
 
-qint64 Database::GetPragma(const QByteArray& name)
+qint64 Database::GetPragma(const QByteArray& name) const
 {
     Statement pragma(engine_, "PRAGMA " + name);
     return pragma.Step() ? pragma.GetInteger(0) : 0;

@@ -37,6 +37,8 @@ public:
     // Increases with every row that this program changes in the album; a row read at a lower count
     // may be stale.
     int ChangeCount() const;
+    // Another number after every change that another program has made.
+    qint64 ForeignVersion() const { return GetPragma("data_version"); }
 
     void Execute(const QByteArray& sql);
 
@@ -54,7 +56,7 @@ private:
     bool TryKey(const QByteArray& key, int format);
     bool IsReadable();
     void CheckSize();
-    qint64 GetPragma(const QByteArray& name);
+    qint64 GetPragma(const QByteArray& name) const;
     void Prepare();
 
     QString path_;

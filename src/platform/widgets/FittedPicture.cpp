@@ -19,7 +19,8 @@ constexpr int decodePause = 120;
 
 } // namespace
 
-FittedPicture::FittedPicture(QWidget* parent) : QWidget(parent), imgImage_(new PictureBox(this))
+FittedPicture::FittedPicture(QWidget* parent)
+    : QWidget(parent), imgImage_(new PictureBox(this)), lookAhead_([this] { return isVisible(); })
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     imgImage_->setObjectName(QStringLiteral("imgImage"));
@@ -31,6 +32,7 @@ FittedPicture::FittedPicture(QWidget* parent) : QWidget(parent), imgImage_(new P
 void FittedPicture::ShowPicture(const QString& file, const QString& path)
 {
     path_ = path;
+    expected_.clear();
     naturalSize_ = file.isEmpty() ? QSize() : ReadPictureInfo(path).size;
     imgImage_->SetTag(file);
     imgImage_->setVisible(!file.isEmpty());
@@ -38,14 +40,41 @@ void FittedPicture::ShowPicture(const QString& file, const QString& path)
     Decode();
 }
 
-void FittedPicture::Place()
+void FittedPicture::Expect(const QString& path)
+{
+    expected_ = path;
+    BeginLookingAhead();
+}
+
+void FittedPicture::BeginLookingAhead()
+{
+    lookAhead_.Begin({[this]() -> std::vector<PictureRequest> {
+        const QSize naturalSize = ReadPictureInfo(expected_).size;
+        if (naturalSize.isEmpty())
+            return {};
+        return {{expected_, ToPixels(SizeFor(naturalSize))}};
+    }});
+}
+
+QSize FittedPicture::ToPixels(QSize box) const
+{
+    return (QSizeF(box) * devicePixelRatioF()).toSize();
+}
+
+// Logical pixels.
+QSize FittedPicture::SizeFor(QSize naturalSize) const
 {
     QSizeF fitted(unreadableSize);
-    if (!naturalSize_.isEmpty())
-        fitted = QSizeF(naturalSize_) / devicePixelRatioF();
+    if (!naturalSize.isEmpty())
+        fitted = QSizeF(naturalSize) / devicePixelRatioF();
     if (fitted.width() > width() || fitted.height() > height())
         fitted.scale(size(), Qt::KeepAspectRatio);
-    const QSize box = fitted.toSize().expandedTo({1, 1});
+    return fitted.toSize().expandedTo({1, 1});
+}
+
+void FittedPicture::Place()
+{
+    const QSize box = SizeFor(naturalSize_);
     imgImage_->setGeometry((width() - box.width()) / 2, (height() - box.height()) / 2, box.width(),
                            box.height());
 }
@@ -53,8 +82,15 @@ void FittedPicture::Place()
 void FittedPicture::Decode()
 {
     decodeDelay_.stop();
-    const QSize pixels = (QSizeF(imgImage_->size()) * devicePixelRatioF()).toSize();
-    imgImage_->SetPicture(naturalSize_.isEmpty() ? QImage() : ReadPicture(path_, pixels));
+    constexpr qint64 bytesPerPixel = 4;
+    const QSize screen = ToPixels(size());
+    lookAhead_.SetRoom(2 * screen.width() * bytesPerPixel * screen.height());
+    QImage picture;
+    if (!naturalSize_.isEmpty())
+        picture = lookAhead_.Take({{path_, ToPixels(imgImage_->size())}}).front();
+    imgImage_->SetPicture(picture);
+    if (!expected_.isEmpty())
+        BeginLookingAhead();
 }
 
 void FittedPicture::resizeEvent(QResizeEvent*)
