@@ -44,17 +44,17 @@ Action Opening(const char* name, Lock lock)
 
 Action Locking(const char* name, Lock before, const QString& password)
 {
-    return {name, [before](LargeAlbum& album) { album.OpenToChange(before); },
-            [password](LargeAlbum&) { SetAlbumPassword(password); },
-            [before, password](LargeAlbum& album) {
-                QFile target(album.FreePath());
-                if (!target.open(QIODevice::WriteOnly))
-                    qFatal("the copy was not made");
-                target.close();
-                CipherFile(album.GetPath(before), KeyOf(before))
-                    .ExportTo(target.fileName(), password);
-                target.remove();
-            }};
+    return {
+        name, [before](LargeAlbum& album) { album.OpenToChange(before); },
+        [password](LargeAlbum&) { SetAlbumPassword(password); },
+        [before, password](LargeAlbum& album) {
+            QFile target(album.FreePath());
+            if (!target.open(QIODevice::WriteOnly))
+                qFatal("the copy was not made");
+            target.close();
+            CipherFile(album.GetPath(before), KeyOf(before)).ExportTo(target.fileName(), password);
+            target.remove();
+        }};
 }
 
 void BreakLink(LargeAlbum& album)
@@ -83,6 +83,8 @@ std::vector<Action> AlbumActions()
         {"repair a broken link, with the copy", BreakLink,
          [](LargeAlbum&) { QFile::remove(RepairAlbum().copy); }},
         {"copy beside the album", [](LargeAlbum& album) { album.OpenToRead(); },
-         [](LargeAlbum&) { QFile::remove(CopyAlbumBeside(QStringLiteral("measured"))); }},
+         [](LargeAlbum&) {
+             QFile::remove(CopyAlbumBeside(QStringLiteral("measured"), [](int) { return true; }));
+         }},
     };
 }
