@@ -159,7 +159,10 @@ void Replace_Ours(benchmark::State& state)
     int changed = 0;
     for (auto _ : state) {
         const auto [old, replacement] = NextValues();
-        ReplaceValue(1, old, replacement, [&changed](int count) { changed = count; });
+        ReplaceValue(1, old, replacement, [&changed](int count) {
+            changed = count;
+            return true;
+        });
     }
     state.counters["rows"] = changed;
 }

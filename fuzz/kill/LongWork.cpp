@@ -300,11 +300,11 @@ LongWork Converting(const QString& oldAlbum, const QString& password)
 std::vector<LongWork> EveryLongWork(const QString& oldAlbum)
 {
     std::vector<LongWork> all{Loading(), Repointing(), Opening(), Repairing()};
-    all.push_back(OfAlbum("replacing a value",
-                          Pictures(rows, "'/p/'||i||'.jpg'") + Chapters(10) + Paragraphs(10, 40),
-                          [](const QString&, int) {
-                              Require(ReplaceValue(3, "Anna", "Cleo", [](int) {}).pictures > 0);
-                          }));
+    all.push_back(OfAlbum(
+        "replacing a value", Pictures(rows, "'/p/'||i||'.jpg'") + Chapters(10) + Paragraphs(10, 40),
+        [](const QString&, int) {
+            Require(ReplaceValue(3, "Anna", "Cleo", [](int) { return true; })->pictures > 0);
+        }));
     const auto addSteps = [&all](const QString& name, const QString& sql, auto change) {
         LongWork work = OfAlbum(name, sql, change);
         work.steps = 60;

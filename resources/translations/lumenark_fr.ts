@@ -30,6 +30,10 @@
         <translation>L&apos;album est en cours de réécriture...</translation>
     </message>
     <message>
+        <source>The album is being opened...</source>
+        <translation>L&apos;album est en cours d&apos;ouverture...</translation>
+    </message>
+    <message>
         <source>Wrong password</source>
         <translation>Mot de passe incorrect</translation>
     </message>
@@ -1495,6 +1499,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Pictures changed: %1, paragraphs changed: %2</source>
         <translation>Photos modifiées : %1, paragraphes modifiés : %2</translation>
+    </message>
+    <message>
+        <source>Stopped: nothing was changed</source>
+        <translation>Opération interrompue : rien n&apos;a été modifié</translation>
     </message>
     <message>
         <source>Replace all occurences of %1 by :</source>

@@ -107,7 +107,13 @@ QStringList PictureFolders()
     const RecordSet::Walk walk(images);
     const int file = images.FieldNumber(u"File");
     QStringList folders;
+    std::string last;
     for (images.MoveFirst(); !images.AtEnd(); images.MoveNext()) {
+        // As most pictures lie beside the one before, few paths need to be decoded.
+        const std::string_view utf8 = Utf8FolderOf(images.OpenUtf8(file));
+        if (!utf8.empty() && utf8 == last)
+            continue;
+        last = utf8;
         const QString folder = FolderOf(images.TextOrEmpty(file));
         if (folders.isEmpty() || folders.constLast().compare(folder, Qt::CaseInsensitive) != 0)
             folders.append(folder);

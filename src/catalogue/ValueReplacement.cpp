@@ -43,6 +43,10 @@ QString ReplacedInList(const QString& filter, const QString& old, const QString&
     return kept.join(separator);
 }
 
+struct Stopped
+{
+};
+
 class Replacement
 {
 public:
@@ -104,9 +108,11 @@ private:
                 batch_.RowDone();
                 ++changed_;
             }
-            progress_(changed_);
+            if (!progress_(changed_))
+                throw Stopped();
         }
-        progress_(changed_);
+        if (!progress_(changed_))
+            throw Stopped();
         return changed_ - before;
     }
 
@@ -140,11 +146,16 @@ private:
 
 } // namespace
 
-ReplacedValues ReplaceValue(int column, const QString& old, const QString& replacement,
-                            const ReplacementProgress& progress)
+std::optional<ReplacedValues> ReplaceValue(int column, const QString& old,
+                                           const QString& replacement,
+                                           const ReplacementProgress& progress)
 {
-    Replacement work(column, old, replacement, progress);
-    const ReplacedValues done{work.InPictures(), work.InParagraphs()};
-    work.InValueTable();
-    return done;
+    try {
+        Replacement work(column, old, replacement, progress);
+        const ReplacedValues done{work.InPictures(), work.InParagraphs()};
+        work.InValueTable();
+        return done;
+    } catch (const Stopped&) {
+        return std::nullopt;
+    }
 }

@@ -208,31 +208,36 @@ void frmEditTables::cmdReplace_Click()
     const QString replacement = AskForValue(tr("Replace all occurences of %1 by :").arg(old), old);
     if (replacement.isEmpty() || replacement == old)
         return;
-    RunReplacement(old, replacement);
+    if (!RunReplacement(old, replacement))
+        return;
     delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
     if (!ListedItem(replacement))
         ui_->lstCar->addItem(replacement);
     ui_->lstCar->setCurrentItem(ListedItem(replacement));
 }
 
-void frmEditTables::RunReplacement(const QString& old, const QString& replacement)
+bool frmEditTables::RunReplacement(const QString& old, const QString& replacement)
 {
     const BusyPointer busy;
     TellChanged({});
-    ui_->progress->Begin(0, false);
+    ui_->progress->Begin(0, true);
     auto end = qScopeGuard([this] {
         ui_->progress->End();
         ui_->lblProgress->hide();
     });
-    const ReplacedValues done = ReplaceValue(column_, old, replacement, [this](int changed) {
-        ui_->progress->Advance(changed);
+    const auto done = ReplaceValue(column_, old, replacement, [this](int changed) {
+        const bool goOn = ui_->progress->Advance(changed);
         if (ui_->progress->HasShown())
             TellChanged(tr("%1 pictures and paragraphs changed").arg(changed));
+        return goOn;
     });
     end.dismiss();
     ui_->progress->End();
-    TellChanged(
-        tr("Pictures changed: %1, paragraphs changed: %2").arg(done.pictures).arg(done.paragraphs));
+    TellChanged(done ? tr("Pictures changed: %1, paragraphs changed: %2")
+                           .arg(done->pictures)
+                           .arg(done->paragraphs)
+                     : tr("Stopped: nothing was changed"));
+    return done.has_value();
 }
 
 void frmEditTables::TellChanged(const QString& text)

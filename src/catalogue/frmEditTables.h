@@ -39,7 +39,8 @@ private:
     std::array<QRadioButton*, columnsPerGroup> Columns() const;
     void ShowCaptions();
     void ShowTable(bool isGroupNew);
-    void RunReplacement(const QString& old, const QString& replacement);
+    // False when the user stopped it.
+    bool RunReplacement(const QString& old, const QString& replacement);
     void TellChanged(const QString& text);
     QString SelectedValue() const;
     QListWidgetItem* ListedItem(const QString& value) const;

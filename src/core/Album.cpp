@@ -29,9 +29,19 @@ struct AlbumTexts
     Q_DECLARE_TR_FUNCTIONS(Album)
 };
 
+// Asked first: one query looks at every paragraph faster than a walk does.
+bool HasEmptySelections(const Album& album)
+{
+    return Statement(album.database->GetEngine(),
+                     "SELECT 1 FROM Paragraph WHERE FileSelection IS NULL LIMIT 1")
+        .Step();
+}
+
 // Older programs left FileSelection without a value; every reader counts on a text.
 void FillEmptySelections(Album& album)
 {
+    if (!HasEmptySelections(album))
+        return;
     RecordSet& paragraphs = album.paragraphs;
     const RecordSet::Walk walk(paragraphs);
     std::optional<WriteBatch> batch;
@@ -50,18 +60,32 @@ void FillEmptySelections(Album& album)
         batch->Finish();
 }
 
-void CleanUpParagraphs(Album& album)
+// What went wrong, for the user to read; empty when nothing did.
+QString CleanUpParagraphs(Album& album)
 {
     if (album.database->IsReadOnly())
-        return;
+        return {};
     try {
         FillEmptySelections(album);
+        return {};
     } catch (const DatabaseError& error) {
-        Tell(AlbumTexts::tr("Unexpected Error : %1 %2")
-                 .arg(error.GetNumber())
-                 .arg(error.GetDescription()),
-             Dialogs::Icon::Warning);
+        return AlbumTexts::tr("Unexpected Error : %1 %2")
+            .arg(error.GetNumber())
+            .arg(error.GetDescription());
     }
+}
+
+std::unique_ptr<Album> OpenCleaned(const QString& path, const QString& password)
+{
+    std::unique_ptr<Album> album;
+    QString trouble;
+    RunLong(AlbumTexts::tr("The album is being opened..."), false, [&](const auto&) {
+        album = std::make_unique<Album>(path, password);
+        trouble = CleanUpParagraphs(*album);
+    });
+    if (!trouble.isEmpty())
+        Tell(trouble, Dialogs::Icon::Warning);
+    return album;
 }
 
 std::unique_ptr<FileClaim> claim; // on the open album's file
@@ -111,9 +135,7 @@ bool OpenWithPassword(const QString& path, QString password)
         return false;
     while (true) {
         try {
-            auto album = std::make_unique<Album>(path, password);
-            CleanUpParagraphs(*album);
-            SetOpenedAlbum(std::move(album));
+            SetOpenedAlbum(OpenCleaned(path, password));
             SaveLastAlbum(path);
             RememberRecentAlbum(path);
             return true;

@@ -2,7 +2,6 @@
 #include "core/AlbumCopy.h"
 
 #include "core/AlbumSets.h"
-#include "platform/data/DatabaseCopy.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/files/FileReplacement.h"
 
@@ -29,14 +28,15 @@ QString FreeName(const QFileInfo& album, const QString& note)
 
 namespace GeneralModule {
 
-QString CopyAlbumBeside(const QString& note)
+QString CopyAlbumBeside(const QString& note, const CopyProgress& progress)
 {
     const QString copy = FreeName(QFileInfo(AlbumDatabase->GetPath()), note);
     // Holds the album's write lock, with nothing written, as long as the file is read.
     const WriteBatch lock(AlbumDatabase);
     try {
         FileReplacement replacement(copy); // whatever ends the program leaves no half copy there
-        CopyDatabaseFile(*AlbumDatabase, replacement.GetPath());
+        if (!CopyDatabaseFile(*AlbumDatabase, replacement.GetPath(), progress))
+            return {};
         replacement.Commit(FileReplacement::Taken::Refuse);
     } catch (const std::system_error& error) {
         throw DatabaseError(DatabaseError::DiskError,

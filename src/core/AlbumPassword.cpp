@@ -19,17 +19,25 @@ bool AlbumHasPassword()
     return !AlbumDatabase->GetPassword().isEmpty();
 }
 
-void SetAlbumPassword(const QString& password)
+bool SetAlbumPassword(const QString& password)
 {
     const QString album = AlbumDatabase->GetPath();
     const QString oldPassword = AlbumDatabase->GetPassword();
     bool isReleased = false;
+    bool isWritten = false;
     try {
         const RememberedPasswordChange change(album);
         FileReplacement replacement(album);
         Dialogs::Door().RunLong(
-            QCoreApplication::translate("Album", "The album is being written anew..."), false,
-            [&](const auto&) { ExportDatabase(*AlbumDatabase, replacement.GetPath(), password); });
+            QCoreApplication::translate("Album", "The album is being written anew..."), true,
+            [&](const auto& isStopped) {
+                isWritten =
+                    ExportDatabase(*AlbumDatabase, replacement.GetPath(), password, isStopped);
+                if (isWritten)
+                    replacement.WriteThrough();
+            });
+        if (!isWritten)
+            return false;
         ReleaseAlbum();
         isReleased = true;
         replacement.Commit();
@@ -42,6 +50,7 @@ void SetAlbumPassword(const QString& password)
                 .arg(QString::fromLocal8Bit(error.code().message().c_str())));
     }
     OpenAlbum(album, password);
+    return true;
 }
 
 } // namespace GeneralModule

@@ -24,7 +24,8 @@ namespace {
 
 // -1 for a value that is neither a link nor 0, so that it is rewritten. A failed read is no broken
 // link: it throws.
-qint32 LinkOrBroken(RecordSet& set, QStringView field)
+template<typename Field>
+qint32 LinkOrBroken(RecordSet& set, Field field)
 {
     try {
         return std::max(set.Number(field), -1);
@@ -69,12 +70,15 @@ private:
     void ReadParagraphs()
     {
         const QSet<qint32> known(chapters_.begin(), chapters_.end());
+        const int id = ParagraphSet->FieldNumber(u"Id");
+        const int previous = ParagraphSet->FieldNumber(u"PreviousParagraph");
+        const int next = ParagraphSet->FieldNumber(u"NextParagraph");
+        const int owner = ParagraphSet->FieldNumber(u"Chapter");
         const RecordSet::Walk walk(*ParagraphSet);
         for (ParagraphSet->MoveFirst(); !ParagraphSet->AtEnd(); ParagraphSet->MoveNext()) {
-            const ChainLink link{ParagraphSet->Number(u"Id"),
-                                 LinkOrBroken(*ParagraphSet, u"PreviousParagraph"),
-                                 LinkOrBroken(*ParagraphSet, u"NextParagraph")};
-            const qint32 chapter = LinkOrBroken(*ParagraphSet, u"Chapter");
+            const ChainLink link{ParagraphSet->Number(id), LinkOrBroken(*ParagraphSet, previous),
+                                 LinkOrBroken(*ParagraphSet, next)};
+            const qint32 chapter = LinkOrBroken(*ParagraphSet, owner);
             paragraphs_.push_back(link);
             owners_.insert(link.id, known.contains(chapter) ? chapter : 0);
         }
@@ -83,6 +87,8 @@ private:
     // Spreads each chapter to the paragraphs linked with its own, in either direction.
     void AdoptByLinks()
     {
+        if (owners_.key(0, 0) == 0)
+            return;
         QHash<qint32, QList<qint32>> neighbours;
         std::deque<qint32> spreading;
         for (const ChainLink& link : paragraphs_) {
@@ -189,7 +195,7 @@ namespace GeneralModule {
 
 // Tried first and rolled back: a sound album needs no copy, and no copy can be made once changes
 // have begun.
-RepairReport RepairAlbum()
+RepairReport RepairAlbum(const CopyProgress& progress)
 {
     {
         const WriteBatch trial(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
@@ -198,7 +204,12 @@ RepairReport RepairAlbum()
             return report;
     }
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
-    const QString copy = CopyAlbumBeside(RepairReport::tr("before repair"));
+    const QString copy = CopyAlbumBeside(RepairReport::tr("before repair"), progress);
+    if (copy.isEmpty()) {
+        RepairReport stopped;
+        stopped.isStopped = true;
+        return stopped;
+    }
     auto removeCopy = qScopeGuard([&copy] { QFile::remove(copy); });
     RepairReport report = Repair().Run();
     batch.Finish();

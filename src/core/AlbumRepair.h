@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/data/DatabaseCopy.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -12,6 +14,7 @@ struct RepairReport
     Q_DECLARE_TR_FUNCTIONS(RepairReport)
 
 public:
+    bool isStopped = false;  // by the user; nothing was changed
     QString copy;            // path of the album's copy as it was before; empty when all was well
     int renumbered = 0;      // rows whose identifier no link can hold
     int chapterLinks = 0;    // chapters whose links were wrong
@@ -30,9 +33,10 @@ public:
 // identifiers that no link can hold: 0, negative ones, and those above the range of new rows. A
 // paragraph without a chapter goes to the chapter of the paragraphs that it is linked with, or else
 // to a new one at the end. If anything was wrong, a copy of the unrepaired album is kept beside it.
+// Making that takes longest, so it alone calls progress and can be stopped.
 // Moves the current rows of ChapterSet and ParagraphSet. Throws DatabaseError, NoAlbum while no
 // album is open; then nothing is changed and no copy is left.
-RepairReport RepairAlbum();
+RepairReport RepairAlbum(const CopyProgress& progress = [](int) { return true; });
 
 // The report as sentences for the user.
 QString DescribeRepair(const RepairReport& report);

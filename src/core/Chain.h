@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/data/ReadLock.h"
 #include "platform/data/RecordSet.h"
 
 #include <QSet>
@@ -45,6 +46,7 @@ public:
     template<typename Visit>
     void Walk(qint32 first, ChainDirection direction, const Visit& visit) const
     {
+        const ReadLock lock(*set_.GetDatabase());
         QSet<qint32> visited;
         for (qint32 row = Find(first); row != 0 && !visited.contains(row);) {
             visited.insert(row);

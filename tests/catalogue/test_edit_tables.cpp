@@ -85,7 +85,7 @@ private slots:
         Select("An ne");
         Replace("An ne", "an NE");
         QCOMPARE(Values(), "-;Annabel;an NE");
-        ReplaceValue(4, "an NE", "Annabel", [](int) {});
+        ReplaceValue(4, "an NE", "Annabel", [](int) { return true; });
         QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "-; Annabel");
         QCOMPARE(album_->Joined("SELECT Car4,Car7 FROM Image LIMIT 2"),
                  "Annabel|Annabel; Annabel|Annabel");
@@ -105,10 +105,10 @@ private slots:
             album_->AddParagraph(chapter, "", {{"Car0", row[0]}});
             replaced += row[1];
         }
-        const ReplacedValues done = ReplaceValue(0, "A", "b", [](int) {});
+        const auto done = ReplaceValue(0, "A", "b", [](int) { return true; });
         QCOMPARE(album_->Rows("SELECT Car0 FROM Paragraph"), replaced);
-        QCOMPARE(done.paragraphs, 7);
-        ReplaceValue(0, "A#", "Z", [](int) {});
+        QCOMPARE(done->paragraphs, 7);
+        ReplaceValue(0, "A#", "Z", [](int) { return true; });
         QCOMPARE(album_->Rows("SELECT Car0 FROM Paragraph")[7], "Z;[a];");
     }
 
@@ -126,6 +126,19 @@ private slots:
         QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='A'"), "20000");
         QCOMPARE(album_->Joined("PRAGMA integrity_check"), "ok");
         AlbumDatabase->Execute("PRAGMA max_page_count=100000");
+        // Nor does a stopped one.
+        QTimer presser;
+        connect(&presser, &QTimer::timeout, this, [this] {
+            auto& stop = Find<QPushButton>(*window_, "cmdStop");
+            if (stop.isVisible())
+                stop.click();
+        });
+        presser.start(0);
+        Replace("A", "B");
+        presser.stop();
+        QCOMPARE(Values(), "-;A");
+        QCOMPARE(Find<QLabel>(*window_, "lblProgress").text(), "Stopped: nothing was changed");
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='A'"), "20000");
         Replace("A", "B");
         QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='B'"), "20000");
     }

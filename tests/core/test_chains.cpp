@@ -196,6 +196,12 @@ private slots:
         album_->Execute("UPDATE Paragraph SET NextParagraph=0; UPDATE Chapter SET NextChapter=0");
         const QStringList broken = Everything(*album_);
         const QStringList files{"story.alb"};
+        for (const int percent : {0, 50}) { // while the copy is written, while it is read back
+            const auto goOn = [percent](int done) { return done < percent; };
+            QVERIFY(RepairAlbum(goOn).isStopped);
+            QCOMPARE(Everything(*album_), broken);
+            QCOMPARE(QDir(album_->PathOf("")).entryList({"*.alb"}, QDir::Files), files);
+        }
         bool hasFailed = true;
         int trials = 0;
         for (int steps = 0; hasFailed; ++steps, ++trials) {

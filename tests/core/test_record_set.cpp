@@ -76,16 +76,16 @@ private slots:
     {
         {
             WriteBatch batch(AlbumDatabase);
-            for (int i = 0; i < 1500; ++i) {
+            for (int i = 0; i < 15000; ++i) {
                 AddParam(i);
                 batch.RowDone();
             }
             WriteBatch inner(AlbumDatabase); // belongs to the outer one
             inner.Finish();
             const int seenOutside = Params();
-            QVERIFY(seenOutside >= 1000 && seenOutside < 1500);
+            QVERIFY(seenOutside > 0 && seenOutside < 15000);
         }
-        QCOMPARE(Params(), 1500);
+        QCOMPARE(Params(), 15000);
     }
 
     // What a filter text means is what it finds.

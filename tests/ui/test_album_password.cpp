@@ -28,6 +28,21 @@ QString Legend()
 
 } // namespace
 
+// Stops long work once it has asked that often.
+class StoppingDialogs : public ScriptedDialogs
+{
+public:
+    explicit StoppingDialogs(int patience) : patience_(patience) {}
+
+    void RunLong(const QString&, bool canStop, const Work& work) override
+    {
+        work([this, canStop] { return canStop && --patience_ < 0; });
+    }
+
+private:
+    int patience_;
+};
+
 class TestAlbumPassword : public AlbumTest
 {
     Q_OBJECT
@@ -177,6 +192,25 @@ private slots:
         album_->Execute("INSERT INTO Image (File) VALUES ('/b.jpg')");
         album_->Execute("PRAGMA writable_schema=1; INSERT INTO sqlite_master SELECT * FROM Kept");
         fails(3043);
+    }
+
+    void AStoppedChangeLeavesTheAlbumAsItWas()
+    {
+        album_->Execute("WITH n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<2000) "
+                        "INSERT INTO Image (File) SELECT '/'||i FROM n");
+        const QByteArray before = ReadFile(album_->GetAlbum());
+        int patience = 0;
+        for (bool isDone = false; !isDone; patience += 3) {
+            const StoppingDialogs stopping(patience);
+            isDone = SetAlbumPassword("x");
+            QCOMPARE(AlbumHasPassword(), isDone);
+            QCOMPARE(ReadFile(album_->GetAlbum()) == before, !isDone);
+            QCOMPARE(QDir(album_->PathOf(".")).entryList(QDir::Files | QDir::Hidden),
+                     QStringList("story.alb"));
+        }
+        Dialogs::Install(dialogs_.get());
+        QVERIFY(patience > 10);
+        QCOMPARE(ImageSet->RecordCount(), 2000);
     }
 
     void AsksTwice()

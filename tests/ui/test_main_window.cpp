@@ -184,6 +184,19 @@ private slots:
         WhenModal("frmRepairAlbum", [](QWidget& repair) { ::Click(repair, "Command2"); });
         Choose("mnuRepair");
         QCOMPARE(Chapters(), "*A");
+        WhenModal("frmRepairAlbum", [](QWidget& repair) {
+            QTimer presser;
+            connect(&presser, &QTimer::timeout, &repair, [&repair] {
+                ::Find<QPushButton>(repair, "cmdStop").click(); // does nothing but during the work
+            });
+            presser.start(0);
+            ::Click(repair, "cmdProceed");
+            presser.stop();
+            QVERIFY(repair.isVisible());
+            ::Click(repair, "Command2");
+        });
+        Choose("mnuRepair");
+        QCOMPARE(Chapters(), "*A");
         dialogs_->ExpectBoxBeginning("Chapters linked anew: 1\n", Icon::Information);
         WhenModal("frmRepairAlbum", [](QWidget& repair) { ::Click(repair, "cmdProceed"); });
         Choose("mnuRepair");

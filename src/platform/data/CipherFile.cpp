@@ -72,6 +72,9 @@ void CipherFile::ExportTo(const QString& target, const QString& password)
     attach.Run();
     if (!password.isEmpty())
         SetFormat(Get(), "target", usualFormat);
+    // The target counts only once it is whole, checked and written through.
+    for (const char* setting : {"PRAGMA target.journal_mode=OFF", "PRAGMA target.synchronous=OFF"})
+        Statement(Get(), setting).Run();
     Statement(Get(), "SELECT sqlcipher_export('target')").Run();
     Statement(Get(), "DETACH target").Run();
 }

@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr qint64 blockSize = 1 << 20;
@@ -54,6 +56,16 @@ bool ForEachBlock(const EngineFile& source, const Take& take)
     return true;
 }
 
+// Else the whole file would be written to disk at the end, where nothing can tell of progress. A
+// flush that fails is tried again there.
+bool FlushAtTimes(QFile& copy)
+{
+    constexpr qint64 flushEvery = 32 * blockSize;
+    if (copy.pos() % flushEvery == 0 && copy.flush())
+        fsync(copy.handle());
+    return true;
+}
+
 QString WhyNotCopied(const QFile& copy, bool isWritten)
 {
     if (copy.error() != QFile::NoError)
@@ -64,23 +76,30 @@ QString WhyNotCopied(const QFile& copy, bool isWritten)
 
 } // namespace
 
-void CopyDatabaseFile(const Database& database, const QString& target)
+bool CopyDatabaseFile(const Database& database, const QString& target, const CopyProgress& progress)
 {
+    bool isStopped = false;
     QFile copy(target);
     const EngineFile source(database.GetEngine());
-    const auto write = [&copy](const QByteArray& block) {
-        return copy.write(block) == block.size();
+    const auto goOn = [&](int percentBefore) {
+        isStopped = !progress(percentBefore + int(50 * copy.pos() / source.GetSize()));
+        return !isStopped;
+    };
+    const auto write = [&](const QByteArray& block) {
+        return goOn(0) && copy.write(block) == block.size() && FlushAtTimes(copy);
     };
     // Damage by a full disk or an unplugged drive is found only by reading the copy back.
-    const auto isEqual = [&copy](const QByteArray& block) {
-        return copy.read(block.size()) == block;
+    const auto isEqual = [&](const QByteArray& block) {
+        return goOn(50) && copy.read(block.size()) == block;
     };
     const bool isOpen = copy.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) &&
                         copy.setPermissions(QFile::permissions(database.GetPath()));
     const bool isWritten = isOpen && ForEachBlock(source, write) && copy.flush();
-    if (!isWritten || !copy.seek(0) || !ForEachBlock(source, isEqual)) {
+    const bool isCopied = isWritten && copy.seek(0) && ForEachBlock(source, isEqual);
+    if (!isCopied && !isStopped) {
         throw DatabaseError(
             DatabaseError::DiskError,
             DatabaseError::tr("The album cannot be copied: %1").arg(WhyNotCopied(copy, isWritten)));
     }
+    return isCopied;
 }

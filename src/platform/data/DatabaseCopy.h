@@ -3,11 +3,18 @@
 
 #include <QString>
 
+#include <functional>
+
 class Database;
+
+// Called with how many percent are done; returns false to stop.
+using CopyProgress = std::function<bool(int percent)>;
 
 // Copies an open database's file byte for byte into an existing empty file and compares the two.
 // Reads through the engine's own handle, because the system drops all of this program's locks on a
 // file as soon as any other descriptor of it is closed. Hold a WriteBatch with nothing written, so
 // that nobody changes the file during the copy. The copy gets the permissions of the original.
-// Throws DatabaseError DiskError on failure; the copy is then useless.
-void CopyDatabaseFile(const Database& database, const QString& target);
+// False when progress stopped it; throws DatabaseError DiskError on failure. The copy is useless
+// after both.
+bool CopyDatabaseFile(const Database& database, const QString& target,
+                      const CopyProgress& progress);

@@ -9,6 +9,26 @@ namespace {
                         DatabaseError::tr("The album holds a value of a wrong type."));
 }
 
+qint32 AsNumber(const FieldValue& value)
+{
+    if (std::holds_alternative<std::monostate>(value)) {
+        throw DatabaseError(DatabaseError::InvalidUseOfNull,
+                            DatabaseError::tr("A field that holds nothing was read as a number."));
+    }
+    if (std::holds_alternative<UnreadableValue>(value))
+        ThrowUnreadable();
+    const auto* number = std::get_if<qint64>(&value);
+    if (!number) {
+        throw DatabaseError(DatabaseError::TypeMismatch,
+                            DatabaseError::tr("A field that holds a text was read as a number."));
+    }
+    if (*number != qint64(qint32(*number))) {
+        throw DatabaseError(DatabaseError::Overflow,
+                            DatabaseError::tr("The album holds a number that is too large."));
+    }
+    return qint32(*number);
+}
+
 } // namespace
 
 RecordSet::RecordSet(std::shared_ptr<Database> database, const QString& table)
@@ -104,23 +124,15 @@ QString RecordSet::Text(int field)
 
 qint32 RecordSet::Number(int field)
 {
-    const FieldValue& value = Value(field);
-    if (std::holds_alternative<std::monostate>(value)) {
-        throw DatabaseError(DatabaseError::InvalidUseOfNull,
-                            DatabaseError::tr("A field that holds nothing was read as a number."));
-    }
-    if (std::holds_alternative<UnreadableValue>(value))
-        ThrowUnreadable();
-    const auto* number = std::get_if<qint64>(&value);
-    if (!number) {
-        throw DatabaseError(DatabaseError::TypeMismatch,
-                            DatabaseError::tr("A field that holds a text was read as a number."));
-    }
-    if (*number != qint64(qint32(*number))) {
-        throw DatabaseError(DatabaseError::Overflow,
-                            DatabaseError::tr("The album holds a number that is too large."));
-    }
-    return qint32(*number);
+    if (const int column = OpenColumn(field))
+        return AsNumber(cursor_.OpenStatement().GetValue(column));
+    return AsNumber(Value(field));
+}
+
+std::string_view RecordSet::OpenUtf8(int field) const
+{
+    const int column = OpenColumn(field);
+    return column ? cursor_.OpenStatement().GetUtf8(column) : std::string_view();
 }
 
 bool RecordSet::IsNull(int field)

@@ -57,6 +57,9 @@ public:
     // RecordDeleted, InvalidUseOfNull.
     QString Text(int field);
     QString Text(QStringView field) { return Text(FieldNumber(field)); }
+    // The text as the engine has it, while a walk's statement holds it; else empty. Valid until the
+    // set moves.
+    std::string_view OpenUtf8(int field) const;
     qint32 Number(int field); // also throws Overflow, TypeMismatch
     qint32 Number(QStringView field) { return Number(FieldNumber(field)); }
     bool IsNull(int field);

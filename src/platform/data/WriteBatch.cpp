@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int rowsPerCommit = 1000;
+constexpr int rowsPerCommit = 10'000;
 constexpr qint64 millisecondsPerCommit = 500;
 
 } // namespace

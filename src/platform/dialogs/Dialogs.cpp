@@ -25,6 +25,14 @@ void Dialogs::Install(Dialogs* dialogs)
     installed = dialogs;
 }
 
+void RunLong(const QString& text, bool canStop, const Dialogs::Work& work)
+{
+    if (installed)
+        installed->RunLong(text, canStop, work);
+    else
+        work([] { return false; });
+}
+
 void Tell(const QString& text, Dialogs::Icon icon)
 {
     Dialogs::Door().Ask({text, icon});

@@ -69,5 +69,8 @@ public:
     static void Install(Dialogs* dialogs);
 };
 
+// The same by the installed dialogs; in the caller's thread where none are.
+void RunLong(const QString& text, bool canStop, const Dialogs::Work& work);
+
 // A message with an Ok button.
 void Tell(const QString& text, Dialogs::Icon icon = Dialogs::Icon::Information);

@@ -143,7 +143,7 @@ void MoveJournals(const QString& from, const QString& to, std::error_code& error
     }
 }
 
-void WriteThrough(const QString& path, int flags)
+void Flush(const QString& path, int flags)
 {
     const int file = open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
     const bool done = file >= 0 && fsync(file) == 0;
@@ -224,9 +224,14 @@ void FileReplacement::PutJournalsBack()
     MoveJournals(Inside(folder_, asideName), target_, error);
 }
 
+void FileReplacement::WriteThrough() const
+{
+    Flush(path_, O_RDWR);
+}
+
 void FileReplacement::Commit(Taken taken)
 {
-    WriteThrough(path_, O_RDWR);
+    WriteThrough();
     if (taken == Taken::Refuse && QFileInfo::exists(target_))
         Fail(EEXIST);
     SetJournalsAside();
@@ -241,7 +246,7 @@ void FileReplacement::Commit(Taken taken)
     }
     // The file is in its place, even if the file system cannot sync a folder.
     try {
-        WriteThrough(QFileInfo(target_).absolutePath(), O_RDONLY);
+        Flush(QFileInfo(target_).absolutePath(), O_RDONLY);
     } catch (const std::system_error&) {
     }
 }

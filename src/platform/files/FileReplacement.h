@@ -28,6 +28,10 @@ public:
     // For a temporary file, which is removed with the folder.
     QString GetHelperPath() const;
 
+    // Flushes the file to disk, which takes as long as writing it did. Call it where Commit must be
+    // quick. Throws std::system_error.
+    void WriteThrough() const;
+
     // Call when neither file is open. Flushes the file to disk, moves it to its place, and removes
     // the old file's database journals. When it throws, the place is unchanged.
     void Commit(Taken taken = Taken::Replace);

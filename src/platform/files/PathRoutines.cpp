@@ -25,6 +25,13 @@ QString FolderOf(const QString& path)
     return path.first(AfterLastSeparator(path));
 }
 
+// Both separators are ASCII, which no other character holds a byte of.
+std::string_view Utf8FolderOf(std::string_view path)
+{
+    const char separators[] = {'\\', char(QDir::separator().unicode()), '\0'};
+    return path.substr(0, path.find_last_of(separators) + 1);
+}
+
 QString FileNameOf(const QString& path)
 {
     return path.sliced(AfterLastSeparator(path));

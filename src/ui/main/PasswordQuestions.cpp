@@ -54,7 +54,8 @@ void AskForNewPassword()
     const QString password = answer == Answer::Yes ? QString() : AskTwice();
     if (password.isEmpty() && answer != Answer::Yes)
         return;
-    SetAlbumPassword(password);
+    if (!SetAlbumPassword(password))
+        return;
     Tell(password.isEmpty()
              ? PasswordTexts::tr("The album has no password any more.")
              : PasswordTexts::tr("The album has its new password. Without it nobody can open the "

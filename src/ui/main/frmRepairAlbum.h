@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/AlbumRepair.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -20,6 +22,7 @@ public:
 
 private:
     void cmdProceed_Click();
+    GeneralModule::RepairReport Repair();
 
     std::unique_ptr<Ui::frmRepairAlbum> ui_;
 };
