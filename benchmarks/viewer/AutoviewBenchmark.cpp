@@ -1,141 +1,123 @@
 // SPDX-License-Identifier: MIT
-// One step of autoview on a full HD page, with pictures of 24 megapixels, against the mere decode
-// of the pictures that the step has put on the screen. Both run in turn within one iteration, so
-// that a busy machine slows them alike.
-#include "../pictures/PaintedPictures.h"
+// How punctual autoview is on a full HD page, with pictures of 24 megapixels: the time from one
+// page on the screen to the next, against the delay that was asked for.
+#include "PaintWatch.h"
+#include "StoryOfPhotographs.h"
 
-#include "core/Album.h"
-#include "core/AlbumSets.h"
-#include "core/ChapterChain.h"
-#include "platform/picture/PictureReader.h"
-#include "platform/widgets/PictureBox.h"
 #include "platform/widgets/QtDialogs.h"
-#include "story/ParagraphChain.h"
+#include "viewer/ViewerFlags.h"
 #include "viewer/frmReelvane.h"
 
 #include <QApplication>
-#include <QSettings>
-#include <QTemporaryDir>
-
-#include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <functional>
+#include <cstdlib>
+#include <ctime>
 
 namespace {
 
-constexpr QSize pictureSize(6000, 4000);
-constexpr int pictureCount = 21; // as many as a screen holds
 constexpr QSize viewerSize(1920, 1080);
+constexpr int stepCount = 8;
+constexpr double delay = 2; // seconds
 
-using Times = std::vector<double>; // milliseconds
+using Clock = PaintWatch::Clock;
 
-double MillisecondsOf(const std::function<void()>& work)
+// Answers the question for the delay.
+class DelayDialogs : public QtDialogs
 {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-        .count();
+public:
+    QString AskText(const Input&) override { return QString::number(delay); }
+};
+
+double MillisecondsBetween(Clock::time_point one, Clock::time_point other)
+{
+    return std::chrono::duration<double, std::milli>(other - one).count();
 }
 
-double Median(Times times)
+class Watching
 {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
-
-// Two paragraphs that both choose every picture.
-bool MakeStory(const QTemporaryDir& folder)
-{
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
-    const QString album = folder.filePath(QStringLiteral("story.alb"));
-    if (!GeneralModule::CreateAlbumFile(album) || !GeneralModule::OpenAlbum(album))
-        return false;
-    const QStringList pictures = PaintPictures(QDir(folder.path()), pictureSize, pictureCount);
-    for (const QString& picture : pictures) {
-        GeneralModule::ImageSet->AddNew();
-        GeneralModule::ImageSet->Set(u"File", picture);
-        GeneralModule::ImageSet->Update();
+public:
+    explicit Watching(int lines)
+    {
+        viewer_.CurrentChapter = StoryOfPhotographs::fullChapter;
+        viewer_.resize(viewerSize);
+        viewer_.show();
+        WaitForNext();
+        viewer_.Nblines = lines;
+        viewer_.DisplayAgain();
+        viewer_.findChild<QWidget*>(QStringLiteral("cmdTimer"))->setFocus();
+        QMetaObject::invokeMethod(viewer_.findChild<QObject*>(QStringLiteral("cmdTimer")), "click");
+        WaitForNext();
     }
-    ParagraphPlace place{GeneralModule::CreateChapter(QStringLiteral("One"), {}), 0};
-    CreateFirstParagraph(place);
-    const ParagraphContent shown = LoadParagraph(place.paragraph);
-    CreateNextParagraph(place, {shown, shown});
-    return pictures.size() == pictureCount;
-}
 
-std::vector<PictureRequest> OnScreen(const frmReelvane& viewer)
-{
-    std::vector<PictureRequest> requests;
-    for (const PictureBox* box : viewer.findChildren<PictureBox*>()) {
-        if (box->isVisible())
-            requests.push_back({box->GetTag(), box->size()});
+    ~Watching() { viewer_.close(); } // ends autoview
+
+    // Milliseconds by which each step came too late.
+    std::vector<double> Steps()
+    {
+        constexpr double millisecondsPerSecond = 1000;
+        std::vector<double> late;
+        Clock::time_point last = WaitForNext();
+        for (int i = 0; i < stepCount; ++i) {
+            const Clock::time_point next = WaitForNext();
+            late.push_back(MillisecondsBetween(last, next) - delay * millisecondsPerSecond);
+            last = next;
+        }
+        return late;
     }
-    return requests;
-}
 
-// What a tick of the timer does, to the last pixel.
-void Step(frmReelvane& viewer)
-{
-    viewer.DisplayNextParagraph();
-    viewer.repaint();
-}
+    int CountPictures() const { return int(OnScreen(viewer_).size()); }
 
-void AutoviewStep(benchmark::State& state)
-{
-    frmReelvane viewer;
-    viewer.CurrentChapter = 1;
-    viewer.resize(viewerSize);
-    viewer.show();
-    while (OnScreen(viewer).empty())
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    viewer.Nblines = int(state.range(0));
-    Step(viewer);
-    Times steps;
-    Times decodes;
-    double longest = 0;
-    std::size_t pictures = 0;
-    for (auto _ : state) {
-        steps.push_back(MillisecondsOf([&] { Step(viewer); }));
-        const std::vector<PictureRequest> requests = OnScreen(viewer);
-        decodes.push_back(
-            MillisecondsOf([&] { benchmark::DoNotOptimize(ReadPictures(requests)); }));
-        longest = std::max(longest, steps.back());
-        pictures = requests.size();
-        state.SetIterationTime(steps.back() / 1000);
+private:
+    // Returns when the next page's pictures were painted for the first time.
+    Clock::time_point WaitForNext()
+    {
+        const int before = viewer_.CurrentParagraph;
+        while (viewer_.CurrentParagraph == before)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        const Clock::time_point changed = Clock::now();
+        while (watch_.painted < changed)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        return watch_.painted;
     }
-    state.counters["pictures"] = double(pictures);
-    state.counters["step_ms"] = Median(steps);
-    state.counters["longest_ms"] = longest;
-    state.counters["decode_ms"] = Median(decodes);
-    state.counters["to_decode"] = Median(steps) / Median(decodes);
+
+    frmReelvane viewer_;
+    PaintWatch watch_{viewer_};
+};
+
+void Measure(int lines, bool isSoft)
+{
+    GeneralModule::SoftTransitions = isSoft;
+    Watching watching(lines);
+    const std::clock_t begin = std::clock();
+    std::vector<double> late = watching.Steps();
+    const double processor = double(std::clock() - begin) / CLOCKS_PER_SEC / (delay * stepCount);
+    std::ranges::sort(late);
+    std::printf("%5d %8d %6s %9.1f %9.1f %9.0f %%\n", lines, watching.CountPictures(),
+                isSoft ? "fade" : "", late[late.size() / 2], late.back(), processor * 100);
+    std::fflush(stdout);
 }
 
 } // namespace
-
-BENCHMARK(AutoviewStep)
-    ->DenseRange(0, 4)
-    ->ArgName("lines")
-    ->Unit(benchmark::kMillisecond)
-    ->UseManualTime()
-    ->Iterations(9);
 
 int main(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    QtDialogs dialogs;
+    DelayDialogs dialogs;
     Dialogs::Install(&dialogs);
-    benchmark::Initialize(&argc, argv);
-    const QTemporaryDir folder;
-    if (!folder.isValid() || !MakeStory(folder)) {
+    const StoryOfPhotographs story;
+    if (!story.IsThere()) {
         std::fputs("The story cannot be made in the temporary folder\n", stderr);
-        return 1;
+        return EXIT_FAILURE;
     }
-    benchmark::RunSpecifiedBenchmarks();
-    GeneralModule::ReleaseAlbum();
-    return 0;
+    std::printf("%5s %8s %6s %9s %9s %11s\n", "lines", "pictures", "", "late, ms", "longest",
+                "processor");
+    for (int lines = 0; lines <= maxLines; ++lines) {
+        for (const bool isSoft : {false, true})
+            Measure(lines, isSoft);
+    }
+    return EXIT_SUCCESS;
 }

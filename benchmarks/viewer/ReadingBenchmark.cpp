@@ -2,6 +2,7 @@
 // How long a reader waits for the next page: from the key to the painted pixels, with photographs
 // of 24 megapixels. The key comes from another thread at its time, whatever the program is doing.
 // Beside it the mere decode of the pictures that came on the screen, in the same run.
+#include "PaintWatch.h"
 #include "StoryOfPhotographs.h"
 
 #include "core/Album.h"
@@ -25,7 +26,7 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Clock = PaintWatch::Clock;
 using std::chrono::milliseconds;
 
 constexpr int keyCount = 9;
@@ -36,41 +37,6 @@ constexpr milliseconds heldKey(33);
 double Since(Clock::time_point begin)
 {
     return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
-}
-
-// Notes when the window's changes are on the screen.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget& window) : window_(window) { qApp->installEventFilter(this); }
-
-    Clock::time_point painted;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (watched != &window_ || event->type() != QEvent::UpdateRequest || isInside_)
-            return false;
-        isInside_ = true;
-        QCoreApplication::sendEvent(watched, event);
-        isInside_ = false;
-        painted = Clock::now();
-        return true;
-    }
-
-private:
-    QWidget& window_;
-    bool isInside_ = false;
-};
-
-std::vector<PictureRequest> OnScreen(const frmReelvane& viewer)
-{
-    std::vector<PictureRequest> requests;
-    for (const PictureBox* box : viewer.findChildren<PictureBox*>()) {
-        if (box->isVisible())
-            requests.push_back({box->GetTag(), box->size()});
-    }
-    return requests;
 }
 
 // Shows a chapter with so many lines of pictures, and presses a key again and again.

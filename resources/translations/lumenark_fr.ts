@@ -1584,6 +1584,10 @@ Le supprimer quand même ?</translation>
 <context>
     <name>frmOpenChapter</name>
     <message>
+        <source>Soft Transitions in Autoview</source>
+        <translation>Transitions douces en défilement</translation>
+    </message>
+    <message>
         <source>Choose the chapter you want to read</source>
         <translation>Choisissez le chapitre à lire</translation>
     </message>

@@ -7,7 +7,6 @@
 #include "viewer/ViewerFlags.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -21,13 +20,6 @@ namespace {
 constexpr double millisecondsPerSecond = 1000;
 constexpr qint16 usualDelay = 10000; // milliseconds
 constexpr qint16 longestDelay = std::numeric_limits<qint16>::max();
-
-// How long to wait after a step that took that long; both in milliseconds. The work is part of the
-// delay, so that steps keep their pace, but what was shown late still stays for half of it.
-int RestOfDelay(int delay, qint64 worked)
-{
-    return int(std::max<qint64>(delay - worked, delay / 2));
-}
 
 } // namespace
 
@@ -50,6 +42,7 @@ QString ProposedDelay()
 Autoview::Autoview(std::function<void()> step, std::function<bool()> isInFront, QObject* parent)
     : QObject(parent), step_(std::move(step)), isInFront_(std::move(isInFront))
 {
+    clock_.start();
     timImage_.setParent(this);
     timImage_.setObjectName(QStringLiteral("timImage"));
     timImage_.setSingleShot(true);
@@ -106,7 +99,7 @@ void Autoview::Restore()
     if (pauses_ > 0)
         return;
     if (AutoviewOn)
-        timImage_.start(delay_);
+        WaitUntil(clock_.elapsed() + delay_);
     else
         timImage_.stop();
 }
@@ -123,15 +116,22 @@ void Autoview::Release()
         Restore();
 }
 
+void Autoview::WaitUntil(qint64 due)
+{
+    due_ = due;
+    timImage_.start(int(std::max<qint64>(due_ - clock_.elapsed(), 0)));
+}
+
+// Steps keep their pace however long each takes, but what was shown late still stays for half of
+// the delay.
 void Autoview::timImage_Timer()
 {
-    QElapsedTimer worked;
-    worked.start();
+    const qint64 due = due_;
     {
         const auto pause = Pause();
         if (isInFront_())
             RunGuarded(step_);
     }
     if (AutoviewOn)
-        timImage_.start(RestOfDelay(delay_, worked.elapsed()));
+        WaitUntil(std::max(due + delay_, clock_.elapsed() + delay_ / 2));
 }

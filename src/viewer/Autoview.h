@@ -3,6 +3,7 @@
 
 #include "platform/shell/StayAwake.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QScopeGuard>
 #include <QTimer>
@@ -52,6 +53,7 @@ private:
     void BeginPause();
     void EndPause();
     void Restore();
+    void WaitUntil(qint64 due);
     void Set(bool on);
     void timImage_Timer();
 
@@ -59,7 +61,9 @@ private:
     StayAwake awake_;
     std::function<void()> step_;
     std::function<bool()> isInFront_;
-    int delay_ = 0; // milliseconds
+    QElapsedTimer clock_;
+    qint64 due_ = 0; // of the next step, milliseconds of the clock
+    int delay_ = 0;  // milliseconds
     int pauses_ = 0;
     bool isHeld_ = false;
 };

@@ -5,6 +5,7 @@
 #include "platform/widgets/LiteralText.h"
 #include "platform/widgets/PictureBox.h"
 #include "viewer/LegendArea.h"
+#include "viewer/PageFade.h"
 #include "viewer/ViewerFlags.h"
 
 #include <QEvent>
@@ -29,6 +30,7 @@ StoryPage::StoryPage(QWidget* parent) : QWidget(parent)
     legend_ = new LegendArea(this);
     connect(legend_, &LegendArea::Clicked, this, &StoryPage::LegendClicked);
     CreateNotice();
+    fade_ = new PageFade(this);
 }
 
 void StoryPage::CreateBoxes()
@@ -116,10 +118,22 @@ void StoryPage::ShowPictures(const std::vector<ShownPicture>& pictures, std::vec
             box->setGeometry(pictures[i].place);
         box->setVisible(used);
     }
+    fade_->Begin({0, 0, width(), bandHeight_});
+}
+
+void StoryPage::FadeIntoNext()
+{
+    std::vector<PageFade::Picture> pictures;
+    for (const PictureBox* box : imgImage_) {
+        if (box->isVisible() && !box->GetPicture().isNull())
+            pictures.push_back({box->geometry(), box->GetPicture()});
+    }
+    fade_->Keep(std::move(pictures), bandColor);
 }
 
 void StoryPage::ShowFullSize(const ShownPicture& picture, const QImage& image)
 {
+    fade_->End();
     for (PictureBox* box : imgImage_)
         box->hide();
     imgFullSize_->SetTag(picture.file);
@@ -178,6 +192,7 @@ bool StoryPage::eventFilter(QObject* watched, QEvent* event)
 
 void StoryPage::resizeEvent(QResizeEvent*)
 {
+    fade_->End();
     Arrange(legend_->GetText());
 }
 

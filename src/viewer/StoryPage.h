@@ -8,6 +8,7 @@
 #include <array>
 
 class LegendArea;
+class PageFade;
 class PictureBox;
 class QLabel;
 
@@ -30,6 +31,7 @@ public:
     // Each box's tag is its picture's File; boxes without a picture are hidden.
     void ShowPictures(const std::vector<ShownPicture>& pictures,
                       std::vector<QImage> images) override;
+    void FadeIntoNext() override;
     void ShowFullSize(const ShownPicture& picture, const QImage& image) override;
     void LeaveFullSize() override;
     void SetNotice(const QString& text) override;
@@ -59,6 +61,7 @@ private:
     PictureBox* imgFullSize_ = nullptr;
     LegendArea* legend_ = nullptr;
     QLabel* lblNotice_ = nullptr;
+    PageFade* fade_ = nullptr;
     bool isDark_ = false;
     int bandHeight_ = 0; // logical pixels
 };

@@ -45,10 +45,19 @@ Outlook StoryReader::Foresee(LikelyMove move)
     return outlook;
 }
 
+// Who watches autoview presses no keys.
+std::vector<LikelyMove> StoryReader::MovesToExpect() const
+{
+    if (!GeneralModule::AutoviewOn)
+        return LikelyMoves(lastMove_);
+    const bool isStory = GetMode() != StoryMode::Selection;
+    return {{isStory ? StoryMove::NextParagraph : StoryMove::NextPictures}};
+}
+
 void StoryReader::BeginLookingAhead()
 {
     std::vector<LookAhead::Plan> plans;
-    for (const LikelyMove& move : LikelyMoves(lastMove_)) {
+    for (const LikelyMove& move : MovesToExpect()) {
         // Several pictures keep all cores busy anyway.
         if (move.times > 1 && display_.GetDisplayed().size() > 1)
             continue;
@@ -265,12 +274,16 @@ void StoryReader::ShowIndexed(const PictureList& upcoming, const QStringList& ta
 
 void StoryReader::SwitchAutoview()
 {
-    if (autoview_.Switch())
-        display_.Surface().SetLegend(GeneralModule::AutoviewOn ? tr("Timer On") : tr("Timer Off"));
+    if (!autoview_.Switch())
+        return;
+    display_.Surface().SetLegend(GeneralModule::AutoviewOn ? tr("Timer On") : tr("Timer Off"));
+    BeginLookingAhead();
 }
 
 void StoryReader::StepByItself()
 {
+    if (GeneralModule::SoftTransitions)
+        display_.Surface().FadeIntoNext();
     if (GetMode() != StoryMode::Selection) {
         Go(StoryWay::NextParagraph);
     } else if (display_.GetList().Count() > 0) {

@@ -96,6 +96,7 @@ private:
     void ShowScreenAgain();
     void ScreenChanged();
     Outlook GetOutlook() const;
+    std::vector<LikelyMove> MovesToExpect() const;
     void BeginLookingAhead();
     void ShowText(bool isCounting);
     void StepByItself();

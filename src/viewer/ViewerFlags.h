@@ -10,4 +10,7 @@ inline bool AutoviewOn = false;
 // The next picture is taken at random from the picture list, else in list order.
 inline bool PictureAtRandom = false;
 
+// Autoview's pictures fade into each other.
+inline bool SoftTransitions = false;
+
 } // namespace GeneralModule

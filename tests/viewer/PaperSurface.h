@@ -36,6 +36,7 @@ struct PaperSurface : StorySurface
         pictures = shown;
         images = std::move(decoded);
     }
+    void FadeIntoNext() override {}
     void ShowFullSize(const ShownPicture&, const QImage&) override {}
     void LeaveFullSize() override {}
     void SetNotice(const QString& text) override { notice = text; }

@@ -45,16 +45,14 @@ private slots:
             dialogs.ExpectInput("Please enter delay in seconds : ", answer, proposal);
             return autoview.Switch();
         };
-        begin("20", "10");
-        timer.start(0);
+        begin("0.5", "10");
         QTRY_COMPARE(steps, 1);
-        QVERIFY(timer.isActive() && timer.interval() >= 10000);
-        QVERIFY2(timer.interval() <= 19800, "the work was not counted");
+        QVERIFY(timer.isActive() && timer.interval() >= 250);
+        QVERIFY2(timer.interval() <= 300, "the work was not counted");
         autoview.Switch();
-        begin("0.2", "20");
-        timer.start(0);
+        begin("0.2", "0.5");
         QTRY_COMPARE(steps, 2);
-        QCOMPARE(timer.interval(), 100); // what comes late stays for half of the delay
+        QVERIFY(timer.interval() >= 99 && timer.interval() <= 100); // half of the delay
         autoview.End();
         QVERIFY(!begin(QString(), "0.2") && !AutoviewOn); // cancelled: nothing changes
         QCOMPARE(GeneralModule::GetTimerDelay(), 200);

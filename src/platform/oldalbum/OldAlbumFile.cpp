@@ -75,6 +75,12 @@ OldAlbumFile::OldAlbumFile(const QString& path)
                 .arg(QDir::toNativeSeparators(path)));
 }
 
+// In bytes: what its readers may write.
+qint64 OldAlbumFile::MaxVolume() const
+{
+    return volumeBase + volumeFactor * size_;
+}
+
 // False when the list is incomplete.
 bool OldAlbumFile::ReadList(bool wholeFile)
 {
@@ -83,6 +89,8 @@ bool OldAlbumFile::ReadList(bool wholeFile)
         arguments += QStringLiteral("file");
     ReaderProcess reader(arguments);
     while (const auto frame = reader.Next(patience_)) {
+        if (reader.GetVolume() > MaxVolume())
+            return false;
         FrameContents contents(frame->contents);
         if (frame->kind == OldAlbumStream::Header)
             hasPassword_ = contents.Number() != 0;
@@ -149,7 +157,7 @@ bool OldAlbumFile::RunReader(const Table& table, Progress& progress, OldTableVis
     const qint64 earlier = volume_;
     while (const auto frame = reader.Next(patience_)) {
         volume_ = earlier + reader.GetVolume();
-        if (volume_ > volumeBase + volumeFactor * size_) {
+        if (volume_ > MaxVolume()) {
             restarts_ = maxRestarts;
             return false;
         }

@@ -71,6 +71,7 @@ public:
 private:
     struct Progress;
 
+    qint64 MaxVolume() const;
     bool ReadList(bool wholeFile);
     bool ReadToEnd(const Table& table, Progress& progress, OldTableVisitor& visitor);
     bool RunReader(const Table& table, Progress& progress, OldTableVisitor& visitor);

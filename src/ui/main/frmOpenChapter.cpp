@@ -16,6 +16,7 @@
 #include "ui/main/FileDrop.h"
 #include "ui/main/GuidanceLook.h"
 #include "ui/main/PasswordQuestions.h"
+#include "ui/main/TransitionOption.h"
 #include "ui/main/ViewerWindows.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmRepairAlbum.h"
@@ -105,7 +106,7 @@ void frmOpenChapter::ConnectControls()
     for (QAction* separator :
          {ui_->mnuSep1, ui_->mnuSep2, ui_->mnuSep3, ui_->mnuSep4, ui_->mnuSep5})
         separator->setSeparator(true);
-    ui_->mnuOptions->setEnabled(false); // it has no entries yet
+    OfferSoftTransitions(*ui_->mnuSoftTransitions);
     connect(ui_->lstChapter, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmOpenChapter::RefreshState));
     connect(chapters_.get(), &ChapterList::ReadingAsked, this,
