@@ -133,7 +133,7 @@ QByteArray AnyScript(Trials& trials)
     if (trials.OneIn(3))
         Damage(stream, trials);
     // One that hangs or floods takes seconds until it is given up.
-    const int ending = trials.OneIn(40) ? hangs + trials.Below(3) : trials.Below(3);
+    const int ending = trials.OneIn(12) ? hangs + trials.Below(3) : trials.Below(3);
     return char(ending) + (char(trials.Below(6)) + stream);
 }
 

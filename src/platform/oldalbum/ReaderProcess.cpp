@@ -94,6 +94,8 @@ int ReaderProcess::Finish(const QByteArray& input)
 {
     process_.write(input);
     process_.closeWriteChannel();
+    // Whatever it still writes would be kept in memory while it is waited for.
+    process_.closeReadChannel(QProcess::StandardOutput);
     // Waiting for a process that has already ended returns failure.
     if (process_.state() != QProcess::NotRunning && !process_.waitForFinished(finishMilliseconds))
         return -1;

@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+#include <sys/resource.h>
+
 namespace {
 
 // A page's frame with that number, as the shell's printf writes it.
@@ -62,6 +64,10 @@ private slots:
             QCOMPARE(reader.Finish(), -1);
         }
         QVERIFY_THROWS_EXCEPTION(DatabaseError, ReaderProcess({}, "/nowhere/reader"));
+        QCOMPARE(Start("exec yes").Finish(), -1); // after seconds, of which nothing is kept
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        QVERIFY2(usage.ru_maxrss < 500'000, "KiB");
     }
 };
 
