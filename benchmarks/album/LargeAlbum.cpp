@@ -141,8 +141,8 @@ void LargeAlbum::FillChapters(sqlite3* engine) const
     Statement chapter(engine, "INSERT INTO Chapter (Name,FirstParagraph,PreviousChapter,"
                               "NextChapter) VALUES (?1,?2,?3,?4)");
     for (int c = 1; c <= LastChapter(); ++c) {
-        const int before = c <= longChapter ? (c - 1) * perChapter
-                                            : CountLong() + (c - 2) * perChapter;
+        const int before =
+            c <= longChapter ? (c - 1) * perChapter : CountLong() + (c - 2) * perChapter;
         chapter.Bind(1, NameOfChapter(c));
         chapter.Bind(2, qint64(c == LastChapter() ? 0 : before + 1));
         chapter.Bind(3, qint64(c - 1));
@@ -163,7 +163,9 @@ void LargeAlbum::FillParagraphs(sqlite3* engine) const
     paragraph.Bind(6, writtenText);
     for (int p = 1; p <= CountParagraphs(); ++p) {
         const bool isLong = p >= FirstOfLong() && p <= LastOfLong();
-        const int place = p <= perChapter ? p - 1 : isLong ? p - FirstOfLong() : p - LastOfLong() - 1;
+        const int place = p <= perChapter ? p - 1
+                          : isLong        ? p - FirstOfLong()
+                                          : p - LastOfLong() - 1;
         const int size = isLong ? CountLong() : perChapter;
         const int shorter = p <= perChapter ? 1 : 3 + place / perChapter;
         paragraph.Bind(1, qint64(isLong ? longChapter : shorter));

@@ -79,7 +79,8 @@ std::vector<Action> ChapterActions()
          }},
         {"move the last chapter up", OpenToChange,
          [](Album& album) { Require(MoveChapterUp(Album::NameOfChapter(album.LastChapter()))); }},
-        {"delete the last chapter", OpenToChange, [](Album& album) {
+        {"delete the last chapter", OpenToChange,
+         [](Album& album) {
              const QString last = Album::NameOfChapter(album.LastChapter());
              Require(DeleteChapter(last) == ChapterDeletion::Deleted);
          }},
@@ -91,15 +92,21 @@ std::vector<Action> ReadingActions()
     using Album = LargeAlbum;
     return {
         Reading("read on within the long chapter", StepToNextParagraph,
-                [](const Album& album) { return StoryPosition{inLong, MiddleOfLong(album)}; }),
+                [](const Album& album) {
+                    return StoryPosition{inLong, MiddleOfLong(album)};
+                }),
         Reading("read back into the long chapter", StepToPreviousParagraph,
                 [](const Album& album) {
                     return StoryPosition{inLong + 1, album.LastOfLong() + 1};
                 }),
         Reading("go to the top of the long chapter", StepToTopOfChapter,
-                [](const Album& album) { return StoryPosition{inLong, album.LastOfLong()}; }),
+                [](const Album& album) {
+                    return StoryPosition{inLong, album.LastOfLong()};
+                }),
         Reading("go to the chapter after the long one", StepToNextChapter,
-                [](const Album& album) { return StoryPosition{inLong, MiddleOfLong(album)}; }),
+                [](const Album& album) {
+                    return StoryPosition{inLong, MiddleOfLong(album)};
+                }),
     };
 }
 
@@ -123,11 +130,17 @@ std::vector<Action> StoryActions()
              DeleteParagraph(place);
          }},
         Moving("move a paragraph within the long chapter", MoveParagraphUp,
-               [](Album& album) { return ParagraphPlace{inLong, MiddleOfLong(album)}; }),
+               [](Album& album) {
+                   return ParagraphPlace{inLong, MiddleOfLong(album)};
+               }),
         Moving("move a paragraph down out of the long chapter", MoveParagraphDown,
-               [](Album& album) { return ParagraphPlace{inLong, album.LastOfLong()}; }),
+               [](Album& album) {
+                   return ParagraphPlace{inLong, album.LastOfLong()};
+               }),
         Moving("move a paragraph up into the long chapter", MoveParagraphUp,
-               [](Album& album) { return ParagraphPlace{inLong + 1, album.LastOfLong() + 1}; }),
+               [](Album& album) {
+                   return ParagraphPlace{inLong + 1, album.LastOfLong() + 1};
+               }),
         {"list the paragraphs of the long chapter", OpenToRead,
          [](Album& album) {
              Require(ListParagraphs(inLong).size() == std::size_t(album.CountLong()));

@@ -135,10 +135,7 @@ std::vector<Action> ViewerActions()
 std::vector<Action> WindowActions()
 {
     std::vector<Action> actions{
-        {"window: main, with opening the album",
-         [](LargeAlbum& album) {
-                      album.Close();
-         },
+        {"window: main, with opening the album", [](LargeAlbum& album) { album.Close(); },
          [](LargeAlbum& album) {
              frmOpenChapter window(album.GetPath());
              Show(window);
@@ -153,10 +150,9 @@ std::vector<Action> WindowActions()
                                             window.CurrentParagraph = album.LastOfLong() / 2;
                                         }),
         Pressing("organiser: move a paragraph", PrepareOrganizer, "cmdMoveUp"),
-        Starting<frmEditImage>("window: indexing",
-                               [](frmEditImage& window, LargeAlbum&) {
-                                   window.CurrentImage = APicture();
-                               }),
+        Starting<frmEditImage>(
+            "window: indexing",
+            [](frmEditImage& window, LargeAlbum&) { window.CurrentImage = APicture(); }),
         {"window: tables", OpenToRead,
          [](LargeAlbum&) {
              frmEditTables window(APicture(), nullptr);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // How long a reader waits for the next page: from the key to the painted pixels, with photographs
 // of 24 megapixels. The key comes from another thread at its time, whatever the program is doing.
-// Beside it the mere decode of the pictures that came on the screen, in the same run.
+// Beside it the mere decode of the pictures that came on the screen, in the same run. With --trace
+// the processor's load while somebody reads for a minute.
 #include "PaintWatch.h"
 #include "StoryOfPhotographs.h"
 
@@ -20,7 +21,9 @@
 #include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 #include <fstream>
+#include <malloc.h>
 #include <string>
 #include <thread>
 
@@ -81,7 +84,6 @@ public:
 
     int CountPictures() const { return int(OnScreen(viewer_).size()); }
 
-private:
     static void WaitFor(milliseconds time)
     {
         QEventLoop loop;
@@ -89,6 +91,7 @@ private:
         loop.exec();
     }
 
+private:
     void WaitForPicture(const QString& before)
     {
         const auto begin = Clock::now();
@@ -100,6 +103,30 @@ private:
     frmReelvane viewer_;
     PaintWatch watch_{viewer_};
 };
+
+// One minute of reading with a key every six seconds: the processor's load in each half second,
+// 100 % for one core.
+void Trace()
+{
+    constexpr milliseconds step(500);
+    constexpr int stepsOfKey = 12;
+    constexpr int keys = 10;
+    Reading reading(QSize(1920, 1080), StoryOfPhotographs::fullChapter, 1);
+    for (int key = 0; key < keys; ++key) {
+        const bool isParagraph = key % 2 == 0;
+        std::printf("%-14s", isParagraph ? "next paragraph" : "next pictures");
+        std::clock_t used = std::clock();
+        reading.Press(isParagraph ? Qt::Key_Right : Qt::Key_Down, milliseconds(0));
+        for (int i = 0; i < stepsOfKey; ++i) {
+            Reading::WaitFor(step);
+            const double seconds = double(std::clock() - used) / CLOCKS_PER_SEC;
+            used = std::clock();
+            std::printf("%5.0f", seconds * 1000 / double(step.count()) * 100);
+        }
+        std::printf("\n");
+        std::fflush(stdout);
+    }
+}
 
 struct Way
 {
@@ -141,6 +168,13 @@ double MemoryOf(const char* kind)
     return 0;
 }
 
+// The peak that MemoryOf tells counts from here on, without what painting took.
+void ForgetPeak()
+{
+    malloc_trim(0);
+    std::ofstream("/proc/self/clear_refs") << 5;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -155,6 +189,10 @@ int main(int argc, char** argv)
         std::fputs("The story cannot be made in the temporary folder\n", stderr);
         return 1;
     }
+    if (QCoreApplication::arguments().contains(QLatin1String("--trace"))) {
+        Trace();
+        return 0;
+    }
     using Story = StoryOfPhotographs;
     const Way ways[] = {
         {"next paragraph after 1.5 s", Story::singleChapter, 1, Qt::Key_Right, look},
@@ -165,11 +203,13 @@ int main(int argc, char** argv)
         {"next full paragraph after 1.5 s", Story::fullChapter, 4, Qt::Key_Right, look}};
     std::printf("%-9s  %-34s %8s %9s %9s %9s\n", "", "milliseconds", "pictures", "median",
                 "longest", "decode");
+    ForgetPeak();
+    const double before = MemoryOf("VmRSS");
     for (const QSize size : {QSize(1600, 1000), QSize(1920, 1080)}) {
         for (const Way& way : ways)
             Measure(size, way);
     }
-    std::printf("peak memory %.0f MiB, after the viewer %.0f MiB\n", MemoryOf("VmHWM"),
-                MemoryOf("VmRSS"));
+    std::printf("memory before the viewer %.0f MiB, peak %.0f, afterwards %.0f\n", before,
+                MemoryOf("VmHWM"), MemoryOf("VmRSS"));
     return 0;
 }

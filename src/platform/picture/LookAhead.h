@@ -20,6 +20,7 @@ public:
 
     // Nothing is done while mayWork says no; it begins again with the next plans.
     explicit LookAhead(std::function<bool()> mayWork, QObject* parent = nullptr);
+    ~LookAhead() override;
 
     // Bytes of pixels to be held at most, besides those on show.
     void SetRoom(qint64 bytes) { pictures_.SetRoom(bytes); }

@@ -38,6 +38,14 @@ bool IsPlausibleTarget(QSize size)
            qint64(size.width()) * size.height() <= maxTargetPixels;
 }
 
+void SetUpLibraries()
+{
+    // Some decoders allocate memory before they even give the size.
+    QImageReader::setAllocationLimit(maxMebibytes);
+    // A picture that is given up half-way is no damaged file, which is shown as such.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*.warning=false"));
+}
+
 std::mutex& LargeMutex()
 {
     static std::mutex mutex;
@@ -48,13 +56,8 @@ std::mutex& LargeMutex()
 
 OpenPicture::OpenPicture(const QString& path, GatedDevice::Gate gate) : gate_(std::move(gate))
 {
-    static std::once_flag isSet;
-    std::call_once(isSet, [] {
-        // Some decoders allocate memory before they even give the size.
-        QImageReader::setAllocationLimit(maxMebibytes);
-        // A picture that is given up half-way is no damaged file, which is shown as such.
-        QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*.warning=false"));
-    });
+    static std::once_flag isSetUp;
+    std::call_once(isSetUp, SetUpLibraries);
     if (!OpenPictureFile(file_, path)) {
         return;
     }
