@@ -22,6 +22,13 @@ namespace {
 constexpr std::array formats{"jpg", "png", "bmp", "gif"};
 constexpr int maxKeys = 40;
 
+// Of a picture that is there.
+QSize SizeOf(const QString& path)
+{
+    const QSize size = QImage(path).size();
+    return size.isEmpty() ? QSize(40, 30) : size;
+}
+
 // Blocks of random colours: a picture that is decoded at another size, or not to its end, differs.
 void Paint(Trials& trials, const QString& path, QSize size)
 {
@@ -84,7 +91,7 @@ public:
             QFile::rename(file + QStringLiteral(".away"), file);
             break;
         case 2:
-            Paint(trials_, file, trials_.OneIn(2) ? AnySize() : QImage(file).size());
+            Paint(trials_, file, trials_.OneIn(2) ? AnySize() : SizeOf(file));
             break;
         case 3:
             paper_.size = {400 + trials_.Below(800), 300 + trials_.Below(600)};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProgramTest.h"
 #include "core/Settings.h"
+#include "viewer/ViewerFlags.h"
 
 using namespace GeneralModule;
 
@@ -9,6 +10,22 @@ class TestMainWindow : public ProgramTest
     Q_OBJECT
 
 private slots:
+    void KeepsTheChoiceOfTransitions()
+    {
+        for (const bool isOn : {false, true}) {
+            Start({});
+            auto& entry = *Find<QAction>("mnuSoftTransitions");
+            if (entry.isChecked() != isOn)
+                entry.trigger();
+            QCOMPARE(SoftTransitions, isOn);
+            SoftTransitions = !isOn;
+            Start({});
+            QCOMPARE(Find<QAction>("mnuSoftTransitions")->isChecked(), isOn);
+            QCOMPARE(SoftTransitions, isOn);
+        }
+        SoftTransitions = false;
+    }
+
     void GuidesFromNothingToTheFirstChapter()
     {
         ReleaseAlbum();

@@ -83,6 +83,42 @@ private slots:
         QVERIFY(!story.viewer.isVisible() && !AutoviewOn && !story.Timer().isActive());
     }
 
+    // The new picture is there at once, below what is left of the former one.
+    void FadesByItsOwnStepsOnly()
+    {
+        GeneralModule::SoftTransitions = true;
+        const auto end = qScopeGuard([] { GeneralModule::SoftTransitions = false; });
+        OpenViewer story;
+        const qint32 chapter = story.AddStory({"First"});
+        for (const char* color : {"red", "blue"}) {
+            const QString name = QString(color) + ".png";
+            story.album.AddPicture(name, {}, {400, 300}, QColor(color));
+            story.album.AddParagraph(chapter, color, {{"FileSelection", story.album.PathOf(name)}});
+        }
+        story.Open(chapter);
+        const auto& fade = Find<QWidget>(story.viewer, "fade");
+        story.StartAutoview("32");
+        story.Tick();
+        QTRY_COMPARE(story.Legend(), "red");
+        QTRY_VERIFY(!fade.isVisible());
+        const QPoint middle = story.Boxes()[0]->geometry().center();
+        const auto shown = [&] {
+            return QColor(fade.parentWidget()->grab().toImage().pixel(middle));
+        };
+        QCOMPARE(shown(), QColor(Qt::red));
+        story.Tick();
+        QTRY_VERIFY(fade.isVisible());
+        QCOMPARE(story.Legend(), "blue");
+        QCOMPARE(story.Boxes()[0]->GetPicture().pixelColor(5, 5), QColor(Qt::blue));
+        QVERIFY(shown().red() > 0 || !fade.isVisible());
+        QTRY_VERIFY(!fade.isVisible());
+        QCOMPARE(shown(), QColor(Qt::blue));
+        story.Tick();
+        QTRY_VERIFY(fade.isVisible());
+        story.Press(Qt::Key_Left); // ends it
+        QVERIFY(!fade.isVisible());
+    }
+
     void WaitsForTheEditorAndForBoxes()
     {
         OpenViewer story;
