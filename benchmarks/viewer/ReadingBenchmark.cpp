@@ -175,6 +175,12 @@ void ForgetPeak()
     std::ofstream("/proc/self/clear_refs") << 5;
 }
 
+void PrintMemory(double before)
+{
+    std::printf("memory before the viewer %.0f MiB, peak %.0f, afterwards %.0f\n", before,
+                MemoryOf("VmHWM"), MemoryOf("VmRSS"));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -189,10 +195,6 @@ int main(int argc, char** argv)
         std::fputs("The story cannot be made in the temporary folder\n", stderr);
         return 1;
     }
-    if (QCoreApplication::arguments().contains(QLatin1String("--trace"))) {
-        Trace();
-        return 0;
-    }
     using Story = StoryOfPhotographs;
     const Way ways[] = {
         {"next paragraph after 1.5 s", Story::singleChapter, 1, Qt::Key_Right, look},
@@ -201,15 +203,19 @@ int main(int argc, char** argv)
         {"previous paragraph after 1.5 s", Story::singleChapter, 1, Qt::Key_Left, look},
         {"next screen after 1.5 s", Story::fullChapter, 4, Qt::Key_Down, look},
         {"next full paragraph after 1.5 s", Story::fullChapter, 4, Qt::Key_Right, look}};
-    std::printf("%-9s  %-34s %8s %9s %9s %9s\n", "", "milliseconds", "pictures", "median",
-                "longest", "decode");
     ForgetPeak();
     const double before = MemoryOf("VmRSS");
+    if (QCoreApplication::arguments().contains(QLatin1String("--trace"))) {
+        Trace();
+        PrintMemory(before);
+        return 0;
+    }
+    std::printf("%-9s  %-34s %8s %9s %9s %9s\n", "", "milliseconds", "pictures", "median",
+                "longest", "decode");
     for (const QSize size : {QSize(1600, 1000), QSize(1920, 1080)}) {
         for (const Way& way : ways)
             Measure(size, way);
     }
-    std::printf("memory before the viewer %.0f MiB, peak %.0f, afterwards %.0f\n", before,
-                MemoryOf("VmHWM"), MemoryOf("VmRSS"));
+    PrintMemory(before);
     return 0;
 }
