@@ -11,7 +11,7 @@ namespace {
 
 // Of decoders at work together, besides what a screen of photographs takes: a larger picture is
 // decoded alone.
-constexpr qint64 maxDecoderBytes = 48LL << 20;
+constexpr qint64 maxBytesTogether = 48LL << 20;
 
 bool IsSame(const PictureRequest& one, const PictureRequest& other)
 {
@@ -136,7 +136,7 @@ std::vector<ReadyPictures::Entry*> ReadyPictures::Begin(int count)
         if (!entry.IsToDo() || !BeginDecoding(entry))
             continue;
         bytes += entry.decoding->GetBytes();
-        if (!running.empty() && bytes > maxDecoderBytes)
+        if (!running.empty() && bytes > maxBytesTogether)
             break;
         running.push_back(&entry);
     }
