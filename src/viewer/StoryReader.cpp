@@ -7,7 +7,7 @@
 
 #include <QScopeGuard>
 
-StoryReader::StoryReader(std::function<bool()> isInFront, QObject* parent)
+StoryReader::StoryReader(const std::function<bool()>& isInFront, QObject* parent)
     : QObject(parent),
       lookAhead_(isInFront, this),
       display_(lookAhead_),

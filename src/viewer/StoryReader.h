@@ -27,7 +27,7 @@ class StoryReader : public QObject
 public:
     // isInFront tells whether the user sees the surface; autoview waits while it is covered, and
     // nothing is made ready.
-    explicit StoryReader(std::function<bool()> isInFront, QObject* parent = nullptr);
+    explicit StoryReader(const std::function<bool()>& isInFront, QObject* parent = nullptr);
 
     // What is read. Whoever changes it calls DisplayAgain, or takes a step from there.
     StoryPosition Position;
