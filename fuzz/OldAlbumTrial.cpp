@@ -2,12 +2,12 @@
 #include "fuzz/OldAlbumTrial.h"
 
 #include "core/oldalbum/OldAlbumConversion.h"
+#include "fuzz/Trials.h"
 #include "platform/data/Database.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/data/RecordSet.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 
 #include <algorithm>
@@ -145,8 +145,7 @@ TrialResult TryConversion(const QByteArray& contents, const QString& folder)
     const QString to = place.filePath(QStringLiteral("new.alb"));
     Write(from, contents);
     TrialResult result;
-    QElapsedTimer time;
-    time.start();
+    const qint64 began = Trials::ProcessorMilliseconds();
     try {
         OldAlbumFile old(from);
         result.isWhole = ConvertOldAlbum(old, {.target = to}).IsWhole();
@@ -154,13 +153,13 @@ TrialResult TryConversion(const QByteArray& contents, const QString& folder)
     } catch (const DatabaseError&) {
         // A file that is not worth a new album is refused, which is as good.
     }
-    result.milliseconds = time.elapsed();
+    const qint64 took = Trials::ProcessorMilliseconds() - began;
     QStringList left =
         place.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     left.removeOne(QStringLiteral("old.alb"));
     QFile unchanged(from);
-    if (result.milliseconds > maxMilliseconds)
-        result.fault = QStringLiteral("took %1 ms").arg(result.milliseconds);
+    if (took > maxMilliseconds)
+        result.fault = QStringLiteral("took %1 ms").arg(took);
     else if (!unchanged.open(QIODevice::ReadOnly) || unchanged.readAll() != contents)
         result.fault = QStringLiteral("the old album was changed");
     else if (left != (result.made ? QStringList{QStringLiteral("new.alb")} : QStringList()))

@@ -16,9 +16,8 @@ struct TrialResult
     QString fault; // what must not happen; empty when nothing of it did
     bool made = false;
     bool isWhole = false; // no problem was reported
-    qint64 milliseconds = 0;
 };
 
 // Converts the contents in an empty folder and looks at what is left there: the old file as it was,
-// and either nothing else or a new album that opens. Takes longer than ten seconds: a fault.
+// and either nothing else or a new album that opens. More than ten seconds of processor time is a fault.
 TrialResult TryConversion(const QByteArray& contents, const QString& folder);

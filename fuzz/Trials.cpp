@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <sys/resource.h>
 #include <sys/time.h>
 #include <unistd.h>
 #include <vector>
@@ -83,11 +84,20 @@ void TellWhenDying()
     }
 }
 
-// Processor time: other programs on a busy machine make no trial slow. 0: no limit.
+// 0: no limit. A trial that waits for ever takes no processor time.
 void LimitTime(int seconds)
 {
     const itimerval limit{{0, 0}, {seconds, 0}};
     setitimer(ITIMER_PROF, &limit, nullptr);
+    alarm(unsigned(seconds) * 20);
+}
+
+qint64 MillisecondsOf(int who)
+{
+    rusage usage{};
+    getrusage(who, &usage);
+    return (usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1000 +
+           (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1000;
 }
 
 qint64 NumberAfter(const QStringList& arguments, qsizetype& at)
@@ -133,12 +143,19 @@ Trials::Trials(int argc, char** argv, int maxSeconds) : maxSeconds_(maxSeconds)
     std::fflush(stdout);
 
     TellWhenDying();
-    std::signal(SIGPROF, [](int) {
-        ShowTrial("TAKES TOO LONG");
-        ShowInput();
-        std::fflush(stdout);
-        _exit(1);
-    });
+    for (const int number : {SIGPROF, SIGALRM}) {
+        std::signal(number, [](int) {
+            ShowTrial("TAKES TOO LONG");
+            ShowInput();
+            std::fflush(stdout);
+            _exit(1);
+        });
+    }
+}
+
+qint64 Trials::ProcessorMilliseconds()
+{
+    return MillisecondsOf(RUSAGE_SELF) + MillisecondsOf(RUSAGE_CHILDREN);
 }
 
 bool Trials::Next()

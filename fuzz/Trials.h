@@ -19,10 +19,15 @@ class Trials
 {
 public:
     // Ends the program with status 2 for arguments that it does not know. A trial that takes more
-    // than maxSeconds of processor time is ended, and the program with it.
+    // than maxSeconds of processor time, or twenty times that by the clock, is ended, and the
+    // program with it.
     Trials(int argc, char** argv, int maxSeconds);
 
     const QStringList& GetFiles() const { return files_; }
+
+    // What this program and the processes it has waited for have used. Limits count this time:
+    // other programs on a busy machine make no trial slow.
+    static qint64 ProcessorMilliseconds();
 
     // Begins the next trial; false when the time is up or many faults have been found.
     bool Next();

@@ -8,7 +8,6 @@
 #include <QtWidgets>
 
 #include <cstdlib>
-#include <ctime>
 #include <vector>
 
 #include <unistd.h>
@@ -39,12 +38,6 @@ QList<QWidget*> Usable(const QWidget& front)
     return usable;
 }
 
-// Other programs on a busy machine make no window slow.
-qint64 ProcessorMilliseconds()
-{
-    return qint64(std::clock()) * 1000 / CLOCKS_PER_SEC;
-}
-
 } // namespace
 
 void Monkey::Play(QWidget& window, int actions)
@@ -52,7 +45,7 @@ void Monkey::Play(QWidget& window, int actions)
     window_ = &window;
     left_ = actions;
     refusals_ = 0;
-    tickBegan_ = ProcessorMilliseconds();
+    tickBegan_ = Trials::ProcessorMilliseconds();
     QTimer::singleShot(0, this, &Monkey::Tick);
     loop_.exec();
     alarm(0);
@@ -61,7 +54,7 @@ void Monkey::Play(QWidget& window, int actions)
 void Monkey::Tick()
 {
     alarm(hangSeconds);
-    if (const qint64 took = ProcessorMilliseconds() - tickBegan_; took > slowMilliseconds)
+    if (const qint64 took = Trials::ProcessorMilliseconds() - tickBegan_; took > slowMilliseconds)
         trials_.Fault(QStringLiteral("took %1 ms").arg(took));
     const bool isOver = left_ <= 0 || !window_->isVisible();
     if (isOver && !QApplication::activeModalWidget() && !QApplication::activePopupWidget()) {
@@ -70,7 +63,7 @@ void Monkey::Tick()
     }
     // Armed before the action: what it opens runs an event loop of its own.
     QTimer::singleShot(isOver || trials_.OneIn(12) ? trials_.Below(120) : 0, this, &Monkey::Tick);
-    tickBegan_ = ProcessorMilliseconds();
+    tickBegan_ = Trials::ProcessorMilliseconds();
     if (isOver)
         return CloseFront();
     QWidget* popup = QApplication::activePopupWidget();

@@ -20,7 +20,6 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <cstdio>
 
 #include <sys/wait.h>
@@ -116,7 +115,6 @@ int PlayIn(const QString& root, int argc, char** argv)
         std::printf("This system cannot keep the program's writing within a folder.\n");
         return skipped;
     }
-    std::signal(SIGALRM, [](int) { std::raise(SIGPROF); });
     Program program(argc, argv, trials);
     InstallHelpKey(HelpFile());
     InstallHeldEscapeFilter();

@@ -18,15 +18,6 @@
 #include <functional>
 #include <new>
 
-#ifdef __SANITIZE_ADDRESS__
-// Memory that was given back shall not count as in use.
-extern "C" const char* __asan_default_options();
-extern "C" const char* __asan_default_options()
-{
-    return "quarantine_size_mb=1";
-}
-#endif
-
 namespace {
 
 thread_local bool isMemoryGone = false;
