@@ -4,6 +4,7 @@
 #include "fuzz/PictureAttacks.h"
 #include "fuzz/Trials.h"
 #include "platform/picture/PictureReader.h"
+#include "platform/picture/ReadyPictures.h"
 #include "support/AlbumFixture.h"
 #include "tests/platform/picture/PictureBytes.h"
 
@@ -117,6 +118,17 @@ void CheckMemory([[maybe_unused]] Trials& trials)
 #endif
 }
 
+// As the viewer reads it before it is asked for.
+QImage ReadAhead(const PictureRequest& request)
+{
+    ReadyPictures pictures;
+    pictures.SetRoom(request.size, 1);
+    pictures.Want({request});
+    while (pictures.Work(std::chrono::milliseconds(5)))
+        ;
+    return pictures.Take({request}).front();
+}
+
 void Try(Trials& trials, const QString& path, const QByteArray& bytes)
 {
     trials.SetInput(bytes);
@@ -127,6 +139,8 @@ void Try(Trials& trials, const QString& path, const QByteArray& bytes)
     try {
         const bool isReadable = ReadPictureInfo(path).IsReadable();
         const QImage image = ReadPicture(path, asked);
+        if (ReadAhead({path, asked}) != image)
+            trials.Fault(QStringLiteral("another picture when it is made ready"));
         if (!image.isNull() && (!isReadable || image.size() != asked))
             trials.Fault(QStringLiteral("asked for %1x%2, got %3x%4")
                              .arg(asked.width())

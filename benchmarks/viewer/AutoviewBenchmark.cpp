@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 
 namespace {
@@ -99,25 +98,20 @@ void Measure(int lines, bool isSoft)
     std::fflush(stdout);
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+void MeasureAll()
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    DelayDialogs dialogs;
-    Dialogs::Install(&dialogs);
-    const StoryOfPhotographs story;
-    if (!story.IsThere()) {
-        std::fputs("The story cannot be made in the temporary folder\n", stderr);
-        return EXIT_FAILURE;
-    }
     std::printf("%5s %8s %6s %9s %9s %11s\n", "lines", "pictures", "", "late, ms", "longest",
                 "processor");
     for (int lines = 0; lines <= maxLines; ++lines) {
         for (const bool isSoft : {false, true})
             Measure(lines, isSoft);
     }
-    return EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    DelayDialogs dialogs;
+    return RunWithStory(argc, argv, dialogs, MeasureAll);
 }

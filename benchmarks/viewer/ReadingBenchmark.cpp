@@ -181,20 +181,8 @@ void PrintMemory(double before)
                 MemoryOf("VmHWM"), MemoryOf("VmRSS"));
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+void MeasureAll()
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    QtDialogs dialogs;
-    Dialogs::Install(&dialogs);
-    const StoryOfPhotographs story;
-    if (!story.IsThere()) {
-        std::fputs("The story cannot be made in the temporary folder\n", stderr);
-        return 1;
-    }
     using Story = StoryOfPhotographs;
     const Way ways[] = {
         {"next paragraph after 1.5 s", Story::singleChapter, 1, Qt::Key_Right, look},
@@ -203,19 +191,26 @@ int main(int argc, char** argv)
         {"previous paragraph after 1.5 s", Story::singleChapter, 1, Qt::Key_Left, look},
         {"next screen after 1.5 s", Story::fullChapter, 4, Qt::Key_Down, look},
         {"next full paragraph after 1.5 s", Story::fullChapter, 4, Qt::Key_Right, look}};
-    ForgetPeak();
-    const double before = MemoryOf("VmRSS");
-    if (QCoreApplication::arguments().contains(QLatin1String("--trace"))) {
-        Trace();
-        PrintMemory(before);
-        return 0;
-    }
     std::printf("%-9s  %-34s %8s %9s %9s %9s\n", "", "milliseconds", "pictures", "median",
                 "longest", "decode");
     for (const QSize size : {QSize(1600, 1000), QSize(1920, 1080)}) {
         for (const Way& way : ways)
             Measure(size, way);
     }
-    PrintMemory(before);
-    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QtDialogs dialogs;
+    return RunWithStory(argc, argv, dialogs, [] {
+        ForgetPeak();
+        const double before = MemoryOf("VmRSS");
+        if (QCoreApplication::arguments().contains(QLatin1String("--trace")))
+            Trace();
+        else
+            MeasureAll();
+        PrintMemory(before);
+    });
 }

@@ -6,10 +6,15 @@
 #include "core/Album.h"
 #include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
+#include "platform/dialogs/Dialogs.h"
 #include "story/ParagraphChain.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QSettings>
+
+#include <cstdio>
+#include <cstdlib>
 
 using namespace GeneralModule;
 
@@ -75,4 +80,19 @@ void StoryOfPhotographs::AddSingles()
         ParagraphSet->MoveNext();
         ImageSet->MoveNext();
     }
+}
+
+int RunWithStory(int argc, char** argv, Dialogs& dialogs, const std::function<void()>& run)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    Dialogs::Install(&dialogs);
+    const StoryOfPhotographs story;
+    if (!story.IsThere()) {
+        std::fputs("The story cannot be made in the temporary folder\n", stderr);
+        return EXIT_FAILURE;
+    }
+    run();
+    return EXIT_SUCCESS;
 }

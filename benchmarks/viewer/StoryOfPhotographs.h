@@ -4,6 +4,10 @@
 #include <QSize>
 #include <QTemporaryDir>
 
+#include <functional>
+
+class Dialogs;
+
 // An open album with photographs of 24 megapixels and a story about them, for the life of this.
 class StoryOfPhotographs
 {
@@ -26,3 +30,7 @@ private:
     QTemporaryDir folder_;
     bool isThere_ = false;
 };
+
+// Runs it while such a story is open, without a display unless one is asked for. Returns the
+// program's status.
+int RunWithStory(int argc, char** argv, Dialogs& dialogs, const std::function<void()>& run);

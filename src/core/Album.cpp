@@ -181,7 +181,17 @@ bool IsAlbumOpen()
 
 AlbumVersion GetAlbumVersion()
 {
-    return {AlbumDatabase->ChangeCount(), AlbumDatabase->ForeignVersion()};
+    return {AlbumDatabase->ChangeCount(), AlbumDatabase->VersionElsewhere()};
+}
+
+NoWaiting::NoWaiting() : database_(AlbumDatabase)
+{
+    database_->SetWaiting(false);
+}
+
+NoWaiting::~NoWaiting()
+{
+    database_->SetWaiting(true);
 }
 
 bool IsAlbumReadOnly()

@@ -4,6 +4,9 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
+
+class Database;
 
 namespace GeneralModule {
 
@@ -12,14 +15,28 @@ bool IsAlbumOpen();
 // Of what the open album's tables hold. Two that are equal mean that nothing has changed.
 struct AlbumVersion
 {
-    int changesHere = 0;      // by this program
-    qint64 changesAbroad = 0; // by others
+    int changesHere = 0;         // by this program
+    qint64 changesElsewhere = 0; // by other programs
 
     bool operator==(const AlbumVersion&) const = default;
 };
 
 // Throws DatabaseError, NoAlbum while none is open.
 AlbumVersion GetAlbumVersion();
+
+// While one lives, to read or change the open album throws DatabaseError InUse at once where
+// another program has it locked; otherwise that program is waited for, some seconds. Throws
+// NoAlbum while none is open.
+class NoWaiting
+{
+public:
+    NoWaiting();
+    ~NoWaiting();
+    Q_DISABLE_COPY_MOVE(NoWaiting)
+
+private:
+    std::shared_ptr<Database> database_;
+};
 
 // Whether the open album can only be read: its file or its folder cannot be written. False while
 // none is open.

@@ -88,7 +88,7 @@ private:
     void AdoptByLinks()
     {
         if (owners_.key(0, 0) == 0)
-            return;
+            return; // every paragraph has a chapter
         QHash<qint32, QList<qint32>> neighbours;
         std::deque<qint32> spreading;
         for (const ChainLink& link : paragraphs_) {

@@ -16,13 +16,6 @@ namespace {
 
 constexpr int screensHeld = 3; // besides the one on show
 
-qint64 BytesOf(const ScreenShape& shape)
-{
-    constexpr qint64 bytesPerPixel = 4;
-    const QSize pixels = (QSizeF(shape.area) * shape.pixelRatio).toSize();
-    return pixels.width() * bytesPerPixel * pixels.height();
-}
-
 } // namespace
 
 void PageDisplay::Begin(const PageText& page)
@@ -60,7 +53,7 @@ void PageDisplay::ShowNextScreen(int lines)
     const ScreenShape shape = surface_->GetShape(lines);
     PictureList list = list_;
     std::vector<ShownPicture> pictures = FillScreen(list, shape, GeneralModule::PictureAtRandom);
-    lookAhead_.SetRoom(screensHeld * BytesOf(shape));
+    lookAhead_.SetRoom((QSizeF(shape.area) * shape.pixelRatio).toSize(), screensHeld);
     std::vector<QImage> images = lookAhead_.Take(RequestsFor(pictures, shape.pixelRatio));
     list_ = std::move(list);
     displayed_ = std::move(pictures);

@@ -29,15 +29,16 @@ PageFade::PageFade(QWidget* page) : QWidget(page)
 
 void PageFade::Keep(std::vector<Picture> pictures, const QColor& ground)
 {
-    pictures_ = std::move(pictures);
+    kept_ = std::move(pictures);
     ground_ = ground;
-    isKept_ = true;
 }
 
 void PageFade::Begin(const QRect& band)
 {
-    if (!std::exchange(isKept_, false))
-        return End();
+    End();
+    if (!kept_)
+        return;
+    fading_ = *std::exchange(kept_, {});
     setGeometry(band);
     raise();
     show();
@@ -45,10 +46,15 @@ void PageFade::Begin(const QRect& band)
     frames_.start(frameTime);
 }
 
+void PageFade::Forget()
+{
+    kept_.reset();
+}
+
 void PageFade::End()
 {
     frames_.stop();
-    pictures_.clear();
+    fading_.clear();
     hide();
 }
 
@@ -62,7 +68,7 @@ void PageFade::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setOpacity(Opacity());
     QRegion ground(rect());
-    for (const Picture& picture : pictures_) {
+    for (const Picture& picture : fading_) {
         const QRect place = picture.place.translated(-pos());
         ground -= place;
         if (picture.image.hasAlphaChannel())

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 // Lies over a page's band of pictures and lets the pictures that were there fade away. What is
@@ -23,8 +24,10 @@ public:
 
     // Keeps what is to fade away; the ground is what stands between the pictures.
     void Keep(std::vector<Picture> pictures, const QColor& ground);
-    // Lets it fade away over the band; where nothing was kept since the last time, ends a fade.
+    // Lets it fade away over the band; where nothing is kept, ends a fade.
     void Begin(const QRect& band);
+    // Does not keep it any longer. A fade that has begun goes on.
+    void Forget();
     void End();
 
 protected:
@@ -33,9 +36,9 @@ protected:
 private:
     double Opacity() const;
 
-    std::vector<Picture> pictures_;
+    std::optional<std::vector<Picture>> kept_; // for the next fade
+    std::vector<Picture> fading_;              // in the one that is seen
     QColor ground_;
-    bool isKept_ = false; // and not yet shown
     QElapsedTimer time_;
     QTimer frames_;
 };

@@ -40,16 +40,19 @@ void IndexPicture(StoryReader& reader, const QString& file, QWidget* window)
     const auto isThere = [](const QString& picture) {
         return QFileInfo::exists(GeneralModule::ResolvePictureFile(picture));
     };
+    const auto pickNext = [&] {
+        return upcoming.PickNext(GeneralModule::PictureAtRandom, isThere);
+    };
     frmEditImage indexing(window);
     indexing.CurrentImage = file;
     indexing.HasNextPicture = [&] { return upcoming.Count() > 0; };
     indexing.NextPicture = [&] {
-        const QString next = upcoming.PickNext(GeneralModule::PictureAtRandom, isThere);
+        const QString next = pickNext();
         upcoming.TakePicked();
         return next;
     };
     indexing.ForeseeNextPicture = [&] {
-        const QString next = upcoming.PickNext(GeneralModule::PictureAtRandom, isThere);
+        const QString next = pickNext();
         return next.isEmpty() ? QString() : GeneralModule::FindPictureFile(next);
     };
     indexing.exec();

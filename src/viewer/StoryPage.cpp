@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -121,7 +122,7 @@ void StoryPage::ShowPictures(const std::vector<ShownPicture>& pictures, std::vec
     fade_->Begin({0, 0, width(), bandHeight_});
 }
 
-void StoryPage::FadeIntoNext()
+std::shared_ptr<void> StoryPage::FadeIntoNext()
 {
     std::vector<PageFade::Picture> pictures;
     for (const PictureBox* box : imgImage_) {
@@ -129,6 +130,11 @@ void StoryPage::FadeIntoNext()
             pictures.push_back({box->geometry(), box->GetPicture()});
     }
     fade_->Keep(std::move(pictures), bandColor);
+    // The page may be closed meanwhile.
+    return std::shared_ptr<void>(nullptr, [fade = QPointer(fade_)](void*) {
+        if (fade)
+            fade->Forget();
+    });
 }
 
 void StoryPage::ShowFullSize(const ShownPicture& picture, const QImage& image)

@@ -31,7 +31,7 @@ public:
     // Each box's tag is its picture's File; boxes without a picture are hidden.
     void ShowPictures(const std::vector<ShownPicture>& pictures,
                       std::vector<QImage> images) override;
-    void FadeIntoNext() override;
+    std::shared_ptr<void> FadeIntoNext() override;
     void ShowFullSize(const ShownPicture& picture, const QImage& image) override;
     void LeaveFullSize() override;
     void SetNotice(const QString& text) override;

@@ -25,8 +25,12 @@ StoryMode StoryReader::GetMode() const
 
 Outlook StoryReader::GetOutlook() const
 {
-    return {StoryStep::Nothing,      Position,           Nblines, display_.GetPage(),
-            display_.GetDisplayed(), display_.GetList(), seeds_};
+    return {.position = Position,
+            .lines = Nblines,
+            .page = display_.GetPage(),
+            .pictures = display_.GetDisplayed(),
+            .list = display_.GetList(),
+            .seeds = seeds_};
 }
 
 Outlook StoryReader::Foresee(StoryWay way)
@@ -62,6 +66,7 @@ void StoryReader::BeginLookingAhead()
         if (move.times > 1 && display_.GetDisplayed().size() > 1)
             continue;
         plans.emplace_back([this, move] {
+            const GeneralModule::NoWaiting noWaiting; // no key could be handled meanwhile
             const qreal pixelRatio = display_.Surface().GetShape(Nblines).pixelRatio;
             return RequestsFor(Foresee(move).pictures, pixelRatio);
         });
@@ -202,9 +207,9 @@ void StoryReader::ShowNextPictures()
         return Step(StoryWay::NextParagraph);
     display_.ShowNextScreen(Nblines);
     ScreenChanged();
+    // None of the files left in the list is there any more.
     if (display_.GetDisplayed().empty() && GetMode() == StoryMode::Story)
-        return Step(
-            StoryWay::NextParagraph); // none of the files left in the list is there any more
+        return Step(StoryWay::NextParagraph);
     ShowText(GetMode() == StoryMode::Selection);
 }
 
@@ -282,8 +287,9 @@ void StoryReader::SwitchAutoview()
 
 void StoryReader::StepByItself()
 {
+    std::shared_ptr<void> fade;
     if (GeneralModule::SoftTransitions)
-        display_.Surface().FadeIntoNext();
+        fade = display_.Surface().FadeIntoNext();
     if (GetMode() != StoryMode::Selection) {
         Go(StoryWay::NextParagraph);
     } else if (display_.GetList().Count() > 0) {

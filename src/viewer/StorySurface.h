@@ -24,8 +24,8 @@ public:
     // images holds a picture for each entry of pictures, null for one that cannot be read.
     virtual void ShowPictures(const std::vector<ShownPicture>& pictures,
                               std::vector<QImage> images) = 0;
-    // The pictures on show fade away over the ones that are shown next.
-    virtual void FadeIntoNext() = 0;
+    // The pictures on show fade away over the next ones, if they come before the result is released.
+    [[nodiscard]] virtual std::shared_ptr<void> FadeIntoNext() = 0;
     // One picture alone, the others hidden; and back again.
     virtual void ShowFullSize(const ShownPicture& picture, const QImage& image) = 0;
     virtual void LeaveFullSize() = 0;

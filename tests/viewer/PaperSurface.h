@@ -36,7 +36,7 @@ struct PaperSurface : StorySurface
         pictures = shown;
         images = std::move(decoded);
     }
-    void FadeIntoNext() override {}
+    std::shared_ptr<void> FadeIntoNext() override { return nullptr; }
     void ShowFullSize(const ShownPicture&, const QImage&) override {}
     void LeaveFullSize() override {}
     void SetNotice(const QString& text) override { notice = text; }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PaperSurface.h"
+#include "platform/data/Database.h"
 #include "support/AlbumFixture.h"
 #include "support/ScriptedDialogs.h"
 #include "viewer/StoryReader.h"
@@ -97,6 +98,16 @@ private slots:
             },
             [&] { hasThrown = ErrorOf([&] { story.reader.Go(StoryWay::NextParagraph); }) != 0; },
             [&] { QCOMPARE(story.reader.Position.paragraph, hasThrown ? 1 : 2); });
+    }
+
+    void LooksAheadWithoutWaiting()
+    {
+        Reading story;
+        story.Begin(story.album.AddThreeChapters({300, 600}));
+        QVERIFY(story.reader.IsLookingAhead());
+        const auto other = Database::Open(story.album.GetAlbum());
+        other->Execute("BEGIN EXCLUSIVE");
+        QTRY_VERIFY(!story.reader.IsLookingAhead()); // whoever presses a key waits for it
     }
 
     void ZoomsAndPages()

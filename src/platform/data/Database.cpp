@@ -103,7 +103,7 @@ void Database::Connect()
                                      mode | SQLITE_OPEN_NOMUTEX, nullptr);
     if (code != SQLITE_OK)
         ThrowEngineError(engine_, code);
-    sqlite3_busy_timeout(engine_, busyMilliseconds);
+    SetWaiting(true);
     sqlite3_limit(engine_, SQLITE_LIMIT_LENGTH, largestValue);
     sqlite3_limit(engine_, SQLITE_LIMIT_ATTACHED, 0);
     sqlite3_limit(engine_, SQLITE_LIMIT_TRIGGER_DEPTH, 0);
@@ -118,6 +118,11 @@ void Database::Connect()
             ThrowEngineError(engine_, result);
     }
     sqlite3_set_authorizer(engine_, Authorize, nullptr);
+}
+
+void Database::SetWaiting(bool isWaiting)
+{
+    sqlite3_busy_timeout(engine_, isWaiting ? busyMilliseconds : 0);
 }
 
 // A wrong key is detected only at the first read, as a file that is not a database.

@@ -37,8 +37,12 @@ public:
     // Increases with every row that this program changes in the album; a row read at a lower count
     // may be stale.
     int ChangeCount() const;
-    // Another number after every change that another program has made.
-    qint64 ForeignVersion() const { return GetPragma("data_version"); }
+    // Changes with every commit of another program; see the engine's data_version.
+    qint64 VersionElsewhere() const { return GetPragma("data_version"); }
+
+    // Whether a lock of another program is waited for, some seconds, before InUse is thrown. True
+    // from the beginning.
+    void SetWaiting(bool isWaiting);
 
     void Execute(const QByteArray& sql);
 

@@ -42,11 +42,6 @@ void LookAhead::Begin(std::vector<Plan> plans)
     timer_.start(0);
 }
 
-void LookAhead::Stop()
-{
-    timer_.stop();
-}
-
 void LookAhead::WorkOn()
 {
     if (!mayWork_())

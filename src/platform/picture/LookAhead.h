@@ -22,13 +22,12 @@ public:
     explicit LookAhead(std::function<bool()> mayWork, QObject* parent = nullptr);
     ~LookAhead() override;
 
-    // Bytes of pixels to be held at most, besides those on show.
-    void SetRoom(qint64 bytes) { pictures_.SetRoom(bytes); }
+    // See ReadyPictures.
+    void SetRoom(QSize screen, int count) { pictures_.SetRoom(screen, count); }
 
     // From now on these are made ready, the first one first. What is ready and in none of them is
     // given up.
     void Begin(std::vector<Plan> plans);
-    void Stop();
     bool IsWorking() const { return timer_.isActive(); }
 
     // The pictures to be shown now, null for an unreadable one; decodes what is not ready.

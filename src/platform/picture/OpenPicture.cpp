@@ -116,7 +116,7 @@ qint64 OpenPicture::DecoderBytes()
 // The WebP decoder takes the whole file at once.
 bool OpenPicture::CanBeHeld()
 {
-    return format_ != "webp" && DecoderBytes() <= bytesOfLarge;
+    return format_ != "webp" && !Size().isEmpty() && DecoderBytes() <= bytesOfLarge;
 }
 
 void OpenPicture::SetDevice()

@@ -28,10 +28,10 @@ public:
     // a size beyond any screen.
     QImage Read(QSize target);
 
-    // Maximum memory for that in bytes, besides the picture in its final size.
+    // Maximum memory for that in bytes, besides the picture in its final size; for a readable file.
     qint64 DecoderBytes();
     // Whether the decoder reads the file bit by bit, so that a gate can hold it at any time, and
-    // does so without a lock.
+    // does so without a lock. False where the file cannot be read.
     bool CanBeHeld();
 
 private:

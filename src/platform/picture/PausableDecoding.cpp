@@ -2,6 +2,7 @@
 #include "platform/picture/PausableDecoding.h"
 
 #include <exception>
+#include <system_error>
 #include <utility>
 
 PausableDecoding::PausableDecoding(const PictureRequest& request, DecodingSignal& signal)
@@ -32,9 +33,12 @@ void PausableDecoding::Resume()
         mayRun_ = true;
     }
     if (thread_.joinable())
-        resumed_.notify_one();
-    else
+        return resumed_.notify_one();
+    try {
         thread_ = std::thread([this] { Run(); });
+    } catch (const std::system_error&) {
+        Run();
+    }
 }
 
 void PausableDecoding::Pause()

@@ -17,8 +17,8 @@ struct DecodingSignal
     std::condition_variable changed;
 };
 
-// One picture that a thread of its own decodes, but only while it is let: it pauses at once, and
-// goes on where it was. All functions but the gate's belong to the owner's thread.
+// One picture that a thread of its own decodes between Resume and Pause; it goes on where it was.
+// All functions but the gate's belong to the owner's thread.
 class PausableDecoding
 {
 public:
@@ -29,11 +29,13 @@ public:
     PausableDecoding(const PausableDecoding&) = delete;
     PausableDecoding& operator=(const PausableDecoding&) = delete;
 
-    // False when the picture cannot be paused, so that decoding it would hold up everything else.
+    // False when the picture cannot be paused, so that decoding it would hold up everything else,
+    // and when it cannot be read.
     bool IsPausable();
     // Maximum memory for it in bytes.
     qint64 GetBytes() { return picture_.DecoderBytes(); }
 
+    // Decodes all of it before it returns where the system has no thread left.
     void Resume();
     // It stops very soon. IsStill tells when.
     void Pause();

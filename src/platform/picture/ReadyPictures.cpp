@@ -6,6 +6,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <exception>
 
 namespace {
 
@@ -18,13 +19,23 @@ bool IsSame(const PictureRequest& one, const PictureRequest& other)
     return one.size == other.size && one.path == other.path;
 }
 
-qint64 BytesOf(const PictureRequest& request)
+qint64 BytesOf(QSize pixels)
 {
     constexpr qint64 bytesPerPixel = 4;
-    return request.size.width() * bytesPerPixel * request.size.height();
+    return pixels.width() * bytesPerPixel * pixels.height();
+}
+
+qint64 BytesOf(const PictureRequest& request)
+{
+    return BytesOf(request.size);
 }
 
 } // namespace
+
+void ReadyPictures::SetRoom(QSize screen, int count)
+{
+    room_ = BytesOf(screen) * count;
+}
 
 ReadyPictures::FileState ReadyPictures::StateOf(const QString& path)
 {
@@ -153,9 +164,13 @@ bool ReadyPictures::BeginDecoding(Entry& entry)
         if (!other.isWanted && !other.isShown)
             other.decoding.reset();
     }
-    entry.decoding = std::make_unique<PausableDecoding>(entry.request, signal_);
-    if (entry.decoding->IsPausable())
-        return true;
+    try {
+        entry.decoding = std::make_unique<PausableDecoding>(entry.request, signal_);
+        if (entry.decoding->IsPausable())
+            return true;
+    } catch (const std::exception&) {
+        // Out of memory, which may pass until it is asked for.
+    }
     entry.decoding.reset();
     entry.isLeft = true;
     return false;

@@ -15,8 +15,8 @@
 class ReadyPictures
 {
 public:
-    // Bytes of pixels to be held at most, besides those on show.
-    void SetRoom(qint64 bytes) { room_ = bytes; }
+    // Holds at most as many pixels as that many screens of this size, besides those on show.
+    void SetRoom(QSize screen, int count);
 
     // Nothing is wanted any more. What is there stays as long as its room is not needed.
     void WantNothing();
@@ -77,5 +77,5 @@ private:
 
     DecodingSignal signal_;    // outlives the decodings
     std::list<Entry> entries_; // in the order in which they were wanted last
-    qint64 room_ = 0;
+    qint64 room_ = 0;          // bytes of pixels
 };

@@ -17,6 +17,8 @@ constexpr QSize unreadableSize(320, 240);
 // rested this long (milliseconds).
 constexpr int decodePause = 120;
 
+constexpr int screensHeld = 2; // besides the one on show
+
 } // namespace
 
 FittedPicture::FittedPicture(QWidget* parent)
@@ -46,10 +48,11 @@ void FittedPicture::Expect(const QString& path)
     BeginLookingAhead();
 }
 
+// Where nothing is expected, what was made ready before is given up.
 void FittedPicture::BeginLookingAhead()
 {
     lookAhead_.Begin({[this]() -> std::vector<PictureRequest> {
-        const QSize naturalSize = ReadPictureInfo(expected_).size;
+        const QSize naturalSize = expected_.isEmpty() ? QSize() : ReadPictureInfo(expected_).size;
         if (naturalSize.isEmpty())
             return {};
         return {{expected_, ToPixels(SizeFor(naturalSize))}};
@@ -82,15 +85,12 @@ void FittedPicture::Place()
 void FittedPicture::Decode()
 {
     decodeDelay_.stop();
-    constexpr qint64 bytesPerPixel = 4;
-    const QSize screen = ToPixels(size());
-    lookAhead_.SetRoom(2 * screen.width() * bytesPerPixel * screen.height());
+    lookAhead_.SetRoom(ToPixels(size()), screensHeld);
     QImage picture;
     if (!naturalSize_.isEmpty())
         picture = lookAhead_.Take({{path_, ToPixels(imgImage_->size())}}).front();
     imgImage_->SetPicture(picture);
-    if (!expected_.isEmpty())
-        BeginLookingAhead();
+    BeginLookingAhead();
 }
 
 void FittedPicture::resizeEvent(QResizeEvent*)
