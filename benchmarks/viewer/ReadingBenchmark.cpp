@@ -157,7 +157,7 @@ void Measure(QSize size, const Way& way)
     std::fflush(stdout);
 }
 
-// "VmRSS" or "VmHWM", in mebibytes.
+// "VmHWM", the peak, or "RssAnon", what is held without the libraries' code, in mebibytes.
 double MemoryOf(const char* kind)
 {
     std::ifstream status("/proc/self/status");
@@ -177,8 +177,10 @@ void ForgetPeak()
 
 void PrintMemory(double before)
 {
-    std::printf("memory before the viewer %.0f MiB, peak %.0f, afterwards %.0f\n", before,
-                MemoryOf("VmHWM"), MemoryOf("VmRSS"));
+    Reading::WaitFor(look); // what was given up last is given back
+    std::printf("memory held before the viewer %.0f MiB, peak with all code %.0f, held afterwards "
+                "%.0f\n",
+                before, MemoryOf("VmHWM"), MemoryOf("RssAnon"));
 }
 
 void MeasureAll()
@@ -206,7 +208,7 @@ int main(int argc, char** argv)
     QtDialogs dialogs;
     return RunWithStory(argc, argv, dialogs, [] {
         ForgetPeak();
-        const double before = MemoryOf("VmRSS");
+        const double before = MemoryOf("RssAnon");
         if (QCoreApplication::arguments().contains(QLatin1String("--trace")))
             Trace();
         else

@@ -1,29 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/picture/JpegFile.h"
 
+#include "platform/picture/JpegMarkers.h"
+#include "platform/picture/JpegScans.h"
+
 #include <QtEndian>
 
 #include <algorithm>
 #include <bitset>
-#include <cstring>
 #include <vector>
 
-namespace {
+using namespace JpegMarker;
 
-enum Marker : uchar {
-    none = 0x00,
-    restartFirst = 0xD0,
-    start = 0xD8,
-    end = 0xD9,
-    scan = 0xDA,
-    programFirst = 0xE0,
-    exif = 0xE1,
-    profile = 0xE2,
-    colours = 0xEE,
-    programLast = 0xEF,
-    comment = 0xFE,
-    fill = 0xFF,
-};
+namespace {
 
 // Thumbnails, depth maps and profiles included; real files are far smaller.
 constexpr qint64 maxHeadBytes = 32 << 20;
@@ -44,17 +33,6 @@ bool IsFrame(uchar marker)
 {
     // Three markers in this range are not frames: two kinds of tables and a reserved one.
     return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
-}
-
-// Markers without a length and a body.
-bool IsBare(uchar marker)
-{
-    return marker == 0x01 || (marker >= restartFirst && marker <= end);
-}
-
-bool IsOfPrograms(uchar marker)
-{
-    return (marker >= programFirst && marker <= programLast) || marker == comment;
 }
 
 // Selects the few application segments that affect how the pixels are shown.
@@ -109,8 +87,7 @@ Segment NextSegment(const QByteArray& jpeg, qsizetype at)
     for (at = jpeg.indexOf(char(fill), at); at >= 0 && at + 1 < jpeg.size();
          at = jpeg.indexOf(char(fill), at + 1)) {
         const uchar marker = byteAt(at + 1);
-        const bool isRestart = marker >= restartFirst && marker < start;
-        if (marker == none || marker == fill || isRestart)
+        if (IsWithinScan(marker))
             continue;
         if (IsBare(marker))
             return {marker, at, at + 2};
@@ -198,37 +175,10 @@ QByteArray ReadJpegHead(QIODevice& file)
 
 void AppendJpegScans(QByteArray& jpeg, QIODevice& file)
 {
-    const qsizetype headBytes = jpeg.size();
-    jpeg.resize(headBytes + std::max<qint64>(file.size() - file.pos(), 0));
-    const qint64 got = file.read(jpeg.data() + headBytes, jpeg.size() - headBytes);
-    jpeg.truncate(headBytes + std::max<qint64>(got, 0));
-
-    qsizetype kept = headBytes; // what is kept ends here
-    qsizetype from = headBytes; // what is kept next begins here
-    qsizetype to = jpeg.size();
-    const auto keepUpTo = [&](qsizetype place) {
-        if (kept == from) {
-            kept = place;
-            return;
-        }
-        std::memmove(jpeg.data() + kept, jpeg.constData() + from, std::size_t(place - from));
-        kept += place - from;
-    };
-    for (Segment segment = NextSegment(jpeg, headBytes); segment.marker != none;
-         segment = NextSegment(jpeg, segment.next)) {
-        if (segment.marker == end) {
-            to = segment.next;
-            break;
-        }
-        if (segment.next > jpeg.size())
-            break;
-        if (IsOfPrograms(segment.marker)) {
-            keepUpTo(segment.at);
-            from = segment.next;
-        }
-    }
-    keepUpTo(to);
-    jpeg.truncate(kept);
+    jpeg.reserve(jpeg.size() + std::max<qint64>(file.size() - file.pos(), 0));
+    JpegScans scans(file);
+    for (QByteArray more = scans.Next(); !more.isEmpty(); more = scans.Next())
+        jpeg += more;
 }
 
 bool JpegNeedsWholePicture(const QByteArray& jpeg)

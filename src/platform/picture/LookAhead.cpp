@@ -1,25 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "platform/picture/LookAhead.h"
 
+#include "platform/picture/Heap.h"
+
+#include <QCoreApplication>
+
 #include <exception>
 #include <utility>
-
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace {
 
 // A third of a screen's frame: a key that comes meanwhile is handled before anyone notices.
 constexpr std::chrono::milliseconds slice(5);
-
-// The library that manages memory keeps what was freed, file by file and picture by picture.
-void GiveMemoryBack()
-{
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
-}
 
 } // namespace
 
@@ -29,10 +21,11 @@ LookAhead::LookAhead(std::function<bool()> mayWork, QObject* parent)
     connect(&timer_, &QTimer::timeout, this, &LookAhead::WorkOn);
 }
 
+// Its owner's window still holds the pictures on show.
 LookAhead::~LookAhead()
 {
-    pictures_.Clear();
-    GiveMemoryBack();
+    if (QCoreApplication* application = QCoreApplication::instance())
+        QTimer::singleShot(0, application, GiveMemoryBack);
 }
 
 void LookAhead::Begin(std::vector<Plan> plans)

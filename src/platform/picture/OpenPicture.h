@@ -46,11 +46,11 @@ private:
     bool IsPngByLine() const;
     QImage Prepared(QSize size) const;
     qint64 DecoderBytes(QSize size);
-    bool LoadScans();
+    bool BeginJpegScans();
 
     QFile file_;
     QByteArray format_;
-    QByteArray bytes_; // of a JPEG as far as it is read, or of a GIF
+    QByteArray bytes_; // of a JPEG's head, or all of it where it is decoded as a whole; of a GIF
     bool isInterlaced_ = false;
     qint64 bytesUpToSize_ = 0;
     std::unique_ptr<QIODevice> device_; // null where the decoder reads the file itself
