@@ -4,7 +4,6 @@
 #include "platform/data/DatabaseError.h"
 #include "platform/shell/ProgramFolder.h"
 
-#include <QElapsedTimer>
 #include <QtEndian>
 
 #include <algorithm>
@@ -43,16 +42,15 @@ ReaderProcess::~ReaderProcess()
     process_.waitForFinished(finishMilliseconds);
 }
 
-bool ReaderProcess::FetchMore(int& patience)
+// The time counts from where the frame was waited for first: a byte now and then is no progress.
+bool ReaderProcess::FetchMore(int& patience, const QElapsedTimer& waiting)
 {
     if (used_ > 0) {
         buffer_.remove(0, used_);
         used_ = 0;
     }
-    QElapsedTimer silence;
-    silence.start();
-    if (process_.bytesAvailable() == 0 &&
-        !process_.waitForReadyRead(std::max(patience, leastPatience))) {
+    const int left = std::max(patience, leastPatience) - int(waiting.elapsed());
+    if (process_.bytesAvailable() == 0 && !process_.waitForReadyRead(std::max(left, 0))) {
         if (process_.state() != QProcess::NotRunning) {
             process_.kill();
             process_.waitForFinished(finishMilliseconds);
@@ -60,7 +58,7 @@ bool ReaderProcess::FetchMore(int& patience)
             return false;
         }
         if (process_.exitStatus() == QProcess::CrashExit)
-            patience = std::max(0, patience - int(silence.elapsed()));
+            patience = std::max(0, patience - int(waiting.elapsed()));
     }
     const QByteArray more = process_.readAllStandardOutput();
     volume_ += more.size();
@@ -70,6 +68,8 @@ bool ReaderProcess::FetchMore(int& patience)
 
 std::optional<ReaderProcess::Frame> ReaderProcess::Next(int& patience)
 {
+    QElapsedTimer waiting;
+    waiting.start();
     while (true) {
         const qsizetype have = buffer_.size() - used_;
         if (have >= qsizetype(OldAlbumStream::frameHead)) {
@@ -85,7 +85,7 @@ std::optional<ReaderProcess::Frame> ReaderProcess::Next(int& patience)
                              {head + OldAlbumStream::frameHead, qsizetype(size)}};
             }
         }
-        if (!FetchMore(patience))
+        if (!FetchMore(patience, waiting))
             return std::nullopt;
     }
 }

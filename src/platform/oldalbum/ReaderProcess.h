@@ -4,6 +4,7 @@
 #include "platform/oldalbum/OldAlbumStream.h"
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -28,9 +29,9 @@ public:
     explicit ReaderProcess(const QStringList& arguments, const QString& program = ReaderPath());
     ~ReaderProcess();
 
-    // The next frame. None at the end of the stream, when the reader has been silent for patience
-    // milliseconds (it is killed then, and patience is 0), or when its output is invalid. Subtracts
-    // from patience the time waited for a reader that stopped early.
+    // The next frame. None at the end of the stream, when the frame is not complete after patience
+    // milliseconds (the reader is killed then, and patience is 0), or when its output is invalid.
+    // Subtracts from patience the time waited for a reader that stopped early.
     std::optional<Frame> Next(int& patience);
 
     // Number of bytes received.
@@ -41,7 +42,7 @@ public:
     int Finish(const QByteArray& input = {});
 
 private:
-    bool FetchMore(int& patience);
+    bool FetchMore(int& patience, const QElapsedTimer& waiting);
 
     QProcess process_;
     QByteArray buffer_;
