@@ -535,14 +535,6 @@ Votre version :
         <translation>Cliquez pour choisir le filtre</translation>
     </message>
     <message>
-        <source>No longer among the values of this caracteristic</source>
-        <translation>Ne figure plus parmi les valeurs de cette caractéristique</translation>
-    </message>
-    <message>
-        <source>Pictures that have none of the chosen values</source>
-        <translation>Photos qui n&apos;ont aucune des valeurs choisies</translation>
-    </message>
-    <message>
         <source>Click a caracteristic to filter pictures</source>
         <translation>Cliquez une caractéristique pour filtrer les photos</translation>
     </message>
@@ -553,6 +545,105 @@ Votre version :
     <message>
         <source>Name the Caracteristics</source>
         <translation>Nommer les caractéristiques</translation>
+    </message>
+    <message>
+        <source>Find a value</source>
+        <translation>Chercher une valeur</translation>
+    </message>
+    <message>
+        <source>Picture filter in words</source>
+        <translation>Filtre des photos en toutes lettres</translation>
+    </message>
+</context>
+<context>
+    <name>FilterSentence</name>
+    <message>
+        <source>%1 is %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 is %2 or %3</source>
+        <translation>%1 : %2 ou %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, %3 or %4</source>
+        <translation>%1 : %2, %3 ou %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 is %2, %3 or one of %n others</source>
+        <translation>
+            <numerusform>%1 : %2, %3 ou %n autre</numerusform>
+            <numerusform>%1 : %2, %3 ou %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation>%1 : pas %2</translation>
+    </message>
+    <message>
+        <source>%1 is neither %2 nor %3</source>
+        <translation>%1 : ni %2 ni %3</translation>
+    </message>
+    <message>
+        <source>%1 is none of %2, %3 and %4</source>
+        <translation>%1 : ni %2, ni %3, ni %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 is none of %2, %3 and %n others</source>
+        <translation>
+            <numerusform>%1 : ni %2, ni %3, ni %n autre</numerusform>
+            <numerusform>%1 : ni %2, ni %3, ni %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not given</source>
+        <translation>non renseigné</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Any picture</source>
+        <translation>Toutes les photos</translation>
+    </message>
+    <message>
+        <source>%1, and %2</source>
+        <translation>%1, et %2</translation>
+    </message>
+    <message>
+        <source>%1, %2, and %3</source>
+        <translation>%1, %2, et %3</translation>
+    </message>
+    <message>
+        <source>the file is %1</source>
+        <translation>fichier : %1</translation>
+    </message>
+    <message>
+        <source>%1: ...</source>
+        <translation>%1 : ...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n pictures</source>
+        <translation>
+            <numerusform>%1 : %n photo</numerusform>
+            <numerusform>%1 : %n photos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: no picture fits</source>
+        <translation>%1 : aucune photo ne convient</translation>
+    </message>
+</context>
+<context>
+    <name>FilterValueList</name>
+    <message>
+        <source>No longer among the values of this caracteristic</source>
+        <translation>Ne figure plus parmi les valeurs de cette caractéristique</translation>
+    </message>
+    <message>
+        <source>Pictures that have none of the chosen values</source>
+        <translation>Photos qui n&apos;ont aucune des valeurs choisies</translation>
     </message>
 </context>
 <context>
@@ -938,6 +1029,10 @@ Le supprimer quand même ?</translation>
             <numerusform>%n photo restante</numerusform>
             <numerusform>%n photos restantes</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No picture fits.</source>
+        <translation>Aucune photo ne convient.</translation>
     </message>
 </context>
 <context>

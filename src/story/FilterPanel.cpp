@@ -7,15 +7,18 @@
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ClickLabel.h"
 #include "platform/widgets/LiteralText.h"
+#include "story/FilterSentence.h"
+#include "story/FilterValueList.h"
 #include "story/ParagraphMarkers.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace {
 
-constexpr int tokenRole = Qt::UserRole;
 constexpr int longestInCell = 1000; // characters; more than any screen is wide
 constexpr int labelPadding = 3;     // logical pixels; aligns the texts of both cells
 
@@ -50,16 +53,18 @@ FilterPanel::FilterPanel(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::FilterPanel>())
 {
     ui_->setupUi(this);
+    list_ = new FilterValueList(ui_->lstCar, ui_->txtFindValue, this);
     values_.fill(anyValue);
     CreateGrid();
     connect(ui_->grdCar, &QTableWidget::cellClicked, this, [this](int row, int gridColumn) {
         RunGuarded([&] { grdCar_Click(row, gridColumn); });
     });
-    connect(ui_->lstCar, &QListWidget::itemClicked, this,
-            Guarded(this, &FilterPanel::lstCar_Click));
+    connect(list_, &FilterValueList::Chosen, this,
+            [this](const QString& token) { RunGuarded([&] { lstCar_Click(token); }); });
+    connect(ui_->lblSentence, &QLabel::linkActivated, this,
+            [this](const QString& column) { RunGuarded([&] { lblSentence_Click(column); }); });
     connect(ui_->cmdEditLabels, &QPushButton::clicked, this, &FilterPanel::LabelsWanted);
     ui_->grdCar->installEventFilter(this);
-    ui_->lstCar->installEventFilter(this);
     CloseList();
 }
 
@@ -105,7 +110,9 @@ void FilterPanel::FitGridHeight()
     const int height = grid.horizontalHeader()->sizeHint().height() + grid.rowCount() * line +
                        2 * grid.frameWidth();
     grid.setMinimumHeight(height);
-    setMaximumHeight(2 * height);
+    constexpr int maxLines = 3; // of the sentence
+    ui_->lblSentence->setMaximumHeight(maxLines * fontMetrics().lineSpacing());
+    setMaximumHeight(2 * height + layout()->spacing() + ui_->lblSentence->maximumHeight());
 }
 
 void FilterPanel::changeEvent(QEvent* event)
@@ -135,6 +142,7 @@ void FilterPanel::ShowLabels()
     }
     ui_->cmdEditLabels->setVisible(!hasLabels);
     CloseList();
+    ShowSentence();
 }
 
 void FilterPanel::SetValues(const CarValues& values)
@@ -143,6 +151,8 @@ void FilterPanel::SetValues(const CarValues& values)
     for (int column = 0; column < columnCount; ++column)
         ShowFilter(column);
     CloseList();
+    count_.reset();
+    ShowSentence();
 }
 
 // Palette roles instead of colours follow the desktop's theme.
@@ -175,76 +185,67 @@ void FilterPanel::grdCar_Click(int row, int gridColumn)
 
 void FilterPanel::OpenList(int column)
 {
-    CloseList();
-    const std::vector<FilterChoice> choices = FilterChoices(column, values_[std::size_t(column)]);
-    openColumn_ = column;
-    for (const FilterChoice& choice : choices) {
-        auto* item = new QListWidgetItem(choice.text, ui_->lstCar);
-        item->setData(tokenRole, choice.token);
-        QFont font = item->font();
-        font.setItalic(!choice.isKnown);
-        item->setFont(font);
-        if (!choice.isKnown)
-            item->setToolTip(tr("No longer among the values of this caracteristic"));
-        else if (choice.token == negation)
-            item->setToolTip(tr("Pictures that have none of the chosen values"));
-    }
-    ui_->lstCar->setEnabled(true);
+    list_->Open(column, values_[std::size_t(column)]);
+    const int closed = std::exchange(openColumn_, column);
+    if (closed >= 0)
+        ShowFilter(closed);
     ui_->lblOpenCar->setText(names_[std::size_t(column)]);
     ui_->grdCar->setCurrentCell(LabelRow(column) + 1, GroupOf(column));
-    ui_->lstCar->setCurrentRow(0);
     ui_->lstCar->setFocus();
     ShowFilter(column);
-    MarkChosen();
 }
 
 void FilterPanel::CloseList()
 {
-    const int closed = openColumn_;
-    openColumn_ = -1;
+    list_->Close();
+    const int closed = std::exchange(openColumn_, -1);
     if (closed >= 0)
         ShowFilter(closed);
-    ui_->lstCar->clear();
-    ui_->lstCar->setEnabled(false);
     ui_->lblOpenCar->setText(tr("Click a caracteristic to filter pictures"));
 }
 
-void FilterPanel::MarkChosen()
+void FilterPanel::lstCar_Click(const QString& token)
 {
-    const HeldTokens held(values_[std::size_t(openColumn_)]);
-    for (int row = 0; row < ui_->lstCar->count(); ++row) {
-        QListWidgetItem* item = ui_->lstCar->item(row);
-        const QString token = item->data(tokenRole).toString();
-        const bool chosen = held.Contain(token);
-        if (token != anyValue)
-            item->setCheckState(chosen ? Qt::Checked : Qt::Unchecked);
-        QFont font = item->font();
-        font.setBold(chosen);
-        item->setFont(font);
-    }
-}
-
-void FilterPanel::lstCar_Click()
-{
-    const QListWidgetItem* item = ui_->lstCar->currentItem();
-    if (!item || openColumn_ < 0)
+    if (openColumn_ < 0)
         return;
     QString& value = values_[std::size_t(openColumn_)];
-    value = ToggleToken(value, item->data(tokenRole).toString());
+    value = ToggleToken(value, token);
     ShowFilter(openColumn_);
-    MarkChosen();
+    list_->MarkChosen(value);
+    count_.reset();
     emit ValuesChanged();
+    ShowSentence();
+}
+
+void FilterPanel::lblSentence_Click(const QString& column)
+{
+    OpenList(column.toInt());
+}
+
+void FilterPanel::SetFileSelection(const QString& selection)
+{
+    fileSelection_ = selection;
+    ShowSentence();
+}
+
+void FilterPanel::ShowCount(std::optional<int> pictures)
+{
+    count_ = pictures;
+    ShowSentence();
+}
+
+void FilterPanel::ShowSentence()
+{
+    const QString sentence = FilterSentence(GetQuery());
+    const QString text = WithCount(sentence, count_);
+    ui_->lblSentence->setText(text);
+    ui_->lblSentence->setToolTip(text);
 }
 
 bool FilterPanel::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress || !IsChoosingKey(static_cast<QKeyEvent*>(event)->key()))
         return QWidget::eventFilter(watched, event);
-    RunGuarded([&] {
-        if (watched == ui_->lstCar)
-            lstCar_Click();
-        else
-            grdCar_Click(ui_->grdCar->currentRow(), ui_->grdCar->currentColumn());
-    });
+    RunGuarded([&] { grdCar_Click(ui_->grdCar->currentRow(), ui_->grdCar->currentColumn()); });
     return true;
 }

@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "story/FilterValues.h"
+#include "story/PictureQuery.h"
 
 #include <QWidget>
 
 #include <array>
 #include <memory>
+#include <optional>
 
 class ClickLabel;
+class FilterValueList;
 
 namespace Ui {
 class FilterPanel;
 }
 
-// A paragraph's picture filter: all twelve characteristics by group, each with its chosen values
-// below its label, and beside them the list of values of the one being changed.
+// A picture filter: all twelve characteristics by group, each with its chosen values below its
+// label; beside them the list of values of the one being changed; below them the filter as a
+// sentence, whose conditions can be clicked.
 class FilterPanel : public QWidget
 {
     Q_OBJECT
@@ -29,7 +32,13 @@ public:
 
     // Closes the list.
     void SetValues(const CarValues& values);
+    // What the sentence says of files, see PictureQuery.
+    void SetFileSelection(const QString& selection);
     const CarValues& GetValues() const { return values_; }
+    // The filter with that selection.
+    PictureQuery GetQuery() const { return {.values = values_, .fileSelection = fileSelection_}; }
+    // The number of pictures that fit, none while it is not known.
+    void ShowCount(std::optional<int> pictures);
 
 signals:
     void ValuesChanged();
@@ -43,16 +52,20 @@ private:
     void CreateGrid();
     void FitGridHeight();
     void lblCar_Click(int column);
-    void lstCar_Click();
+    void lstCar_Click(const QString& token);
     void grdCar_Click(int row, int gridColumn);
     void OpenList(int column);
     void CloseList();
-    void MarkChosen();
+    void lblSentence_Click(const QString& column);
+    void ShowSentence();
     void ShowFilter(int column);
 
     std::unique_ptr<Ui::FilterPanel> ui_;
     std::array<ClickLabel*, columnCount> lblCar_{};
     std::array<QString, columnCount> names_; // with their groups
+    FilterValueList* list_;
     CarValues values_;
+    QString fileSelection_;
+    std::optional<int> count_;
     int openColumn_ = -1; // its values are in lstCar; -1 for none
 };

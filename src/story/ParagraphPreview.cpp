@@ -22,7 +22,10 @@ constexpr int maxPreviewed = 5000; // pictures
 } // namespace
 
 ParagraphPreview::ParagraphPreview(const Controls& controls, QObject* parent)
-    : QObject(parent), controls_(controls), imgImage_(controls.stage->findChild<PictureBox*>())
+    : QObject(parent),
+      controls_(controls),
+      imgImage_(controls.stage->findChild<PictureBox*>()),
+      invitation_(controls.noPicture->text())
 {
     imgImage_->setToolTip(tr("Click to edit image"));
     connect(controls_.isLinked, &QCheckBox::toggled, this,
@@ -36,6 +39,7 @@ void ParagraphPreview::Begin(qint32 paragraph)
     paragraph_ = paragraph;
     pictures_.clear();
     controls_.feedback->clear();
+    controls_.noPicture->setText(invitation_);
     ShowPicture({});
 }
 
@@ -51,6 +55,8 @@ void ParagraphPreview::FindPictures()
         controls_.feedback->repaint();
     });
     pictures_ = found.GetFiles();
+    if (pictures_.isEmpty())
+        controls_.noPicture->setText(tr("No picture fits."));
     ShowPicture(pictures_.isEmpty() ? QString() : pictures_.takeFirst());
 }
 

@@ -54,6 +54,7 @@ private:
 
     Controls controls_;
     PictureBox* imgImage_;
+    QString invitation_; // while no picture was looked for
     qint32 paragraph_ = 0;
     QStringList pictures_; // still to be shown
 };

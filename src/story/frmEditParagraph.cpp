@@ -10,6 +10,7 @@
 #include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/LiteralText.h"
 #include "platform/widgets/WindowSize.h"
+#include "story/FilterCounting.h"
 #include "story/MarkerInsertion.h"
 #include "story/ParagraphPreview.h"
 #include "story/frmOrganizeParagraphs.h"
@@ -41,6 +42,7 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
                                     this);
     insertion_ = new MarkerInsertion(
         {ui_->txtParagraph, ui_->lstInsertCar, ui_->cmdInsertCar, ui_->cmdCancelInsert}, this);
+    counting_ = new FilterCounting(ui_->filterPanel, this);
     KeepWindowSize(this, proposedSize);
     ConnectControls();
     // Both columns start at the same height, with or without icons on their buttons.
@@ -136,10 +138,13 @@ void frmEditParagraph::FillFromAlbum()
     const QString chapter = GeneralModule::ChapterTitle(CurrentChapter);
     std::vector<TextMarker> markers = ReadTextMarkers();
     const ParagraphContent content = LoadParagraph(CurrentParagraph);
+    const std::optional<Paragraph> stored = ReadParagraph(CurrentParagraph);
     ui_->filterPanel->ShowLabels();
+    ui_->filterPanel->SetFileSelection(stored ? stored->GetQuery().fileSelection : QString());
     setWindowTitle(AsWindowTitle(tr("Edit Paragraph from Chapter '%1'").arg(chapter)));
     insertion_->SetMarkers(std::move(markers));
     edit_.Load(content);
+    counting_->BeginAgain();
 }
 
 // The text box keeps caret and history if it already holds the text.
@@ -232,6 +237,7 @@ void frmEditParagraph::cmdCreateNext_Click()
     CurrentParagraph = place.paragraph;
     edit_.Unload();
     edit_.Load(created);
+    counting_->BeginAgain();
     ClearPreview();
     ui_->txtParagraph->setFocus();
 }

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+class FilterCounting;
 class MarkerInsertion;
 class ParagraphPreview;
 class QKeyEvent;
@@ -83,6 +84,7 @@ private:
     std::unique_ptr<Ui::frmEditParagraph> ui_;
     ParagraphPreview* preview_;
     MarkerInsertion* insertion_;
+    FilterCounting* counting_;
     ParagraphEdit edit_; // loaded while the controls hold CurrentParagraph
     bool isPreview_ = false;
 };

@@ -55,6 +55,45 @@ private slots:
         QCOMPARE(writing.Stored("Car0 || Car3", 2), "**");
     }
 
+    void FilterInWordsWithItsCount()
+    {
+        Writing writing;
+        writing.AddPicture("a.png", {{"Car4", "lake"}});
+        writing.AddPicture("b.png", {{"Car7", "Gone"}, {"Car9", "Big"}});
+        writing.Click("cmdNextParagraph");
+        const auto sentence = [&writing] {
+            return writing.Label("lblSentence").remove(QRegularExpression("<[^>]*>"));
+        };
+        QTRY_COMPARE(sentence(), "Any picture: 2 pictures");
+        writing.Click("cmdPreviousParagraph");
+        QCOMPARE(sentence(), "Where is Lake or Gone, and Caracteristic 10 is not Big: ...");
+        QTRY_COMPARE(sentence(), "Where is Lake or Gone, and Caracteristic 10 is not Big: 1 pictures");
+        emit Find<QLabel>(writing.editor, "lblSentence").linkActivated("4");
+        QTRY_COMPARE(writing.Values().item(5)->data(Qt::UserRole + 1).toString(), "1"); // Gone
+        QCOMPARE(writing.Values().item(4)->data(Qt::UserRole + 1).toString(), "0");     // Town
+        for (const int row : {5, 3, 4})
+            ClickLine(writing.Values(), row);
+        QTRY_COMPARE(sentence(), "Where is Town, and Caracteristic 10 is not Big: no picture fits");
+    }
+
+    void FindsAValueInALongList()
+    {
+        Writing writing;
+        writing.Execute("WITH n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 299) "
+                        "INSERT INTO Car0 SELECT 'Person ' || i FROM n");
+        writing.Click("lblCar_4");
+        QVERIFY(!writing.IsShown("txtFindValue"));
+        writing.Click("lblCar_0");
+        auto& search = Find<QLineEdit>(writing.editor, "txtFindValue");
+        QVERIFY(search.isVisible());
+        QTest::keyClicks(&writing.Values(), "n");
+        QTest::keyClicks(&search, " 299");
+        QCOMPARE(search.text(), "n 299");
+        QTest::keyClick(&search, Qt::Key_Return);
+        writing.Click("cmdNextParagraph");
+        QCOMPARE(writing.Stored("Car0", 1), "Person 299");
+    }
+
     void PreviewAndLinks()
     {
         Writing writing(2);

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/data/RowScan.h"
+#include "story/PictureQuery.h"
+
+#include <vector>
+
+// What pictures are looked for by; all of it must fit.
+struct SearchTerms
+{
+    PictureQuery query{};
+    // Each word must occur in the legend, the file's path or a value, in any letter case.
+    QString words{};
+    QString folder{}; // with the folders in it; any if empty
+    bool isNotIndexed = false;
+    bool isMissing = false; // the file is not there
+
+    bool operator==(const SearchTerms&) const = default;
+};
+
+// The terms as a filter of the table of pictures, without isMissing; empty for any picture.
+QString BuildSearchFilter(const SearchTerms& terms);
+
+// Looks through the open album for pictures, for some time at a time. Throws DatabaseError,
+// BadFilter for a value that a filter cannot hold.
+class PictureSearch
+{
+public:
+    explicit PictureSearch(const SearchTerms& terms);
+
+    // False when all pictures have been looked at.
+    bool Work(std::chrono::milliseconds time);
+
+    // Row numbers of the pictures found so far, in the album's order.
+    const std::vector<qint32>& GetFound() const { return found_; }
+    int Count() const { return int(found_.size()); }
+
+private:
+    RowScan scan_;
+    bool isMissing_;
+    std::vector<qint32> found_;
+};
