@@ -1,25 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/picture/LookAhead.h"
 
+#include "platform/picture/MemoryReturn.h"
+
 #include <exception>
 #include <utility>
-
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace {
 
 // A third of a screen's frame: a key that comes meanwhile is handled before anyone notices.
 constexpr std::chrono::milliseconds slice(5);
-
-// The library that manages memory keeps what was freed, file by file and picture by picture.
-void GiveMemoryBack()
-{
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
-}
 
 } // namespace
 

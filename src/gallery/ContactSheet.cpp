@@ -1,0 +1,389 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/ContactSheet.h"
+
+#include "core/Album.h"
+#include "core/AlbumPassword.h"
+#include "core/LocalCopy.h"
+#include "gallery/LargeViewing.h"
+#include "gallery/SheetDelegate.h"
+#include "gallery/SheetSelection.h"
+#include "platform/dialogs/Guard.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// Logical pixels.
+constexpr std::array sides{80, 112, 144, 184, 240, 320};
+constexpr int usualSide = sides[2];
+constexpr int lineGap = 4;
+
+constexpr std::chrono::milliseconds retryPause(500);
+
+QString PathToRead(const QString& file)
+{
+    const GeneralModule::NoWaiting noWaiting; // no key could be handled meanwhile
+    return GeneralModule::FindPictureFile(file);
+}
+
+// The thumbnails of an album with a password would lie there for everyone to see.
+bool MayShareThumbnails()
+{
+    return GeneralModule::IsAlbumOpen() && !GeneralModule::AlbumHasPassword();
+}
+
+bool IsZoomIn(const QKeyEvent& event)
+{
+    // Without Shift, where the plus is above the equals sign.
+    return event.matches(QKeySequence::ZoomIn) ||
+           (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Equal);
+}
+
+} // namespace
+
+ContactSheet::ContactSheet(QWidget* parent)
+    : QListView(parent),
+      model_(new SheetModel(this)),
+      thumbnails_(new ThumbnailStore(
+          {.findPath = PathToRead,
+           .mayShare = MayShareThumbnails,
+           .mayWork = [this] { return isVisible() && GeneralModule::IsAlbumOpen(); }},
+          this)),
+      delegate_(new SheetDelegate(*model_, *thumbnails_, this)),
+      large_(new LargeViewing(*this, *model_))
+{
+    SetUpView();
+    SetUpWork();
+    SetSide(usualSide);
+}
+
+// Its own work ends before what it shows goes.
+ContactSheet::~ContactSheet()
+{
+    disconnect(thumbnails_, nullptr, this, nullptr);
+}
+
+void ContactSheet::SetUpView()
+{
+    setAccessibleName(tr("Contact sheet"));
+    setModel(model_);
+    setItemDelegate(delegate_);
+    setViewMode(IconMode);
+    setMovement(Static);
+    setResizeMode(Adjust);
+    setUniformItemSizes(true); // else every thumbnail is asked for before the first is shown
+    setSelectionMode(ExtendedSelection);
+    setSelectionRectVisible(true);
+    setEditTriggers(NoEditTriggers);
+    setDragEnabled(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    // One that comes and goes would change the number of columns.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(this, &QListView::doubleClicked, large_, &LargeViewing::Open);
+}
+
+void ContactSheet::SetUpWork()
+{
+    model_->SetMissing([this](const QString& file) {
+        return thumbnails_->StateOf(file) == ThumbnailStore::State::Missing;
+    });
+    connect(thumbnails_, &ThumbnailStore::Changed, this, &ContactSheet::ThumbnailChanged);
+    asking_.setSingleShot(true);
+    connect(&asking_, &QTimer::timeout, this, &ContactSheet::AskForSeen);
+    retry_.setSingleShot(true);
+    connect(&retry_, &QTimer::timeout, viewport(), qOverload<>(&QWidget::update));
+}
+
+void ContactSheet::ShowPictures(std::vector<qint32> ids)
+{
+    const std::vector<qint32> selected = GetSelected();
+    const qint32 current = GetCurrent();
+    const int row = currentIndex().row();
+    const int top = visualRect(currentIndex()).top();
+    isFilling_ = true;
+    model_->Show(std::move(ids));
+    std::vector<qint32> sorted = selected;
+    std::ranges::sort(sorted);
+    selectionModel()->select(SelectionOf(*model_, model_->RowsOf(sorted)),
+                             QItemSelectionModel::ClearAndSelect);
+    const std::vector<int> rows = model_->RowsOf({current});
+    KeepPlace(rows.empty() ? std::min(row, model_->rowCount() - 1) : rows.front(), top);
+    isFilling_ = false;
+    AskAgain();
+    if (GetCurrent() != current) {
+        large_->Close();
+        emit CurrentChanged();
+    }
+    if (GetSelected() != selected)
+        emit SelectionChanged();
+}
+
+// The current picture stays where it is on the screen.
+void ContactSheet::KeepPlace(int row, int top)
+{
+    if (row < 0)
+        return;
+    const QModelIndex now = model_->index(row);
+    selectionModel()->setCurrentIndex(now, QItemSelectionModel::NoUpdate);
+    verticalScrollBar()->setValue(verticalOffset() + visualRect(now).top() - top);
+}
+
+std::vector<qint32> ContactSheet::GetSelected() const
+{
+    std::vector<qint32> ids = RowsIn(selectionModel()->selection());
+    for (qint32& each : ids)
+        each = model_->GetIds()[std::size_t(each)];
+    return ids;
+}
+
+qint32 ContactSheet::GetCurrent() const
+{
+    const int row = currentIndex().row();
+    return row < 0 ? 0 : model_->GetIds()[std::size_t(row)];
+}
+
+bool ContactSheet::GoTo(qint32 id)
+{
+    const std::vector<int> rows = model_->RowsOf({id});
+    if (rows.empty())
+        return false;
+    setCurrentIndex(model_->index(rows.front()));
+    return true;
+}
+
+void ContactSheet::SetLinked(std::function<bool(const QString&)> isLinked)
+{
+    model_->SetLinked(std::move(isLinked));
+    viewport()->update();
+}
+
+void ContactSheet::MarksChanged()
+{
+    model_->Forget();
+    AskAgain();
+}
+
+void ContactSheet::SetCaptions(Captions captions)
+{
+    model_->SetCaptions(captions);
+    viewport()->update();
+}
+
+// What is in the middle stays there.
+void ContactSheet::SetSide(int side)
+{
+    if (side == side_ || side <= 0)
+        return;
+    const QModelIndex middle = indexAt(viewport()->rect().center());
+    const bool isCurrentSeen = viewport()->rect().intersects(visualRect(currentIndex()));
+    side_ = side;
+    delegate_->SetSide(side);
+    Arrange();
+    if (isCurrentSeen)
+        scrollTo(currentIndex(), PositionAtCenter);
+    else if (middle.isValid())
+        scrollTo(middle, PositionAtCenter);
+    viewport()->update();
+}
+
+void ContactSheet::ChangeSide(int steps)
+{
+    const auto next = steps > 0 ? std::ranges::upper_bound(sides, side_)
+                                : std::ranges::lower_bound(sides, side_) - 1;
+    if (next < sides.begin() || next >= sides.end())
+        return;
+    SetSide(*next);
+    emit SideChanged(side_);
+}
+
+// The columns share the width evenly.
+void ContactSheet::Arrange()
+{
+    const QSize item = delegate_->SizeWith(fontMetrics());
+    const int width = viewport()->width();
+    columns_ = std::max(1, width / item.width());
+    const QSize grid(std::max(item.width(), width / columns_), item.height() + lineGap);
+    if (grid != gridSize())
+        setGridSize(grid);
+}
+
+void ContactSheet::updateGeometries()
+{
+    QListView::updateGeometries();
+    constexpr int stepsPerLine = 3; // a notch of the wheel is three steps
+    verticalScrollBar()->setSingleStep(std::max(1, gridSize().height() / stepsPerLine));
+}
+
+void ContactSheet::resizeEvent(QResizeEvent* event)
+{
+    Arrange();
+    QListView::resizeEvent(event);
+}
+
+void ContactSheet::changeEvent(QEvent* event)
+{
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        Arrange();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        AskAgain(); // files may have been changed by another program
+}
+
+int ContactSheet::RowsPerPage() const
+{
+    return std::max(1, viewport()->height() / std::max(1, gridSize().height())) * columns_;
+}
+
+QModelIndex ContactSheet::moveCursor(CursorAction action, Qt::KeyboardModifiers)
+{
+    const int count = model_->rowCount();
+    if (count == 0)
+        return {};
+    const int row = currentIndex().isValid() ? RowFor(action, currentIndex().row()) : 0;
+    return model_->index(std::clamp(row, 0, count - 1));
+}
+
+// May lie outside. The toolkit's own way stops at the ends of each line.
+int ContactSheet::RowFor(CursorAction action, int row) const
+{
+    const int last = model_->rowCount() - 1;
+    const int ahead = isRightToLeft() ? -1 : 1;
+    switch (action) {
+    case MoveUp:
+        return row < columns_ ? row : row - columns_;
+    case MoveDown:
+        // The last line may have nothing below, but it is a line.
+        return row / columns_ == last / columns_ ? row : row + columns_;
+    case MoveLeft:
+        return row - ahead;
+    case MoveRight:
+        return row + ahead;
+    case MovePrevious:
+        return row - 1;
+    case MoveNext:
+        return row + 1;
+    case MovePageUp:
+        return row - RowsPerPage();
+    case MovePageDown:
+        return row + RowsPerPage();
+    case MoveHome:
+        return 0;
+    case MoveEnd:
+        return last;
+    }
+    return row;
+}
+
+void ContactSheet::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        large_->Open();
+    else if (IsZoomIn(*event))
+        ChangeSide(1);
+    else if (event->matches(QKeySequence::ZoomOut))
+        ChangeSide(-1);
+    else if (event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Space &&
+             typed_.IsGoingOn())
+        keyboardSearch(event->text());
+    else
+        return QListView::keyPressEvent(event);
+    event->accept();
+}
+
+void ContactSheet::wheelEvent(QWheelEvent* event)
+{
+    if (event->modifiers() != Qt::ControlModifier)
+        return QListView::wheelEvent(event);
+    if (event->angleDelta().y() != 0)
+        ChangeSide(event->angleDelta().y() > 0 ? 1 : -1);
+    event->accept();
+}
+
+void ContactSheet::keyboardSearch(const QString& text)
+{
+    RunGuarded([&] { FindTyped(text); });
+}
+
+// The same letter again and again goes from one to the next.
+void ContactSheet::FindTyped(const QString& text)
+{
+    const bool goesOn = typed_.IsGoingOn();
+    if (!goesOn && text.trimmed().isEmpty())
+        return;
+    typed_.Add(text);
+    const int row = currentIndex().row();
+    std::optional<int> found = model_->FindText(typed_.Get(), goesOn ? std::max(row, 0) : row + 1);
+    if (!found && typed_.IsOneLetterRepeated())
+        found = model_->FindText(typed_.Get().first(1), row + 1);
+    if (found)
+        setCurrentIndex(model_->index(*found));
+    typed_.Found();
+}
+
+void ContactSheet::selectionChanged(const QItemSelection& selected, const QItemSelection& gone)
+{
+    QListView::selectionChanged(selected, gone);
+    if (!isFilling_)
+        emit SelectionChanged();
+}
+
+void ContactSheet::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QListView::currentChanged(current, previous);
+    if (!isFilling_)
+        emit CurrentChanged();
+}
+
+void ContactSheet::paintEvent(QPaintEvent* event)
+{
+    QListView::paintEvent(event);
+    if (model_->HasFailed())
+        retry_.start(retryPause);
+    if (!asking_.isActive())
+        asking_.start(0);
+}
+
+void ContactSheet::hideEvent(QHideEvent* event)
+{
+    QListView::hideEvent(event);
+    sideAsked_ = 0; // the work ends
+}
+
+void ContactSheet::AskAgain()
+{
+    thumbnails_->Recheck();
+    sideAsked_ = 0;
+    viewport()->update();
+}
+
+void ContactSheet::AskForSeen()
+{
+    const int height = gridSize().height();
+    if (!isVisible() || height <= 0)
+        return;
+    firstSeen_ = verticalOffset() / height * columns_;
+    const int end = ((verticalOffset() + viewport()->height() - 1) / height + 1) * columns_;
+    QStringList files;
+    for (int row = firstSeen_; row < std::min(end, model_->rowCount()); ++row)
+        files += model_->CardAt(row).file;
+    const int side = int(side_ * devicePixelRatioF());
+    if (files == seen_ && side == sideAsked_)
+        return;
+    seen_ = files;
+    sideAsked_ = side;
+    files.removeAll(QString());
+    thumbnails_->SetSide(side);
+    thumbnails_->Want(files);
+}
+
+void ContactSheet::ThumbnailChanged(const QString& file)
+{
+    for (qsizetype i = seen_.indexOf(file); i >= 0; i = seen_.indexOf(file, i + 1))
+        update(model_->index(firstSeen_ + int(i)));
+}
