@@ -18,10 +18,9 @@
 
 namespace {
 
-// Logical pixels.
+// Of the squares, logical pixels.
 constexpr std::array sides{80, 112, 144, 184, 240, 320};
 constexpr int usualSide = sides[2];
-constexpr int lineGap = 4;
 
 constexpr std::chrono::milliseconds retryPause(500);
 
@@ -47,7 +46,7 @@ bool IsZoomIn(const QKeyEvent& event)
 } // namespace
 
 ContactSheet::ContactSheet(QWidget* parent)
-    : QListView(parent),
+    : EvenGrid(parent),
       model_(new SheetModel(this)),
       thumbnails_(new ThumbnailStore(
           {.findPath = PathToRead,
@@ -62,29 +61,14 @@ ContactSheet::ContactSheet(QWidget* parent)
     SetSide(usualSide);
 }
 
-// Its own work ends before what it shows goes.
-ContactSheet::~ContactSheet()
-{
-    disconnect(thumbnails_, nullptr, this, nullptr);
-}
-
 void ContactSheet::SetUpView()
 {
     setAccessibleName(tr("Contact sheet"));
     setModel(model_);
     setItemDelegate(delegate_);
-    setViewMode(IconMode);
-    setMovement(Static);
-    setResizeMode(Adjust);
-    setUniformItemSizes(true); // else every thumbnail is asked for before the first is shown
     setSelectionMode(ExtendedSelection);
     setSelectionRectVisible(true);
     setEditTriggers(NoEditTriggers);
-    setDragEnabled(false);
-    setVerticalScrollMode(ScrollPerPixel);
-    // One that comes and goes would change the number of columns.
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(this, &QListView::doubleClicked, large_, &LargeViewing::Open);
 }
 
@@ -184,7 +168,7 @@ void ContactSheet::SetSide(int side)
     const bool isCurrentSeen = viewport()->rect().intersects(visualRect(currentIndex()));
     side_ = side;
     delegate_->SetSide(side);
-    Arrange();
+    SetItemSize(delegate_->SizeWith(fontMetrics()));
     if (isCurrentSeen)
         scrollTo(currentIndex(), PositionAtCenter);
     else if (middle.isValid())
@@ -202,82 +186,13 @@ void ContactSheet::ChangeSide(int steps)
     emit SideChanged(side_);
 }
 
-// The columns share the width evenly.
-void ContactSheet::Arrange()
-{
-    const QSize item = delegate_->SizeWith(fontMetrics());
-    const int width = viewport()->width();
-    columns_ = std::max(1, width / item.width());
-    const QSize grid(std::max(item.width(), width / columns_), item.height() + lineGap);
-    if (grid != gridSize())
-        setGridSize(grid);
-}
-
-void ContactSheet::updateGeometries()
-{
-    QListView::updateGeometries();
-    constexpr int stepsPerLine = 3; // a notch of the wheel is three steps
-    verticalScrollBar()->setSingleStep(std::max(1, gridSize().height() / stepsPerLine));
-}
-
-void ContactSheet::resizeEvent(QResizeEvent* event)
-{
-    Arrange();
-    QListView::resizeEvent(event);
-}
-
 void ContactSheet::changeEvent(QEvent* event)
 {
-    QListView::changeEvent(event);
+    EvenGrid::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        Arrange();
+        SetItemSize(delegate_->SizeWith(fontMetrics()));
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         AskAgain(); // files may have been changed by another program
-}
-
-int ContactSheet::RowsPerPage() const
-{
-    return std::max(1, viewport()->height() / std::max(1, gridSize().height())) * columns_;
-}
-
-QModelIndex ContactSheet::moveCursor(CursorAction action, Qt::KeyboardModifiers)
-{
-    const int count = model_->rowCount();
-    if (count == 0)
-        return {};
-    const int row = currentIndex().isValid() ? RowFor(action, currentIndex().row()) : 0;
-    return model_->index(std::clamp(row, 0, count - 1));
-}
-
-// May lie outside. The toolkit's own way stops at the ends of each line.
-int ContactSheet::RowFor(CursorAction action, int row) const
-{
-    const int last = model_->rowCount() - 1;
-    const int ahead = isRightToLeft() ? -1 : 1;
-    switch (action) {
-    case MoveUp:
-        return row < columns_ ? row : row - columns_;
-    case MoveDown:
-        // The last line may have nothing below, but it is a line.
-        return row / columns_ == last / columns_ ? row : row + columns_;
-    case MoveLeft:
-        return row - ahead;
-    case MoveRight:
-        return row + ahead;
-    case MovePrevious:
-        return row - 1;
-    case MoveNext:
-        return row + 1;
-    case MovePageUp:
-        return row - RowsPerPage();
-    case MovePageDown:
-        return row + RowsPerPage();
-    case MoveHome:
-        return 0;
-    case MoveEnd:
-        return last;
-    }
-    return row;
 }
 
 void ContactSheet::keyPressEvent(QKeyEvent* event)
@@ -292,14 +207,14 @@ void ContactSheet::keyPressEvent(QKeyEvent* event)
              typed_.IsGoingOn())
         keyboardSearch(event->text());
     else
-        return QListView::keyPressEvent(event);
+        return EvenGrid::keyPressEvent(event);
     event->accept();
 }
 
 void ContactSheet::wheelEvent(QWheelEvent* event)
 {
     if (event->modifiers() != Qt::ControlModifier)
-        return QListView::wheelEvent(event);
+        return EvenGrid::wheelEvent(event);
     if (event->angleDelta().y() != 0)
         ChangeSide(event->angleDelta().y() > 0 ? 1 : -1);
     event->accept();
@@ -328,30 +243,37 @@ void ContactSheet::FindTyped(const QString& text)
 
 void ContactSheet::selectionChanged(const QItemSelection& selected, const QItemSelection& gone)
 {
-    QListView::selectionChanged(selected, gone);
+    EvenGrid::selectionChanged(selected, gone);
     if (!isFilling_)
         emit SelectionChanged();
 }
 
 void ContactSheet::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    QListView::currentChanged(current, previous);
+    EvenGrid::currentChanged(current, previous);
     if (!isFilling_)
         emit CurrentChanged();
 }
 
 void ContactSheet::paintEvent(QPaintEvent* event)
 {
-    QListView::paintEvent(event);
-    if (model_->HasFailed())
+    EvenGrid::paintEvent(event);
+    if (model_->TakeFailure() && GeneralModule::IsAlbumOpen())
         retry_.start(retryPause);
     if (!asking_.isActive())
         asking_.start(0);
 }
 
+// What became current before there was a layout.
+void ContactSheet::showEvent(QShowEvent* event)
+{
+    EvenGrid::showEvent(event);
+    scrollTo(currentIndex());
+}
+
 void ContactSheet::hideEvent(QHideEvent* event)
 {
-    QListView::hideEvent(event);
+    EvenGrid::hideEvent(event);
     sideAsked_ = 0; // the work ends
 }
 
@@ -364,13 +286,12 @@ void ContactSheet::AskAgain()
 
 void ContactSheet::AskForSeen()
 {
-    const int height = gridSize().height();
-    if (!isVisible() || height <= 0)
+    if (!isVisible())
         return;
-    firstSeen_ = verticalOffset() / height * columns_;
-    const int end = ((verticalOffset() + viewport()->height() - 1) / height + 1) * columns_;
+    const Rows rows = SeenRows();
+    firstSeen_ = rows.first;
     QStringList files;
-    for (int row = firstSeen_; row < std::min(end, model_->rowCount()); ++row)
+    for (int row = rows.first; row < rows.end; ++row)
         files += model_->CardAt(row).file;
     const int side = int(side_ * devicePixelRatioF());
     if (files == seen_ && side == sideAsked_)

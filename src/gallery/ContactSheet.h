@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "gallery/EvenGrid.h"
 #include "gallery/SheetModel.h"
 #include "gallery/ThumbnailStore.h"
 #include "gallery/TypedText.h"
 
-#include <QListView>
 #include <QTimer>
 
 class LargeViewing;
@@ -14,7 +14,7 @@ class SheetDelegate;
 // Pictures of the open album as thumbnails, any number of them: only those that are seen are read
 // and decoded. Everything can be done by keys: the arrows with Shift and Ctrl, Ctrl+A, Ctrl + and -
 // for the size, letters to find a legend or a name, Enter for the picture over the whole window.
-class ContactSheet : public QListView
+class ContactSheet : public EvenGrid
 {
     Q_OBJECT
 
@@ -22,7 +22,6 @@ public:
     using Captions = SheetModel::Captions;
 
     explicit ContactSheet(QWidget* parent = nullptr);
-    ~ContactSheet() override;
 
     // Shows these, in this order, each once. What was selected or current stays so where it is
     // among them; where the current one is not, the one that took its place is current.
@@ -55,24 +54,19 @@ signals:
     void SideChanged(int side);
 
 protected:
-    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyboardSearch(const QString& text) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& gone) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
-    void updateGeometries() override;
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
     void SetUpView();
     void SetUpWork();
-    void Arrange();
-    int RowsPerPage() const;
-    int RowFor(CursorAction action, int row) const;
     void KeepPlace(int row, int top);
     void ChangeSide(int steps);
     void AskForSeen();
@@ -85,7 +79,6 @@ private:
     SheetDelegate* delegate_;
     LargeViewing* large_;
     int side_ = 0;
-    int columns_ = 1;
     bool isFilling_ = false; // the signals wait
 
     QTimer asking_;

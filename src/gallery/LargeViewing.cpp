@@ -13,6 +13,12 @@ LargeViewing::LargeViewing(ContactSheet& sheet, const SheetModel& model)
 {
 }
 
+// It belongs to the window, which may stay.
+LargeViewing::~LargeViewing()
+{
+    delete picture_;
+}
+
 void LargeViewing::Open()
 {
     if (!sheet_.currentIndex().isValid())

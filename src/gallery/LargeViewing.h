@@ -16,6 +16,7 @@ class LargeViewing : public QObject
 
 public:
     LargeViewing(ContactSheet& sheet, const SheetModel& model);
+    ~LargeViewing() override;
 
     // Nothing happens while the sheet has no current picture.
     void Open();

@@ -66,7 +66,6 @@ const SheetModel::Block* SheetModel::BlockOf(int row) const
             ids.subspan(first, std::min<std::size_t>(blockRows, ids.size() - first))));
         const Block* read = block.get();
         blocks_.insert(number, block.release());
-        hasFailed_ = false;
         return read;
     } catch (const DatabaseError&) {
         hasFailed_ = true;

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 // The pictures of a contact sheet: identifiers in a given order. What the album holds about them is
@@ -46,8 +47,8 @@ public:
     PictureCard CardAt(int row) const;
     QString CaptionAt(int row) const;
     Marks MarksAt(int row) const;
-    // Whether the last attempt to read cards failed.
-    bool HasFailed() const { return hasFailed_; }
+    // Whether an attempt to read cards has failed since this was asked last.
+    bool TakeFailure() { return std::exchange(hasFailed_, false); }
 
     // The next row at or after one, going round at the end, whose legend or name begins with the
     // text; when there is none, one that contains it. Throws DatabaseError.

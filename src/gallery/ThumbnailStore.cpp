@@ -84,7 +84,7 @@ void ThumbnailStore::Want(const QStringList& files)
         entry.lastWanted = wants_;
         if (!entry.isChecked)
             toLookAt_.push_back(file);
-        else if (entry.state == State::Blurred)
+        else if (entry.state == State::Blurred && !IsBeingDecoded(file))
             toDecode_.push_back(file);
     }
     const std::size_t before = decoding_.size();
@@ -93,10 +93,6 @@ void ThumbnailStore::Want(const QStringList& files)
     });
     if (decoding_.size() != before)
         TellDecoder();
-    std::erase_if(toDecode_, [&](const QString& file) {
-        return std::ranges::any_of(decoding_,
-                                   [&](const Decoding& each) { return each.file == file; });
-    });
     DropUntilThereIsRoom();
     if (!IsDone())
         timer_.start(0);
@@ -122,6 +118,11 @@ void ThumbnailStore::DropUntilThereIsRoom()
         bytes -= bytesOfEntry + entries_[file].image.sizeInBytes();
         entries_.remove(file);
     }
+}
+
+bool ThumbnailStore::IsBeingDecoded(const QString& file) const
+{
+    return std::ranges::any_of(decoding_, [&](const Decoding& each) { return each.file == file; });
 }
 
 bool ThumbnailStore::IsDone() const
@@ -184,7 +185,7 @@ void ThumbnailStore::LookAt(const QString& file, Entry& entry)
         entry.image = {};
     } else if (entry.state != State::Sharp && entry.state != State::Unreadable) {
         FindFirstImage(entry);
-        if (entry.state == State::Blurred)
+        if (entry.state == State::Blurred && !IsBeingDecoded(file))
             toDecode_.push_back(file);
     }
     entry.isChecked = true;
@@ -201,6 +202,7 @@ bool ThumbnailStore::FindFile(const QString& file, Entry& entry)
     const qint64 modified = info.lastModified().toMSecsSinceEpoch();
     if (entry.path != path || entry.modified != modified || entry.bytes != info.size()) {
         entry.state = State::Unknown;
+        std::erase_if(decoding_, [&](const Decoding& each) { return each.file == file; });
         entry.path = path;
         entry.modified = modified;
         entry.bytes = info.size();

@@ -85,6 +85,7 @@ private:
 
     void Work();
     void WorkUntil(Time deadline);
+    bool IsBeingDecoded(const QString& file) const;
     bool IsDone() const;
     void Rest();
     void LookAtNext();
