@@ -79,9 +79,9 @@ TextMatches FindPicturesByText(const QString& text)
     TextMatches matches;
     if (text.isEmpty())
         return matches;
-    const LikePattern beginning = PatternFor(EscapedForLike(text) + QLatin1Char('*'));
-    const LikePattern containing =
-        PatternFor(QLatin1Char('*') + EscapedForLike(text) + QLatin1Char('*'));
+    const QString plain = EscapedForLike(text);
+    const LikePattern beginning = PatternFor(plain + QLatin1Char('*'));
+    const LikePattern containing = PatternFor(QLatin1Char('*') + plain + QLatin1Char('*'));
     Statement rows(AlbumDatabase->GetEngine(),
                    "SELECT rowid,\"File\",\"Legend\" FROM \"Image\" WHERE " + rowsWithId +
                        " ORDER BY rowid");

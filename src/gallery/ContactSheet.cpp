@@ -2,14 +2,12 @@
 #include "gallery/ContactSheet.h"
 
 #include "core/Album.h"
-#include "core/AlbumPassword.h"
-#include "core/LocalCopy.h"
+#include "gallery/AlbumThumbnails.h"
 #include "gallery/LargeViewing.h"
 #include "gallery/SheetDelegate.h"
 #include "gallery/SheetSelection.h"
 #include "platform/dialogs/Guard.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 
@@ -24,18 +22,6 @@ constexpr int usualSide = sides[2];
 
 constexpr std::chrono::milliseconds retryPause(500);
 
-QString PathToRead(const QString& file)
-{
-    const GeneralModule::NoWaiting noWaiting; // no key could be handled meanwhile
-    return GeneralModule::FindPictureFile(file);
-}
-
-// The thumbnails of an album with a password would lie there for everyone to see.
-bool MayShareThumbnails()
-{
-    return GeneralModule::IsAlbumOpen() && !GeneralModule::AlbumHasPassword();
-}
-
 bool IsZoomIn(const QKeyEvent& event)
 {
     // Without Shift, where the plus is above the equals sign.
@@ -48,11 +34,7 @@ bool IsZoomIn(const QKeyEvent& event)
 ContactSheet::ContactSheet(QWidget* parent)
     : EvenGrid(parent),
       model_(new SheetModel(this)),
-      thumbnails_(new ThumbnailStore(
-          {.findPath = PathToRead,
-           .mayShare = MayShareThumbnails,
-           .mayWork = [this] { return isVisible() && GeneralModule::IsAlbumOpen(); }},
-          this)),
+      thumbnails_(new ThumbnailStore(SurroundingsInAlbum([this] { return isVisible(); }), this)),
       delegate_(new SheetDelegate(*model_, *thumbnails_, this)),
       large_(new LargeViewing(*this, *model_))
 {

@@ -17,7 +17,7 @@ EvenGrid::EvenGrid(QWidget* parent) : QListView(parent)
     setMovement(Static);
     setDragEnabled(false);
     setResizeMode(Adjust);
-    setUniformItemSizes(true); // else every item is asked for before the first is shown
+    setUniformItemSizes(true); // else each is measured before the first is shown
     setVerticalScrollMode(ScrollPerPixel);
     // One that comes and goes would change the number of columns.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

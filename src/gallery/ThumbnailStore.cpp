@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/ThumbnailStore.h"
 
+#include "gallery/ThumbnailSize.h"
 #include "platform/picture/EmbeddedThumbnail.h"
 #include "platform/picture/MemoryReturn.h"
 #include "platform/picture/SharedThumbnails.h"
@@ -28,22 +29,6 @@ constexpr qint64 second = 1000; // milliseconds
 constexpr qint64 defaultRoom = 16 << 20;
 constexpr qint64 bytesOfEntry = 1 << 10; // without its image
 
-// Never larger than the picture, as the standard of the desktop's store asks.
-QSize FittedInto(int side, QSize size)
-{
-    if (size.width() > side || size.height() > side)
-        size.scale(side, side, Qt::KeepAspectRatio);
-    return size.expandedTo({1, 1});
-}
-
-QImage ShrunkInto(int side, const QImage& image)
-{
-    const QSize size = FittedInto(side, image.size());
-    if (size == image.size())
-        return image;
-    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
 } // namespace
 
 ThumbnailStore::ThumbnailStore(Surroundings surroundings, QObject* parent)
@@ -51,8 +36,6 @@ ThumbnailStore::ThumbnailStore(Surroundings surroundings, QObject* parent)
 {
     connect(&timer_, &QTimer::timeout, this, &ThumbnailStore::Work);
 }
-
-ThumbnailStore::~ThumbnailStore() = default;
 
 void ThumbnailStore::SetSide(int side)
 {

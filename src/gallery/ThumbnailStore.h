@@ -41,7 +41,6 @@ public:
     };
 
     explicit ThumbnailStore(Surroundings surroundings, QObject* parent = nullptr);
-    ~ThumbnailStore() override;
 
     // Thumbnails fit into a square of that side (pixels). Those of another size stay, blurred,
     // until they are wanted again.

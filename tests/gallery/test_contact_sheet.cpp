@@ -25,6 +25,7 @@ private slots:
         ShowAll();
         QTRY_VERIFY(!sheet.IsWorking() && !looked.isEmpty());
         QVERIFY2(looked.size() < 100, qPrintable(QString::number(looked.size())));
+        QVERIFY(Words(0).contains("missing") && !Words(200).contains("missing"));
         looked.clear();
         sheet.scrollToBottom();
         sheet.repaint();
@@ -38,9 +39,10 @@ private slots:
         ShowAll();
         const std::vector<qint32> all = AllPictureIds();
         QVERIFY(sheet.GoTo(all[300]));
+        QTest::keyClick(&sheet, Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClick(&sheet, Qt::Key_Right, Qt::ShiftModifier);
+        sheet.verticalScrollBar()->setValue(sheet.verticalScrollBar()->value() - 37);
         const int top = sheet.visualRect(sheet.currentIndex()).top();
-        QTest::keyClick(&sheet, Qt::Key_Right, Qt::ShiftModifier);
-        QTest::keyClick(&sheet, Qt::Key_Right, Qt::ShiftModifier);
         QCOMPARE(sheet.GetSelected(), Part(all, 300, 3));
         QSignalSpy selections(&sheet, &ContactSheet::SelectionChanged);
         QSignalSpy currents(&sheet, &ContactSheet::CurrentChanged);
@@ -49,8 +51,7 @@ private slots:
         sheet.ShowPictures(fewer);
         QCOMPARE(sheet.GetSelected(), Part(all, 300, 3));
         QCOMPARE(sheet.GetCurrent(), all[302]);
-        QVERIFY(qAbs(sheet.visualRect(sheet.currentIndex()).top() - top) < 2 * sheet.height());
-        QVERIFY(sheet.viewport()->rect().intersects(sheet.visualRect(sheet.currentIndex())));
+        QCOMPARE(sheet.visualRect(sheet.currentIndex()).top(), top);
         QCOMPARE(selections.count() + currents.count(), 0);
 
         std::erase(fewer, all[302]); // what took its place is current
