@@ -242,6 +242,13 @@
     </message>
 </context>
 <context>
+    <name>ContactSheet</name>
+    <message>
+        <source>Contact sheet</source>
+        <translation>Planche-contact</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseError</name>
     <message>
         <source>The file &apos;%1&apos; does not exist.</source>
@@ -1104,6 +1111,21 @@ Le supprimer quand même ?</translation>
     <message>
         <source>The album as it was before is kept in &apos;%1&apos;.</source>
         <translation>L&apos;album tel qu&apos;il était est gardé dans « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>SheetModel</name>
+    <message>
+        <source>linked</source>
+        <translation>liée</translation>
+    </message>
+    <message>
+        <source>not indexed</source>
+        <translation>non indexée</translation>
+    </message>
+    <message>
+        <source>file is missing</source>
+        <translation>fichier introuvable</translation>
     </message>
 </context>
 <context>

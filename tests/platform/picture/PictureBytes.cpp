@@ -28,6 +28,27 @@ QByteArray WithOrientation(const QByteArray& jpeg, char orientation)
     return bytes.insert(2, QByteArray("\xFF\xE1\0\x22", 4) + block);
 }
 
+QByteArray WithThumbnail(const QByteArray& jpeg, const QByteArray& thumbnail, char orientation)
+{
+    QByteArray block;
+    QDataStream stream(&block, QIODevice::WriteOnly); // big-endian
+    const auto entry = [&stream](quint16 tag, quint32 value) {
+        stream << tag << quint16(4) << quint32(1) << value;
+    };
+    stream.writeRawData("Exif\0\0MM\0*", 10);
+    stream << quint32(8) << quint16(1) << quint16(0x0112) << quint16(3) << quint32(1);
+    stream << quint16(orientation) << quint16(0) << quint32(26); // the second directory's place
+    stream << quint16(2);
+    entry(0x0201, 56);
+    entry(0x0202, quint32(thumbnail.size()));
+    stream << quint32(0);
+    block += thumbnail;
+    QByteArray length;
+    QDataStream(&length, QIODevice::WriteOnly) << quint16(block.size() + 2);
+    QByteArray bytes = jpeg;
+    return bytes.insert(2, "\xFF\xE1" + length + block);
+}
+
 QByteArray WithClaimedJpegSize(QByteArray jpeg, QSize size)
 {
     const qsizetype frame = std::max(jpeg.indexOf("\xFF\xC0"), jpeg.indexOf("\xFF\xC2"));

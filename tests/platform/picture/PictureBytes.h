@@ -12,6 +12,9 @@ QByteArray Encoded(const QImage& image, const char* format, bool progressive = f
 // A JPEG whose EXIF block asks for a turn; orientation as stored, so 1 to 8 where it is valid.
 QByteArray WithOrientation(const QByteArray& jpeg, char orientation);
 
+// A JPEG whose EXIF block holds a thumbnail besides.
+QByteArray WithThumbnail(const QByteArray& jpeg, const QByteArray& thumbnail, char orientation);
+
 // A JPEG whose frame header claims another size. The rest stays.
 QByteArray WithClaimedJpegSize(QByteArray jpeg, QSize size);
 

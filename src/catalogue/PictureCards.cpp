@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/PictureCards.h"
+
+#include "catalogue/CharacteristicModel.h"
+#include "core/AlbumSets.h"
+#include "platform/data/ReadLock.h"
+#include "platform/data/Statement.h"
+#include "platform/files/PathRoutines.h"
+#include "platform/text/LikePattern.h"
+
+#include <limits>
+
+using GeneralModule::AlbumDatabase;
+
+namespace {
+
+// Row numbers that fit an identifier, which are all that the program assigns.
+const QByteArray rowsWithId =
+    "rowid BETWEEN 1 AND " + QByteArray::number(std::numeric_limits<qint32>::max());
+
+// Null counts as a value, as it does where the viewer selects the pictures not yet indexed.
+QByteArray ConditionForNotIndexed()
+{
+    QStringList conditions;
+    for (int column = 0; column < columnCount; ++column)
+        conditions += QStringLiteral("\"%1\"='-'").arg(CarField(column));
+    return conditions.join(QLatin1String(" AND ")).toUtf8();
+}
+
+QString TextOf(const Statement& row, int column)
+{
+    const std::string_view text = row.GetUtf8(column);
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+std::string_view Utf8FileNameOf(std::string_view path)
+{
+    return path.substr(Utf8FolderOf(path).size());
+}
+
+LikePattern PatternFor(const QString& pattern)
+{
+    return {pattern.toStdString(), LikePattern::Case::Insensitive};
+}
+
+} // namespace
+
+std::vector<qint32> AllPictureIds()
+{
+    std::vector<qint32> ids;
+    Statement rows(AlbumDatabase->GetEngine(),
+                   "SELECT rowid FROM \"Image\" WHERE " + rowsWithId + " ORDER BY rowid");
+    while (rows.Step())
+        ids.push_back(qint32(rows.GetInteger(0)));
+    return ids;
+}
+
+std::vector<PictureCard> ReadPictureCards(std::span<const qint32> ids)
+{
+    const ReadLock lock(*AlbumDatabase);
+    Statement row(AlbumDatabase->GetEngine(), "SELECT \"File\",\"Legend\"," +
+                                                  ConditionForNotIndexed() +
+                                                  " FROM \"Image\" WHERE rowid=?1");
+    std::vector<PictureCard> cards;
+    cards.reserve(ids.size());
+    for (const qint32 id : ids) {
+        PictureCard& card = cards.emplace_back();
+        row.Bind(1, qint64(id));
+        if (!row.Step())
+            continue;
+        card = {id, TextOf(row, 0), TextOf(row, 1), row.IsNull(2) || row.GetInteger(2) == 0};
+        row.Reset();
+    }
+    return cards;
+}
+
+TextMatches FindPicturesByText(const QString& text)
+{
+    TextMatches matches;
+    if (text.isEmpty())
+        return matches;
+    const QString plain = EscapedForLike(text);
+    const LikePattern beginning = PatternFor(plain + QLatin1Char('*'));
+    const LikePattern containing = PatternFor(QLatin1Char('*') + plain + QLatin1Char('*'));
+    Statement rows(AlbumDatabase->GetEngine(),
+                   "SELECT rowid,\"File\",\"Legend\" FROM \"Image\" WHERE " + rowsWithId +
+                       " ORDER BY rowid");
+    while (rows.Step()) {
+        const auto id = qint32(rows.GetInteger(0));
+        const std::string_view name = Utf8FileNameOf(rows.GetUtf8(1));
+        const std::string_view legend = rows.GetUtf8(2);
+        if (beginning.Matches(legend) || beginning.Matches(name))
+            matches.beginning.push_back(id);
+        else if (containing.Matches(legend) || containing.Matches(name))
+            matches.containing.push_back(id);
+    }
+    return matches;
+}
