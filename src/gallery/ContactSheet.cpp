@@ -119,7 +119,10 @@ bool ContactSheet::GoTo(qint32 id)
     const std::vector<int> rows = model_->RowsOf({id});
     if (rows.empty())
         return false;
-    setCurrentIndex(model_->index(rows.front()));
+    // Not by setCurrentIndex, which heeds the keys that are held down.
+    const QModelIndex index = model_->index(rows.front());
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    scrollTo(index);
     return true;
 }
 

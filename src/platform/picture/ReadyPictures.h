@@ -28,6 +28,7 @@ public:
     bool IsReady(const PictureRequest& request);
     // Whether fewer pictures are to do than there are cores.
     bool HasIdleCores() const;
+    void Clear() { entries_.clear(); }
     // Forgets everything that is neither wanted nor on show.
     void DropUnwanted();
 

@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/frmFindPictures.h"
+#include "ui_frmFindPictures.h"
+
+#include "catalogue/MovedPictures.h"
+#include "catalogue/PictureCards.h"
+#include "catalogue/frmEditImage.h"
+#include "core/Album.h"
+#include "core/LocalCopy.h"
+#include "gallery/frmPlaceParagraph.h"
+#include "platform/dialogs/Guard.h"
+#include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/FormButtons.h"
+#include "platform/widgets/OfferedControl.h"
+#include "platform/widgets/WindowSize.h"
+#include "story/ParagraphInsertion.h"
+#include "story/ParagraphLinks.h"
+#include "story/frmEditParagraph.h"
+
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QShortcut>
+
+#include <algorithm>
+#include <deque>
+
+namespace {
+
+constexpr QSize proposedSize(1120, 780);
+
+} // namespace
+
+frmFindPictures::frmFindPictures(QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::frmFindPictures>()), run_(new SearchRun(this))
+{
+    ui_->setupUi(this);
+    setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    ui_->lblFailure->hide();
+    KeepWindowSize(this, proposedSize);
+    ConnectControls();
+}
+
+frmFindPictures::~frmFindPictures() = default;
+
+void frmFindPictures::ConnectControls()
+{
+    using Form = frmFindPictures;
+    ConnectButtons<Form>(
+        this, {
+                  {ui_->cmdReadPictures, "read-chapter", &Form::cmdReadPictures_Click},
+                  {ui_->cmdDescribe, "index-pictures", &Form::cmdDescribe_Click},
+                  {ui_->cmdLink, "link", &Form::cmdLink_Click},
+                  {ui_->cmdMakeParagraph, "chapter-create", &Form::cmdMakeParagraph_Click},
+                  {ui_->cmdExit, "exit", &Form::cmdExit_Click},
+              });
+    connect(ui_->txtWords, &QLineEdit::textChanged, this, &Form::TermsChanged);
+    connect(ui_->txtFolder, &QLineEdit::textChanged, this, &Form::TermsChanged);
+    connect(ui_->filterPanel, &FilterPanel::ValuesChanged, this, &Form::TermsChanged);
+    connect(ui_->chkNotIndexed, &QCheckBox::toggled, this, &Form::TermsChanged);
+    connect(ui_->chkMissing, &QCheckBox::toggled, this, &Form::TermsChanged);
+    connect(run_, &SearchRun::Found, this, &Form::ShowFound);
+    connect(run_, &SearchRun::Failed, this, &Form::ShowFailure);
+    connect(ui_->sheet, &ContactSheet::SelectionChanged, this, Guarded(this, &Form::RefreshState));
+    connect(ui_->sheet, &ContactSheet::CurrentChanged, this, Guarded(this, &Form::RefreshState));
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, ui_->txtWords, [this] {
+        ui_->txtWords->setFocus();
+        ui_->txtWords->selectAll();
+    });
+    ui_->txtWords->installEventFilter(this);
+    ui_->txtFolder->installEventFilter(this);
+}
+
+void frmFindPictures::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    RunGuarded([this] { Form_Load(); });
+    ui_->txtWords->setFocus();
+}
+
+void frmFindPictures::Form_Load()
+{
+    linked_ = CurrentParagraph > 0 ? LinkedFiles(CurrentParagraph) : QSet<QString>();
+    ui_->cmdReadPictures->setVisible(bool(ReadPictures));
+    ui_->cmdLink->setVisible(CurrentParagraph > 0);
+    ui_->filterPanel->ShowLabels();
+    ui_->filterPanel->SetValues(Values);
+    ui_->sheet->SetLinked([this](const QString& file) { return linked_.contains(file); });
+    const QSignalBlocker quiet(ui_->chkMissing);
+    ui_->chkMissing->setChecked(IsMissing);
+    run_->BeginAtOnce(GetTerms());
+    RefreshState();
+}
+
+SearchTerms frmFindPictures::GetTerms() const
+{
+    return {.query = ui_->filterPanel->GetQuery(),
+            .words = ui_->txtWords->text(),
+            .folder = ui_->txtFolder->text(),
+            .isNotIndexed = ui_->chkNotIndexed->isChecked(),
+            .isMissing = ui_->chkMissing->isChecked()};
+}
+
+void frmFindPictures::TermsChanged()
+{
+    isComplete_ = false;
+    run_->Begin(GetTerms());
+}
+
+// After something was done with the pictures.
+void frmFindPictures::SearchAgain()
+{
+    ui_->sheet->MarksChanged();
+    run_->BeginAtOnce(GetTerms());
+    RefreshState();
+}
+
+void frmFindPictures::ShowFound(const std::vector<qint32>& pictures, bool isComplete)
+{
+    isComplete_ = isComplete;
+    ui_->lblFailure->hide();
+    RunGuarded([&] {
+        ui_->sheet->ShowPictures(pictures);
+        if (isComplete)
+            ui_->filterPanel->ShowCount(int(pictures.size()));
+        RefreshState();
+    });
+}
+
+void frmFindPictures::ShowFailure(const QString& reason)
+{
+    ui_->lblFailure->setText(reason);
+    ui_->lblFailure->show();
+    RunGuarded([&] {
+        ui_->sheet->ShowPictures({});
+        RefreshState();
+    });
+}
+
+// The selected pictures, else the current one.
+QStringList frmFindPictures::ChosenFiles() const
+{
+    std::vector<qint32> ids = ui_->sheet->GetSelected();
+    if (ids.empty() && ui_->sheet->GetCurrent() != 0)
+        ids.push_back(ui_->sheet->GetCurrent());
+    QStringList files;
+    for (const PictureCard& card : ReadPictureCards(ids)) {
+        if (!card.file.isEmpty())
+            files += card.file;
+    }
+    return files;
+}
+
+bool frmFindPictures::AreAllLinked(const QStringList& files) const
+{
+    return std::all_of(files.begin(), files.end(),
+                       [this](const QString& file) { return linked_.contains(file); });
+}
+
+void frmFindPictures::RefreshState()
+{
+    const bool hasPictures = !ui_->sheet->GetPictures().empty();
+    const bool hasChosen = ui_->sheet->GetCurrent() != 0 || !ui_->sheet->GetSelected().empty();
+    ui_->cmdReadPictures->setEnabled(hasPictures);
+    const QString reason =
+        GeneralModule::IsAlbumReadOnly() ? GeneralModule::ReadOnlyReason() : QString();
+    OfferUnless(*ui_->cmdDescribe, hasChosen, reason);
+    OfferUnless(*ui_->cmdLink, hasChosen, reason);
+    OfferUnless(*ui_->cmdMakeParagraph, true, reason);
+    if (CurrentParagraph == 0 || !hasChosen)
+        return;
+    const bool areLinked = AreAllLinked(ChosenFiles());
+    ui_->cmdLink->setText(areLinked ? tr("Unlink from Paragraph") : tr("Link to Paragraph"));
+}
+
+// Down goes on to the pictures, and Return too; folders are offered once somebody wants one.
+bool frmFindPictures::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        const bool isList = watched == ui_->txtFolder && key == Qt::Key_Down;
+        if (!isList && (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter)) {
+            ui_->sheet->setFocus();
+            return true;
+        }
+    }
+    if (event->type() == QEvent::FocusIn && watched == ui_->txtFolder &&
+        !ui_->txtFolder->completer())
+        RunGuarded([this] {
+            const BusyPointer busy;
+            auto* completer = new QCompleter(PictureFolders(), ui_->txtFolder);
+            completer->setCaseSensitivity(Qt::CaseInsensitive);
+            completer->setFilterMode(Qt::MatchContains);
+            ui_->txtFolder->setCompleter(completer);
+        });
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmFindPictures::cmdReadPictures_Click()
+{
+    const std::vector<qint32> selected = ui_->sheet->GetSelected();
+    QStringList files;
+    for (const PictureCard& card :
+         ReadPictureCards(selected.size() > 1 ? selected : ui_->sheet->GetPictures()))
+        files += card.file;
+    ReadPictures(this, files);
+    SearchAgain();
+}
+
+// Several chosen ones, else the current one and those after it.
+void frmFindPictures::cmdDescribe_Click()
+{
+    const QStringList chosen = ChosenFiles();
+    std::deque<QString> upcoming(chosen.begin(), chosen.end());
+    if (chosen.size() == 1) {
+        const std::vector<qint32>& all = ui_->sheet->GetPictures();
+        const auto current = std::find(all.begin(), all.end(), ui_->sheet->GetCurrent());
+        upcoming.clear();
+        for (const PictureCard& card : ReadPictureCards({current, all.end()}))
+            upcoming.push_back(card.file);
+    }
+    if (upcoming.empty())
+        return;
+    frmEditImage window(this);
+    window.CurrentImage = upcoming.front();
+    upcoming.pop_front();
+    window.HasNextPicture = [&] { return !upcoming.empty(); };
+    window.NextPicture = [&] {
+        const QString next = upcoming.empty() ? QString() : upcoming.front();
+        if (!upcoming.empty())
+            upcoming.pop_front();
+        return next;
+    };
+    window.ForeseeNextPicture = [&] {
+        return upcoming.empty() ? QString() : GeneralModule::FindPictureFile(upcoming.front());
+    };
+    window.exec();
+    SearchAgain();
+}
+
+void frmFindPictures::cmdLink_Click()
+{
+    const QStringList files = ChosenFiles();
+    SetLinked(CurrentParagraph, files, !AreAllLinked(files));
+    linked_ = LinkedFiles(CurrentParagraph);
+    ui_->sheet->MarksChanged();
+    RefreshState();
+}
+
+void frmFindPictures::cmdMakeParagraph_Click()
+{
+    frmPlaceParagraph placing(this);
+    if (placing.exec() != QDialog::Accepted)
+        return;
+    const ParagraphPlace place =
+        InsertParagraph(placing.Chapter, placing.After, ui_->filterPanel->GetValues());
+    frmEditParagraph editor(this);
+    editor.CurrentChapter = place.chapter;
+    editor.CurrentParagraph = place.paragraph;
+    editor.exec();
+    SearchAgain();
+}
+
+void frmFindPictures::cmdExit_Click()
+{
+    reject();
+}

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/ContactSheet.h"
+#include "gallery/frmFindPictures.h"
+#include "support/AlbumFixture.h"
+#include "support/ModalDriver.h"
+
+#include <QtTest>
+
+namespace {
+
+// Three pictures, two chapters; the window open with a paragraph to link to.
+struct Finding
+{
+    AlbumFixture album;
+    frmFindPictures window;
+    QStringList read;
+
+    Finding()
+    {
+        album.AddPicture("lake.png", {{"Legend", "Anna swims"}, {"Car3", "Anna"}});
+        album.AddPicture("town.png", {{"Legend", "Bob"}, {"Car6", "Bob"}});
+        album.AddPicture("none.png");
+        album.AddImageRow("/gone/x.png", {{"Car3", "Anna"}});
+        const qint32 chapter = album.AddChapter("One");
+        album.AddChapter("Two");
+        window.CurrentParagraph = album.AddParagraph(chapter, "first");
+        album.AddParagraph(chapter, "second");
+        window.ReadPictures = [this](QWidget*, const QStringList& files) { read = files; };
+    }
+
+    QLineEdit& Words() { return Find<QLineEdit>(window, "txtWords"); }
+    ContactSheet& Sheet() { return Find<ContactSheet>(window, "sheet"); }
+    std::vector<qint32> Shown() { return Sheet().GetPictures(); }
+    QString Sentence() { return Find<QLabel>(window, "lblSentence").text(); }
+};
+
+} // namespace
+
+class TestFindPictures : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void FindsAsOneTypes()
+    {
+        Finding finding;
+        finding.window.Values[3] = "Anna";
+        finding.window.show();
+        QTRY_COMPARE(finding.Shown(), std::vector<qint32>({1, 4}));
+        QTRY_VERIFY(finding.Sentence().endsWith(": 2 pictures"));
+        QTest::keyClicks(&finding.Words(), "swim");
+        QTRY_COMPARE(finding.Shown(), std::vector<qint32>({1}));
+        Find<QCheckBox>(finding.window, "chkMissing").click();
+        QTRY_VERIFY(finding.Shown().empty());
+        QVERIFY(!Find<QWidget>(finding.window, "cmdReadPictures").isEnabled());
+        finding.Words().clear();
+        QTRY_COMPARE(finding.Shown(), std::vector<qint32>({4}));
+        Find<QCheckBox>(finding.window, "chkMissing").click();
+        Find<QLineEdit>(finding.window, "txtFolder").setText("/gone");
+        QTRY_COMPARE(finding.Shown(), std::vector<qint32>({4}));
+        finding.window.Values[3] = "O'Hara"; // which no filter can hold
+        finding.window.hide();
+        finding.window.show();
+        QTRY_VERIFY(Find<QWidget>(finding.window, "lblFailure").isVisible());
+        QVERIFY(finding.Shown().empty());
+    }
+
+    void LinksWhatIsChosen()
+    {
+        Finding finding;
+        finding.window.show();
+        QTRY_COMPARE(finding.Shown().size(), 4U);
+        QTest::keyClick(&finding.Words(), Qt::Key_Down);
+        QTest::keyClick(&finding.Sheet(), Qt::Key_A, Qt::ControlModifier);
+        auto& link = Find<QPushButton>(finding.window, "cmdLink");
+        QCOMPARE(link.text(), "Link to Paragraph");
+        link.click();
+        QCOMPARE(link.text(), "Unlink from Paragraph");
+        QCOMPARE(finding.album.Joined("SELECT count(*) FROM LinkedImages WHERE ParagraphId=1"), "4");
+        QVERIFY(finding.Sheet().GoTo(2));
+        link.click();
+        QCOMPARE(finding.album.Joined("SELECT count(*) FROM LinkedImages"), "3");
+        QVERIFY(finding.Sheet().GoTo(4));
+        Click(finding.window, "cmdReadPictures");
+        QCOMPARE(finding.read.size(), 4);
+    }
+
+    void DescribesThoseAfterThisOne()
+    {
+        Finding finding;
+        finding.window.show();
+        QTRY_COMPARE(finding.Shown().size(), 4U);
+        QVERIFY(finding.Sheet().GoTo(2));
+        WhenModal("frmEditImage", [](QWidget& indexing) {
+            Find<QLineEdit>(indexing, "txtLegend").setText("Robert");
+            Click(indexing, "cmdNextImage");
+            Find<QLineEdit>(indexing, "txtLegend").setText("Nobody");
+            indexing.close();
+        });
+        Click(finding.window, "cmdDescribe");
+        QCOMPARE(finding.album.Joined("SELECT Legend FROM Image"),
+                 "Anna swims; Robert; Nobody; ");
+        QTest::keyClicks(&finding.Words(), "robert");
+        QTRY_COMPARE(finding.Shown(), std::vector<qint32>({2}));
+    }
+
+    void MakesAParagraphAtAPlace()
+    {
+        const std::tuple<int, int, QString> rows[] = {{0, 0, "One:xfirstsecond Two:"},
+                                                      {0, 1, "One:firstxsecond Two:"},
+                                                      {0, 2, "One:firstsecondx Two:"},
+                                                      {1, 0, "One:firstsecond Two:x"}};
+        for (const auto& [chapter, row, story] : rows) {
+            Finding finding;
+            finding.window.Values[3] = "Anna;Bob";
+            finding.window.show();
+            WhenModal("frmPlaceParagraph", [chapter = chapter, row = row](QWidget& placing) {
+                Find<QComboBox>(placing, "cboChapter").setCurrentIndex(chapter);
+                Find<QListWidget>(placing, "lstParagraph").setCurrentRow(row);
+                WhenModal("frmEditParagraph", [](QWidget& editor) {
+                    Find<QPlainTextEdit>(editor, "txtParagraph").setPlainText("x");
+                    editor.close();
+                });
+                Click(placing, "cmdMakeParagraph");
+            });
+            Click(finding.window, "cmdMakeParagraph");
+            QCOMPARE(finding.album.Story(), story);
+            QCOMPARE(finding.album.Joined("SELECT Car3 FROM Paragraph WHERE Text='x'"),
+                     "Anna;Bob");
+        }
+    }
+};
+
+QTEST_MAIN(TestFindPictures)
+#include "test_find_pictures.moc"
