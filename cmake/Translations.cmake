@@ -16,8 +16,12 @@ function(lumenark_translations target)
   qt_add_resources(${target} translations PREFIX /translations BASE ${folder} FILES ${compiled})
 endfunction()
 
-# Takes the texts of the sources over into the translations: new ones come as unfinished.
+# Takes the texts of the sources over into the translations: new ones come as unfinished. English has
+# only the forms of counted texts.
 file(GLOB translations ${CMAKE_SOURCE_DIR}/resources/translations/*.ts)
+list(FILTER translations EXCLUDE REGEX "_en\\.ts$")
 add_custom_target(update_translations
   COMMAND ${LUPDATE} -no-obsolete -locations none ${CMAKE_SOURCE_DIR}/src -ts ${translations}
+  COMMAND ${LUPDATE} -no-obsolete -pluralonly -locations none ${CMAKE_SOURCE_DIR}/src
+    -ts ${CMAKE_SOURCE_DIR}/resources/translations/lumenark_en.ts
   VERBATIM)

@@ -131,6 +131,38 @@
     </message>
 </context>
 <context>
+    <name>AlbumStatus</name>
+    <message numerus="yes">
+        <source>%Ln picture(s)</source>
+        <translation>
+            <numerusform>%Ln photo</numerusform>
+            <numerusform>%Ln photos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>all indexed</source>
+        <translation>toutes indexées</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln not indexed</source>
+        <translation>
+            <numerusform>%Ln non indexée</numerusform>
+            <numerusform>%Ln non indexées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no file missing</source>
+        <translation>aucun fichier manquant</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) missing</source>
+        <translation>
+            <numerusform>%Ln fichier manquant</numerusform>
+            <numerusform>%Ln fichiers manquants</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Autoview</name>
     <message>
         <source>Please enter delay in seconds : </source>
@@ -177,6 +209,13 @@
     <message>
         <source>This chapter contains paragraphs and can&apos;t be deleted</source>
         <translation>Ce chapitre contient des paragraphes et ne peut pas être supprimé</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln paragraph(s)</source>
+        <translation>
+            <numerusform>%Ln paragraphe</numerusform>
+            <numerusform>%Ln paragraphes</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -706,10 +745,103 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>KeySheet</name>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+</context>
+<context>
     <name>LongWorkDialog</name>
     <message>
         <source>Stop</source>
         <translation>Arrêter</translation>
+    </message>
+</context>
+<context>
+    <name>LookOptions</name>
+    <message>
+        <source>Small</source>
+        <translation>Petite</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>Very Large</source>
+        <translation>Très grande</translation>
+    </message>
+    <message>
+        <source>As on the Desktop</source>
+        <translation>Comme sur le bureau</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claires</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombres</translation>
+    </message>
+    <message>
+        <source>Changes at the next start of the program</source>
+        <translation>Change au prochain démarrage du programme</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindowKeys</name>
+    <message>
+        <source>Main window</source>
+        <translation>Fenêtre principale</translation>
+    </message>
+    <message>
+        <source>read the selected chapter</source>
+        <translation>lire le chapitre choisi</translation>
+    </message>
+    <message>
+        <source>read it in full screen</source>
+        <translation>le lire en plein écran</translation>
+    </message>
+    <message>
+        <source>rename the selected chapter</source>
+        <translation>renommer le chapitre choisi</translation>
+    </message>
+    <message>
+        <source>delete it, if it has no paragraphs</source>
+        <translation>le supprimer, s&apos;il n&apos;a pas de paragraphes</translation>
+    </message>
+    <message>
+        <source>move it up</source>
+        <translation>le monter</translation>
+    </message>
+    <message>
+        <source>move it down</source>
+        <translation>le descendre</translation>
+    </message>
+    <message>
+        <source>create a new album</source>
+        <translation>créer un nouvel album</translation>
+    </message>
+    <message>
+        <source>open an album</source>
+        <translation>ouvrir un album</translation>
+    </message>
+    <message>
+        <source>end the program</source>
+        <translation>terminer le programme</translation>
+    </message>
+    <message>
+        <source>open the manual</source>
+        <translation>ouvrir le manuel</translation>
+    </message>
+    <message>
+        <source>show this sheet</source>
+        <translation>montrer cette feuille</translation>
     </message>
 </context>
 <context>
@@ -932,6 +1064,53 @@ Appuyez sur F1 pour l&apos;aide</translation>
     <message>
         <source>Please give the password for : %1</source>
         <translation>Mot de passe de l&apos;album : %1</translation>
+    </message>
+</context>
+<context>
+    <name>OrganizerKeys</name>
+    <message>
+        <source>Paragraph organiser</source>
+        <translation>Organisation des paragraphes</translation>
+    </message>
+    <message>
+        <source>select the paragraph above</source>
+        <translation>choisir le paragraphe au-dessus</translation>
+    </message>
+    <message>
+        <source>select the paragraph below</source>
+        <translation>choisir le paragraphe au-dessous</translation>
+    </message>
+    <message>
+        <source>move the selected paragraph up</source>
+        <translation>monter le paragraphe choisi</translation>
+    </message>
+    <message>
+        <source>move the selected paragraph down</source>
+        <translation>descendre le paragraphe choisi</translation>
+    </message>
+    <message>
+        <source>show the previous chapter</source>
+        <translation>montrer le chapitre précédent</translation>
+    </message>
+    <message>
+        <source>show the next chapter</source>
+        <translation>montrer le chapitre suivant</translation>
+    </message>
+    <message>
+        <source>open the selected paragraph in the editor</source>
+        <translation>ouvrir le paragraphe choisi dans l&apos;éditeur</translation>
+    </message>
+    <message>
+        <source>go back to the editor</source>
+        <translation>revenir à l&apos;éditeur</translation>
+    </message>
+    <message>
+        <source>open the manual</source>
+        <translation>ouvrir le manuel</translation>
+    </message>
+    <message>
+        <source>show this sheet</source>
+        <translation>montrer cette feuille</translation>
     </message>
 </context>
 <context>
@@ -1876,6 +2055,50 @@ Le supprimer quand même ?</translation>
         <source>About Lumenark</source>
         <translation>À propos de Lumenark</translation>
     </message>
+    <message>
+        <source>Click to index them</source>
+        <translation>Cliquez pour les indexer</translation>
+    </message>
+    <message>
+        <source>Click to look for them</source>
+        <translation>Cliquez pour les chercher</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Read Full Screen</source>
+        <translation>Lire en plein écran</translation>
+    </message>
+    <message>
+        <source>Move Chapter Up</source>
+        <translation>Monter le chapitre</translation>
+    </message>
+    <message>
+        <source>Move Chapter Down</source>
+        <translation>Descendre le chapitre</translation>
+    </message>
+    <message>
+        <source>Edit Tables</source>
+        <translation>Modifier les tables</translation>
+    </message>
+    <message>
+        <source>Edit Labels</source>
+        <translation>Modifier les libellés</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Size of the Viewer&apos;s Text</source>
+        <translation>Taille du texte de la visionneuse</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Couleurs</translation>
+    </message>
 </context>
 <context>
     <name>frmOrganizeParagraphs</name>
@@ -1942,6 +2165,30 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Organize Paragraphs from Chapter &apos;%1&apos;</source>
         <translation>Organiser les paragraphes du chapitre « %1 »</translation>
+    </message>
+    <message>
+        <source>Previous Paragraph</source>
+        <translation>Paragraphe précédent</translation>
+    </message>
+    <message>
+        <source>Next Paragraph</source>
+        <translation>Paragraphe suivant</translation>
+    </message>
+    <message>
+        <source>Edit Paragraph</source>
+        <translation>Modifier le paragraphe</translation>
+    </message>
+    <message>
+        <source>Move Paragraph Up</source>
+        <translation>Monter le paragraphe</translation>
+    </message>
+    <message>
+        <source>Move Paragraph Down</source>
+        <translation>Descendre le paragraphe</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
     </message>
 </context>
 <context>

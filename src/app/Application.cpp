@@ -7,6 +7,7 @@
 #include "platform/widgets/HeldEscape.h"
 #include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/ThemedIcon.h"
+#include "ui/main/MainWindowKeys.h"
 
 void NameProgram()
 {
@@ -22,7 +23,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
     setWindowIcon(ProgramIcon());
     InstallTranslations(*this);
     Dialogs::Install(&dialogs_);
-    InstallHelpKey(GeneralModule::HelpFile());
+    InstallHelpKey(GeneralModule::HelpFile(), AllKeys);
     InstallHeldEscapeFilter();
 }
 

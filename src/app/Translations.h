@@ -3,6 +3,7 @@
 
 class QCoreApplication;
 
-// Translates the program's texts, and those of the toolkit's own boxes, into the user's language;
-// they stay English where there is no translation. Call before the first window opens.
+// Translates the program's texts, and those of the toolkit's own boxes, into the language that the
+// user has chosen, or the desktop's; they stay English where there is no translation. Numbers are
+// written accordingly. Call before the first window opens.
 void InstallTranslations(QCoreApplication& application);

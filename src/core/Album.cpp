@@ -179,6 +179,12 @@ bool IsAlbumOpen()
     return FindOpenedAlbum() != nullptr;
 }
 
+QString OpenAlbumPath()
+{
+    const Album* album = FindOpenedAlbum();
+    return album ? album->database->GetPath() : QString();
+}
+
 AlbumVersion GetAlbumVersion()
 {
     return {AlbumDatabase->ChangeCount(), AlbumDatabase->VersionElsewhere()};

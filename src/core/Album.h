@@ -12,6 +12,9 @@ namespace GeneralModule {
 
 bool IsAlbumOpen();
 
+// Full path of the open album; empty while none is open.
+QString OpenAlbumPath();
+
 // Of what the open album's tables hold. Two that are equal mean that nothing has changed.
 struct AlbumVersion
 {

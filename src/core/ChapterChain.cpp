@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 using namespace GeneralModule;
@@ -201,6 +203,32 @@ bool MoveChapterUp(const QString& name)
 bool MoveChapterDown(const QString& name)
 {
     return MoveChapter(name, ChainDirection::Next);
+}
+
+// One walk tells the neighbours of all exchanges; to look for them each time takes seconds in an
+// album of many chapters.
+bool MoveChapterBy(const QString& name, int places)
+{
+    const std::optional<qint32> moved = FindChapter(name);
+    const Chain chain = ChainOfChapters();
+    std::vector<qint32> order = chain.Rows(FirstChapter(), ChainDirection::Next);
+    const auto found = std::find(order.begin(), order.end(), moved.value_or(0));
+    if (found == order.end())
+        return false;
+    int place = int(found - order.begin());
+    const int target = std::clamp(place + places, 0, int(order.size()) - 1);
+    if (target == place)
+        return false;
+    const int step = target > place ? 1 : -1;
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    for (; place != target; place += step) {
+        const auto upper = std::size_t(std::min(place, place + step));
+        const qint32 before = upper == 0 ? 0 : order[upper - 1];
+        chain.Exchange(before, order[upper], order[upper + 1]);
+        std::swap(order[upper], order[upper + 1]);
+    }
+    batch.Finish();
+    return true;
 }
 
 } // namespace GeneralModule

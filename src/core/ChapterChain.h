@@ -64,5 +64,9 @@ ChapterDeletion DeleteChapter(const QString& name);
 // none.
 bool MoveChapterUp(const QString& name);
 bool MoveChapterDown(const QString& name);
+// Does the same as often, down or, for a negative number of places, up; it stops at the end of the
+// list. False, and nothing changed, when the chapter cannot be moved that way at all or is not
+// listed.
+bool MoveChapterBy(const QString& name, int places);
 
 } // namespace GeneralModule

@@ -9,6 +9,8 @@ const QString application = QStringLiteral("QVRLumenark");
 const QString userSection = QStringLiteral("User");
 const QString lastAlbum = QStringLiteral("LastDBOpened");
 
+const QString languageKey = QStringLiteral("Language");
+
 } // namespace
 
 namespace GeneralModule {
@@ -31,6 +33,16 @@ QString GetLastAlbum()
 void SaveLastAlbum(const QString& path)
 {
     SaveUserSetting(userSection, lastAlbum, path);
+}
+
+QString GetLanguage()
+{
+    return GetUserSetting(userSection, languageKey);
+}
+
+void SaveLanguage(const QString& code)
+{
+    SaveUserSetting(userSection, languageKey, code);
 }
 
 } // namespace GeneralModule

@@ -14,4 +14,8 @@ void SaveUserSetting(const QString& section, const QString& key, const QString& 
 QString GetLastAlbum();
 void SaveLastAlbum(const QString& path);
 
+// ISO 639 code of the language that the user has chosen for the program; empty for the desktop's.
+QString GetLanguage();
+void SaveLanguage(const QString& code);
+
 } // namespace GeneralModule

@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <cstdlib>
+
 using namespace GeneralModule;
 
 namespace {
@@ -105,6 +107,19 @@ bool MoveParagraphDown(ParagraphPlace& place)
 bool MoveParagraphUp(ParagraphPlace& place)
 {
     return MoveParagraph(place, ChainDirection::Previous);
+}
+
+bool MoveParagraphBy(ParagraphPlace& place, int rows)
+{
+    const ChainDirection direction = rows > 0 ? ChainDirection::Next : ChainDirection::Previous;
+    ParagraphPlace moved = place;
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    int done = 0;
+    while (done < std::abs(rows) && MoveParagraph(moved, direction))
+        ++done;
+    batch.Finish();
+    place = moved;
+    return done > 0;
 }
 
 std::vector<ParagraphLine> ListParagraphs(qint32 chapter)

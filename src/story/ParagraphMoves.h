@@ -17,6 +17,8 @@
 // False, with nothing changed, when there is no such chapter.
 bool MoveParagraphDown(ParagraphPlace& place);
 bool MoveParagraphUp(ParagraphPlace& place);
+// Does the same as often, down or, for a negative number of rows, up. False when nothing changed.
+bool MoveParagraphBy(ParagraphPlace& place, int rows);
 
 struct ParagraphLine
 {

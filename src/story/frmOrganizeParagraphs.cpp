@@ -2,15 +2,19 @@
 #include "story/frmOrganizeParagraphs.h"
 #include "ui_frmOrganizeParagraphs.h"
 
+#include "core/Album.h"
 #include "core/ChapterChain.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/FormButtons.h"
 #include "platform/widgets/LiteralText.h"
+#include "platform/widgets/OfferedControl.h"
+#include "platform/widgets/RowDrag.h"
 #include "platform/widgets/WindowSize.h"
+#include "story/OrganizerKeys.h"
 #include "story/ParagraphMoves.h"
 
-#include <QKeyEvent>
+#include <QMenu>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -22,9 +26,10 @@ constexpr QSize proposedSize(860, 560);
 } // namespace
 
 frmOrganizeParagraphs::frmOrganizeParagraphs(QWidget* parent)
-    : QDialog(parent), ui_(std::make_unique<Ui::frmOrganizeParagraphs>())
+    : QDialog(parent), ui_(std::make_unique<Ui::frmOrganizeParagraphs>()), menu_(new QMenu(this))
 {
     ui_->setupUi(this);
+    drag_ = new RowDrag(ui_->lstParagraph);
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
     QFont heading = ui_->lblChapter->font();
     heading.setPointSizeF(heading.pointSizeF() * 1.25);
@@ -32,6 +37,9 @@ frmOrganizeParagraphs::frmOrganizeParagraphs(QWidget* parent)
     ui_->lblChapter->setFont(heading);
     KeepWindowSize(this, proposedSize);
     ConnectControls();
+    ConnectEntries();
+    MakeMenu();
+    new WindowKeys(this, OrganizerKeys());
 }
 
 frmOrganizeParagraphs::~frmOrganizeParagraphs() = default;
@@ -53,7 +61,47 @@ void frmOrganizeParagraphs::ConnectControls()
             Guarded(this, &frmOrganizeParagraphs::lstParagraph_Click));
     connect(ui_->lstParagraph, &QListWidget::itemDoubleClicked, this,
             Guarded(this, &frmOrganizeParagraphs::lstParagraph_DblClick));
-    ui_->lstParagraph->installEventFilter(this);
+    connect(drag_, &RowDrag::Dropped, this,
+            [this](int from, int to) { RunGuarded([&] { MoveRow(from, to); }); });
+}
+
+void frmOrganizeParagraphs::ConnectEntries()
+{
+    using Form = frmOrganizeParagraphs;
+    struct Entry
+    {
+        QAction* action;
+        const char* icon;
+        void (Form::*handler)();
+    };
+    for (const Entry& entry : std::initializer_list<Entry>{
+             {ui_->mnuUp, "previous-paragraph", &Form::cmdUp_Click},
+             {ui_->mnuDown, "next-paragraph", &Form::cmdDown_Click},
+             {ui_->mnuEditParagraph, "edit-paragraph", &Form::lstParagraph_DblClick},
+             {ui_->mnuMoveUp, "move-up", &Form::cmdMoveUp_Click},
+             {ui_->mnuMoveDown, "move-down", &Form::cmdMoveDown_Click},
+             {ui_->mnuPreviousChapter, "previous-chapter", &Form::ShowPreviousChapter},
+             {ui_->mnuNextChapter, "next-chapter", &Form::ShowNextChapter},
+             {ui_->mnuKeys, "", &Form::mnuKeys_Click}}) {
+        entry.action->setIcon(ThemedIcon(QString::fromLatin1(entry.icon)));
+        connect(entry.action, &QAction::triggered, this, Guarded(this, entry.handler));
+    }
+}
+
+void frmOrganizeParagraphs::MakeMenu()
+{
+    menu_->setObjectName(QStringLiteral("mnuParagraph"));
+    menu_->addAction(ui_->mnuEditParagraph);
+    menu_->addSeparator();
+    menu_->addActions({ui_->mnuMoveUp, ui_->mnuMoveDown});
+    menu_->addSeparator();
+    menu_->addActions({ui_->mnuPreviousChapter, ui_->mnuNextChapter});
+    menu_->addSeparator();
+    menu_->addAction(ui_->mnuKeys);
+    menu_->setToolTipsVisible(true);
+    connect(
+        ui_->lstParagraph, &QListWidget::customContextMenuRequested, this,
+        [this](QPoint place) { menu_->popup(ui_->lstParagraph->viewport()->mapToGlobal(place)); });
 }
 
 void frmOrganizeParagraphs::showEvent(QShowEvent* event)
@@ -63,38 +111,6 @@ void frmOrganizeParagraphs::showEvent(QShowEvent* event)
         return;
     RunGuarded([this] { RefreshParagraphList(); });
     ui_->lstParagraph->setFocus();
-}
-
-bool frmOrganizeParagraphs::eventFilter(QObject* watched, QEvent* event)
-{
-    bool used = false;
-    if (event->type() == QEvent::KeyPress)
-        RunGuarded([&] { used = lstParagraph_KeyDown(*static_cast<QKeyEvent*>(event)); });
-    return used || QDialog::eventFilter(watched, event);
-}
-
-bool frmOrganizeParagraphs::lstParagraph_KeyDown(QKeyEvent& key)
-{
-    switch (key.key()) {
-    case Qt::Key_Up:
-        cmdUp_Click();
-        return true;
-    case Qt::Key_Down:
-        cmdDown_Click();
-        return true;
-    case Qt::Key_PageUp:
-        ShowPreviousChapter();
-        return true;
-    case Qt::Key_PageDown:
-        ShowNextChapter();
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        lstParagraph_DblClick();
-        return true;
-    default:
-        return false;
-    }
 }
 
 void frmOrganizeParagraphs::RefreshParagraphList()
@@ -123,8 +139,13 @@ void frmOrganizeParagraphs::RefreshParagraphList()
 void frmOrganizeParagraphs::RefreshButtons()
 {
     const bool isSelected = ui_->lstParagraph->currentRow() >= 0;
-    ui_->cmdMoveUp->setEnabled(isSelected);
-    ui_->cmdMoveDown->setEnabled(isSelected);
+    const bool isReadOnly = GeneralModule::IsAlbumReadOnly();
+    const QString reason = isReadOnly ? GeneralModule::ReadOnlyReason() : QString();
+    for (QPushButton* button : {ui_->cmdMoveUp, ui_->cmdMoveDown})
+        OfferUnless(*button, isSelected, reason);
+    for (QAction* entry : {ui_->mnuMoveUp, ui_->mnuMoveDown})
+        OfferUnless(*entry, isSelected, reason);
+    drag_->Allow(!isReadOnly);
 }
 
 void frmOrganizeParagraphs::ShowPreviousChapter()
@@ -181,7 +202,7 @@ void frmOrganizeParagraphs::cmdDown_Click()
 }
 
 // The list follows a paragraph that moved into another chapter.
-void frmOrganizeParagraphs::Move(bool (*moveParagraph)(ParagraphPlace& place))
+void frmOrganizeParagraphs::Move(const std::function<bool(ParagraphPlace& place)>& moveParagraph)
 {
     ParagraphPlace place{CurrentChapter, CurrentParagraph};
     if (ui_->lstParagraph->currentRow() < 0 || !moveParagraph(place))
@@ -200,7 +221,19 @@ void frmOrganizeParagraphs::cmdMoveDown_Click()
     Move(MoveParagraphDown);
 }
 
+// The list may have been filled anew since the row was dropped.
+void frmOrganizeParagraphs::MoveRow(int from, int to)
+{
+    if (from == ui_->lstParagraph->currentRow())
+        Move([&](ParagraphPlace& place) { return MoveParagraphBy(place, to - from); });
+}
+
 void frmOrganizeParagraphs::cmdExit_Click()
 {
     accept();
+}
+
+void frmOrganizeParagraphs::mnuKeys_Click()
+{
+    KeySheet({DescribeKeys(OrganizerKeys())}, this).exec();
 }

@@ -5,10 +5,12 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
-class QKeyEvent;
+class QMenu;
+class RowDrag;
 
 namespace Ui {
 class frmOrganizeParagraphs;
@@ -32,11 +34,11 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void ConnectControls();
-    bool lstParagraph_KeyDown(QKeyEvent& key);
+    void ConnectEntries();
+    void MakeMenu();
     void RefreshParagraphList();
     void RefreshButtons();
     void ShowPreviousChapter();
@@ -48,11 +50,15 @@ private:
     void cmdUp_Click();
     void cmdDown_Click();
     void Select(int row);
-    void Move(bool (*moveParagraph)(ParagraphPlace& place));
+    void Move(const std::function<bool(ParagraphPlace& place)>& moveParagraph);
     void cmdMoveUp_Click();
     void cmdMoveDown_Click();
+    void MoveRow(int from, int to);
     void cmdExit_Click();
+    void mnuKeys_Click();
 
     std::unique_ptr<Ui::frmOrganizeParagraphs> ui_;
+    QMenu* menu_; // of the list
+    RowDrag* drag_;
     std::vector<qint32> paragraphs_; // one for each line
 };

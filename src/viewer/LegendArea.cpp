@@ -2,6 +2,7 @@
 #include "viewer/LegendArea.h"
 
 #include "platform/widgets/ClickLabel.h"
+#include "viewer/ViewerFlags.h"
 
 #include <QFontMetrics>
 #include <QScrollBar>
@@ -54,7 +55,7 @@ void LegendArea::Enlarge()
 QFont LegendArea::FontOf(double pointSize) const
 {
     QFont sized = font();
-    sized.setPointSizeF(pointSize);
+    sized.setPointSizeF(pointSize * GeneralModule::TextScale);
     return sized;
 }
 

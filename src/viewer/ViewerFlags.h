@@ -13,4 +13,7 @@ inline bool PictureAtRandom = false;
 // Autoview's pictures fade into each other.
 inline bool SoftTransitions = false;
 
+// How large the text below the pictures is, 1 for its usual size; counts for viewers opened later.
+inline double TextScale = 1;
+
 } // namespace GeneralModule

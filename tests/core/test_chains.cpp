@@ -69,6 +69,27 @@ private slots:
         QCOMPARE(Links(), QStringList({"1|0|3", "2|4|0", "3|1|77"}));
     }
 
+    // Also where a chapter was put between two others and the one after it leads back past it.
+    void MovesByManyPlacesAsByManyMoves()
+    {
+        AddFour();
+        CreateChapter("E", "B");
+        const QStringList before = Links();
+        for (const QString& name : ChapterNames()) {
+            for (const int places : {-9, -2, 1, 3}) {
+                bool isMoved = false;
+                for (int i = 0; i < std::abs(places); ++i)
+                    isMoved |= places > 0 ? MoveChapterDown(name) : MoveChapterUp(name);
+                const QStringList expected = Links();
+                PutBack(before);
+                QCOMPARE(MoveChapterBy(name, places), isMoved);
+                QCOMPARE(Links(), expected);
+                PutBack(before);
+            }
+        }
+        QVERIFY(!MoveChapterBy("Nobody", 1));
+    }
+
     void ListsChaptersWithoutAName()
     {
         AddFour();
@@ -222,6 +243,16 @@ private:
     QStringList Links() const
     {
         return album_->Rows("SELECT Id,PreviousChapter,NextChapter FROM Chapter ORDER BY Id");
+    }
+    void PutBack(const QStringList& links)
+    {
+        QStringList rows;
+        for (const QString& row : links)
+            rows += QString("SELECT %1 i,%2 p,%3 n")
+                        .arg(row.section('|', 0, 0), row.section('|', 1, 1), row.section('|', 2));
+        const QString from = QString("FROM (%1) WHERE i=Id").arg(rows.join(" UNION "));
+        album_->Execute("UPDATE Chapter SET PreviousChapter=(SELECT p " + from +
+                        "),NextChapter=(SELECT n " + from + ")");
     }
     void AddFour()
     {

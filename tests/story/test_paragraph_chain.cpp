@@ -198,6 +198,22 @@ private slots:
         QCOMPARE(album.Joined(chainSql), "1|1|2|0|a; 2|1|0|1|b");
     }
 
+    void MovesByManyRows()
+    {
+        OneChapter album({"a", "b", "c", "d"});
+        album.AddChapter("Two");
+        const std::pair<int, const char*> moves[] = {{3, "One:bcda Two:"},
+                                                     {-2, "One:bacd Two:"},
+                                                     {-9, "One:abcd Two:"},
+                                                     {4, "One:bcd Two:a"}};
+        for (const auto& [rows, story] : moves) {
+            QVERIFY(MoveParagraphBy(album.place, rows));
+            QCOMPARE(album.Story(), story);
+        }
+        QCOMPARE(album.place.chapter, 2);
+        QVERIFY(!MoveParagraphBy(album.place, 1));
+    }
+
     // How whole ones move is for chain_fuzz to see.
     void MovesAcrossBrokenLinks()
     {

@@ -189,6 +189,24 @@ private slots:
             Click(organiser, "cmdMoveUp");
             QCOMPARE(Lines(list), QStringList({"first", "<<x third"}));
             QTest::keyClick(&list, Qt::Key_PageDown);
+            QTest::keyClick(&list, Qt::Key_Down);
+            QTest::keyClick(&list, Qt::Key_Up, Qt::ControlModifier); // into chapter One
+            QTest::keyClick(&list, Qt::Key_Up, Qt::ControlModifier);
+            QCOMPARE(Lines(list), QStringList({"first", "*second", "<<x third"}));
+            for (int i = 0; i < 2; ++i)
+                QTest::keyClick(&list, Qt::Key_Down, Qt::ControlModifier);
+            QCOMPARE(Lines(list), QStringList("*second"));
+            WhenModal("frmKeys", [](QWidget& sheet) { Click(sheet, "cmdClose"); });
+            QTest::keyClick(&list, Qt::Key_Question);
+            QTest::keyClick(&list, Qt::Key_PageUp);
+            DropLine(list, 0, 1, true);
+            QCOMPARE(Lines(list), QStringList({"<<x third", "*first"}));
+            DropLine(list, 1, 0, false);
+            QTest::keyClick(&list, Qt::Key_PageDown);
+            QMenu& menu = OpenMenuOf(list);
+            QCOMPARE(menu.objectName(), "mnuParagraph");
+            QVERIFY(menu.actions().contains(&Find<QAction>(organiser, "mnuMoveUp")));
+            menu.close();
             ClickLine(list, 0, true);
         });
         writing.Click("cmdOrganize");

@@ -59,6 +59,32 @@ void ClickLine(QListWidget& list, int row, bool twice)
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
 }
 
+QMenu& OpenMenuOf(QListWidget& list)
+{
+    const QPoint place = list.visualItemRect(list.item(0)).center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, list.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(list.viewport(), &event);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu)
+        qFatal("no context menu");
+    return *menu;
+}
+
+void DropLine(QListWidget& list, int from, int onto, bool isLowerHalf)
+{
+    list.setCurrentRow(from);
+    const QRect target = list.visualItemRect(list.item(onto));
+    const int edge = isLowerHalf ? target.bottom() - 1 : target.top() + 1;
+    const QMimeData row;
+    QDropEvent drop(QPointF(target.center().x(), edge), Qt::MoveAction, &row, Qt::LeftButton, {});
+    // Past the application, which passes on only what a drag under way has begun.
+    for (QObject* child : list.children()) {
+        if (child->inherits("RowDrag"))
+            child->eventFilter(list.viewport(), &drop);
+    }
+    QCoreApplication::processEvents();
+}
+
 QStringList Lines(const QListWidget& list)
 {
     QStringList lines;

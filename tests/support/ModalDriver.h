@@ -26,5 +26,9 @@ Widget& Find(QWidget& window, const QString& name)
 void Click(QWidget& window, const QString& control);
 // A left click on a line, or a double click.
 void ClickLine(QListWidget& list, int row, bool twice = false);
+// Opens the list's context menu on its first line.
+QMenu& OpenMenuOf(QListWidget& list);
+// Drops a line on the upper or the lower half of another one, as at the end of a drag.
+void DropLine(QListWidget& list, int from, int onto, bool isLowerHalf);
 // What stands in a list, a "*" before the line that is current.
 QStringList Lines(const QListWidget& list);

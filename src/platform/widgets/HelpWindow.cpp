@@ -38,7 +38,10 @@ QString AnchorOf(const QTextBlock& heading)
 class HelpKey : public QObject
 {
 public:
-    HelpKey(QObject* parent, const QString& file) : QObject(parent), file_(file) {}
+    HelpKey(QObject* parent, const QString& file, KeyTables keys)
+        : QObject(parent), file_(file), keys_(keys)
+    {
+    }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
@@ -47,7 +50,7 @@ public:
             return false;
         QWidget* window = WindowOf(static_cast<QWidget*>(watched));
         if (window && !window->inherits("HelpWindow")) {
-            HelpWindow help(file_, window);
+            HelpWindow help(file_, window, keys_ ? keys_() : std::vector<KeySection>());
             help.GoTo(window->objectName());
             help.exec();
         }
@@ -66,11 +69,26 @@ private:
     }
 
     QString file_;
+    KeyTables keys_;
 };
+
+QString AsHtml(const std::vector<KeySection>& keys)
+{
+    QString html;
+    for (const KeySection& section : keys) {
+        html += QStringLiteral("<h3>%1</h3><table cellspacing=\"8\">")
+                    .arg(section.title.toHtmlEscaped());
+        for (const KeyRow& row : section.rows)
+            html += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>")
+                        .arg(row.keys.toHtmlEscaped(), row.meaning.toHtmlEscaped());
+        html += QStringLiteral("</table>");
+    }
+    return html;
+}
 
 } // namespace
 
-HelpWindow::HelpWindow(const QString& file, QWidget* parent)
+HelpWindow::HelpWindow(const QString& file, QWidget* parent, const std::vector<KeySection>& keys)
     : QDialog(parent),
       lstContents_(new QListWidget),
       txtSearch_(new QLineEdit),
@@ -80,7 +98,7 @@ HelpWindow::HelpWindow(const QString& file, QWidget* parent)
     setObjectName(QStringLiteral("frmHelp"));
     setWindowTitle(tr("Lumenark Help"));
     Layout();
-    Read(file);
+    Read(file, keys);
     connect(lstContents_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
         if (item)
             ScrollTo(item->data(anchorRole).toString());
@@ -122,7 +140,7 @@ void HelpWindow::Layout()
     layout->addWidget(panes, 1);
 }
 
-void HelpWindow::Read(const QString& file)
+void HelpWindow::Read(const QString& file, const std::vector<KeySection>& keys)
 {
     QFile help(file);
     if (!help.open(QIODevice::ReadOnly)) {
@@ -130,7 +148,8 @@ void HelpWindow::Read(const QString& file)
         return;
     }
     txtHelp_->setSearchPaths({QFileInfo(file).absolutePath()});
-    txtHelp_->setHtml(QString::fromUtf8(help.readAll()));
+    txtHelp_->setHtml(
+        QString::fromUtf8(help.readAll()).replace(QLatin1String("<!--keys-->"), AsHtml(keys)));
     const QTextDocument& text = *txtHelp_->document();
     for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() != chapterLevel)
@@ -185,7 +204,7 @@ void HelpWindow::Search()
     lblNotFound_->setVisible(!isFound);
 }
 
-void InstallHelpKey(const QString& file)
+void InstallHelpKey(const QString& file, KeyTables keys)
 {
-    qApp->installEventFilter(new HelpKey(qApp, file));
+    qApp->installEventFilter(new HelpKey(qApp, file, keys));
 }

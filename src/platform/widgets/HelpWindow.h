@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/widgets/KeySheet.h"
+
 #include <QDialog>
 
 class QLabel;
@@ -15,14 +17,15 @@ class HelpWindow : public QDialog
     Q_OBJECT
 
 public:
-    HelpWindow(const QString& file, QWidget* parent);
+    // The keys take the place of the comment "<!--keys-->" in the file.
+    HelpWindow(const QString& file, QWidget* parent, const std::vector<KeySection>& keys = {});
 
     // Goes to the chapter with that name; stays at the beginning when there is none.
     void GoTo(const QString& chapter);
 
 private:
     void Layout();
-    void Read(const QString& file);
+    void Read(const QString& file, const std::vector<KeySection>& keys);
     void Search();
     void ScrollTo(const QString& chapter);
     // Marks in the contents the chapter at the upper edge of the text.
@@ -35,5 +38,6 @@ private:
     bool isGuided_ = false; // the text moves because a chapter was chosen
 };
 
-// From now on F1 shows the front window's chapter of the help file.
-void InstallHelpKey(const QString& file);
+// From now on F1 shows the front window's chapter of the help file, with those keys in it.
+using KeyTables = std::vector<KeySection> (*)();
+void InstallHelpKey(const QString& file, KeyTables keys = nullptr);

@@ -2,9 +2,10 @@
 #include "ui/main/ChapterList.h"
 
 #include "core/ChapterChain.h"
+#include "core/ParagraphCounts.h"
 #include "platform/dialogs/Dialogs.h"
+#include "ui/main/ChapterDelegate.h"
 
-#include <QKeyEvent>
 #include <QListWidget>
 #include <QSignalBlocker>
 
@@ -15,8 +16,7 @@ ChapterList::ChapterList(QListWidget* list) : list_(list)
     QFont font = list_->font();
     font.setPointSizeF(font.pointSizeF() * 1.2);
     list_->setFont(font);
-    list_->installEventFilter(this);
-    connect(list_, &QListWidget::itemDoubleClicked, this, &ChapterList::ReadingAsked);
+    list_->setItemDelegate(new ChapterDelegate(list_));
 }
 
 void ChapterList::Fill(const QString& selected)
@@ -26,12 +26,36 @@ void ChapterList::Fill(const QString& selected)
     const QSignalBlocker quiet(list_);
     list_->clear();
     list_->addItems(names);
+    NoteCounts();
     SelectRow(qMax(0, int(names.indexOf(kept))));
 }
 
 void ChapterList::Clear()
 {
     list_->clear();
+    counts_.clear();
+    counted_ = {};
+}
+
+void ChapterList::ShowParagraphCounts()
+{
+    const AlbumVersion version = GetAlbumVersion();
+    if (version == counted_)
+        return;
+    counts_ = ParagraphCounts();
+    counted_ = version;
+    NoteCounts();
+}
+
+void ChapterList::NoteCounts()
+{
+    for (int row = 0; row < list_->count(); ++row) {
+        QListWidgetItem* item = list_->item(row);
+        const auto count = counts_.constFind(item->text());
+        const QString note =
+            count == counts_.constEnd() ? QString() : tr("%Ln paragraph(s)", nullptr, *count);
+        item->setData(Qt::AccessibleDescriptionRole, note);
+    }
 }
 
 QString ChapterList::Selected() const
@@ -132,14 +156,11 @@ bool ChapterList::MoveDown()
     return true;
 }
 
-bool ChapterList::eventFilter(QObject* watched, QEvent* event)
+// The list may have been filled anew since the row was dropped.
+bool ChapterList::MoveRow(int from, int to)
 {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            emit ReadingAsked();
-            return true;
-        }
-    }
-    return QObject::eventFilter(watched, event);
+    if (from != list_->currentRow() || !MoveChapterBy(Selected(), to - from))
+        return false;
+    Fill();
+    return true;
 }

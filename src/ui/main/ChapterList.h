@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
+#include "core/Album.h"
+
+#include <QCoreApplication>
+#include <QHash>
 #include <QString>
 
 class QListWidget;
 
 // The chapters of the open album in a list box, in reading order, and what the user does to the
 // selected one. The list box and the album say the same, but for what other programs change.
-class ChapterList : public QObject
+class ChapterList
 {
-    Q_OBJECT
+    Q_DECLARE_TR_FUNCTIONS(ChapterList)
 
 public:
     // The list box must outlive it.
@@ -20,6 +23,8 @@ public:
     // stays, by its name. When reading fails the list stays as it was.
     void Fill(const QString& selected = {});
     void Clear();
+    // Shows beside each name how many paragraphs the chapter has, as far as the album has changed.
+    void ShowParagraphCounts();
     // Empty when none is selected.
     QString Selected() const;
 
@@ -31,12 +36,8 @@ public:
     // False, and nothing changed, at the top and at the bottom.
     bool MoveUp();
     bool MoveDown();
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-signals:
-    // By a double click or Enter.
-    void ReadingAsked();
+    // Gives the chapter in that row another one, by single moves.
+    bool MoveRow(int from, int to);
 
 private:
     // Asks until the answer is a name that a chapter may get; empty when the user gave up. ownName
@@ -44,6 +45,9 @@ private:
     QString AskName(const QString& prompt, const QString& ownName) const;
     bool IsListed(const QString& name) const;
     void SelectRow(int row);
+    void NoteCounts();
 
     QListWidget* list_;
+    QHash<QString, int> counts_; // of paragraphs, by the chapter's name
+    GeneralModule::AlbumVersion counted_;
 };

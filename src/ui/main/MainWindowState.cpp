@@ -23,7 +23,9 @@ QString WarningFor(const AlbumFacts& facts)
 MainWindowState DescribeMainWindow(const AlbumFacts& facts)
 {
     MainWindowState state;
-    state.caption = facts.isOpen ? MainWindowState::tr("Choose the chapter you want to read")
+    // The album's name tells two windows apart in the desktop's list.
+    state.caption = facts.isOpen ? MainWindowState::tr("Choose the chapter you want to read") +
+                                       QStringLiteral(" - ") + facts.fileName
                                  : MainWindowState::tr("First Open or Create an Album");
     state.warning = WarningFor(facts);
     state.offersAlbumCommands = facts.isOpen;

@@ -13,6 +13,7 @@ struct AlbumFacts
     bool hasPictures = false;
     int chapters = 0;  // entries of the chapter list
     int selected = -1; // index of the selected one, -1 for none
+    QString fileName = {};
 };
 
 struct MainWindowState

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/ViewerWindows.h"
 
+#include "platform/dialogs/Guard.h"
 #include "viewer/ViewerFlags.h"
 #include "viewer/frmReelvane.h"
 #include "viewer/frmSelectImages.h"
+
+#include <QKeyEvent>
+#include <QTimer>
 
 using GeneralModule::AutoviewOn;
 
@@ -12,6 +16,20 @@ void ReadChapter(QWidget* parent, qint32 chapter)
     AutoviewOn = false;
     frmReelvane viewer(parent);
     viewer.CurrentChapter = chapter;
+    viewer.exec();
+}
+
+void ReadFullScreen(QWidget* parent, qint32 chapter)
+{
+    AutoviewOn = false;
+    frmReelvane viewer(parent);
+    viewer.CurrentChapter = chapter;
+    // By its key, once the viewer is on show and has begun to read.
+    QTimer::singleShot(0, &viewer, [&viewer] {
+        RunGuarded([&viewer] {
+            viewer.Form_KeyDown(QKeyEvent(QEvent::KeyPress, Qt::Key_F11, Qt::NoModifier));
+        });
+    });
     viewer.exec();
 }
 

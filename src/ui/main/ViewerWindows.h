@@ -9,6 +9,8 @@ class QWidget;
 
 // On a chapter's first paragraph.
 void ReadChapter(QWidget* parent, qint32 chapter);
+// The same, in full screen from the beginning.
+void ReadFullScreen(QWidget* parent, qint32 chapter);
 
 // On pictures outside the story. The image selection is what is shown of each characteristic: "*"
 // for any value, "-" for none; the file selection a folder and a pattern after it, or empty.

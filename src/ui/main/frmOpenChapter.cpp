@@ -3,18 +3,26 @@
 #include "ui_frmOpenChapter.h"
 
 #include "catalogue/Picture.h"
+#include "catalogue/frmEditLabels.h"
+#include "catalogue/frmEditTables.h"
 #include "catalogue/frmLoadFiles.h"
 #include "catalogue/frmReloadPictures.h"
 #include "core/Album.h"
 #include "core/ChapterChain.h"
 #include "core/StartUp.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/files/PathRoutines.h"
 #include "platform/widgets/FrontWindow.h"
+#include "platform/widgets/LiteralText.h"
+#include "platform/widgets/RowDrag.h"
 #include "platform/widgets/WindowSize.h"
 #include "ui/main/AlbumOpener.h"
+#include "ui/main/AlbumStatus.h"
 #include "ui/main/ChapterList.h"
 #include "ui/main/FileDrop.h"
 #include "ui/main/GuidanceLook.h"
+#include "ui/main/LookOptions.h"
+#include "ui/main/MainWindowKeys.h"
 #include "ui/main/PasswordQuestions.h"
 #include "ui/main/TransitionOption.h"
 #include "ui/main/ViewerWindows.h"
@@ -26,7 +34,6 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
-#include <QShortcut>
 
 using namespace GeneralModule;
 
@@ -45,6 +52,8 @@ frmOpenChapter::frmOpenChapter(const QString& album) : ui_(std::make_unique<Ui::
     drop_ = std::make_unique<FileDrop>(
         ui_->progress, [this](const QString& path) { albums_->Open(path); }, refresh);
     guidance_ = std::make_unique<GuidanceLook>(ui_->lblWarning, this);
+    status_ = std::make_unique<AlbumStatus>(AlbumStatus::Controls{
+        ui_->albumStatus, ui_->lblAlbum, ui_->lblPictures, ui_->cmdNotIndexed, ui_->cmdMissing});
     KeepWindowSize(this, proposedSize);
     ConnectCommands();
     ConnectControls();
@@ -75,9 +84,12 @@ void frmOpenChapter::ConnectCommands()
          true},
         {on(&Form::mnuDeleteChapter_Click), "delete", nullptr, ui.mnuDeleteChapter,
          &State::offersChapterCommands, true},
-        {on(&Form::cmdMoveUp_Click), "move-up", ui.cmdMoveUp, nullptr, &State::canMoveUp, true},
-        {on(&Form::cmdMoveDown_Click), "move-down", ui.cmdMoveDown, nullptr, &State::canMoveDown,
+        {on(&Form::mnuReadFullScreen_Click), "full-screen", nullptr, ui.mnuReadFullScreen,
+         &State::offersChapterCommands},
+        {on(&Form::cmdMoveUp_Click), "move-up", ui.cmdMoveUp, ui.mnuMoveUp, &State::canMoveUp,
          true},
+        {on(&Form::cmdMoveDown_Click), "move-down", ui.cmdMoveDown, ui.mnuMoveDown,
+         &State::canMoveDown, true},
         {on(&Form::mnuLoadPictures_Click), "load-pictures", ui.cmdLoadPictures, ui.mnuLoadPictures,
          &State::offersAlbumCommands, true},
         {on(&Form::mnuReloadPictures_Click), "refresh", nullptr, ui.mnuReloadPictures,
@@ -94,7 +106,12 @@ void frmOpenChapter::ConnectCommands()
          true},
         {on(&Form::mnuPassword_Click), "", nullptr, ui.mnuPassword, &State::offersAlbumCommands,
          true},
+        {on(&Form::mnuEditTables_Click), "", nullptr, ui.mnuEditTables, &State::offersAlbumCommands,
+         true},
+        {on(&Form::mnuEditLabels_Click), "", nullptr, ui.mnuEditLabels, &State::offersAlbumCommands,
+         true},
         {on(&Form::mnuPhotoAlbumHelp_Click), "help", nullptr, ui.mnuPhotoAlbumHelp},
+        {on(&Form::mnuKeys_Click), "", nullptr, ui.mnuKeys},
         {on(&Form::mnuAbout_Click), "about", nullptr, ui.mnuAbout},
     };
     for (const MainWindowCommand& command : commands_)
@@ -107,12 +124,23 @@ void frmOpenChapter::ConnectControls()
          {ui_->mnuSep1, ui_->mnuSep2, ui_->mnuSep3, ui_->mnuSep4, ui_->mnuSep5})
         separator->setSeparator(true);
     OfferSoftTransitions(*ui_->mnuSoftTransitions);
+    OfferTextSizes(*ui_->mnuTextSize);
+    OfferColors(*ui_->mnuColors);
+    OfferLanguages(*ui_->mnuLanguage);
     connect(ui_->lstChapter, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmOpenChapter::RefreshState));
-    connect(chapters_.get(), &ChapterList::ReadingAsked, this,
+    connect(ui_->lstChapter, &QListWidget::itemDoubleClicked, this,
             Guarded(this, &frmOpenChapter::cmdReadChapter_Click));
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
-            &frmOpenChapter::mnuExit_Click);
+    connect(ui_->lstChapter, &QListWidget::customContextMenuRequested, this, [this](QPoint place) {
+        ui_->mnuChapter->popup(ui_->lstChapter->viewport()->mapToGlobal(place));
+    });
+    drag_ = new RowDrag(ui_->lstChapter);
+    connect(drag_, &RowDrag::Dropped, this,
+            [this](int from, int to) { RunGuarded([&] { MoveRow(from, to); }); });
+    new WindowKeys(this, MainWindowKeys());
+    connect(ui_->cmdNotIndexed, &QPushButton::clicked, ui_->mnuUndefined, &QAction::trigger);
+    connect(ui_->cmdMissing, &QPushButton::clicked, this,
+            Guarded(this, &frmOpenChapter::ShowMissing));
 }
 
 bool frmOpenChapter::AlbumOpen() const
@@ -142,10 +170,10 @@ void frmOpenChapter::resizeEvent(QResizeEvent* event)
 
 void frmOpenChapter::RefreshState()
 {
-    const MainWindowState state =
-        DescribeMainWindow({AlbumOpen(), IsAlbumReadOnly(), AlbumOpen() && HasPictures(),
-                            ui_->lstChapter->count(), ui_->lstChapter->currentRow()});
-    setWindowTitle(state.caption);
+    const MainWindowState state = DescribeMainWindow(
+        {AlbumOpen(), IsAlbumReadOnly(), AlbumOpen() && HasPictures(), ui_->lstChapter->count(),
+         ui_->lstChapter->currentRow(), FileNameOf(OpenAlbumPath())});
+    setWindowTitle(AsWindowTitle(state.caption));
     ui_->lblWarning->setText(state.warning);
     ui_->lblWarning->setVisible(!state.warning.isEmpty());
 
@@ -154,6 +182,10 @@ void frmOpenChapter::RefreshState()
         button->setVisible(state.offersAlbumCommands);
     for (const MainWindowCommand& command : commands_)
         OfferCommand(command, state);
+    if (AlbumOpen())
+        chapters_->ShowParagraphCounts();
+    status_->Refresh();
+    drag_->Allow(state.offersChapterCommands && !state.isReadOnly);
     for (QMenu* menu : menuBar()->findChildren<QMenu*>())
         menu->setToolTipsVisible(state.isReadOnly);
     if (ui_->lstChapter->isVisible())
@@ -190,15 +222,25 @@ void frmOpenChapter::mnuExit_Click()
     close();
 }
 
-void frmOpenChapter::cmdReadChapter_Click()
+void frmOpenChapter::Read(void (*showChapter)(QWidget* parent, qint32 chapter))
 {
     if (!AlbumOpen())
         return;
     const std::optional<qint32> chapter = FindChapter(chapters_->Selected());
     if (!chapter)
         return;
-    ReadChapter(this, *chapter);
+    showChapter(this, *chapter);
     RefreshState();
+}
+
+void frmOpenChapter::cmdReadChapter_Click()
+{
+    Read(ReadChapter);
+}
+
+void frmOpenChapter::mnuReadFullScreen_Click()
+{
+    Read(ReadFullScreen);
 }
 
 void frmOpenChapter::cmdCreateChapter_Click()
@@ -231,6 +273,17 @@ void frmOpenChapter::cmdMoveDown_Click()
 {
     if (chapters_->MoveDown())
         RefreshState();
+}
+
+void frmOpenChapter::MoveRow(int from, int to)
+{
+    if (chapters_->MoveRow(from, to))
+        RefreshState();
+}
+
+void frmOpenChapter::ShowMissing()
+{
+    ui_->mnuReloadPictures->trigger();
 }
 
 void frmOpenChapter::mnuLoadPictures_Click()
@@ -285,6 +338,18 @@ void frmOpenChapter::mnuPassword_Click()
     RefreshState();
 }
 
+void frmOpenChapter::mnuEditTables_Click()
+{
+    frmEditTables({}, this).exec();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuEditLabels_Click()
+{
+    frmEditLabels(this).exec();
+    RefreshState();
+}
+
 void frmOpenChapter::mnuAbout_Click()
 {
     frmAbout(this).exec();
@@ -293,4 +358,9 @@ void frmOpenChapter::mnuAbout_Click()
 void frmOpenChapter::mnuPhotoAlbumHelp_Click()
 {
     QApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
+}
+
+void frmOpenChapter::mnuKeys_Click()
+{
+    KeySheet(AllKeys(), this).exec();
 }

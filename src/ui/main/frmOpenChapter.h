@@ -9,9 +9,11 @@
 #include <vector>
 
 class AlbumOpener;
+class AlbumStatus;
 class ChapterList;
 class FileDrop;
 class GuidanceLook;
+class RowDrag;
 
 namespace Ui {
 class frmOpenChapter;
@@ -44,6 +46,7 @@ private:
     void mnuCreateScript_Click();
     void mnuExit_Click();
     void cmdReadChapter_Click();
+    void mnuReadFullScreen_Click();
     void cmdCreateChapter_Click();
     void mnuRename_Click();
     void mnuDeleteChapter_Click();
@@ -57,8 +60,15 @@ private:
     void mnuSelectedPictures_Click();
     void mnuRepair_Click();
     void mnuPassword_Click();
+    void mnuEditTables_Click();
+    void mnuEditLabels_Click();
     void mnuAbout_Click();
     void mnuPhotoAlbumHelp_Click();
+    void mnuKeys_Click();
+    void MoveRow(int from, int to);
+    void ShowMissing();
+    // Shows the selected chapter by that routine.
+    void Read(void (*showChapter)(QWidget* parent, qint32 chapter));
 
     void ConnectCommands();
     void ConnectControls();
@@ -68,6 +78,8 @@ private:
     std::unique_ptr<AlbumOpener> albums_;
     std::unique_ptr<FileDrop> drop_;
     std::unique_ptr<GuidanceLook> guidance_;
+    std::unique_ptr<AlbumStatus> status_;
+    RowDrag* drag_ = nullptr;
     std::vector<MainWindowCommand> commands_;
     bool isRefilling_ = false;
 };

@@ -1,0 +1,144 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name>AlbumStatus</name>
+    <message numerus="yes">
+        <source>%Ln picture(s)</source>
+        <translation>
+            <numerusform>%Ln picture</numerusform>
+            <numerusform>%Ln pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln not indexed</source>
+        <translation>
+            <numerusform>%Ln not indexed</numerusform>
+            <numerusform>%Ln not indexed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) missing</source>
+        <translation>
+            <numerusform>%Ln file missing</numerusform>
+            <numerusform>%Ln files missing</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ChapterList</name>
+    <message numerus="yes">
+        <source>%Ln paragraph(s)</source>
+        <translation>
+            <numerusform>%Ln paragraph</numerusform>
+            <numerusform>%Ln paragraphs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message numerus="yes">
+        <source>%n file(s) left out: their names are not valid text</source>
+        <translation>
+            <numerusform>%n file left out: its name is not valid text</numerusform>
+            <numerusform>%n files left out: their names are not valid text</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) loaded</source>
+        <translation>
+            <numerusform>%n picture loaded</numerusform>
+            <numerusform>%n pictures loaded</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) were in the album already</source>
+        <translation>
+            <numerusform>%n picture was in the album already</numerusform>
+            <numerusform>%n pictures were in the album already</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) left out, because you stopped</source>
+        <translation>
+            <numerusform>%n picture left out, because you stopped</numerusform>
+            <numerusform>%n pictures left out, because you stopped</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) left out: no pictures</source>
+        <translation>
+            <numerusform>%n file left out: no picture</numerusform>
+            <numerusform>%n files left out: no pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PageDisplay</name>
+    <message numerus="yes">
+        <source>%n images found</source>
+        <translation>
+            <numerusform>%n images found</numerusform>
+            <numerusform>%n images found</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n images left</source>
+        <translation>
+            <numerusform>%n images left</numerusform>
+            <numerusform>%n images left</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ParagraphPreview</name>
+    <message numerus="yes">
+        <source>%n images found</source>
+        <translation>
+            <numerusform>%n images found</numerusform>
+            <numerusform>%n images found</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n images left</source>
+        <translation>
+            <numerusform>%n images left</numerusform>
+            <numerusform>%n images left</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>frmLoadFiles</name>
+    <message numerus="yes">
+        <source>%n picture(s) selected</source>
+        <translation>
+            <numerusform>%n picture(s) selected</numerusform>
+            <numerusform>%n picture(s) selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) loaded</source>
+        <translation>
+            <numerusform>%n picture(s) loaded</numerusform>
+            <numerusform>%n picture(s) loaded</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>frmReloadPictures</name>
+    <message numerus="yes">
+        <source>%n picture references updated</source>
+        <translation>
+            <numerusform>%n picture references updated</numerusform>
+            <numerusform>%n picture references updated</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already in the album</source>
+        <translation>
+            <numerusform>%n already in the album</numerusform>
+            <numerusform>%n already in the album</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

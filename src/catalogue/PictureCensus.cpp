@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/PictureCensus.h"
+
+#include "catalogue/CharacteristicModel.h"
+#include "core/AlbumSets.h"
+#include "platform/data/Statement.h"
+
+#include <QFileInfo>
+#include <QStringList>
+
+#include <limits>
+
+using namespace GeneralModule;
+
+namespace {
+
+// Read in about a millisecond.
+constexpr int rowsAtOnce = 1000;
+constexpr int filesAtOnce = 200;
+
+// The same that the viewer shows as not indexed.
+QString NotIndexed()
+{
+    QStringList conditions;
+    for (int column = 0; column < columnCount; ++column)
+        conditions += QStringLiteral("%1='%2'").arg(CarField(column), noValue);
+    return conditions.join(QLatin1String(" AND "));
+}
+
+Statement After(qint64 row, int count, const QString& sql)
+{
+    Statement statement(AlbumDatabase->GetEngine(), sql.toUtf8());
+    statement.Bind(1, row);
+    statement.Bind(2, qint64(count));
+    return statement;
+}
+
+QString TextIn(const Statement& statement, int column)
+{
+    return QString::fromUtf8(statement.GetUtf8(column));
+}
+
+} // namespace
+
+void PictureCensus::Begin()
+{
+    const NoWaiting atOnce;
+    const std::shared_ptr<Database> album = AlbumDatabase;
+    const AlbumVersion version = GetAlbumVersion();
+    const bool isSame = album_.lock() == album;
+    if (isSame && version == version_)
+        return;
+    if (!isSame) {
+        rows_.reset();
+        missing_.reset();
+    }
+    album_ = album;
+    version_ = version;
+    stage_ = Stage::Rows;
+    lastRow_ = std::numeric_limits<qint64>::min();
+    rowsSoFar_ = {};
+    missingSoFar_ = 0;
+    files_.clear();
+}
+
+bool PictureCensus::WorkUntil(const QDeadlineTimer& deadline)
+{
+    const NoWaiting atOnce;
+    const std::shared_ptr<Database> album = AlbumDatabase;
+    if (album_.lock() != album || !(GetAlbumVersion() == version_))
+        return false;
+    do {
+        if (stage_ == Stage::Rows)
+            CountRows(deadline);
+        else if (stage_ == Stage::Files)
+            CountMissing(deadline);
+    } while (stage_ != Stage::Done && !deadline.hasExpired());
+    return stage_ != Stage::Done;
+}
+
+// One statement for so many rows, as it costs more to return them than to count them.
+void PictureCensus::CountRows(const QDeadlineTimer& deadline)
+{
+    static const QString sql =
+        QStringLiteral("SELECT COUNT(*), TOTAL(isNew), MAX(row) FROM (SELECT rowid AS row, (%1) AS "
+                       "isNew FROM Image WHERE rowid>?1 ORDER BY rowid LIMIT ?2)")
+            .arg(NotIndexed());
+    do {
+        Statement counting = After(lastRow_, rowsAtOnce, sql);
+        counting.Step();
+        const qint64 count = counting.GetInteger(0);
+        if (count == 0) {
+            rows_ = rowsSoFar_;
+            stage_ = Stage::Files;
+            lastRow_ = std::numeric_limits<qint64>::min();
+            return;
+        }
+        rowsSoFar_.pictures += count;
+        rowsSoFar_.notIndexed += counting.GetInteger(1);
+        lastRow_ = counting.GetInteger(2);
+    } while (!deadline.hasExpired());
+}
+
+void PictureCensus::CountMissing(const QDeadlineTimer& deadline)
+{
+    do {
+        if (files_.empty())
+            ReadFiles();
+        if (files_.empty()) {
+            missing_ = missingSoFar_;
+            stage_ = Stage::Done;
+            return;
+        }
+        const Files files = std::move(files_.back());
+        files_.pop_back();
+        const bool isThere = (!files.copy.isEmpty() && QFileInfo::exists(files.copy)) ||
+                             QFileInfo::exists(files.file);
+        missingSoFar_ += isThere ? 0 : 1;
+    } while (!deadline.hasExpired());
+}
+
+void PictureCensus::ReadFiles()
+{
+    Statement reading = After(
+        lastRow_, filesAtOnce,
+        QStringLiteral(
+            "SELECT rowid, File, SourceFile FROM Image WHERE rowid>?1 ORDER BY rowid LIMIT ?2"));
+    while (reading.Step()) {
+        lastRow_ = reading.GetInteger(0);
+        files_.push_back({TextIn(reading, 1), TextIn(reading, 2)});
+    }
+}

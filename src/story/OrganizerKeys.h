@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/widgets/WindowKeys.h"
+
+// The keys of the paragraph organiser.
+const WindowKeyTable& OrganizerKeys();

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: MIT
+#include "ProgramTest.h"
+#include "core/StartUp.h"
+#include "platform/widgets/HelpWindow.h"
+#include "ui/main/MainWindowKeys.h"
+#include "viewer/LegendArea.h"
+#include "viewer/ViewerFlags.h"
+
+using namespace GeneralModule;
+
+// Other ways to the main window's commands, and what it tells of itself.
+class TestMainWindowWays : public ProgramTest
+{
+    Q_OBJECT
+
+private slots:
+    void KeysDoWhatTheMenuDoes()
+    {
+        AddChapters({"A", "B", "C", "D"});
+        album_->AddParagraph(1, "Hello");
+        Start();
+        Press(Qt::Key_Down, Qt::ControlModifier);
+        Press(Qt::Key_Down, Qt::ControlModifier | Qt::KeypadModifier);
+        QCOMPARE(Chapters(), "B C *A D");
+        Press(Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(Chapters(), "B *A C D");
+        dialogs_->ExpectInput("Enter new name for chapter 'A'", "Z", "A");
+        Press(Qt::Key_F2);
+        dialogs_->ExpectBox("This chapter contains paragraphs and can't be deleted",
+                            Icon::Critical);
+        Press(Qt::Key_Delete);
+        WhenModal("frmFullScreen", [](QWidget& window) {
+            QTRY_COMPARE(::Find<QLabel>(window, "lblLegend").text(), "Hello");
+            QTest::keyClick(&window, Qt::Key_Escape); // to the viewer
+            WhenModal("frmReelvane",
+                      [](QWidget& viewer) { QTest::keyClick(&viewer, Qt::Key_Escape); });
+        });
+        Press(Qt::Key_F5);
+        dialogs_->ExpectOpenFile("Open Album", {});
+        Press(Qt::Key_O, Qt::ControlModifier);
+        dialogs_->ExpectSaveFile("Create a new Album", {}, "My Album.alb");
+        Press(Qt::Key_N, Qt::ControlModifier);
+        // A key held down deletes one chapter, not the whole list.
+        Find<QListWidget>("lstChapter")->setCurrentRow(2);
+        for (const bool isRepeated : {false, true, true}) {
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Delete, {}, {}, isRepeated);
+            QCoreApplication::sendEvent(Find<QListWidget>("lstChapter"), &held);
+        }
+        QCOMPARE(Chapters(), "B Z *D");
+        QVERIFY(dialogs_->IsDone());
+    }
+
+    void TheSheetTellsAllKeys()
+    {
+        AddChapters({"A"});
+        Start();
+        QStringList shown;
+        WhenModal("frmKeys", [&](QWidget& sheet) {
+            for (const QLabel* label : sheet.findChildren<QLabel*>())
+                shown += label->text();
+            QTest::keyClick(&sheet, Qt::Key_Escape);
+        });
+        Press(Qt::Key_Question);
+        HelpWindow help(HelpFile(), nullptr, AllKeys());
+        const QString manual = ::Find<QTextBrowser>(help, "txtHelp").toPlainText();
+        int rows = 0;
+        for (const KeySection& section : AllKeys()) {
+            for (const KeyRow& row : section.rows) {
+                ++rows;
+                QVERIFY2(shown.contains(row.keys) && shown.contains(row.meaning),
+                         qPrintable(row.keys));
+                QVERIFY2(manual.contains(row.meaning), qPrintable(row.keys));
+            }
+        }
+        QVERIFY(rows > 15);
+    }
+
+    void RowsAreDragged()
+    {
+        AddChapters({"A", "B", "C", "D"});
+        Start();
+        auto& list = *Find<QListWidget>("lstChapter");
+        QVERIFY(list.dragEnabled());
+        DropLine(list, 0, 2, true);
+        QCOMPARE(Chapters(), "B C *A D");
+        DropLine(list, 3, 1, false);
+        QCOMPARE(Chapters(), "B *D C A");
+        DropLine(list, 1, 1, true);
+        QCOMPARE(Chapters(), "B *D C A");
+        // Files dropped there are for the window.
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile("/a.alb")});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(list.viewport(), &enter);
+        QVERIFY(enter.isAccepted());
+        QMenu& menu = OpenMenuOf(list);
+        QCOMPARE(menu.objectName(), "mnuChapter");
+        menu.close();
+    }
+
+    void NothingMovesWhereNothingMayBeChanged()
+    {
+        AddChapters({"A", "B"});
+        album_->AddPicture("a.png");
+        ReleaseAlbum();
+        QVERIFY(QFile::setPermissions(album_->GetAlbum(), QFile::ReadOwner));
+        Start();
+        Press(Qt::Key_Down, Qt::ControlModifier);
+        Press(Qt::Key_F2);
+        Press(Qt::Key_Delete);
+        QVERIFY(!Find<QListWidget>("lstChapter")->dragEnabled());
+        QCOMPARE(Chapters(), "*A B");
+        QTRY_COMPARE(Text("cmdNotIndexed"), "1 not indexed");
+        QVERIFY(!HasButton("cmdNotIndexed"));
+        QCOMPARE(Find<QPushButton>("cmdNotIndexed")->toolTip(), ReadOnlyReason());
+    }
+
+    void TellsWhereOneIs()
+    {
+        album_->AddPicture("there.png", {{"Car3", "Lake"}});
+        album_->AddPicture("new.png");
+        album_->AddImageRow("/nowhere/gone.png");
+        // A copy stands for a file that is away.
+        album_->AddImageRow("/nowhere/b.png", {{"SourceFile", album_->PathOf("new.png")}});
+        AddChapters({"One", "Empty"});
+        album_->AddParagraph(1, "x");
+        album_->AddParagraph(1, "y");
+        Start();
+        QVERIFY(Text("lblAlbum").startsWith(FileOf(album_->GetAlbum()) + "  ("));
+        QVERIFY(window_->windowTitle().startsWith("Choose the chapter you want to read - "));
+        QTRY_COMPARE(Text("cmdMissing"), "1 file(s) missing");
+        QCOMPARE(Text("lblPictures"), "4 picture(s)");
+        QCOMPARE(Text("cmdNotIndexed"), "3 not indexed");
+        QCOMPARE(Notes(), "2 paragraph(s); 0 paragraph(s)");
+        QCOMPARE(Chapters(), "*One Empty");
+        WhenModal("frmReloadPictures", [](QWidget& window) { window.close(); });
+        Click("cmdMissing");
+        WhenModal("frmReelvane", [](QWidget& viewer) { viewer.close(); });
+        Click("cmdNotIndexed");
+
+        album_->Execute("DELETE FROM Image WHERE File LIKE '/nowhere/%'");
+        album_->AddParagraph(2, "z");
+        window_->resize(window_->size() + QSize(9, 9)); // reads the chapters again
+        QTRY_COMPARE(Text("cmdMissing"), "no file missing");
+        QCOMPARE(Text("lblPictures"), "2 picture(s)");
+        QCOMPARE(Notes(), "2 paragraph(s); 1 paragraph(s)");
+        ReleaseAlbum();
+        window_->resize(window_->size() + QSize(9, 9));
+        QVERIFY(!Find<QWidget>("albumStatus")->isVisible());
+    }
+
+    // Counted in slices, none of which keeps a key waiting, and not while another window is worked
+    // with.
+    void CountsWhileNothingElseIsDone()
+    {
+        album_->Execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE "
+                        "i<20000) INSERT INTO Image(File) SELECT '/nowhere/'||i FROM n");
+        Start();
+        QElapsedTimer sinceTurn;
+        sinceTurn.start();
+        int turns = 0;
+        while (Find<QPushButton>("cmdMissing")->isHidden()) {
+            QCoreApplication::processEvents();
+            ++turns;
+            QVERIFY(sinceTurn.elapsed() < 60000);
+        }
+        QCOMPARE(Text("cmdMissing"), "20,000 file(s) missing");
+        QVERIFY2(turns > 5, qPrintable(QString::number(turns)));
+        album_->Execute("DELETE FROM Image WHERE rowid>1");
+        WhenModal("frmAbout", [this](QWidget& about) {
+            window_->resize(window_->size() + QSize(9, 9)); // asks for the counts
+            for (int i = 0; i < 20; ++i)
+                QCoreApplication::processEvents();
+            QCOMPARE(Text("lblPictures"), "20,000 picture(s)");
+            about.close();
+        });
+        Choose("mnuAbout");
+        window_->activateWindow();
+        QTRY_COMPARE(Text("cmdMissing"), "1 file(s) missing");
+    }
+
+    void KeepsHowItLooks()
+    {
+        const QColor desktops = QApplication::palette().color(QPalette::Window);
+        Start();
+        const double usual = LegendArea().GetFullFont().pointSizeF();
+        Choose("mnuTextSize_Large");
+        Choose("mnuColors_Dark");
+        Choose("mnuLanguage_en");
+        TextScale = 1;
+        Start();
+        QVERIFY(LegendArea().GetFullFont().pointSizeF() > usual * 1.2);
+        QVERIFY(QApplication::palette().color(QPalette::Window).lightness() < 80);
+        QVERIFY(QApplication::palette().color(QPalette::WindowText).lightness() > 180);
+        for (const char* entry : {"mnuTextSize_Large", "mnuColors_Dark", "mnuLanguage_en"})
+            QVERIFY2(Find<QAction>(entry)->isChecked(), entry);
+        Choose("mnuColors_Desktop");
+        QCOMPARE(QApplication::palette().color(QPalette::Window), desktops);
+        Choose("mnuTextSize_Normal");
+        QCOMPARE(LegendArea().GetFullFont().pointSizeF(), usual);
+    }
+
+    void OpensTablesAndLabels()
+    {
+        Start();
+        for (const auto& [entry, name] :
+             {std::pair("mnuEditTables", "frmEditTables"), {"mnuEditLabels", "frmEditLabels"}}) {
+            WhenModal(name, [](QWidget& window) { window.close(); });
+            Choose(entry);
+        }
+        ReleaseAlbum();
+        window_->resize(window_->size() + QSize(9, 9));
+        QVERIFY(!IsEnabled("mnuEditTables") && !IsEnabled("mnuEditLabels"));
+    }
+
+private:
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        window_->activateWindow(); // a box that was open has taken its place
+        QVERIFY(QTest::qWaitForWindowActive(window_));
+        QTest::keyClick(Find<QListWidget>("lstChapter"), key, modifiers);
+    }
+    QString Chapters() const { return Lines(*Find<QListWidget>("lstChapter")).join(u' '); }
+    QString Text(const char* control) const
+    {
+        return Find<QWidget>(control)->property("text").toString();
+    }
+    static QString FileOf(const QString& path) { return QFileInfo(path).fileName(); }
+    QString Notes() const
+    {
+        QStringList notes;
+        const auto& list = *Find<QListWidget>("lstChapter");
+        for (int row = 0; row < list.count(); ++row)
+            notes += list.item(row)->data(Qt::AccessibleDescriptionRole).toString();
+        return notes.join("; ");
+    }
+};
+
+QTEST_MAIN(TestMainWindowWays)
+#include "test_main_window_ways.moc"
