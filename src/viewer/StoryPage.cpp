@@ -2,18 +2,21 @@
 #include "viewer/StoryPage.h"
 
 #include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/ElidedLabel.h"
 #include "platform/widgets/LiteralText.h"
-#include "platform/widgets/PictureBox.h"
+#include "viewer/LargePictureBox.h"
 #include "viewer/LegendArea.h"
 #include "viewer/PageFade.h"
 #include "viewer/ViewerFlags.h"
 
-#include <QEvent>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
+#include <QWheelEvent>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
@@ -21,6 +24,19 @@ namespace {
 const QColor bandColor(0x1f, 0x20, 0x23);
 const QColor inkOnBand(0xec, 0xea, 0xe5);
 const QColor scrollBarOnBand(0x4a, 0x4c, 0x52);
+
+constexpr double placePointSize = 8.5;
+constexpr double placeStrength = 0.65; // of its ink on the ground
+constexpr int placeMargin = 10;        // logical pixels at its ends
+
+QColor Mixed(const QColor& ink, const QColor& ground, double strength)
+{
+    const auto mix = [strength](int one, int other) {
+        return int(one * strength + other * (1 - strength));
+    };
+    return {mix(ink.red(), ground.red()), mix(ink.green(), ground.green()),
+            mix(ink.blue(), ground.blue())};
+}
 
 } // namespace
 
@@ -31,6 +47,7 @@ StoryPage::StoryPage(QWidget* parent) : QWidget(parent)
     legend_ = new LegendArea(this);
     connect(legend_, &LegendArea::Clicked, this, &StoryPage::LegendClicked);
     CreateNotice();
+    CreatePlace();
     fade_ = new PageFade(this);
 }
 
@@ -45,10 +62,12 @@ void StoryPage::CreateBoxes()
                 [this, i](Qt::MouseButton button) { emit PicturePressed(i, button); });
         imgImage_[std::size_t(i)] = box;
     }
-    imgFullSize_ = new PictureBox(this);
+    imgFullSize_ = new LargePictureBox(this);
     imgFullSize_->setObjectName(QStringLiteral("imgFullSize"));
     imgFullSize_->hide();
+    imgFullSize_->installEventFilter(this);
     connect(imgFullSize_, &PictureBox::Pressed, this, &StoryPage::FullSizePressed);
+    connect(imgFullSize_, &LargePictureBox::Dragged, this, &StoryPage::FullSizeDragged);
 }
 
 void StoryPage::CreateNotice()
@@ -65,6 +84,38 @@ void StoryPage::CreateNotice()
     lblNotice_->hide();
 }
 
+void StoryPage::CreatePlace()
+{
+    lblPlace_ = new ElidedLabel(this);
+    lblPlace_->setObjectName(QStringLiteral("lblPlace"));
+    lblPlace_->setAlignment(Qt::AlignCenter);
+    QFont small = lblPlace_->font();
+    small.setPointSizeF(placePointSize);
+    lblPlace_->setFont(small);
+    lblPlace_->setVisible(IsPlaceShown());
+    DimPlace();
+}
+
+bool& StoryPage::IsPlaceShown() const
+{
+    return isDark_ ? GeneralModule::PlaceShownOnWholeScreen : GeneralModule::PlaceShown;
+}
+
+void StoryPage::SwitchPlace()
+{
+    IsPlaceShown() = !IsPlaceShown();
+    lblPlace_->setVisible(IsPlaceShown());
+    PlaceLegend();
+}
+
+void StoryPage::DimPlace()
+{
+    QPalette dim = palette();
+    dim.setColor(QPalette::WindowText, Mixed(dim.color(QPalette::WindowText),
+                                             dim.color(QPalette::Window), placeStrength));
+    lblPlace_->setPalette(dim);
+}
+
 void StoryPage::Darken()
 {
     isDark_ = true;
@@ -75,6 +126,7 @@ void StoryPage::Darken()
     dark.setColor(QPalette::Button, scrollBarOnBand);
     setPalette(dark);
     legend_->Enlarge();
+    lblPlace_->setVisible(IsPlaceShown());
 }
 
 void StoryPage::SetTitle(const QString& title)
@@ -84,11 +136,20 @@ void StoryPage::SetTitle(const QString& title)
 
 void StoryPage::Arrange(const QString& text)
 {
-    const QSize legend = legend_->SizeOn(size(), text);
-    bandHeight_ = height() - legend.height();
-    legend_->Place({QPoint((width() - legend.width()) / 2, bandHeight_), legend});
+    legendSize_ = legend_->SizeOn(size(), text);
+    bandHeight_ = height() - legendSize_.height();
+    PlaceLegend();
     lblNotice_->setGeometry(0, 0, width(), bandHeight_);
     update();
+}
+
+// The line below the text stands in the text's margin, so that pictures and text stay where they
+// are with and without it.
+void StoryPage::PlaceLegend()
+{
+    const int footer = IsPlaceShown() ? lblPlace_->sizeHint().height() : 0;
+    legend_->Place({QPoint((width() - legendSize_.width()) / 2, bandHeight_), legendSize_}, footer);
+    lblPlace_->setGeometry(placeMargin, height() - footer, width() - 2 * placeMargin, footer);
 }
 
 ScreenShape StoryPage::GetShape(int lines) const
@@ -118,6 +179,7 @@ void StoryPage::ShowPictures(const std::vector<ShownPicture>& pictures, std::vec
         if (used)
             box->setGeometry(pictures[i].place);
         box->setVisible(used);
+        box->setFocusPolicy(used && canTakeFocus_ ? Qt::TabFocus : Qt::NoFocus);
     }
     fade_->Begin({0, 0, width(), bandHeight_});
 }
@@ -145,7 +207,15 @@ void StoryPage::ShowFullSize(const ShownPicture& picture, const QImage& image)
     imgFullSize_->SetTag(picture.file);
     imgFullSize_->SetPicture(image);
     imgFullSize_->setGeometry(picture.place);
+    imgFullSize_->SetDraggable(false);
     imgFullSize_->show();
+}
+
+void StoryPage::ShowFullSizePart(const QRect& place, const QImage& image, const QRectF& part)
+{
+    imgFullSize_->SetPart(image, part);
+    imgFullSize_->setGeometry(place);
+    imgFullSize_->SetDraggable(true);
 }
 
 void StoryPage::LeaveFullSize()
@@ -161,6 +231,11 @@ void StoryPage::SetNotice(const QString& text)
 {
     lblNotice_->setText(text);
     lblNotice_->setVisible(!text.isEmpty());
+}
+
+void StoryPage::SetPlace(const QString& text)
+{
+    lblPlace_->setText(text);
 }
 
 void StoryPage::SetLegend(const QString& text)
@@ -184,6 +259,17 @@ void StoryPage::SetPictureToolTip(const QString& text)
         box->setToolTip(text);
 }
 
+int StoryPage::GetPictureMeant() const
+{
+    const auto find = [this](const auto& isMeant) {
+        const auto box = std::find_if(imgImage_.begin(), imgImage_.end(), isMeant);
+        return box == imgImage_.end() ? -1 : int(box - imgImage_.begin());
+    };
+    const QWidget* focus = window()->focusWidget();
+    const int focused = find([focus](const PictureBox* box) { return box == focus; });
+    return focused >= 0 ? focused : find([](const PictureBox* box) { return box->underMouse(); });
+}
+
 std::shared_ptr<void> StoryPage::BeginWork()
 {
     return std::make_shared<BusyPointer>();
@@ -192,6 +278,10 @@ std::shared_ptr<void> StoryPage::BeginWork()
 bool StoryPage::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && (isDark_ || GeneralModule::AutoviewOn))
+        return true;
+    // The press of a button on a picture has had its effect.
+    if (event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Mouse)
         return true;
     return QWidget::eventFilter(watched, event);
 }
@@ -207,4 +297,32 @@ void StoryPage::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(0, 0, width(), bandHeight_, bandColor);
     painter.fillRect(0, bandHeight_, width(), height() - bandHeight_, palette().window());
+}
+
+// A touchpad sends small parts of a notch, and goes on by itself for a while.
+void StoryPage::wheelEvent(QWheelEvent* event)
+{
+    constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
+    if (event->position().y() >= bandHeight_)
+        return event->ignore();
+    event->accept();
+    if (event->phase() == Qt::ScrollMomentum)
+        return;
+    const int turn = event->angleDelta().y();
+    turned_ = (turn > 0) == (turned_ > 0) ? turned_ + turn : turn;
+    if (std::abs(turned_) < notch)
+        return;
+    const bool isAway = turned_ > 0;
+    turned_ = 0; // one step for each event, as each takes its time
+    if (imgFullSize_->isVisible())
+        emit FullSizeTurned(isAway, event->position());
+    else
+        emit WheelTurned(isAway);
+}
+
+void StoryPage::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && lblPlace_)
+        DimPlace();
 }

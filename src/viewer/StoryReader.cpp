@@ -29,6 +29,7 @@ Outlook StoryReader::GetOutlook() const
             .lines = Nblines,
             .page = display_.GetPage(),
             .pictures = display_.GetDisplayed(),
+            .earlier = display_.GetEarlier(),
             .list = display_.GetList(),
             .seeds = seeds_};
 }
@@ -160,8 +161,18 @@ void StoryReader::ShowPage(const PageText& page, const Search& search)
 void StoryReader::ScreenChanged()
 {
     LastImageDisplayed = display_.GetLastDisplayed();
+    ShowPlace();
     autoview_.Release(); // a picture that was shown alone is hidden now
     BeginLookingAhead();
+}
+
+void StoryReader::ShowPlace()
+{
+    PagePlace place = display_.GetPlace();
+    place.isSelection = GetMode() == StoryMode::Selection;
+    if (GetMode() == StoryMode::Story)
+        place.paragraph = places_.Find(Position.chapter, Position.paragraph);
+    display_.Surface().SetPlace(Describe(place));
 }
 
 void StoryReader::DisplaySelection()
@@ -173,7 +184,7 @@ void StoryReader::DisplaySelection()
 
 void StoryReader::DisplayUndefined(const QString& fileSelection, int maxImages)
 {
-    ShowPage({}, [&](const CountFeedback& feedback) {
+    ShowPage({.title = fileSelection}, [&](const CountFeedback& feedback) {
         return FindSelection(fileSelection, ImageSelection, maxImages, feedback);
     });
 }
@@ -181,8 +192,10 @@ void StoryReader::DisplayUndefined(const QString& fileSelection, int maxImages)
 void StoryReader::DisplayAgain()
 {
     const StoryMode mode = GetMode();
-    display_.Surface().SetPictureToolTip(mode == StoryMode::Selection ? tr("Click to index picture")
-                                                                      : tr("Click to edit image"));
+    const bool isSelection = mode == StoryMode::Selection;
+    display_.Surface().SetPictureToolTip(isSelection ? tr("Click to index picture")
+                                                     : tr("Click to edit image"));
+    display_.Surface().LetPicturesTakeFocus(isSelection);
     switch (mode) {
     case StoryMode::Selection:
         return DisplaySelection();
@@ -210,6 +223,19 @@ void StoryReader::ShowNextPictures()
     // None of the files left in the list is there any more.
     if (display_.GetDisplayed().empty() && GetMode() == StoryMode::Story)
         return Step(StoryWay::NextParagraph);
+    ShowText(GetMode() == StoryMode::Selection);
+}
+
+void StoryReader::ShowPreviousPictures()
+{
+    lastMove_ = StoryMove::PreviousPictures;
+    if (display_.GetEarlier().IsEmpty()) {
+        if (HasPageBefore(Position))
+            Step(StoryWay::PreviousParagraph);
+        return;
+    }
+    display_.ShowEarlierScreen(Nblines);
+    ScreenChanged();
     ShowText(GetMode() == StoryMode::Selection);
 }
 
@@ -258,7 +284,7 @@ void StoryReader::ShowAlone(const ShownPicture& picture)
 void StoryReader::LeaveAlone()
 {
     const auto pause = autoview_.Pause();
-    display_.Surface().LeaveFullSize();
+    display_.LeaveAlone();
     ShowText(GetMode() == StoryMode::Selection);
 }
 
