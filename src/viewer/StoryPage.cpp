@@ -10,13 +10,12 @@
 #include "viewer/ViewerFlags.h"
 
 #include <QContextMenuEvent>
+#include <QGraphicsOpacityEffect>
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
-#include <QWheelEvent>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace {
 
@@ -25,18 +24,7 @@ const QColor bandColor(0x1f, 0x20, 0x23);
 const QColor inkOnBand(0xec, 0xea, 0xe5);
 const QColor scrollBarOnBand(0x4a, 0x4c, 0x52);
 
-constexpr double placePointSize = 8.5;
-constexpr double placeStrength = 0.65; // of its ink on the ground
-constexpr int placeMargin = 10;        // logical pixels at its ends
-
-QColor Mixed(const QColor& ink, const QColor& ground, double strength)
-{
-    const auto mix = [strength](int one, int other) {
-        return int(one * strength + other * (1 - strength));
-    };
-    return {mix(ink.red(), ground.red()), mix(ink.green(), ground.green()),
-            mix(ink.blue(), ground.blue())};
-}
+constexpr int placeMargin = 10; // logical pixels, at the line's ends
 
 } // namespace
 
@@ -84,16 +72,21 @@ void StoryPage::CreateNotice()
     lblNotice_->hide();
 }
 
+// Small and faint, whatever the theme.
 void StoryPage::CreatePlace()
 {
+    constexpr double pointSize = 8.5;
+    constexpr double strength = 0.65; // still legible: 4.5 to 1 at least
     lblPlace_ = new ElidedLabel(this);
     lblPlace_->setObjectName(QStringLiteral("lblPlace"));
-    lblPlace_->setAlignment(Qt::AlignCenter);
+    lblPlace_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     QFont small = lblPlace_->font();
-    small.setPointSizeF(placePointSize);
+    small.setPointSizeF(pointSize);
     lblPlace_->setFont(small);
+    auto* faint = new QGraphicsOpacityEffect(lblPlace_);
+    faint->setOpacity(strength);
+    lblPlace_->setGraphicsEffect(faint);
     lblPlace_->setVisible(IsPlaceShown());
-    DimPlace();
 }
 
 bool& StoryPage::IsPlaceShown() const
@@ -106,14 +99,6 @@ void StoryPage::SwitchPlace()
     IsPlaceShown() = !IsPlaceShown();
     lblPlace_->setVisible(IsPlaceShown());
     PlaceLegend();
-}
-
-void StoryPage::DimPlace()
-{
-    QPalette dim = palette();
-    dim.setColor(QPalette::WindowText, Mixed(dim.color(QPalette::WindowText),
-                                             dim.color(QPalette::Window), placeStrength));
-    lblPlace_->setPalette(dim);
 }
 
 void StoryPage::Darken()
@@ -299,30 +284,16 @@ void StoryPage::paintEvent(QPaintEvent*)
     painter.fillRect(0, bandHeight_, width(), height() - bandHeight_, palette().window());
 }
 
-// A touchpad sends small parts of a notch, and goes on by itself for a while.
 void StoryPage::wheelEvent(QWheelEvent* event)
 {
-    constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
     if (event->position().y() >= bandHeight_)
         return event->ignore();
     event->accept();
-    if (event->phase() == Qt::ScrollMomentum)
+    const int step = wheel_.Take(*event);
+    if (step == 0)
         return;
-    const int turn = event->angleDelta().y();
-    turned_ = (turn > 0) == (turned_ > 0) ? turned_ + turn : turn;
-    if (std::abs(turned_) < notch)
-        return;
-    const bool isAway = turned_ > 0;
-    turned_ = 0; // one step for each event, as each takes its time
     if (imgFullSize_->isVisible())
-        emit FullSizeTurned(isAway, event->position());
+        emit FullSizeTurned(step > 0, event->position());
     else
-        emit WheelTurned(isAway);
-}
-
-void StoryPage::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && lblPlace_)
-        DimPlace();
+        emit WheelTurned(step > 0);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/widgets/WheelNotches.h"
 #include "viewer/StorySurface.h"
 
 #include <QWidget>
@@ -66,7 +67,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void CreateBoxes();
@@ -74,7 +74,6 @@ private:
     void CreatePlace();
     bool& IsPlaceShown() const;
     void PlaceLegend();
-    void DimPlace();
     ScreenShape ShapeWith(int bandHeight, int lines) const;
 
     std::array<PictureBox*, maxPictures> imgImage_{};
@@ -87,5 +86,5 @@ private:
     bool canTakeFocus_ = false; // the pictures
     int bandHeight_ = 0;        // logical pixels
     QSize legendSize_;
-    int turned_ = 0; // of a notch of the wheel, eighths of a degree
+    WheelNotches wheel_;
 };

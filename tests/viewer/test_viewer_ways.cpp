@@ -5,16 +5,6 @@
 
 namespace {
 
-// By notches, as the system does it; others do not go on to parents.
-void TurnWheel(QWidget& widget, double notches)
-{
-    const QPointF middle = QRectF(widget.rect()).center();
-    QWheelEvent turn(middle, widget.mapToGlobal(middle), {}, {0, int(120 * notches)}, Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&turn);
-    qApp->notify(&widget, &turn);
-}
-
 // Right on the control, with what the desktop makes of it.
 void RightClick(QWidget& widget)
 {
