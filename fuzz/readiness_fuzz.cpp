@@ -68,11 +68,14 @@ public:
         constexpr std::array<void (StoryReader::*)(), 4> others{
             &StoryReader::ZoomIn, &StoryReader::ZoomOut, &StoryReader::DisplayAgain,
             &StoryReader::DisplayFromBeginning};
+        constexpr std::array<void (StoryReader::*)(), 3> paging{&StoryReader::ShowNextPictures,
+                                                                &StoryReader::ShowNextPictures,
+                                                                &StoryReader::ShowPreviousPictures};
         using enum StoryWay;
         const std::array ways{NextParagraph, NextParagraph, PreviousParagraph,
                               NextParagraph, NextChapter,   TopOfChapter};
         if (trials_.OneIn(3))
-            reader_.ShowNextPictures();
+            (reader_.*trials_.AnyOf(paging))();
         else if (trials_.OneIn(3))
             (reader_.*trials_.AnyOf(others))();
         else
@@ -114,7 +117,8 @@ public:
     QByteArray Shown() const
     {
         QByteArray shown = NamesOf(paper_.pictures).join(u' ').toUtf8() + " | " +
-                           paper_.legend.toUtf8() + " | " + paper_.title.toUtf8();
+                           paper_.legend.toUtf8() + " | " + paper_.place.toUtf8() + " | " +
+                           paper_.title.toUtf8();
         for (std::size_t i = 0; i < paper_.pictures.size(); ++i) {
             const QRect& place = paper_.pictures[i].place;
             const QImage& image = paper_.images[i];

@@ -502,6 +502,25 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>EditorKey</name>
+    <message>
+        <source>New paragraph after this one</source>
+        <translation>Nouveau paragraphe après celui-ci</translation>
+    </message>
+    <message>
+        <source>Full screen, and back</source>
+        <translation>Plein écran, et retour</translation>
+    </message>
+    <message>
+        <source>Save and leave</source>
+        <translation>Enregistrer et quitter</translation>
+    </message>
+    <message>
+        <source>Save and leave, outside the text</source>
+        <translation>Enregistrer et quitter, hors du texte</translation>
+    </message>
+</context>
+<context>
     <name>FileDrop</name>
     <message numerus="yes">
         <source>%n file(s) left out: their names are not valid text</source>
@@ -742,6 +761,25 @@ Votre version :
     <message>
         <source>Help text</source>
         <translation>Texte de l&apos;aide</translation>
+    </message>
+</context>
+<context>
+    <name>IndexingKeys</name>
+    <message>
+        <source>Next picture, from a field</source>
+        <translation>Photo suivante, depuis un champ</translation>
+    </message>
+    <message>
+        <source>Next picture</source>
+        <translation>Photo suivante</translation>
+    </message>
+    <message>
+        <source>Save and leave</source>
+        <translation>Enregistrer et quitter</translation>
+    </message>
+    <message>
+        <source>Save and leave, outside the fields</source>
+        <translation>Enregistrer et quitter, hors des champs</translation>
     </message>
 </context>
 <context>
@@ -1146,6 +1184,38 @@ Appuyez sur F1 pour l&apos;aide</translation>
     </message>
 </context>
 <context>
+    <name>PagePlace</name>
+    <message>
+        <source>picture %1 of %2</source>
+        <translation>photo %1 sur %2</translation>
+    </message>
+    <message>
+        <source>pictures %1-%2 of %3</source>
+        <translation>photos %1 à %2 sur %3</translation>
+    </message>
+    <message>
+        <source>paragraph %1 of %2</source>
+        <translation>paragraphe %1 sur %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing</source>
+        <comment>picture files</comment>
+        <translation>
+            <numerusform>%n manquante</numerusform>
+            <numerusform>%n manquantes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a list</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 – Tab goes to a picture, Enter describes it</source>
+        <translation>%1 – Tab va à une photo, Entrée la décrit</translation>
+    </message>
+</context>
+<context>
     <name>ParagraphChain</name>
     <message>
         <source>This paragraph is no longer in the album.</source>
@@ -1338,6 +1408,77 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Caracteristics must begin with a letter or a figure</source>
         <translation>Les caractéristiques doivent commencer par une lettre ou un chiffre</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerKey</name>
+    <message>
+        <source>Next paragraph</source>
+        <translation>Paragraphe suivant</translation>
+    </message>
+    <message>
+        <source>Previous paragraph</source>
+        <translation>Paragraphe précédent</translation>
+    </message>
+    <message>
+        <source>Next pictures</source>
+        <translation>Photos suivantes</translation>
+    </message>
+    <message>
+        <source>Previous pictures</source>
+        <translation>Photos précédentes</translation>
+    </message>
+    <message>
+        <source>Next chapter</source>
+        <translation>Chapitre suivant</translation>
+    </message>
+    <message>
+        <source>Beginning of the chapter</source>
+        <translation>Début du chapitre</translation>
+    </message>
+    <message>
+        <source>More and smaller pictures</source>
+        <translation>Plus de photos, plus petites</translation>
+    </message>
+    <message>
+        <source>Fewer and bigger pictures</source>
+        <translation>Moins de photos, plus grandes</translation>
+    </message>
+    <message>
+        <source>Autoview on and off</source>
+        <translation>Défilement automatique en marche ou arrêté</translation>
+    </message>
+    <message>
+        <source>Edit the paragraph</source>
+        <translation>Modifier le paragraphe</translation>
+    </message>
+    <message>
+        <source>Full screen, and back</source>
+        <translation>Plein écran, et retour</translation>
+    </message>
+    <message>
+        <source>Show or hide where you are</source>
+        <translation>Dire ou taire où vous en êtes</translation>
+    </message>
+    <message>
+        <source>Press the button or describe the picture that Tab went to</source>
+        <translation>Appuyer sur le bouton ou décrire la photo où Tab est allé</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>One large picture: its pixels, and back</source>
+        <translation>Une photo en grand : ses pixels, et retour</translation>
+    </message>
+    <message>
+        <source>One large picture: another part of it</source>
+        <translation>Une photo en grand : une autre partie</translation>
     </message>
 </context>
 <context>
@@ -1688,6 +1829,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Edit Paragraph from Chapter &apos;%1&apos;</source>
         <translation>Modifier un paragraphe du chapitre &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
     </message>
 </context>
 <context>

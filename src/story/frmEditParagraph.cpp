@@ -6,16 +6,18 @@
 #include "catalogue/frmEditLabels.h"
 #include "core/ChapterChain.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/widgets/ButtonMenu.h"
 #include "platform/widgets/FormButtons.h"
 #include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/LiteralText.h"
 #include "platform/widgets/WindowSize.h"
+#include "story/EditorKeys.h"
 #include "story/FilterCounting.h"
 #include "story/MarkerInsertion.h"
 #include "story/ParagraphPreview.h"
 #include "story/frmOrganizeParagraphs.h"
 
-#include <QKeyEvent>
+#include <QContextMenuEvent>
 #include <QScopeGuard>
 #include <QTimer>
 
@@ -85,19 +87,32 @@ void frmEditParagraph::ConnectControls()
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
 }
 
-// A "q" typed into the text is not a shortcut.
 bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
 {
-    const bool isShortcut = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    const bool isLetter =
-        key.key() == Qt::Key_Q && !isShortcut && focusWidget() != ui_->txtParagraph;
     if (insertion_->UseKey(key))
         return true;
-    if (key.key() == Qt::Key_Escape || (isLetter && !key.isAutoRepeat())) {
+    const EditorCommand command = EditorCommandOf(key, focusWidget() == ui_->txtParagraph);
+    if (command == EditorCommand::CreateNext)
+        cmdCreateNext_Click();
+    else if (command == EditorCommand::FullScreen)
+        SwitchFullScreen();
+    else if (command == EditorCommand::Exit)
         cmdExit_Click();
-        return true;
-    }
-    return false;
+    return command != EditorCommand::None;
+}
+
+// A click on a picture and one into a filter mean something else.
+void frmEditParagraph::contextMenuEvent(QContextMenuEvent* event)
+{
+    const QWidget* below = childAt(mapFromGlobal(event->globalPos()));
+    if (below && (ui_->stage->isAncestorOf(below) || ui_->filterPanel->isAncestorOf(below)))
+        return;
+    ButtonMenu menu(this);
+    menu.AddButtons({ui_->cmdFirstParagraph, ui_->cmdPreviousParagraph, ui_->cmdNextParagraph,
+                     ui_->cmdEndOfChapter});
+    menu.AddButtons({ui_->cmdCreateNext, ui_->cmdDelete, ui_->cmdOrganize});
+    menu.AddButtons({ui_->cmdPreview, ui_->cmdNextImage, ui_->cmdExit});
+    menu.exec(event->globalPos());
 }
 
 void frmEditParagraph::showEvent(QShowEvent* event)
@@ -137,6 +152,7 @@ void frmEditParagraph::FillFromAlbum()
 {
     const QString chapter = GeneralModule::ChapterTitle(CurrentChapter);
     std::vector<TextMarker> markers = ReadTextMarkers();
+    const ChapterPlace place = places_.Find(CurrentChapter, CurrentParagraph);
     const ParagraphContent content = LoadParagraph(CurrentParagraph);
     const std::optional<Paragraph> stored = ReadParagraph(CurrentParagraph);
     ui_->filterPanel->ShowLabels();
@@ -144,7 +160,14 @@ void frmEditParagraph::FillFromAlbum()
     setWindowTitle(AsWindowTitle(tr("Edit Paragraph from Chapter '%1'").arg(chapter)));
     insertion_->SetMarkers(std::move(markers));
     edit_.Load(content);
+    ShowPlace(place);
     counting_->BeginAgain();
+}
+
+void frmEditParagraph::ShowPlace(const ChapterPlace& place)
+{
+    const bool isKnown = place.number > 0;
+    ui_->lblPlace->setText(isKnown ? tr("%1 of %2").arg(place.number).arg(place.count) : QString());
 }
 
 // The text box keeps caret and history if it already holds the text.
@@ -232,11 +255,15 @@ void frmEditParagraph::cmdCreateNext_Click()
     if (!edit_.SettleConflict(CurrentParagraph))
         return;
     ParagraphPlace place = GetPlace();
-    const ParagraphContent created = CreateNextParagraph(place, edit_.GetDraft());
+    const ParagraphContent content = CreateNextParagraph(place, edit_.GetDraft());
     // Not read back: its neighbours link to it only once it is saved, so it must not be lost now.
+    ChapterPlace created = places_.Find(place.chapter, CurrentParagraph);
+    if (created.number > 0)
+        created = {created.number + 1, created.count + 1};
     CurrentParagraph = place.paragraph;
     edit_.Unload();
-    edit_.Load(created);
+    edit_.Load(content);
+    ShowPlace(created);
     counting_->BeginAgain();
     ClearPreview();
     ui_->txtParagraph->setFocus();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "story/ChapterPlaces.h"
 #include "story/ParagraphEdit.h"
 
 #include <QDialog>
@@ -38,10 +39,12 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void ConnectControls();
     bool Form_KeyDown(QKeyEvent& key);
+    void SwitchFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
 
     void ShowParagraph();
     void FillFromAlbum();
@@ -49,6 +52,7 @@ private:
     // Throws and stays when the paragraph there cannot be read.
     void GoTo(const ParagraphPlace& place);
     void GoToOrLeave(const std::function<ParagraphPlace()>& findPlace);
+    void ShowPlace(const ChapterPlace& place);
     void LeaveUnsaved();
     void SetContent(const ParagraphContent& content);
     void ClearPreview();
@@ -86,5 +90,6 @@ private:
     MarkerInsertion* insertion_;
     FilterCounting* counting_;
     ParagraphEdit edit_; // loaded while the controls hold CurrentParagraph
+    ChapterPlaces places_;
     bool isPreview_ = false;
 };

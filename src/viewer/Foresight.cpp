@@ -8,6 +8,15 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+bool IsAtRandom(const Outlook& outlook)
+{
+    return outlook.position.paragraph > 0 || GeneralModule::PictureAtRandom;
+}
+
+} // namespace
+
 StoryStep TakeStep(StoryWay way, StoryPosition& position)
 {
     switch (way) {
@@ -23,9 +32,18 @@ StoryStep TakeStep(StoryWay way, StoryPosition& position)
     return StoryStep::Nothing;
 }
 
+bool HasPageBefore(const StoryPosition& position)
+{
+    StoryPosition before = position;
+    return position.chapter > 0 &&
+           TakeStep(StoryWay::PreviousParagraph, before) != StoryStep::Nothing &&
+           before != position;
+}
+
 void Foresight::Step(Outlook& outlook, StoryWay way)
 {
     outlook.pictures.clear();
+    outlook.earlier = {};
     outlook.step = TakeStep(way, outlook.position);
     const bool isPage = outlook.step == StoryStep::Paragraph || outlook.step == StoryStep::Chapter;
     const std::optional<PageText> page = isPage ? TextAt(outlook.position) : std::nullopt;
@@ -47,7 +65,10 @@ void Foresight::Move(Outlook& outlook, StoryMove move)
     case StoryMove::NextPictures:
         if (outlook.list.Count() == 0)
             return Step(outlook, StoryWay::NextParagraph);
+        outlook.earlier.Add(FilesOf(outlook.pictures));
         return Fill(outlook);
+    case StoryMove::PreviousPictures:
+        return GoBack(outlook);
     case StoryMove::ZoomOut:
         return Zoom(outlook, std::min(outlook.lines + 1, maxLines));
     case StoryMove::ZoomIn:
@@ -57,10 +78,26 @@ void Foresight::Move(Outlook& outlook, StoryMove move)
 
 void Foresight::Fill(Outlook& outlook)
 {
-    const bool atRandom = outlook.position.paragraph > 0 || GeneralModule::PictureAtRandom;
-    outlook.pictures =
-        FillScreen(outlook.list, surface_.ShapeFor(outlook.page.arrangedFor, outlook.lines),
-                   atRandom, GeneralModule::FindPictureFile);
+    outlook.pictures = FillScreen(outlook.list, ShapeOf(outlook), IsAtRandom(outlook),
+                                  GeneralModule::FindPictureFile);
+}
+
+void Foresight::GoBack(Outlook& outlook)
+{
+    if (outlook.earlier.IsEmpty()) {
+        outlook.pictures.clear();
+        if (HasPageBefore(outlook.position))
+            Step(outlook, StoryWay::PreviousParagraph);
+        return;
+    }
+    outlook.list.PutBack(FilesOf(outlook.pictures));
+    outlook.pictures = outlook.earlier.FillWithLast(
+        outlook.list, ShapeOf(outlook), IsAtRandom(outlook), GeneralModule::FindPictureFile);
+}
+
+ScreenShape Foresight::ShapeOf(const Outlook& outlook) const
+{
+    return surface_.ShapeFor(outlook.page.arrangedFor, outlook.lines);
 }
 
 void Foresight::Zoom(Outlook& outlook, int lines)

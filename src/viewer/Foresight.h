@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewer/EarlierScreens.h"
 #include "viewer/FoundAhead.h"
 #include "viewer/LikelyMoves.h"
 #include "viewer/PageContent.h"
@@ -22,6 +23,10 @@ enum class StoryWay {
 
 StoryStep TakeStep(StoryWay way, StoryPosition& position);
 
+// Whether the step back leads to another page. It does not from the story's beginning, nor where no
+// story is read.
+bool HasPageBefore(const StoryPosition& position);
+
 // What is on show, or what would be after a move.
 struct Outlook
 {
@@ -30,6 +35,7 @@ struct Outlook
     int lines = 1;
     PageText page;
     std::vector<ShownPicture> pictures;
+    EarlierScreens earlier;
     PictureList list;   // the pictures that come after them
     std::mt19937 seeds; // each page takes one for the order of its pictures
 };
@@ -49,6 +55,8 @@ public:
 
 private:
     void Fill(Outlook& outlook);
+    void GoBack(Outlook& outlook);
+    ScreenShape ShapeOf(const Outlook& outlook) const;
     void Zoom(Outlook& outlook, int lines);
 
     const StorySurface& surface_;

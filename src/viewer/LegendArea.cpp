@@ -32,7 +32,8 @@ int TextHeight(const QFont& font, const QString& text, int width)
 
 } // namespace
 
-LegendArea::LegendArea(QWidget* parent) : QScrollArea(parent), lblLegend_(new ClickLabel)
+LegendArea::LegendArea(QWidget* parent)
+    : QScrollArea(parent), lblLegend_(new ClickLabel), bottomMargin_(textMargin)
 {
     setObjectName(QStringLiteral("legendArea"));
     setFrameShape(QFrame::NoFrame);
@@ -41,7 +42,6 @@ LegendArea::LegendArea(QWidget* parent) : QScrollArea(parent), lblLegend_(new Cl
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lblLegend_->setObjectName(QStringLiteral("lblLegend"));
     lblLegend_->setCursor(Qt::PointingHandCursor);
-    lblLegend_->setContentsMargins(0, textMargin, 0, textMargin);
     setWidget(lblLegend_);
     SetTextAlignment(Qt::AlignHCenter);
     connect(lblLegend_, &ClickLabel::Clicked, this, &LegendArea::Clicked);
@@ -79,15 +79,17 @@ QSize LegendArea::SizeOn(QSize page, const QString& text) const
     return {width, height + 2 * textMargin};
 }
 
-void LegendArea::Place(const QRect& place)
+void LegendArea::Place(const QRect& place, int footer)
 {
-    setGeometry(place);
+    bottomMargin_ = std::max(0, textMargin - footer);
+    lblLegend_->setContentsMargins(0, textMargin, 0, bottomMargin_);
+    setGeometry(place.adjusted(0, 0, 0, -footer));
     Fit();
 }
 
 void LegendArea::Fit()
 {
-    const int room = height() - 2 * textMargin;
+    const int room = height() - textMargin - bottomMargin_;
     double size = pointSize_;
     while (size > smallestPointSize && TextHeight(FontOf(size), lblLegend_->text(), width()) > room)
         size -= 1;

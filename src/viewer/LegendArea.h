@@ -20,7 +20,9 @@ public:
     // Logical pixels that the area takes at the bottom of a page of that size, for a text of about
     // that length.
     QSize SizeOn(QSize page, const QString& text) const;
-    void Place(const QRect& place);
+    // The footer are logical pixels at the bottom that are left to something else; as far as they
+    // find room in the margin, the text stays where it is.
+    void Place(const QRect& place, int footer);
 
     void SetText(const QString& text);
     // As SetText, on the screen at once.
@@ -39,5 +41,6 @@ private:
     void Fit();
 
     ClickLabel* lblLegend_;
+    int bottomMargin_;
     double pointSize_ = 15; // read from an arm's length away
 };

@@ -8,6 +8,7 @@ enum class StoryMove {
     NextParagraph,
     NextPictures,
     PreviousParagraph,
+    PreviousPictures,
     ZoomOut,
     ZoomIn,
 };

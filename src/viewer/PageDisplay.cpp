@@ -35,9 +35,11 @@ void PageDisplay::ShowCountFound(int count)
 void PageDisplay::SetFound(FoundPictures found)
 {
     displayed_.clear();
+    earlier_ = {};
     list_ = std::move(found.list);
     failure_ = found.failure;
-    hasFound_ = list_.Count() > 0;
+    found_ = list_.Count();
+    seenElsewhere_ = 0;
 }
 
 void PageDisplay::TellFailure()
@@ -46,25 +48,63 @@ void PageDisplay::TellFailure()
         RunGuarded([&failure] { std::rethrow_exception(failure); });
 }
 
-// Either all of it happens or nothing.
 void PageDisplay::ShowNextScreen(int lines)
 {
-    const auto work = surface_->BeginWork();
-    const ScreenShape shape = surface_->GetShape(lines);
-    PictureList list = list_;
-    std::vector<ShownPicture> pictures = FillScreen(list, shape, GeneralModule::PictureAtRandom);
-    lookAhead_.SetRoom((QSizeF(shape.area) * shape.pixelRatio).toSize(), screensHeld);
-    std::vector<QImage> images = lookAhead_.Take(RequestsFor(pictures, shape.pixelRatio));
-    list_ = std::move(list);
-    displayed_ = std::move(pictures);
-    surface_->ShowPictures(displayed_, std::move(images));
-    surface_->SetNotice(Notice());
+    EarlierScreens earlier = earlier_;
+    earlier.Add(FilesOf(displayed_));
+    Show(lines, list_, std::move(earlier), Way::On);
 }
 
 void PageDisplay::ShowScreenAgain(int lines)
 {
-    list_.PutBack(FilesOf(displayed_));
-    ShowNextScreen(lines);
+    Show(lines, ListFromScreenOn(), earlier_, Way::On);
+}
+
+void PageDisplay::ShowEarlierScreen(int lines)
+{
+    Show(lines, ListFromScreenOn(), earlier_, Way::Back);
+}
+
+PictureList PageDisplay::ListFromScreenOn() const
+{
+    PictureList list = list_;
+    list.PutBack(FilesOf(displayed_));
+    return list;
+}
+
+// Either all of it happens or nothing.
+void PageDisplay::Show(int lines, PictureList list, EarlierScreens earlier, Way way)
+{
+    const auto work = surface_->BeginWork();
+    const ScreenShape shape = surface_->GetShape(lines);
+    const bool atRandom = GeneralModule::PictureAtRandom;
+    std::vector<ShownPicture> pictures = way == Way::Back
+                                             ? earlier.FillWithLast(list, shape, atRandom)
+                                             : FillScreen(list, shape, atRandom);
+    lookAhead_.SetRoom((QSizeF(shape.area) * shape.pixelRatio).toSize(), screensHeld);
+    std::vector<QImage> images = lookAhead_.Take(RequestsFor(pictures, shape.pixelRatio));
+    list_ = std::move(list);
+    earlier_ = std::move(earlier);
+    displayed_ = std::move(pictures);
+    large_.Forget();
+    surface_->ShowPictures(displayed_, std::move(images));
+    surface_->SetNotice(Notice());
+}
+
+PagePlace PageDisplay::GetPlace() const
+{
+    const int shown = int(displayed_.size());
+    const int before = earlier_.CountPictures() + seenElsewhere_;
+    return {.first = shown > 0 ? before + 1 : 0,
+            .last = before + shown,
+            .found = found_,
+            .missing = found_ - before - shown - list_.Count()};
+}
+
+void PageDisplay::SetList(const PictureList& list)
+{
+    seenElsewhere_ += list_.Count() - list.Count();
+    list_ = list;
 }
 
 // Why the screen holds no pictures; empty when it does.
@@ -72,8 +112,8 @@ QString PageDisplay::Notice() const
 {
     if (!displayed_.empty())
         return {};
-    return hasFound_ ? QCoreApplication::translate("PageDisplay", "The picture files are missing.")
-                     : QCoreApplication::translate("PageDisplay", "No picture fits.");
+    return found_ > 0 ? QCoreApplication::translate("PageDisplay", "The picture files are missing.")
+                      : QCoreApplication::translate("PageDisplay", "No picture fits.");
 }
 
 void PageDisplay::ShowText()
@@ -89,12 +129,16 @@ void PageDisplay::ShowCountLeft()
 
 void PageDisplay::ShowAlone(const ShownPicture& picture, bool hasText)
 {
-    const ScreenShape shape = surface_->GetShape(0);
-    const ShownPicture large{picture.file, picture.path, PlaceOfSinglePicture(picture.path, shape)};
-    surface_->ShowFullSize(large, ReadPictures(RequestsFor({large}, shape.pixelRatio)).front());
+    large_.Show(*surface_, picture);
     const QString pattern = hasText ? page_.text : QStringLiteral("<[Picture Legend]>");
     const QString text = FillPictureMarkers(pattern, picture.file);
     surface_->SetLegend(text.isEmpty() ? FileNameOf(picture.file) : text);
+}
+
+void PageDisplay::LeaveAlone()
+{
+    large_.Forget();
+    surface_->LeaveFullSize();
 }
 
 QString PageDisplay::GetLastDisplayed() const
@@ -104,8 +148,11 @@ QString PageDisplay::GetLastDisplayed() const
 
 void PageDisplay::Remove(const QStringList& files)
 {
+    found_ -= earlier_.Remove(files) + list_.Count();
     for (const QString& file : files)
         list_.Remove(file);
-    std::erase_if(displayed_,
-                  [&files](const ShownPicture& picture) { return files.contains(picture.file); });
+    found_ += list_.Count();
+    found_ -= int(std::erase_if(displayed_, [&files](const ShownPicture& picture) {
+        return files.contains(picture.file);
+    }));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 class QKeyEvent;
+class QPoint;
 class QWidget;
 class StoryPage;
 
@@ -16,6 +17,8 @@ public:
     virtual void DisplayAgain() = 0;
     // True when the key is used up.
     virtual bool Form_KeyDown(const QKeyEvent& key) = 0;
+    // Offers the commands in a menu at that place of the desktop.
+    virtual void ShowMenu(const QPoint& place) = 0;
 
 protected:
     ~PageHost() = default;

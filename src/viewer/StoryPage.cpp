@@ -2,13 +2,15 @@
 #include "viewer/StoryPage.h"
 
 #include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/ElidedLabel.h"
 #include "platform/widgets/LiteralText.h"
-#include "platform/widgets/PictureBox.h"
+#include "viewer/LargePictureBox.h"
 #include "viewer/LegendArea.h"
 #include "viewer/PageFade.h"
 #include "viewer/ViewerFlags.h"
 
-#include <QEvent>
+#include <QContextMenuEvent>
+#include <QGraphicsOpacityEffect>
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
@@ -22,6 +24,8 @@ const QColor bandColor(0x1f, 0x20, 0x23);
 const QColor inkOnBand(0xec, 0xea, 0xe5);
 const QColor scrollBarOnBand(0x4a, 0x4c, 0x52);
 
+constexpr int placeMargin = 10; // logical pixels, at the line's ends
+
 } // namespace
 
 StoryPage::StoryPage(QWidget* parent) : QWidget(parent)
@@ -31,6 +35,7 @@ StoryPage::StoryPage(QWidget* parent) : QWidget(parent)
     legend_ = new LegendArea(this);
     connect(legend_, &LegendArea::Clicked, this, &StoryPage::LegendClicked);
     CreateNotice();
+    CreatePlace();
     fade_ = new PageFade(this);
 }
 
@@ -45,10 +50,12 @@ void StoryPage::CreateBoxes()
                 [this, i](Qt::MouseButton button) { emit PicturePressed(i, button); });
         imgImage_[std::size_t(i)] = box;
     }
-    imgFullSize_ = new PictureBox(this);
+    imgFullSize_ = new LargePictureBox(this);
     imgFullSize_->setObjectName(QStringLiteral("imgFullSize"));
     imgFullSize_->hide();
+    imgFullSize_->installEventFilter(this);
     connect(imgFullSize_, &PictureBox::Pressed, this, &StoryPage::FullSizePressed);
+    connect(imgFullSize_, &LargePictureBox::Dragged, this, &StoryPage::FullSizeDragged);
 }
 
 void StoryPage::CreateNotice()
@@ -65,6 +72,35 @@ void StoryPage::CreateNotice()
     lblNotice_->hide();
 }
 
+// Small and faint, whatever the theme.
+void StoryPage::CreatePlace()
+{
+    constexpr double pointSize = 8.5;
+    constexpr double strength = 0.65; // still legible: 4.5 to 1 at least
+    lblPlace_ = new ElidedLabel(this);
+    lblPlace_->setObjectName(QStringLiteral("lblPlace"));
+    lblPlace_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    QFont small = lblPlace_->font();
+    small.setPointSizeF(pointSize);
+    lblPlace_->setFont(small);
+    auto* faint = new QGraphicsOpacityEffect(lblPlace_);
+    faint->setOpacity(strength);
+    lblPlace_->setGraphicsEffect(faint);
+    lblPlace_->setVisible(IsPlaceShown());
+}
+
+bool& StoryPage::IsPlaceShown() const
+{
+    return isDark_ ? GeneralModule::PlaceShownOnWholeScreen : GeneralModule::PlaceShown;
+}
+
+void StoryPage::SwitchPlace()
+{
+    IsPlaceShown() = !IsPlaceShown();
+    lblPlace_->setVisible(IsPlaceShown());
+    PlaceLegend();
+}
+
 void StoryPage::Darken()
 {
     isDark_ = true;
@@ -75,6 +111,7 @@ void StoryPage::Darken()
     dark.setColor(QPalette::Button, scrollBarOnBand);
     setPalette(dark);
     legend_->Enlarge();
+    lblPlace_->setVisible(IsPlaceShown());
 }
 
 void StoryPage::SetTitle(const QString& title)
@@ -84,11 +121,20 @@ void StoryPage::SetTitle(const QString& title)
 
 void StoryPage::Arrange(const QString& text)
 {
-    const QSize legend = legend_->SizeOn(size(), text);
-    bandHeight_ = height() - legend.height();
-    legend_->Place({QPoint((width() - legend.width()) / 2, bandHeight_), legend});
+    legendSize_ = legend_->SizeOn(size(), text);
+    bandHeight_ = height() - legendSize_.height();
+    PlaceLegend();
     lblNotice_->setGeometry(0, 0, width(), bandHeight_);
     update();
+}
+
+// The line below the text stands in the text's margin, so that pictures and text stay where they
+// are with and without it.
+void StoryPage::PlaceLegend()
+{
+    const int footer = IsPlaceShown() ? lblPlace_->sizeHint().height() : 0;
+    legend_->Place({QPoint((width() - legendSize_.width()) / 2, bandHeight_), legendSize_}, footer);
+    lblPlace_->setGeometry(placeMargin, height() - footer, width() - 2 * placeMargin, footer);
 }
 
 ScreenShape StoryPage::GetShape(int lines) const
@@ -118,6 +164,7 @@ void StoryPage::ShowPictures(const std::vector<ShownPicture>& pictures, std::vec
         if (used)
             box->setGeometry(pictures[i].place);
         box->setVisible(used);
+        box->setFocusPolicy(used && canTakeFocus_ ? Qt::TabFocus : Qt::NoFocus);
     }
     fade_->Begin({0, 0, width(), bandHeight_});
 }
@@ -145,7 +192,15 @@ void StoryPage::ShowFullSize(const ShownPicture& picture, const QImage& image)
     imgFullSize_->SetTag(picture.file);
     imgFullSize_->SetPicture(image);
     imgFullSize_->setGeometry(picture.place);
+    imgFullSize_->SetDraggable(false);
     imgFullSize_->show();
+}
+
+void StoryPage::ShowFullSizePart(const QRect& place, const QImage& image, const QRectF& part)
+{
+    imgFullSize_->SetPart(image, part);
+    imgFullSize_->setGeometry(place);
+    imgFullSize_->SetDraggable(true);
 }
 
 void StoryPage::LeaveFullSize()
@@ -161,6 +216,11 @@ void StoryPage::SetNotice(const QString& text)
 {
     lblNotice_->setText(text);
     lblNotice_->setVisible(!text.isEmpty());
+}
+
+void StoryPage::SetPlace(const QString& text)
+{
+    lblPlace_->setText(text);
 }
 
 void StoryPage::SetLegend(const QString& text)
@@ -184,6 +244,17 @@ void StoryPage::SetPictureToolTip(const QString& text)
         box->setToolTip(text);
 }
 
+int StoryPage::GetPictureMeant() const
+{
+    const auto find = [this](const auto& isMeant) {
+        const auto box = std::find_if(imgImage_.begin(), imgImage_.end(), isMeant);
+        return box == imgImage_.end() ? -1 : int(box - imgImage_.begin());
+    };
+    const QWidget* focus = window()->focusWidget();
+    const int focused = find([focus](const PictureBox* box) { return box == focus; });
+    return focused >= 0 ? focused : find([](const PictureBox* box) { return box->underMouse(); });
+}
+
 std::shared_ptr<void> StoryPage::BeginWork()
 {
     return std::make_shared<BusyPointer>();
@@ -192,6 +263,10 @@ std::shared_ptr<void> StoryPage::BeginWork()
 bool StoryPage::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && (isDark_ || GeneralModule::AutoviewOn))
+        return true;
+    // The press of a button on a picture has had its effect.
+    if (event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Mouse)
         return true;
     return QWidget::eventFilter(watched, event);
 }
@@ -207,4 +282,18 @@ void StoryPage::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(0, 0, width(), bandHeight_, bandColor);
     painter.fillRect(0, bandHeight_, width(), height() - bandHeight_, palette().window());
+}
+
+void StoryPage::wheelEvent(QWheelEvent* event)
+{
+    if (event->position().y() >= bandHeight_)
+        return event->ignore();
+    event->accept();
+    const int step = wheel_.Take(*event);
+    if (step == 0)
+        return;
+    if (imgFullSize_->isVisible())
+        emit FullSizeTurned(step > 0, event->position());
+    else
+        emit WheelTurned(step > 0);
 }

@@ -23,57 +23,6 @@ StoryMode StoryReader::GetMode() const
     return Position.paragraph > 0 ? StoryMode::Story : StoryMode::EmptyChapter;
 }
 
-Outlook StoryReader::GetOutlook() const
-{
-    return {.position = Position,
-            .lines = Nblines,
-            .page = display_.GetPage(),
-            .pictures = display_.GetDisplayed(),
-            .list = display_.GetList(),
-            .seeds = seeds_};
-}
-
-Outlook StoryReader::Foresee(StoryWay way)
-{
-    Outlook outlook = GetOutlook();
-    Foresight(display_.Surface(), found_).Step(outlook, way);
-    return outlook;
-}
-
-Outlook StoryReader::Foresee(LikelyMove move)
-{
-    Outlook outlook = GetOutlook();
-    Foresight foresight(display_.Surface(), found_);
-    for (int i = 0; i < move.times; ++i)
-        foresight.Move(outlook, move.move);
-    return outlook;
-}
-
-// Who watches autoview presses no keys.
-std::vector<LikelyMove> StoryReader::MovesToExpect() const
-{
-    if (!GeneralModule::AutoviewOn)
-        return LikelyMoves(lastMove_);
-    const bool isStory = GetMode() != StoryMode::Selection;
-    return {{isStory ? StoryMove::NextParagraph : StoryMove::NextPictures}};
-}
-
-void StoryReader::BeginLookingAhead()
-{
-    std::vector<LookAhead::Plan> plans;
-    for (const LikelyMove& move : MovesToExpect()) {
-        // Several pictures keep all cores busy anyway.
-        if (move.times > 1 && display_.GetDisplayed().size() > 1)
-            continue;
-        plans.emplace_back([this, move] {
-            const GeneralModule::NoWaiting noWaiting; // no key could be handled meanwhile
-            const qreal pixelRatio = display_.Surface().GetShape(Nblines).pixelRatio;
-            return RequestsFor(Foresee(move).pictures, pixelRatio);
-        });
-    }
-    lookAhead_.Begin(std::move(plans));
-}
-
 void StoryReader::Go(StoryWay way)
 {
     lastMove_ = way == StoryWay::PreviousParagraph || way == StoryWay::TopOfChapter
@@ -160,8 +109,18 @@ void StoryReader::ShowPage(const PageText& page, const Search& search)
 void StoryReader::ScreenChanged()
 {
     LastImageDisplayed = display_.GetLastDisplayed();
+    ShowPlace();
     autoview_.Release(); // a picture that was shown alone is hidden now
     BeginLookingAhead();
+}
+
+void StoryReader::ShowPlace()
+{
+    PagePlace place = display_.GetPlace();
+    place.isSelection = GetMode() == StoryMode::Selection;
+    if (GetMode() == StoryMode::Story)
+        place.paragraph = places_.Find(Position.chapter, Position.paragraph);
+    display_.Surface().SetPlace(Describe(place));
 }
 
 void StoryReader::DisplaySelection()
@@ -173,7 +132,7 @@ void StoryReader::DisplaySelection()
 
 void StoryReader::DisplayUndefined(const QString& fileSelection, int maxImages)
 {
-    ShowPage({}, [&](const CountFeedback& feedback) {
+    ShowPage({.title = fileSelection}, [&](const CountFeedback& feedback) {
         return FindSelection(fileSelection, ImageSelection, maxImages, feedback);
     });
 }
@@ -181,8 +140,10 @@ void StoryReader::DisplayUndefined(const QString& fileSelection, int maxImages)
 void StoryReader::DisplayAgain()
 {
     const StoryMode mode = GetMode();
-    display_.Surface().SetPictureToolTip(mode == StoryMode::Selection ? tr("Click to index picture")
-                                                                      : tr("Click to edit image"));
+    const bool isSelection = mode == StoryMode::Selection;
+    display_.Surface().SetPictureToolTip(isSelection ? tr("Click to index picture")
+                                                     : tr("Click to edit image"));
+    display_.Surface().LetPicturesTakeFocus(isSelection);
     switch (mode) {
     case StoryMode::Selection:
         return DisplaySelection();
@@ -210,6 +171,19 @@ void StoryReader::ShowNextPictures()
     // None of the files left in the list is there any more.
     if (display_.GetDisplayed().empty() && GetMode() == StoryMode::Story)
         return Step(StoryWay::NextParagraph);
+    ShowText(GetMode() == StoryMode::Selection);
+}
+
+void StoryReader::ShowPreviousPictures()
+{
+    lastMove_ = StoryMove::PreviousPictures;
+    if (display_.GetEarlier().IsEmpty()) {
+        if (HasPageBefore(Position))
+            Step(StoryWay::PreviousParagraph);
+        return;
+    }
+    display_.ShowEarlierScreen(Nblines);
+    ScreenChanged();
     ShowText(GetMode() == StoryMode::Selection);
 }
 
@@ -258,7 +232,7 @@ void StoryReader::ShowAlone(const ShownPicture& picture)
 void StoryReader::LeaveAlone()
 {
     const auto pause = autoview_.Pause();
-    display_.Surface().LeaveFullSize();
+    display_.LeaveAlone();
     ShowText(GetMode() == StoryMode::Selection);
 }
 

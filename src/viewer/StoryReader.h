@@ -67,11 +67,14 @@ public:
 
     // The page's next pictures; after the last ones of a paragraph the next paragraph.
     void ShowNextPictures();
+    // The screen before, as it was; before a page's first one the page before.
+    void ShowPreviousPictures();
     void ZoomIn();  // fewer and larger pictures
     void ZoomOut(); // more and smaller ones
     // One picture of the screen alone; autoview waits until others are shown.
     void ShowAlone(const ShownPicture& picture);
     void LeaveAlone();
+    LargePicture& GetLargePicture() { return display_.GetLarge(); }
 
     // The pictures on the screen, and those that come after them.
     const std::vector<ShownPicture>& GetDisplayed() const { return display_.GetDisplayed(); }
@@ -98,6 +101,7 @@ private:
     Outlook GetOutlook() const;
     std::vector<LikelyMove> MovesToExpect() const;
     void BeginLookingAhead();
+    void ShowPlace();
     void ShowText(bool isCounting);
     void StepByItself();
 
@@ -105,6 +109,7 @@ private:
     PageDisplay display_;
     Autoview autoview_;
     FoundAhead found_;
+    ChapterPlaces places_;
     StoryMove lastMove_ = StoryMove::NextParagraph;
     std::mt19937 seeds_; // see Outlook
 };

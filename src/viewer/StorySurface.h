@@ -24,14 +24,20 @@ public:
     // images holds a picture for each entry of pictures, null for one that cannot be read.
     virtual void ShowPictures(const std::vector<ShownPicture>& pictures,
                               std::vector<QImage> images) = 0;
-    // The pictures on show fade away over the next ones, if they come before the result is released.
+    // The pictures on show fade away over the next ones, if they come before the result is
+    // released.
     [[nodiscard]] virtual std::shared_ptr<void> FadeIntoNext() = 0;
     // One picture alone, the others hidden; and back again.
     virtual void ShowFullSize(const ShownPicture& picture, const QImage& image) = 0;
+    // Of the picture that is shown alone only that part, in pixels of the image, at that place.
+    virtual void ShowFullSizePart(const QRect& place, const QImage& image, const QRectF& part) = 0;
     virtual void LeaveFullSize() = 0;
 
     // Says in the middle of the band why there are no pictures; empty says nothing.
     virtual void SetNotice(const QString& text) = 0;
+
+    // Where the reader is, said quietly beside pictures and text.
+    virtual void SetPlace(const QString& text) = 0;
 
     virtual void SetLegend(const QString& text) = 0;
     // As SetLegend, on the screen at once: for the middle of long work.
@@ -39,6 +45,8 @@ public:
     virtual void SetLegendAlignment(Qt::Alignment alignment) = 0;
 
     virtual void SetPictureToolTip(const QString& text) = 0;
+    // Whether Tab leads to the pictures.
+    virtual void LetPicturesTakeFocus(bool mayTake) = 0;
 
     // Tells the user that work is going on, until the result is released.
     [[nodiscard]] virtual std::shared_ptr<void> BeginWork() = 0;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// How pictures are shown. The main window sets these before it opens the viewer.
+// How pictures are shown. The main window sets the first three before it opens the viewer.
 namespace GeneralModule {
 
 // True while autoview runs. Whatever pauses the timer restores it from this flag.
@@ -15,5 +15,10 @@ inline bool SoftTransitions = false;
 
 // How large the text below the pictures is, 1 for its usual size; counts for viewers opened later.
 inline double TextScale = 1;
+
+// Whether a page says where the reader is: in the viewer's window, and on a whole screen. As the
+// user chose last.
+inline bool PlaceShown = true;
+inline bool PlaceShownOnWholeScreen = false;
 
 } // namespace GeneralModule

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "viewer/ViewerKeys.h"
 
-#include <QHash>
 #include <QKeyEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -11,37 +12,81 @@ namespace {
 bool ActsOnce(ViewerCommand command)
 {
     return command == ViewerCommand::Close || command == ViewerCommand::FullScreen ||
-           command == ViewerCommand::PressButton;
+           command == ViewerCommand::SwitchPlace || command == ViewerCommand::PressControl;
 }
 
 } // namespace
 
+const std::vector<ViewerKey>& ViewerKeys()
+{
+    using enum ViewerCommand;
+    // Plus shows more pictures and minus fewer, on purpose: they count pictures, not magnification.
+    static const std::vector<ViewerKey> rows{
+        {{Qt::Key_Right, Qt::Key_N},
+         NextParagraph,
+         QT_TRANSLATE_NOOP("ViewerKey", "Next paragraph")},
+        {{Qt::Key_Left, Qt::Key_P},
+         PreviousParagraph,
+         QT_TRANSLATE_NOOP("ViewerKey", "Previous paragraph")},
+        {{Qt::Key_Down, Qt::Key_Space},
+         NextPictures,
+         QT_TRANSLATE_NOOP("ViewerKey", "Next pictures")},
+        {{Qt::Key_Backspace},
+         PreviousPictures,
+         QT_TRANSLATE_NOOP("ViewerKey", "Previous pictures")},
+        {{Qt::Key_PageDown}, NextChapter, QT_TRANSLATE_NOOP("ViewerKey", "Next chapter")},
+        {{Qt::Key_PageUp},
+         TopOfChapter,
+         QT_TRANSLATE_NOOP("ViewerKey", "Beginning of the chapter")},
+        {{Qt::Key_Plus}, ZoomOut, QT_TRANSLATE_NOOP("ViewerKey", "More and smaller pictures")},
+        {{Qt::Key_Minus}, ZoomIn, QT_TRANSLATE_NOOP("ViewerKey", "Fewer and bigger pictures")},
+        {{Qt::Key_Asterisk, Qt::Key_T},
+         SwitchAutoview,
+         QT_TRANSLATE_NOOP("ViewerKey", "Autoview on and off")},
+        {{Qt::Key_E}, EditParagraph, QT_TRANSLATE_NOOP("ViewerKey", "Edit the paragraph")},
+        {{Qt::Key_F11}, FullScreen, QT_TRANSLATE_NOOP("ViewerKey", "Full screen, and back")},
+        {{Qt::Key_I}, SwitchPlace, QT_TRANSLATE_NOOP("ViewerKey", "Show or hide where you are")},
+        {{Qt::Key_Z},
+         ZoomPixels,
+         QT_TRANSLATE_NOOP("ViewerKey", "One large picture: its pixels, and back"),
+         false},
+        {{Qt::CTRL | Qt::Key_Left, Qt::CTRL | Qt::Key_Right, Qt::CTRL | Qt::Key_Up,
+          Qt::CTRL | Qt::Key_Down},
+         MovePicture,
+         QT_TRANSLATE_NOOP("ViewerKey", "One large picture: another part of it"),
+         false},
+        {{Qt::Key_Return, Qt::Key_Enter},
+         PressControl,
+         QT_TRANSLATE_NOOP("ViewerKey",
+                           "Press the button or describe the picture that Tab went to"),
+         false},
+        {{Qt::Key_F1}, Leave, QT_TRANSLATE_NOOP("ViewerKey", "Manual"), false},
+        {{Qt::Key_Q, Qt::Key_Escape}, Close, QT_TRANSLATE_NOOP("ViewerKey", "Back")},
+    };
+    return rows;
+}
+
+QString ViewerKey::GetNames() const
+{
+    return KeyNames(QList<QKeySequence>(keys.begin(), keys.end()));
+}
+
+KeyRows ViewerKeyRows()
+{
+    KeyRows rows;
+    for (const ViewerKey& row : ViewerKeys())
+        rows.append({row.GetNames(), row.GetText()});
+    return rows;
+}
+
 ViewerCommand CommandOf(const QKeyEvent& key)
 {
-    // Plus shows more pictures and minus fewer, on purpose: they count pictures, not magnification.
-    static const QHash<int, ViewerCommand> commands{
-        {Qt::Key_F1, ViewerCommand::Leave},
-        {Qt::Key_E, ViewerCommand::EditParagraph},
-        {Qt::Key_Down, ViewerCommand::NextPictures},
-        {Qt::Key_Space, ViewerCommand::NextPictures},
-        {Qt::Key_Right, ViewerCommand::NextParagraph},
-        {Qt::Key_N, ViewerCommand::NextParagraph},
-        {Qt::Key_Left, ViewerCommand::PreviousParagraph},
-        {Qt::Key_P, ViewerCommand::PreviousParagraph},
-        {Qt::Key_PageDown, ViewerCommand::NextChapter},
-        {Qt::Key_PageUp, ViewerCommand::TopOfChapter},
-        {Qt::Key_Plus, ViewerCommand::ZoomOut},
-        {Qt::Key_Minus, ViewerCommand::ZoomIn},
-        {Qt::Key_Asterisk, ViewerCommand::SwitchAutoview},
-        {Qt::Key_T, ViewerCommand::SwitchAutoview},
-        {Qt::Key_F11, ViewerCommand::FullScreen},
-        {Qt::Key_Return, ViewerCommand::PressButton},
-        {Qt::Key_Enter, ViewerCommand::PressButton},
-        {Qt::Key_Q, ViewerCommand::Close},
-        {Qt::Key_Escape, ViewerCommand::Close},
-    };
-    if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-        return ViewerCommand::Leave;
-    const ViewerCommand command = commands.value(key.key(), ViewerCommand::None);
-    return key.isAutoRepeat() && ActsOnce(command) ? ViewerCommand::None : command;
+    const Qt::KeyboardModifiers held =
+        key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const QKeyCombination pressed(held, Qt::Key(key.key()));
+    for (const ViewerKey& row : ViewerKeys()) {
+        if (std::find(row.keys.begin(), row.keys.end(), pressed) != row.keys.end())
+            return key.isAutoRepeat() && ActsOnce(row.command) ? ViewerCommand::None : row.command;
+    }
+    return held ? ViewerCommand::Leave : ViewerCommand::None;
 }

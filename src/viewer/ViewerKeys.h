@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/widgets/KeyRows.h"
+
+#include <QCoreApplication>
+
+#include <vector>
+
 class QKeyEvent;
 
 // What a key asks of the viewer; the full-screen view knows the same keys.
@@ -9,6 +15,7 @@ enum class ViewerCommand {
     Leave, // a key for the desktop or the window's help, which does not even pause autoview
     EditParagraph,
     NextPictures,
+    PreviousPictures,
     NextParagraph,
     PreviousParagraph,
     NextChapter,
@@ -16,9 +23,30 @@ enum class ViewerCommand {
     ZoomOut,
     ZoomIn,
     SwitchAutoview,
-    FullScreen,  // there and back
-    PressButton, // that has the focus
+    ZoomPixels,   // of a picture that is alone: to its pixels, and back
+    MovePicture,  // of such a picture the part that is seen
+    FullScreen,   // there and back
+    SwitchPlace,  // says where the reader is, or no longer
+    PressControl, // that has the focus
     Close,
 };
+
+// One row for each command, in the order in which a person reads them.
+struct ViewerKey
+{
+    Q_DECLARE_TR_FUNCTIONS(ViewerKey)
+
+public:
+    std::vector<QKeyCombination> keys;
+    ViewerCommand command;
+    const char* text;
+    bool isInMenu = true;
+
+    QString GetNames() const;
+    QString GetText() const { return tr(text); }
+};
+
+const std::vector<ViewerKey>& ViewerKeys();
+KeyRows ViewerKeyRows();
 
 ViewerCommand CommandOf(const QKeyEvent& key);

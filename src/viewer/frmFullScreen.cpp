@@ -9,6 +9,7 @@
 #include "viewer/StoryPage.h"
 #include "viewer/ViewerKeys.h"
 
+#include <QContextMenuEvent>
 #include <QScreen>
 
 frmFullScreen::frmFullScreen(PageHost& viewer)
@@ -47,6 +48,11 @@ void frmFullScreen::Form_Load()
 void frmFullScreen::Form_Resize()
 {
     viewer_.DisplayAgain();
+}
+
+void frmFullScreen::contextMenuEvent(QContextMenuEvent* event)
+{
+    viewer_.ShowMenu(event->globalPos());
 }
 
 bool frmFullScreen::Form_KeyDown(const QKeyEvent& key)

@@ -26,6 +26,9 @@ public:
     StoryPage* GetPage() const;
     void CloseFullScreen();
 
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
 private:
     void Form_Load();
     void Form_Resize();

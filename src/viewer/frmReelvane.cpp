@@ -10,9 +10,10 @@
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 #include "viewer/StoryEditing.h"
-#include "viewer/StoryPage.h"
 #include "viewer/frmFullScreen.h"
 
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -60,7 +61,10 @@ void frmReelvane::MakeControls()
         {Command::None, ui_->cmdRefresh, "refresh", &Form::cmdRefresh_Click},
         {Command::FullScreen, ui_->cmdHideMenu, "full-screen", &Form::cmdHideMenu_Click},
         {Command::Close, ui_->cmdClose, "exit", &Form::CloseViewer},
-        {Command::PressButton, nullptr, nullptr, &Form::PressFocusedButton},
+        {Command::PreviousPictures, nullptr, nullptr, &Form::ShowPreviousPictures},
+        {Command::ZoomPixels, nullptr, nullptr, &Form::ZoomPixels},
+        {Command::SwitchPlace, nullptr, nullptr, &Form::SwitchPlace},
+        {Command::PressControl, nullptr, nullptr, &Form::PressFocusedControl},
     };
 }
 
@@ -86,6 +90,13 @@ void frmReelvane::TakeClicksOf(StoryPage* page)
     });
     connect(page, &StoryPage::FullSizePressed, this,
             [this](Qt::MouseButton button) { RunGuarded([&] { imgFullSize_MouseDown(button); }); });
+    connect(page, &StoryPage::WheelTurned, this,
+            [this](bool isAway) { RunGuarded([&] { imgImage_MouseWheel(isAway); }); });
+    connect(page, &StoryPage::FullSizeTurned, this, [this](bool isAway, const QPointF& at) {
+        RunGuarded([&] { reader_.GetLargePicture().Step(isAway ? 1 : -1, at); });
+    });
+    connect(page, &StoryPage::FullSizeDragged, this,
+            [this](const QPointF& by) { reader_.GetLargePicture().Move(by); });
     connect(page, &StoryPage::LegendClicked, this, Guarded(this, &frmReelvane::lblLegend_Click));
 }
 
@@ -181,10 +192,54 @@ void frmReelvane::imgImage_MouseDown(int index, Qt::MouseButton button)
         IndexPicture(reader_, picture.file, DisplayForm->window());
 }
 
-void frmReelvane::PressFocusedButton()
+void frmReelvane::imgImage_MouseWheel(bool isAway)
 {
-    if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button && !IsFullScreenOpen())
+    Run(isAway ? ViewerCommand::PreviousPictures : ViewerCommand::NextPictures);
+}
+
+void frmReelvane::ZoomPixels()
+{
+    LargePicture& large = reader_.GetLargePicture();
+    const QPoint pointer = DisplayForm->mapFromGlobal(QCursor::pos());
+    large.Switch(DisplayForm->rect().contains(pointer) ? QPointF(pointer) : large.GetMiddle());
+}
+
+// By a tenth of the page. The picture goes the other way than what is seen of it.
+bool frmReelvane::MovePicture(int arrow)
+{
+    const double across = DisplayForm->width() / 10.0;
+    const double down = DisplayForm->height() / 10.0;
+    const QHash<int, QPointF> ways{{Qt::Key_Left, {across, 0}},
+                                   {Qt::Key_Right, {-across, 0}},
+                                   {Qt::Key_Up, {0, down}},
+                                   {Qt::Key_Down, {0, -down}}};
+    reader_.GetLargePicture().Move(ways[arrow]);
+    return true;
+}
+
+// A button that has the focus, or a picture outside the story.
+void frmReelvane::PressFocusedControl()
+{
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    if (button && !IsFullScreenOpen())
         button->click();
+    else if (reader_.GetMode() == StoryMode::Selection)
+        imgImage_MouseDown(DisplayForm->GetPictureMeant(), Qt::RightButton);
+}
+
+const frmReelvane::Control* frmReelvane::ControlOf(ViewerCommand command) const
+{
+    const auto control =
+        std::find_if(controls_.begin(), controls_.end(),
+                     [command](const Control& each) { return each.command == command; });
+    return command == ViewerCommand::None || control == controls_.end() ? nullptr : &*control;
+}
+
+void frmReelvane::Run(ViewerCommand command)
+{
+    const auto pause = reader_.GetAutoview().Pause();
+    if (const Control* control = ControlOf(command))
+        (this->*control->handler)();
 }
 
 bool frmReelvane::Form_KeyDown(const QKeyEvent& key)
@@ -192,17 +247,51 @@ bool frmReelvane::Form_KeyDown(const QKeyEvent& key)
     const ViewerCommand command = CommandOf(key);
     if (command == ViewerCommand::Leave)
         return false;
+    if (command == ViewerCommand::MovePicture)
+        return MovePicture(key.key());
     // Autoview goes on there, as it does after a click on the button.
     if (command == ViewerCommand::FullScreen) {
         cmdHideMenu_Click();
         return true;
     }
+    Run(command);
+    return ControlOf(command);
+}
+
+void frmReelvane::contextMenuEvent(QContextMenuEvent* event)
+{
+    ShowMenu(event->globalPos());
+}
+
+void frmReelvane::ShowMenu(const QPoint& place)
+{
+    const ViewerCommand command = ChooseInMenu(place);
+    const bool isWayBack = command == ViewerCommand::Close || command == ViewerCommand::FullScreen;
+    RunGuarded([&] {
+        if (isWayBack && IsFullScreenOpen())
+            DisplayForm->window()->close();
+        else if (command == ViewerCommand::FullScreen)
+            cmdHideMenu_Click();
+        else
+            Run(command);
+    });
+}
+
+// Of what keys do, as far as no button refuses it.
+ViewerCommand frmReelvane::ChooseInMenu(const QPoint& place)
+{
     const auto pause = reader_.GetAutoview().Pause();
-    const auto control =
-        std::find_if(controls_.begin(), controls_.end(),
-                     [command](const Control& each) { return each.command == command; });
-    if (command == ViewerCommand::None || control == controls_.end())
-        return false;
-    (this->*control->handler)();
-    return true;
+    QMenu menu(DisplayForm);
+    menu.setObjectName(QStringLiteral("mnuViewer"));
+    for (const ViewerKey& row : ViewerKeys()) {
+        const Control* control = ControlOf(row.command);
+        const QPushButton* button = control ? control->button : nullptr;
+        if (!row.isInMenu || !control || (button && button->isHidden()))
+            continue;
+        QAction* action = menu.addAction(row.GetText() + u'\t' + row.GetNames());
+        action->setEnabled(!button || button->isEnabled());
+        action->setData(int(row.command));
+    }
+    const QAction* chosen = menu.exec(place);
+    return chosen ? ViewerCommand(chosen->data().toInt()) : ViewerCommand::None;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "viewer/PageHost.h"
+#include "viewer/StoryPage.h"
 #include "viewer/StoryReader.h"
 #include "viewer/ViewerKeys.h"
 
@@ -58,11 +59,13 @@ public:
     void TakeClicksOf(StoryPage* page) override;
     void DisplayAgain() override { reader_.DisplayAgain(); }
     bool Form_KeyDown(const QKeyEvent& key) override;
+    void ShowMenu(const QPoint& place) override;
 
     void setVisible(bool visible) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     struct Control
@@ -74,6 +77,9 @@ private:
     };
 
     void MakeControls();
+    const Control* ControlOf(ViewerCommand command) const;
+    void Run(ViewerCommand command);
+    ViewerCommand ChooseInMenu(const QPoint& place);
     void ConnectControls();
     void Form_Resize();
     void DrawOn(StoryPage* page);
@@ -83,6 +89,7 @@ private:
     void ShowAutoviewState(bool isOn);
 
     void cmdNextImages_Click() { reader_.ShowNextPictures(); }
+    void ShowPreviousPictures() { reader_.ShowPreviousPictures(); }
     void cmdZoomIn_Click() { reader_.ZoomIn(); }
     void cmdZoomOut_Click() { reader_.ZoomOut(); }
     void cmdTimer_Click() { reader_.SwitchAutoview(); }
@@ -92,7 +99,11 @@ private:
     void lblLegend_Click() { EditCurrentParagraph(); }
     void imgImage_MouseDown(int index, Qt::MouseButton button);
     void imgFullSize_MouseDown(Qt::MouseButton) { reader_.LeaveAlone(); }
-    void PressFocusedButton();
+    void imgImage_MouseWheel(bool isAway);
+    void ZoomPixels();
+    bool MovePicture(int arrow);
+    void SwitchPlace() { DisplayForm->SwitchPlace(); }
+    void PressFocusedControl();
 
     std::unique_ptr<Ui::frmReelvane> ui_;
     std::vector<Control> controls_;

@@ -29,6 +29,31 @@ private slots:
         QCOMPARE(writing.Stored("Car4", 4), "Lake;Gone");
     }
 
+    void KeysAndPlace()
+    {
+        Writing writing;
+        const auto place = [&] { return writing.Label("lblPlace"); };
+        QCOMPARE(place(), "1 of 3");
+        writing.Click("cmdNextParagraph");
+        QTest::keyClicks(&writing.TextBox(), "q");
+        QTest::keyClick(&writing.TextBox(), Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(place(), "3 of 4"); // not yet linked to
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::ControlModifier, {}, true);
+        QCoreApplication::sendEvent(&writing.TextBox(), &held);
+        QTest::keyClick(&writing.TextBox(), Qt::Key_Enter,
+                        Qt::ControlModifier | Qt::KeypadModifier);
+        QCOMPARE(place(), "4 of 5");
+        writing.Click("cmdEndOfChapter");
+        QCOMPARE(place(), "5 of 5");
+        QCOMPARE(writing.Texts(), "first; qsecond; third; ; ");
+        QTest::keyClick(&writing.TextBox(), Qt::Key_F11);
+        QVERIFY(writing.editor.isFullScreen());
+        QTest::keyClick(&writing.TextBox(), Qt::Key_F11);
+        QVERIFY(!writing.editor.isFullScreen() && writing.editor.isVisible());
+        writing.PressOn("cmdDelete", Qt::Key_Q);
+        QVERIFY(!writing.editor.isVisible());
+    }
+
     void Filter()
     {
         Writing writing;

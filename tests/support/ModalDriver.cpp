@@ -50,6 +50,16 @@ void Click(QWidget& window, const QString& control)
     QTest::mouseClick(&Find<QWidget>(window, control), Qt::LeftButton);
 }
 
+void TurnWheel(QWidget& control, double notches)
+{
+    const QPointF middle = QRectF(control.rect()).center();
+    const QPoint turn(0, int(QWheelEvent::DefaultDeltasPerStep * notches));
+    QWheelEvent event(middle, control.mapToGlobal(middle), {}, turn, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&event); // others do not go on to parents
+    qApp->notify(&control, &event);
+}
+
 void ClickLine(QListWidget& list, int row, bool twice)
 {
     list.scrollToItem(list.item(row));

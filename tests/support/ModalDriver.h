@@ -24,6 +24,8 @@ Widget& Find(QWidget& window, const QString& name)
 
 // A left click on the control of that name, whatever it is.
 void Click(QWidget& window, const QString& control);
+// Turns the wheel over the middle of the control, away from the user or, below 0, the other way.
+void TurnWheel(QWidget& control, double notches);
 // A left click on a line, or a double click.
 void ClickLine(QListWidget& list, int row, bool twice = false);
 // Opens the list's context menu on its first line.

@@ -56,16 +56,6 @@ bool IsReachable(const QWidget& widget, const QStringList& way)
            widget.inherits("QRadioButton") || way.contains(widget.objectName());
 }
 
-// Turned by one notch over the control, as the system does it.
-void TurnWheel(QWidget& widget)
-{
-    const QPointF middle = QRectF(widget.rect()).center();
-    QWheelEvent turn(middle, widget.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&turn); // others do not go on to parents
-    qApp->notify(&widget, &turn);
-}
-
 bool TakesWheel(QWidget& widget)
 {
     auto* box = qobject_cast<QComboBox*>(&widget);
@@ -75,7 +65,7 @@ bool TakesWheel(QWidget& widget)
     box->addItems({"first", "second", "third"});
     const int chosen = box->count() - 2;
     box->setCurrentIndex(chosen);
-    TurnWheel(box->lineEdit() ? *static_cast<QWidget*>(box->lineEdit()) : *box);
+    TurnWheel(box->lineEdit() ? *static_cast<QWidget*>(box->lineEdit()) : *box, -1);
     return box->currentIndex() != chosen;
 }
 

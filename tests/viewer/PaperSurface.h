@@ -13,6 +13,7 @@ struct PaperSurface : StorySurface
     QString title;
     QString legend;
     QString notice;
+    QString place;
     std::vector<ShownPicture> pictures;
     std::vector<QImage> images;
     QSize size{1000, 700};
@@ -38,8 +39,10 @@ struct PaperSurface : StorySurface
     }
     std::shared_ptr<void> FadeIntoNext() override { return nullptr; }
     void ShowFullSize(const ShownPicture&, const QImage&) override {}
+    void ShowFullSizePart(const QRect&, const QImage&, const QRectF&) override {}
     void LeaveFullSize() override {}
     void SetNotice(const QString& text) override { notice = text; }
+    void SetPlace(const QString& text) override { place = text; }
     void SetLegend(const QString& text) override
     {
         legend = text;
@@ -48,6 +51,7 @@ struct PaperSurface : StorySurface
     void ShowFeedback(const QString& text) override { SetLegend(text); }
     void SetLegendAlignment(Qt::Alignment) override {}
     void SetPictureToolTip(const QString&) override {}
+    void LetPicturesTakeFocus(bool) override {}
     std::shared_ptr<void> BeginWork() override { return nullptr; }
 };
 

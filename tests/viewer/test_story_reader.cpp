@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "PaperSurface.h"
+#include "Reading.h"
 #include "platform/data/Database.h"
-#include "support/AlbumFixture.h"
 #include "support/ScriptedDialogs.h"
-#include "viewer/StoryReader.h"
 
 #include <QtTest>
 
@@ -14,22 +12,6 @@ QString Sorted(QStringList names)
     names.sort();
     return names.join(u' ');
 }
-
-// A story read where there is no window and no screen.
-struct Reading
-{
-    AlbumFixture album;
-    PaperSurface paper;
-    StoryReader reader{[] { return true; }};
-
-    QStringList Shown() const { return NamesOf(paper.pictures); }
-    void Begin(qint32 chapter)
-    {
-        reader.DrawOn(paper);
-        reader.Position.chapter = chapter;
-        reader.DisplayFromBeginning();
-    }
-};
 
 } // namespace
 

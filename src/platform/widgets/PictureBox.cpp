@@ -20,9 +20,10 @@ void PictureBox::SetTag(const QString& tag)
     setAccessibleName(QFileInfo(tag).fileName());
 }
 
-void PictureBox::SetPicture(const QImage& picture)
+void PictureBox::SetPart(const QImage& picture, const QRectF& part)
 {
     picture_ = picture;
+    part_ = part;
     update();
 }
 
@@ -30,11 +31,19 @@ void PictureBox::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     if (picture_.isNull())
-        return PaintUnreadable(painter);
+        PaintUnreadable(painter);
+    else
+        PaintPicture(painter);
+    if (hasFocus())
+        PaintFocus(painter);
+}
+
+void PictureBox::PaintPicture(QPainter& painter)
+{
     if (picture_.hasAlphaChannel())
         painter.fillRect(rect(), Qt::white);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(rect(), picture_);
+    painter.drawImage(QRectF(rect()), picture_, part_);
 }
 
 void PictureBox::PaintUnreadable(QPainter& painter)
@@ -51,6 +60,17 @@ void PictureBox::PaintUnreadable(QPainter& painter)
     const QString name =
         fontMetrics().elidedText(QFileInfo(tag_).fileName(), Qt::ElideMiddle, caption.width());
     painter.drawText(caption, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, name);
+}
+
+// In two colours, of which one stands out from any picture.
+void PictureBox::PaintFocus(QPainter& painter)
+{
+    constexpr int width = 3;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2 * width));
+    painter.drawRect(rect());
+    painter.setPen(QPen(Qt::white, 1));
+    painter.drawRect(rect().adjusted(width, width, -width - 1, -width - 1));
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event)

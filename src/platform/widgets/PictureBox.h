@@ -18,7 +18,9 @@ public:
     void SetTag(const QString& tag);
 
     // In device pixels. A null image shows a sign for an unreadable picture.
-    void SetPicture(const QImage& picture);
+    void SetPicture(const QImage& picture) { SetPart(picture, picture.rect()); }
+    // Only that part of it, in its pixels.
+    void SetPart(const QImage& picture, const QRectF& part);
     const QImage& GetPicture() const { return picture_; }
 
 signals:
@@ -31,8 +33,11 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent*) override {}
 
 private:
+    void PaintPicture(QPainter& painter);
     void PaintUnreadable(QPainter& painter);
+    void PaintFocus(QPainter& painter);
 
     QString tag_;
     QImage picture_;
+    QRectF part_;
 };

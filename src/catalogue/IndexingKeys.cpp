@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/IndexingKeys.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+class IndexingKeys
+{
+    Q_DECLARE_TR_FUNCTIONS(IndexingKeys)
+};
+
+} // namespace
+
+KeyRows IndexingKeyRows()
+{
+    return {
+        {KeyNames({QKeySequence(Qt::Key_Return)}), IndexingKeys::tr("Next picture, from a field")},
+        {KeyNames({QKeySequence(Qt::ALT | Qt::Key_N)}), IndexingKeys::tr("Next picture")},
+        {KeyNames({QKeySequence(Qt::Key_Escape)}), IndexingKeys::tr("Save and leave")},
+        {KeyNames({QKeySequence(Qt::Key_Q)}),
+         IndexingKeys::tr("Save and leave, outside the fields")},
+    };
+}

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "story/EditorKeys.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace {
+
+struct EditorKey
+{
+    Q_DECLARE_TR_FUNCTIONS(EditorKey)
+
+public:
+    QList<QKeySequence> keys;
+    EditorCommand command;
+    const char* text;
+
+    QString GetText() const { return tr(text); }
+};
+
+const std::vector<EditorKey>& EditorKeys()
+{
+    using enum EditorCommand;
+    static const std::vector<EditorKey> rows{
+        {{QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter)},
+         CreateNext,
+         QT_TRANSLATE_NOOP("EditorKey", "New paragraph after this one")},
+        {{QKeySequence(Qt::Key_F11)},
+         FullScreen,
+         QT_TRANSLATE_NOOP("EditorKey", "Full screen, and back")},
+        {{QKeySequence(Qt::Key_Escape)}, Exit, QT_TRANSLATE_NOOP("EditorKey", "Save and leave")},
+        {{QKeySequence(Qt::Key_Q)},
+         Exit,
+         QT_TRANSLATE_NOOP("EditorKey", "Save and leave, outside the text")},
+    };
+    return rows;
+}
+
+} // namespace
+
+EditorCommand EditorCommandOf(const QKeyEvent& key, bool isWriting)
+{
+    if (key.key() == Qt::Key_Escape)
+        return EditorCommand::Exit;
+    if (key.key() == Qt::Key_Q && isWriting)
+        return EditorCommand::None;
+    const int pressed =
+        key.key() | (key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)).toInt();
+    for (const EditorKey& row : EditorKeys()) {
+        if (row.keys.contains(QKeySequence(pressed)))
+            return key.isAutoRepeat() ? EditorCommand::Nothing : row.command;
+    }
+    return EditorCommand::None;
+}
+
+KeyRows EditorKeyRows()
+{
+    KeyRows rows;
+    for (const EditorKey& row : EditorKeys())
+        rows.append({KeyNames(row.keys), row.GetText()});
+    return rows;
+}
