@@ -519,6 +519,10 @@ Votre version :
         <source>Save and leave, outside the text</source>
         <translation>Enregistrer et quitter, hors du texte</translation>
     </message>
+    <message>
+        <source>Find pictures, and link them</source>
+        <translation>Chercher des photos et les lier</translation>
+    </message>
 </context>
 <context>
     <name>FileDrop</name>
@@ -737,6 +741,128 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>frmFindPictures</name>
+    <message>
+        <source>Find Pictures</source>
+        <translation>Chercher des photos</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Mots</translation>
+    </message>
+    <message>
+        <source>Pictures with all of these words in their legend, name or values</source>
+        <translation>Photos dont la légende, le nom ou les valeurs contiennent tous ces mots</translation>
+    </message>
+    <message>
+        <source>Words of the legend, the name or the values</source>
+        <translation>Mots de la légende, du nom ou des valeurs</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Pictures in this folder and those in it</source>
+        <translation>Photos de ce dossier et de ses sous-dossiers</translation>
+    </message>
+    <message>
+        <source>Any folder</source>
+        <translation>Tous les dossiers</translation>
+    </message>
+    <message>
+        <source>Not indexed</source>
+        <translation>Non indexées</translation>
+    </message>
+    <message>
+        <source>Pictures whose file is not where the album expects it</source>
+        <translation>Photos dont le fichier n&apos;est pas là où l&apos;album l&apos;attend</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Manquantes</translation>
+    </message>
+    <message>
+        <source>Pictures found</source>
+        <translation>Photos trouvées</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Show these pictures one after the other</source>
+        <translation>Montrer ces photos l&apos;une après l&apos;autre</translation>
+    </message>
+    <message>
+        <source>Describe</source>
+        <translation>Décrire</translation>
+    </message>
+    <message>
+        <source>Describe the chosen pictures, or this one and those after it</source>
+        <translation>Décrire les photos choisies, ou celle-ci et les suivantes</translation>
+    </message>
+    <message>
+        <source>Link to Paragraph</source>
+        <translation>Lier au paragraphe</translation>
+    </message>
+    <message>
+        <source>Show the chosen pictures with the paragraph, whatever its filter says</source>
+        <translation>Montrer les photos choisies avec le paragraphe, quel que soit son filtre</translation>
+    </message>
+    <message>
+        <source>Unlink from Paragraph</source>
+        <translation>Délier du paragraphe</translation>
+    </message>
+    <message>
+        <source>Make Paragraph</source>
+        <translation>Créer un paragraphe</translation>
+    </message>
+    <message>
+        <source>Create a paragraph with this filter</source>
+        <translation>Créer un paragraphe avec ce filtre</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Leave the window</source>
+        <translation>Quitter la fenêtre</translation>
+    </message>
+</context>
+<context>
+    <name>frmPlaceParagraph</name>
+    <message>
+        <source>Make Paragraph</source>
+        <translation>Créer un paragraphe</translation>
+    </message>
+    <message>
+        <source>In the chapter :</source>
+        <translation>Dans le chapitre :</translation>
+    </message>
+    <message>
+        <source>Chapter</source>
+        <translation>Chapitre</translation>
+    </message>
+    <message>
+        <source>After the paragraph :</source>
+        <translation>Après le paragraphe :</translation>
+    </message>
+    <message>
+        <source>Paragraphs</source>
+        <translation>Paragraphes</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>(at the chapter&apos;s beginning)</source>
+        <translation>(au début du chapitre)</translation>
+    </message>
+</context>
+<context>
     <name>HelpWindow</name>
     <message>
         <source>Lumenark Help</source>
@@ -880,6 +1006,10 @@ Votre version :
     <message>
         <source>show this sheet</source>
         <translation>montrer cette feuille</translation>
+    </message>
+    <message>
+        <source>find pictures</source>
+        <translation>chercher des photos</translation>
     </message>
 </context>
 <context>
@@ -1402,6 +1532,10 @@ Le supprimer quand même ?</translation>
         <source>Timer Off</source>
         <translation>Minuterie arrêtée</translation>
     </message>
+    <message>
+        <source>Found Pictures</source>
+        <translation>Photos trouvées</translation>
+    </message>
 </context>
 <context>
     <name>ValueEntry</name>
@@ -1479,6 +1613,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>One large picture: another part of it</source>
         <translation>Une photo en grand : une autre partie</translation>
+    </message>
+    <message>
+        <source>Find pictures</source>
+        <translation>Chercher des photos</translation>
     </message>
 </context>
 <context>
@@ -1833,6 +1971,14 @@ Le supprimer quand même ?</translation>
     <message>
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Find pictures of the album and link them to this paragraph (Ctrl+F)</source>
+        <translation>Chercher des photos de l&apos;album et les lier à ce paragraphe (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Find Pictures</source>
+        <translation>Chercher des photos</translation>
     </message>
 </context>
 <context>
@@ -2243,6 +2389,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Colours</source>
         <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Find Pictures</source>
+        <translation>Chercher des photos</translation>
     </message>
 </context>
 <context>

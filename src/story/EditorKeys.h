@@ -9,6 +9,7 @@ class QKeyEvent;
 enum class EditorCommand {
     None, // a key for the control that has the focus
     CreateNext,
+    FindPictures,
     FullScreen, // there and back
     Exit,
     Nothing, // a command's key that is held down, which acts once

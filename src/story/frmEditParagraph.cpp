@@ -15,6 +15,7 @@
 #include "story/FilterCounting.h"
 #include "story/MarkerInsertion.h"
 #include "story/ParagraphPreview.h"
+#include "story/PictureFinder.h"
 #include "story/frmOrganizeParagraphs.h"
 
 #include <QContextMenuEvent>
@@ -74,6 +75,7 @@ void frmEditParagraph::ConnectControls()
             {ui_->cmdCancelInsert, "", &Form::cmdCancelInsert_Click},
             {ui_->cmdPreview, "preview", &Form::cmdPreview_Click},
             {ui_->cmdNextImage, "next-pictures", &Form::cmdNextImage_Click},
+            {ui_->cmdFindPictures, "link", &Form::cmdFindPictures_Click},
         });
     connect(preview_, &ParagraphPreview::PicturePressed, this,
             Guarded(this, &frmEditParagraph::imgImage_MouseDown));
@@ -94,6 +96,8 @@ bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
     const EditorCommand command = EditorCommandOf(key, focusWidget() == ui_->txtParagraph);
     if (command == EditorCommand::CreateNext)
         cmdCreateNext_Click();
+    else if (command == EditorCommand::FindPictures)
+        cmdFindPictures_Click();
     else if (command == EditorCommand::FullScreen)
         SwitchFullScreen();
     else if (command == EditorCommand::Exit)
@@ -409,6 +413,22 @@ void frmEditParagraph::imgImage_MouseDown()
     const QString file = preview_->GetPicture();
     if (SaveParagraph())
         EditPicture(file);
+}
+
+void frmEditParagraph::cmdFindPictures_Click()
+{
+    if (!SaveParagraph())
+        return;
+    FindRequest request;
+    request.parent = this;
+    request.paragraph = CurrentParagraph;
+    FindPictures(request);
+    // What was described there may have replaced values, here too.
+    auto leave = qScopeGuard([this] { LeaveUnsaved(); });
+    FillFromAlbum();
+    leave.dismiss();
+    if (isPreview_)
+        RefreshPictureList();
 }
 
 // The picture, labels, values, and the paragraph with them may have changed there.

@@ -83,6 +83,7 @@ private:
     void lblText_Click();
     void txtParagraphPreview_GotFocus();
     void imgImage_MouseDown();
+    void cmdFindPictures_Click();
     void EditPicture(const QString& file);
 
     std::unique_ptr<Ui::frmEditParagraph> ui_;

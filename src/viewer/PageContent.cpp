@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 FoundPictures FindPictures(const PictureQuery& query, int maxCount, const CountFeedback& feedback)
@@ -54,4 +56,13 @@ FoundPictures FindSelection(const QString& fileSelection, const QString& imageSe
     PictureQuery query{.fileSelection = PatternOfSelection(fileSelection)};
     query.values.fill(imageSelection);
     return FindPictures(query, maxCount, feedback);
+}
+
+FoundPictures ListFiles(const QStringList& files, const CountFeedback& feedback)
+{
+    FoundPictures found;
+    for (const QString& file : files.first(std::min<qsizetype>(files.size(), maxListed)))
+        found.list.Add(file);
+    feedback(found.list.Count());
+    return found;
 }

@@ -15,11 +15,11 @@
 
 struct PageText
 {
-    QString title; // of the window; empty leaves the one it has
-    QString text;  // before its markers are filled
+    QString title{}; // of the window; empty leaves the one it has
+    QString text{};  // before its markers are filled
     // The text that the page is divided for: an empty chapter leaves its pictures more room than
     // its text would.
-    QString arrangedFor;
+    QString arrangedFor{};
 };
 
 // The paragraph's text, or an empty chapter's offer to write the first paragraph. None when the
@@ -39,6 +39,9 @@ constexpr int maxListed = 30000;
 
 // The pictures that the position's paragraph chooses; in an empty chapter every picture.
 FoundPictures FindPicturesAt(const StoryPosition& position, const CountFeedback& feedback);
+
+// These files of the album in this order, the first maxListed.
+FoundPictures ListFiles(const QStringList& files, const CountFeedback& feedback);
 
 // At most maxCount of the pictures whose characteristics all fit imageSelection ("*": any, "-":
 // not yet indexed) and whose path fits fileSelection, a folder and a pattern; empty for any path.

@@ -6,6 +6,7 @@
 #include "core/LocalCopy.h"
 #include "platform/dialogs/Dialogs.h"
 #include "story/ParagraphChain.h"
+#include "story/PictureFinder.h"
 #include "story/frmEditParagraph.h"
 #include "viewer/StoryReader.h"
 #include "viewer/ViewerFlags.h"
@@ -31,6 +32,18 @@ void EditParagraph(StoryReader& reader, QWidget* window)
     editor.CurrentParagraph = reader.Position.paragraph;
     editor.exec();
     reader.GoTo({editor.CurrentChapter, editor.CurrentParagraph});
+}
+
+void FindForReader(StoryReader& reader, QWidget* window)
+{
+    const auto pause = reader.GetAutoview().Pause();
+    const bool isStory = reader.GetMode() == StoryMode::Story;
+    FindRequest request;
+    request.parent = window;
+    request.paragraph = isStory ? reader.Position.paragraph : 0;
+    FindPictures(request);
+    if (isStory)
+        reader.DisplayParagraph(); // its links may have changed
 }
 
 void IndexPicture(StoryReader& reader, const QString& file, QWidget* window)

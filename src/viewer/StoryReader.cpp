@@ -126,7 +126,12 @@ void StoryReader::ShowPlace()
 void StoryReader::DisplaySelection()
 {
     Position.paragraph = 0;
-    DisplayUndefined(FileSelection, maxListed);
+    if (ChosenFiles.isEmpty())
+        DisplayUndefined(FileSelection, maxListed);
+    else
+        ShowPage({.title = tr("Found Pictures")}, [this](const CountFeedback& feedback) {
+            return ListFiles(ChosenFiles, feedback);
+        });
     display_.TellFailure();
 }
 

@@ -32,6 +32,7 @@ public:
     // What is read. Whoever changes it calls DisplayAgain, or takes a step from there.
     StoryPosition Position;
     QString FileSelection;                        // paths of a selection; empty for any
+    QStringList ChosenFiles;                      // instead of those two, if there are any
     QString ImageSelection = QStringLiteral("*"); // "*": any picture, "-": not yet indexed
     int Nblines = 1;                              // lines of pictures on a screen, 0 to 4
     QString LastImageDisplayed;                   // File of the screen's last picture, or empty

@@ -44,6 +44,7 @@ const std::vector<ViewerKey>& ViewerKeys()
          SwitchAutoview,
          QT_TRANSLATE_NOOP("ViewerKey", "Autoview on and off")},
         {{Qt::Key_E}, EditParagraph, QT_TRANSLATE_NOOP("ViewerKey", "Edit the paragraph")},
+        {{Qt::CTRL | Qt::Key_F}, FindPictures, QT_TRANSLATE_NOOP("ViewerKey", "Find pictures")},
         {{Qt::Key_F11}, FullScreen, QT_TRANSLATE_NOOP("ViewerKey", "Full screen, and back")},
         {{Qt::Key_I}, SwitchPlace, QT_TRANSLATE_NOOP("ViewerKey", "Show or hide where you are")},
         {{Qt::Key_Z},

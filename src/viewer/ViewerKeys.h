@@ -14,6 +14,7 @@ enum class ViewerCommand {
     None,  // a key without a meaning
     Leave, // a key for the desktop or the window's help, which does not even pause autoview
     EditParagraph,
+    FindPictures,
     NextPictures,
     PreviousPictures,
     NextParagraph,

@@ -58,6 +58,7 @@ void frmReelvane::MakeControls()
         {Command::SwitchAutoview, ui_->cmdTimer, "timer-start", &Form::cmdTimer_Click},
         {Command::EditParagraph, ui_->cmdEditParagraph, "edit-paragraph",
          &Form::cmdEditParagraph_Click},
+        {Command::FindPictures, nullptr, nullptr, &Form::FindPictures},
         {Command::None, ui_->cmdRefresh, "refresh", &Form::cmdRefresh_Click},
         {Command::FullScreen, ui_->cmdHideMenu, "full-screen", &Form::cmdHideMenu_Click},
         {Command::Close, ui_->cmdClose, "exit", &Form::CloseViewer},
@@ -178,6 +179,11 @@ void frmReelvane::cmdHideMenu_Click()
 void frmReelvane::EditCurrentParagraph()
 {
     EditParagraph(reader_, DisplayForm->window());
+}
+
+void frmReelvane::FindPictures()
+{
+    FindForReader(reader_, DisplayForm->window());
 }
 
 void frmReelvane::imgImage_MouseDown(int index, Qt::MouseButton button)

@@ -36,6 +36,7 @@ public:
     qint32& CurrentChapter = reader_.Position.chapter; // 0: pictures outside the story are shown
     qint32& CurrentParagraph = reader_.Position.paragraph; // 0: none
     QString& FileSelection = reader_.FileSelection;
+    QStringList& ChosenFiles = reader_.ChosenFiles;
     QString& ImageSelection = reader_.ImageSelection;
     int& Nblines = reader_.Nblines;
     const QString& LastImageDisplayed = reader_.LastImageDisplayed;
@@ -95,6 +96,7 @@ private:
     void cmdTimer_Click() { reader_.SwitchAutoview(); }
     void cmdRefresh_Click() { reader_.DisplaySelection(); }
     void cmdEditParagraph_Click() { EditCurrentParagraph(); }
+    void FindPictures();
     void cmdHideMenu_Click();
     void lblLegend_Click() { EditCurrentParagraph(); }
     void imgImage_MouseDown(int index, Qt::MouseButton button);

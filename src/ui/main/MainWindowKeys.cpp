@@ -26,6 +26,7 @@ const WindowKeyTable& MainWindowKeys()
             {"Ctrl+N", QT_TRANSLATE_NOOP("MainWindowKeys", "create a new album"),
              "mnuCreateScript"},
             {"Ctrl+O", QT_TRANSLATE_NOOP("MainWindowKeys", "open an album"), "mnuOpenScript"},
+            {"Ctrl+F", QT_TRANSLATE_NOOP("MainWindowKeys", "find pictures"), "mnuFindPictures"},
             {"Esc", QT_TRANSLATE_NOOP("MainWindowKeys", "end the program"), "mnuExit", nullptr,
              false, false},
             {"F1", QT_TRANSLATE_NOOP("MainWindowKeys", "open the manual"), nullptr},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/ViewerWindows.h"
 
+#include "gallery/frmFindPictures.h"
 #include "platform/dialogs/Guard.h"
 #include "viewer/ViewerFlags.h"
 #include "viewer/frmReelvane.h"
@@ -10,6 +11,7 @@
 #include <QTimer>
 
 using GeneralModule::AutoviewOn;
+using GeneralModule::PictureAtRandom;
 
 void ReadChapter(QWidget* parent, qint32 chapter)
 {
@@ -40,6 +42,22 @@ void BrowsePictures(QWidget* parent, const QString& imageSelection, const QStrin
     viewer.FileSelection = fileSelection;
     viewer.ImageSelection = imageSelection;
     viewer.exec();
+}
+
+void OpenPictureFinder(const FindRequest& request, bool isMissing)
+{
+    frmFindPictures finder(request.parent);
+    finder.Values = request.values;
+    finder.CurrentParagraph = request.paragraph;
+    finder.IsMissing = isMissing;
+    finder.ReadPictures = [](QWidget* window, const QStringList& files) {
+        AutoviewOn = false;
+        PictureAtRandom = false;
+        frmReelvane viewer(window);
+        viewer.ChosenFiles = files;
+        viewer.exec();
+    };
+    finder.exec();
 }
 
 bool BrowseChosenFolder(QWidget* parent, const QString& imageSelection)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "story/PictureFinder.h"
+
 #include <QString>
 
 class QWidget;
@@ -16,6 +18,9 @@ void ReadFullScreen(QWidget* parent, qint32 chapter);
 // for any value, "-" for none; the file selection a folder and a pattern after it, or empty.
 void BrowsePictures(QWidget* parent, const QString& imageSelection,
                     const QString& fileSelection = {});
+
+// The window that finds pictures; reads them in the viewer, in their order.
+void OpenPictureFinder(const FindRequest& request, bool isMissing = false);
 
 // On pictures of a folder that the user chooses. False when none was chosen.
 bool BrowseChosenFolder(QWidget* parent, const QString& imageSelection);

@@ -58,6 +58,7 @@ frmOpenChapter::frmOpenChapter(const QString& album) : ui_(std::make_unique<Ui::
     ConnectCommands();
     ConnectControls();
     SetCallHandler([this] { BringToFront(this); });
+    SetPictureFinder([](const FindRequest& request) { OpenPictureFinder(request); });
     Form_Load(album);
 }
 
@@ -98,6 +99,8 @@ void frmOpenChapter::ConnectCommands()
          &State::offersPictureCommands, true},
         {on(&Form::mnuSelectedUndefined_Click), "", nullptr, ui.mnuSelectedUndefined,
          &State::offersPictureCommands, true},
+        {on(&Form::mnuFindPictures_Click), "", nullptr, ui.mnuFindPictures,
+         &State::offersPictureCommands},
         {on(&Form::mnuAllPictures_Click), "", nullptr, ui.mnuAllPictures,
          &State::offersPictureCommands},
         {on(&Form::mnuSelectedPictures_Click), "", nullptr, ui.mnuSelectedPictures,
@@ -121,7 +124,7 @@ void frmOpenChapter::ConnectCommands()
 void frmOpenChapter::ConnectControls()
 {
     for (QAction* separator :
-         {ui_->mnuSep1, ui_->mnuSep2, ui_->mnuSep3, ui_->mnuSep4, ui_->mnuSep5})
+         {ui_->mnuSep1, ui_->mnuSep2, ui_->mnuSep3, ui_->mnuSep4, ui_->mnuSep5, ui_->mnuSep6})
         separator->setSeparator(true);
     OfferSoftTransitions(*ui_->mnuSoftTransitions);
     OfferTextSizes(*ui_->mnuTextSize);
@@ -283,7 +286,14 @@ void frmOpenChapter::MoveRow(int from, int to)
 
 void frmOpenChapter::ShowMissing()
 {
-    ui_->mnuReloadPictures->trigger();
+    OpenPictureFinder({.parent = this}, true);
+    RefreshState();
+}
+
+void frmOpenChapter::mnuFindPictures_Click()
+{
+    OpenPictureFinder({.parent = this});
+    RefreshState();
 }
 
 void frmOpenChapter::mnuLoadPictures_Click()

@@ -56,6 +56,7 @@ private:
     void mnuReloadPictures_Click();
     void mnuUndefined_Click();
     void mnuSelectedUndefined_Click();
+    void mnuFindPictures_Click();
     void mnuAllPictures_Click();
     void mnuSelectedPictures_Click();
     void mnuRepair_Click();
