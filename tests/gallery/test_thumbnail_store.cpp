@@ -136,7 +136,7 @@ private slots:
         mayWork_ = true;
         canFind_ = false;
         store_->Want({path});
-        QTRY_COMPARE(failures_, 1);
+        QTRY_VERIFY(failures_ > 0);
         QVERIFY(store_->IsWorking());
         canFind_ = true;
         QTRY_VERIFY(!store_->IsWorking());
