@@ -149,7 +149,7 @@ private:
         auto store = std::make_unique<ThumbnailStore>(
             ThumbnailStore::Surroundings{.findPath =
                                              [this](const QString& file) {
-                                                 if (!canFind_)
+                                                 if (!canFind_ && ++failures_ > 0)
                                                      throw std::runtime_error("locked");
                                                  return file;
                                              },
