@@ -154,7 +154,7 @@ private slots:
     void CountsWhileNothingElseIsDone()
     {
         album_->Execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE "
-                        "i<20000) INSERT INTO Image(File) SELECT '/nowhere/'||i FROM n");
+                        "i<60000) INSERT INTO Image(File) SELECT '/nowhere/'||i FROM n");
         Start();
         QElapsedTimer sinceTurn;
         sinceTurn.start();
@@ -164,14 +164,14 @@ private slots:
             ++turns;
             QVERIFY(sinceTurn.elapsed() < 60000);
         }
-        QCOMPARE(Text("cmdMissing"), "20,000 file(s) missing");
+        QCOMPARE(Text("cmdMissing"), "60,000 file(s) missing");
         QVERIFY2(turns > 5, qPrintable(QString::number(turns)));
         album_->Execute("DELETE FROM Image WHERE rowid>1");
         WhenModal("frmAbout", [this](QWidget& about) {
             window_->resize(window_->size() + QSize(9, 9)); // asks for the counts
             for (int i = 0; i < 20; ++i)
                 QCoreApplication::processEvents();
-            QCOMPARE(Text("lblPictures"), "20,000 picture(s)");
+            QCOMPARE(Text("lblPictures"), "60,000 picture(s)");
             about.close();
         });
         Choose("mnuAbout");

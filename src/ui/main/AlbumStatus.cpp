@@ -29,8 +29,8 @@ void Offer(QPushButton& button, bool isOffered, const QString& reason)
 QString DescribeAlbum()
 {
     const QString path = OpenAlbumPath();
-    return QStringLiteral("%1  (%2)")
-        .arg(FileNameOf(path), QDir::toNativeSeparators(FolderOf(path)));
+    const QString folder = QFileInfo(path).absolutePath();
+    return QStringLiteral("%1  (%2)").arg(FileNameOf(path), QDir::toNativeSeparators(folder));
 }
 
 } // namespace
