@@ -3,7 +3,7 @@
 
 #include "core/LocalCopy.h"
 #include "gallery/ContactSheet.h"
-#include "gallery/LargePicture.h"
+#include "gallery/SheetPicture.h"
 #include "platform/dialogs/Guard.h"
 
 using GeneralModule::FindPictureFile;
@@ -24,9 +24,9 @@ void LargeViewing::Open()
     if (!sheet_.currentIndex().isValid())
         return;
     if (!picture_) {
-        picture_ = new LargePicture(sheet_.window());
-        connect(picture_, &LargePicture::StepWanted, this, &LargeViewing::Step);
-        connect(picture_, &LargePicture::BackWanted, this, &LargeViewing::Close);
+        picture_ = new SheetPicture(sheet_.window());
+        connect(picture_, &SheetPicture::StepWanted, this, &LargeViewing::Step);
+        connect(picture_, &SheetPicture::BackWanted, this, &LargeViewing::Close);
     }
     Show(1);
 }

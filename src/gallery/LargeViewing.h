@@ -5,7 +5,7 @@
 #include <QPointer>
 
 class ContactSheet;
-class LargePicture;
+class SheetPicture;
 class SheetModel;
 
 // A contact sheet's current picture over all of its window. Keys go on to the others of the sheet,
@@ -28,5 +28,5 @@ private:
 
     ContactSheet& sheet_;
     const SheetModel& model_;
-    QPointer<LargePicture> picture_;
+    QPointer<SheetPicture> picture_;
 };

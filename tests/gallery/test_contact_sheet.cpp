@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/AlbumPassword.h"
 #include "gallery/ContactSheet.h"
-#include "gallery/LargePicture.h"
+#include "gallery/SheetPicture.h"
 #include "platform/widgets/PictureBox.h"
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"
@@ -137,7 +137,7 @@ private slots:
         ShowAll();
         sheet.GoTo(AllPictureIds()[0]);
         Press(Qt::Key_Return);
-        QPointer<LargePicture> large = sheet.window()->findChild<LargePicture*>();
+        QPointer<SheetPicture> large = sheet.window()->findChild<SheetPicture*>();
         QVERIFY(large && large->size() == sheet.window()->size());
         QCOMPARE(Find<PictureBox>(*large, "imgImage").GetTag(), files[0]);
         QTest::keyClick(large, Qt::Key_Left); // there is none before
@@ -152,7 +152,7 @@ private slots:
         QVERIFY(sheet.hasFocus() && sheet.window()->isVisible());
         Press(Qt::Key_A, Qt::ControlModifier);
         Press(Qt::Key_Return);
-        QTest::keyClick(sheet.window()->findChild<LargePicture*>(), Qt::Key_Right);
+        QTest::keyClick(sheet.window()->findChild<SheetPicture*>(), Qt::Key_Right);
         QCOMPARE(sheet.GetSelected().size(), std::size_t(3)); // which looking does not change
     }
 

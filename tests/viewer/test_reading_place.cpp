@@ -128,6 +128,7 @@ private slots:
             story.reader.ShowPreviousPictures();
             QCOMPARE(story.Screen(), screens[i]);
             QCOMPARE(NamesOf(outlook.pictures), story.Shown());
+            QCOMPARE(outlook.list.GetFiles(), story.reader.GetUpcoming().GetFiles());
         }
         QCOMPARE(story.ReadOn(3), screens.mid(1));
         story.reader.Go(StoryWay::NextParagraph);

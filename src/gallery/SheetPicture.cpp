@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "gallery/LargePicture.h"
+#include "gallery/SheetPicture.h"
 
 #include "platform/widgets/FittedPicture.h"
 
@@ -18,7 +18,7 @@ constexpr int captionMargin = 6; // logical pixels
 
 } // namespace
 
-LargePicture::LargePicture(QWidget* window)
+SheetPicture::SheetPicture(QWidget* window)
     : QWidget(window), picture_(new FittedPicture(this)), lblCaption_(new QLabel(this))
 {
     setFocusPolicy(Qt::StrongFocus);
@@ -41,7 +41,7 @@ LargePicture::LargePicture(QWidget* window)
     window->installEventFilter(this);
 }
 
-void LargePicture::Show(const QString& file, const QString& path, const QString& caption)
+void SheetPicture::Show(const QString& file, const QString& path, const QString& caption)
 {
     lblCaption_->setText(caption);
     setAccessibleName(caption);
@@ -54,13 +54,13 @@ void LargePicture::Show(const QString& file, const QString& path, const QString&
     QAccessible::updateAccessibility(&changed);
 }
 
-void LargePicture::Expect(const QString& path)
+void SheetPicture::Expect(const QString& path)
 {
     picture_->Expect(path);
 }
 
 // Keys of the window's menus must not work behind the picture.
-bool LargePicture::event(QEvent* event)
+bool SheetPicture::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         event->accept();
@@ -69,7 +69,7 @@ bool LargePicture::event(QEvent* event)
     return QWidget::event(event);
 }
 
-bool LargePicture::eventFilter(QObject* watched, QEvent* event)
+bool SheetPicture::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == parent() && event->type() == QEvent::Resize)
         setGeometry(parentWidget()->rect());
@@ -77,7 +77,7 @@ bool LargePicture::eventFilter(QObject* watched, QEvent* event)
 }
 
 // Every key ends here: what it would do to the window behind is not seen.
-void LargePicture::keyPressEvent(QKeyEvent* event)
+void SheetPicture::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Left:
@@ -99,17 +99,17 @@ void LargePicture::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void LargePicture::mousePressEvent(QMouseEvent* event)
+void SheetPicture::mousePressEvent(QMouseEvent* event)
 {
     event->accept();
 }
 
-void LargePicture::mouseDoubleClickEvent(QMouseEvent*)
+void SheetPicture::mouseDoubleClickEvent(QMouseEvent*)
 {
     emit BackWanted();
 }
 
-void LargePicture::wheelEvent(QWheelEvent* event)
+void SheetPicture::wheelEvent(QWheelEvent* event)
 {
     const int turn = event->angleDelta().y();
     if (turn != 0)

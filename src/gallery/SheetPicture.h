@@ -9,12 +9,12 @@ class QLabel;
 
 // One picture over all of a window, with a line of text below, until the user goes back. It keeps
 // the keyboard meanwhile, and the window's size.
-class LargePicture : public QWidget
+class SheetPicture : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit LargePicture(QWidget* window);
+    explicit SheetPicture(QWidget* window);
 
     // Shows the album's picture file, read from path (the same, or its local copy).
     void Show(const QString& file, const QString& path, const QString& caption);
