@@ -74,6 +74,30 @@
     </message>
 </context>
 <context>
+    <name>FilterSentence</name>
+    <message numerus="yes">
+        <source>%1 is %2, %3 or one of %n others</source>
+        <translation>
+            <numerusform>%1 is %2, %3 or %n other</numerusform>
+            <numerusform>%1 is %2, %3 or one of %n others</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 is none of %2, %3 and %n others</source>
+        <translation>
+            <numerusform>%1 is none of %2, %3 and %n other</numerusform>
+            <numerusform>%1 is none of %2, %3 and %n others</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n pictures</source>
+        <translation>
+            <numerusform>%1: %n picture</numerusform>
+            <numerusform>%1: %n pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PageDisplay</name>
     <message numerus="yes">
         <source>%n images found</source>

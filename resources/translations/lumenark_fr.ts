@@ -523,6 +523,14 @@ Votre version :
         <source>Find pictures, and link them</source>
         <translation>Chercher des photos et les lier</translation>
     </message>
+    <message>
+        <source>Paragraph editor</source>
+        <translation>Éditeur de paragraphes</translation>
+    </message>
+    <message>
+        <source>This sheet of keys, outside the text</source>
+        <translation>Cette liste des touches, hors du texte</translation>
+    </message>
 </context>
 <context>
     <name>FileDrop</name>
@@ -702,6 +710,22 @@ Votre version :
     <message>
         <source>%1: no picture fits</source>
         <translation>%1 : aucune photo ne convient</translation>
+    </message>
+    <message>
+        <source>the words are %1</source>
+        <translation>mots : %1</translation>
+    </message>
+    <message>
+        <source>the folder is %1</source>
+        <translation>dossier : %1</translation>
+    </message>
+    <message>
+        <source>not indexed</source>
+        <translation>non indexées</translation>
+    </message>
+    <message>
+        <source>the file is missing</source>
+        <translation>fichier manquant</translation>
     </message>
 </context>
 <context>
@@ -907,6 +931,10 @@ Votre version :
         <source>Save and leave, outside the fields</source>
         <translation>Enregistrer et quitter, hors des champs</translation>
     </message>
+    <message>
+        <source>Indexing</source>
+        <translation>Indexation</translation>
+    </message>
 </context>
 <context>
     <name>KeySheet</name>
@@ -964,52 +992,52 @@ Votre version :
         <translation>Fenêtre principale</translation>
     </message>
     <message>
-        <source>read the selected chapter</source>
-        <translation>lire le chapitre choisi</translation>
+        <source>Read the selected chapter</source>
+        <translation>Lire le chapitre choisi</translation>
     </message>
     <message>
-        <source>read it in full screen</source>
-        <translation>le lire en plein écran</translation>
+        <source>Read it in full screen</source>
+        <translation>Le lire en plein écran</translation>
     </message>
     <message>
-        <source>rename the selected chapter</source>
-        <translation>renommer le chapitre choisi</translation>
+        <source>Rename the selected chapter</source>
+        <translation>Renommer le chapitre choisi</translation>
     </message>
     <message>
-        <source>delete it, if it has no paragraphs</source>
-        <translation>le supprimer, s&apos;il n&apos;a pas de paragraphes</translation>
+        <source>Delete it, if it has no paragraphs</source>
+        <translation>Le supprimer, s&apos;il n&apos;a pas de paragraphes</translation>
     </message>
     <message>
-        <source>move it up</source>
-        <translation>le monter</translation>
+        <source>Move it up</source>
+        <translation>Le monter</translation>
     </message>
     <message>
-        <source>move it down</source>
-        <translation>le descendre</translation>
+        <source>Move it down</source>
+        <translation>Le descendre</translation>
     </message>
     <message>
-        <source>create a new album</source>
-        <translation>créer un nouvel album</translation>
+        <source>Create a new album</source>
+        <translation>Créer un nouvel album</translation>
     </message>
     <message>
-        <source>open an album</source>
-        <translation>ouvrir un album</translation>
+        <source>Open an album</source>
+        <translation>Ouvrir un album</translation>
     </message>
     <message>
-        <source>end the program</source>
-        <translation>terminer le programme</translation>
+        <source>End the program</source>
+        <translation>Terminer le programme</translation>
     </message>
     <message>
-        <source>open the manual</source>
-        <translation>ouvrir le manuel</translation>
+        <source>Open the manual</source>
+        <translation>Ouvrir le manuel</translation>
     </message>
     <message>
-        <source>show this sheet</source>
-        <translation>montrer cette feuille</translation>
+        <source>Show this sheet</source>
+        <translation>Montrer cette feuille</translation>
     </message>
     <message>
-        <source>find pictures</source>
-        <translation>chercher des photos</translation>
+        <source>Find pictures</source>
+        <translation>Chercher des photos</translation>
     </message>
 </context>
 <context>
@@ -1241,44 +1269,44 @@ Appuyez sur F1 pour l&apos;aide</translation>
         <translation>Organisation des paragraphes</translation>
     </message>
     <message>
-        <source>select the paragraph above</source>
-        <translation>choisir le paragraphe au-dessus</translation>
+        <source>Select the paragraph above</source>
+        <translation>Choisir le paragraphe au-dessus</translation>
     </message>
     <message>
-        <source>select the paragraph below</source>
-        <translation>choisir le paragraphe au-dessous</translation>
+        <source>Select the paragraph below</source>
+        <translation>Choisir le paragraphe au-dessous</translation>
     </message>
     <message>
-        <source>move the selected paragraph up</source>
-        <translation>monter le paragraphe choisi</translation>
+        <source>Move the selected paragraph up</source>
+        <translation>Monter le paragraphe choisi</translation>
     </message>
     <message>
-        <source>move the selected paragraph down</source>
-        <translation>descendre le paragraphe choisi</translation>
+        <source>Move the selected paragraph down</source>
+        <translation>Descendre le paragraphe choisi</translation>
     </message>
     <message>
-        <source>show the previous chapter</source>
-        <translation>montrer le chapitre précédent</translation>
+        <source>Show the previous chapter</source>
+        <translation>Montrer le chapitre précédent</translation>
     </message>
     <message>
-        <source>show the next chapter</source>
-        <translation>montrer le chapitre suivant</translation>
+        <source>Show the next chapter</source>
+        <translation>Montrer le chapitre suivant</translation>
     </message>
     <message>
-        <source>open the selected paragraph in the editor</source>
-        <translation>ouvrir le paragraphe choisi dans l&apos;éditeur</translation>
+        <source>Open the selected paragraph in the editor</source>
+        <translation>Ouvrir le paragraphe choisi dans l&apos;éditeur</translation>
     </message>
     <message>
-        <source>go back to the editor</source>
-        <translation>revenir à l&apos;éditeur</translation>
+        <source>Go back to the editor</source>
+        <translation>Revenir à l&apos;éditeur</translation>
     </message>
     <message>
-        <source>open the manual</source>
-        <translation>ouvrir le manuel</translation>
+        <source>Open the manual</source>
+        <translation>Ouvrir le manuel</translation>
     </message>
     <message>
-        <source>show this sheet</source>
-        <translation>montrer cette feuille</translation>
+        <source>Show this sheet</source>
+        <translation>Montrer cette feuille</translation>
     </message>
 </context>
 <context>
@@ -1617,6 +1645,14 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Find pictures</source>
         <translation>Chercher des photos</translation>
+    </message>
+    <message>
+        <source>Viewer</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>This sheet of keys</source>
+        <translation>Cette liste des touches</translation>
     </message>
 </context>
 <context>

@@ -12,13 +12,13 @@ class IndexingKeys
 
 } // namespace
 
-KeyRows IndexingKeyRows()
+KeySection IndexingKeySection()
 {
     return {
-        {KeyNames({QKeySequence(Qt::Key_Return)}), IndexingKeys::tr("Next picture, from a field")},
-        {KeyNames({QKeySequence(Qt::ALT | Qt::Key_N)}), IndexingKeys::tr("Next picture")},
-        {KeyNames({QKeySequence(Qt::Key_Escape)}), IndexingKeys::tr("Save and leave")},
-        {KeyNames({QKeySequence(Qt::Key_Q)}),
-         IndexingKeys::tr("Save and leave, outside the fields")},
-    };
+        IndexingKeys::tr("Indexing"),
+        {{KeyNames({QKeySequence(Qt::Key_Return)}), IndexingKeys::tr("Next picture, from a field")},
+         {KeyNames({QKeySequence(Qt::ALT | Qt::Key_N)}), IndexingKeys::tr("Next picture")},
+         {KeyNames({QKeySequence(Qt::Key_Escape)}), IndexingKeys::tr("Save and leave")},
+         {KeyNames({QKeySequence(Qt::Key_Q)}),
+          IndexingKeys::tr("Save and leave, outside the fields")}}};
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/widgets/KeyRows.h"
+#include "platform/widgets/KeySheet.h"
 
 // The keys of the indexing window.
-KeyRows IndexingKeyRows();
+KeySection IndexingKeySection();

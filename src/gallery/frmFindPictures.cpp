@@ -89,13 +89,14 @@ void frmFindPictures::Form_Load()
     ui_->sheet->SetLinked([this](const QString& file) { return linked_.contains(file); });
     const QSignalBlocker quiet(ui_->chkMissing);
     ui_->chkMissing->setChecked(IsMissing);
+    ui_->filterPanel->SetOtherTerms(GetTerms());
     run_->BeginAtOnce(GetTerms());
     RefreshState();
 }
 
 SearchTerms frmFindPictures::GetTerms() const
 {
-    return {.query = ui_->filterPanel->GetQuery(),
+    return {.query = {.values = ui_->filterPanel->GetValues()},
             .words = ui_->txtWords->text(),
             .folder = ui_->txtFolder->text(),
             .isNotIndexed = ui_->chkNotIndexed->isChecked(),
@@ -104,8 +105,9 @@ SearchTerms frmFindPictures::GetTerms() const
 
 void frmFindPictures::TermsChanged()
 {
-    isComplete_ = false;
-    run_->Begin(GetTerms());
+    const SearchTerms terms = GetTerms();
+    RunGuarded([&] { ui_->filterPanel->SetOtherTerms(terms); });
+    run_->Begin(terms);
 }
 
 // After something was done with the pictures.
@@ -118,7 +120,6 @@ void frmFindPictures::SearchAgain()
 
 void frmFindPictures::ShowFound(const std::vector<qint32>& pictures, bool isComplete)
 {
-    isComplete_ = isComplete;
     ui_->lblFailure->hide();
     RunGuarded([&] {
         ui_->sheet->ShowPictures(pictures);
@@ -181,7 +182,7 @@ bool frmFindPictures::eventFilter(QObject* watched, QEvent* event)
         const int key = static_cast<QKeyEvent*>(event)->key();
         const bool isList = watched == ui_->txtFolder && key == Qt::Key_Down;
         if (!isList && (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter)) {
-            ui_->sheet->setFocus();
+            GoToSheet();
             return true;
         }
     }
@@ -195,6 +196,14 @@ bool frmFindPictures::eventFilter(QObject* watched, QEvent* event)
             ui_->txtFolder->setCompleter(completer);
         });
     return QDialog::eventFilter(watched, event);
+}
+
+void frmFindPictures::GoToSheet()
+{
+    ui_->sheet->setFocus();
+    const std::vector<qint32>& pictures = ui_->sheet->GetPictures();
+    if (ui_->sheet->GetCurrent() == 0 && !pictures.empty())
+        ui_->sheet->GoTo(pictures.front());
 }
 
 void frmFindPictures::cmdReadPictures_Click()

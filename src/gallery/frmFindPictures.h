@@ -43,6 +43,7 @@ private:
     void ShowFound(const std::vector<qint32>& pictures, bool isComplete);
     void ShowFailure(const QString& reason);
     void RefreshState();
+    void GoToSheet();
     QStringList ChosenFiles() const;
     bool AreAllLinked(const QStringList& files) const;
 
@@ -56,5 +57,4 @@ private:
     std::unique_ptr<Ui::frmFindPictures> ui_;
     SearchRun* run_;
     QSet<QString> linked_;
-    bool isComplete_ = false;
 };

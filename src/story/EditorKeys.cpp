@@ -33,6 +33,9 @@ const std::vector<EditorKey>& EditorKeys()
         {{QKeySequence(Qt::Key_F11)},
          FullScreen,
          QT_TRANSLATE_NOOP("EditorKey", "Full screen, and back")},
+        {{QKeySequence(Qt::Key_Question)},
+         ShowKeys,
+         QT_TRANSLATE_NOOP("EditorKey", "This sheet of keys, outside the text")},
         {{QKeySequence(Qt::Key_Escape)}, Exit, QT_TRANSLATE_NOOP("EditorKey", "Save and leave")},
         {{QKeySequence(Qt::Key_Q)},
          Exit,
@@ -47,7 +50,7 @@ EditorCommand EditorCommandOf(const QKeyEvent& key, bool isWriting)
 {
     if (key.key() == Qt::Key_Escape)
         return EditorCommand::Exit;
-    if (key.key() == Qt::Key_Q && isWriting)
+    if (isWriting && (key.key() == Qt::Key_Q || key.key() == Qt::Key_Question))
         return EditorCommand::None;
     const int pressed =
         key.key() | (key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)).toInt();
@@ -58,10 +61,10 @@ EditorCommand EditorCommandOf(const QKeyEvent& key, bool isWriting)
     return EditorCommand::None;
 }
 
-KeyRows EditorKeyRows()
+KeySection EditorKeySection()
 {
-    KeyRows rows;
+    KeySection section{EditorKey::tr("Paragraph editor"), {}};
     for (const EditorKey& row : EditorKeys())
-        rows.append({KeyNames(row.keys), row.GetText()});
-    return rows;
+        section.rows.push_back({KeyNames(row.keys), row.GetText()});
+    return section;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/widgets/KeyRows.h"
+#include "platform/widgets/KeySheet.h"
 
 class QKeyEvent;
 
@@ -11,11 +11,12 @@ enum class EditorCommand {
     CreateNext,
     FindPictures,
     FullScreen, // there and back
+    ShowKeys,
     Exit,
     Nothing, // a command's key that is held down, which acts once
 };
 
-// A "q" typed into the text is no command.
+// A letter typed into a text is no command.
 EditorCommand EditorCommandOf(const QKeyEvent& key, bool isWriting);
 
-KeyRows EditorKeyRows();
+KeySection EditorKeySection();

@@ -21,7 +21,7 @@ void FilterCounting::BeginAgain()
     work_.Begin(
         [this](std::chrono::milliseconds time) {
             if (!search_)
-                search_.emplace(SearchTerms{.query = panel_->GetQuery()});
+                search_.emplace(panel_->GetTerms());
             if (search_->Work(time))
                 return true;
             panel_->ShowCount(search_->Count());

@@ -222,10 +222,18 @@ void FilterPanel::lblSentence_Click(const QString& column)
     OpenList(column.toInt());
 }
 
-void FilterPanel::SetFileSelection(const QString& selection)
+void FilterPanel::SetOtherTerms(const SearchTerms& terms)
 {
-    fileSelection_ = selection;
+    others_ = terms;
+    count_.reset();
     ShowSentence();
+}
+
+SearchTerms FilterPanel::GetTerms() const
+{
+    SearchTerms terms = others_;
+    terms.query.values = values_;
+    return terms;
 }
 
 void FilterPanel::ShowCount(std::optional<int> pictures)
@@ -236,7 +244,7 @@ void FilterPanel::ShowCount(std::optional<int> pictures)
 
 void FilterPanel::ShowSentence()
 {
-    const QString sentence = FilterSentence(GetQuery());
+    const QString sentence = FilterSentence(GetTerms());
     const QString text = WithCount(sentence, count_);
     ui_->lblSentence->setText(text);
     ui_->lblSentence->setToolTip(text);

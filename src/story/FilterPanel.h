@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "story/PictureQuery.h"
+#include "story/SearchTerms.h"
 
 #include <QWidget>
 
@@ -32,11 +32,11 @@ public:
 
     // Closes the list.
     void SetValues(const CarValues& values);
-    // What the sentence says of files, see PictureQuery.
-    void SetFileSelection(const QString& selection);
+    // What else is looked for, for the sentence; the count is not known then.
+    void SetOtherTerms(const SearchTerms& terms);
     const CarValues& GetValues() const { return values_; }
-    // The filter with that selection.
-    PictureQuery GetQuery() const { return {.values = values_, .fileSelection = fileSelection_}; }
+    // Both together.
+    SearchTerms GetTerms() const;
     // The number of pictures that fit, none while it is not known.
     void ShowCount(std::optional<int> pictures);
 
@@ -65,7 +65,7 @@ private:
     std::array<QString, columnCount> names_; // with their groups
     FilterValueList* list_;
     CarValues values_;
-    QString fileSelection_;
+    SearchTerms others_;
     std::optional<int> count_;
     int openColumn_ = -1; // its values are in lstCar; -1 for none
 };

@@ -73,6 +73,24 @@ QString Linked(const QString& text, int column)
         .arg(QString::number(column), text.toHtmlEscaped());
 }
 
+QStringList OtherConditions(const SearchTerms& terms)
+{
+    QStringList conditions;
+    if (!terms.query.fileSelection.isEmpty())
+        conditions += SentenceText::tr("the file is %1").arg(terms.query.fileSelection);
+    if (!terms.words.simplified().isEmpty())
+        conditions += SentenceText::tr("the words are %1").arg(terms.words.simplified());
+    if (!terms.folder.isEmpty())
+        conditions += SentenceText::tr("the folder is %1").arg(terms.folder);
+    if (terms.isNotIndexed)
+        conditions += SentenceText::tr("not indexed");
+    if (terms.isMissing)
+        conditions += SentenceText::tr("the file is missing");
+    for (QString& condition : conditions)
+        condition = condition.toHtmlEscaped();
+    return conditions;
+}
+
 QString Joined(QStringList conditions)
 {
     while (conditions.size() > 3)
@@ -91,18 +109,16 @@ QString Joined(QStringList conditions)
 
 } // namespace
 
-QString FilterSentence(const PictureQuery& query)
+QString FilterSentence(const SearchTerms& terms)
 {
     QStringList conditions;
     for (int column = 0; column < columnCount; ++column) {
-        const QList<Condition> ofColumn = ConditionsOf(query.values[std::size_t(column)]);
+        const QList<Condition> ofColumn = ConditionsOf(terms.query.values[std::size_t(column)]);
         const QString name = ofColumn.isEmpty() ? QString() : ColumnTitle(column);
         for (const Condition& condition : ofColumn)
             conditions += Linked(InWords(name, condition), column);
     }
-    if (!query.fileSelection.isEmpty())
-        conditions += SentenceText::tr("the file is %1").arg(query.fileSelection).toHtmlEscaped();
-    return Joined(conditions);
+    return Joined(conditions + OtherConditions(terms));
 }
 
 QString WithCount(const QString& sentence, std::optional<int> pictures)

@@ -7,6 +7,8 @@
 struct PictureQuery
 {
     CarValues values = AnyValues();
-    QString fileSelection; // a folder and patterns, as in PatternOfSelection; any if empty
-    qint32 linkedTo = 0;   // the paragraph whose linked pictures are included; 0: none
+    QString fileSelection{}; // a folder and patterns, as in PatternOfSelection; any if empty
+    qint32 linkedTo = 0;     // the paragraph whose linked pictures are included; 0: none
+
+    bool operator==(const PictureQuery&) const = default;
 };

@@ -2,22 +2,9 @@
 #pragma once
 
 #include "platform/data/RowScan.h"
-#include "story/PictureQuery.h"
+#include "story/SearchTerms.h"
 
 #include <vector>
-
-// What pictures are looked for by; all of it must fit.
-struct SearchTerms
-{
-    PictureQuery query{};
-    // Each word must occur in the legend, the file's path or a value, in any letter case.
-    QString words{};
-    QString folder{}; // with the folders in it; any if empty
-    bool isNotIndexed = false;
-    bool isMissing = false; // the file is not there
-
-    bool operator==(const SearchTerms&) const = default;
-};
 
 // The terms as a filter of the table of pictures, without isMissing; empty for any picture.
 QString BuildSearchFilter(const SearchTerms& terms);

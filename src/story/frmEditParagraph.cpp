@@ -19,6 +19,7 @@
 #include "story/frmOrganizeParagraphs.h"
 
 #include <QContextMenuEvent>
+#include <QLineEdit>
 #include <QScopeGuard>
 #include <QTimer>
 
@@ -93,13 +94,17 @@ bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
 {
     if (insertion_->UseKey(key))
         return true;
-    const EditorCommand command = EditorCommandOf(key, focusWidget() == ui_->txtParagraph);
+    const bool isWriting =
+        focusWidget() == ui_->txtParagraph || qobject_cast<QLineEdit*>(focusWidget()) != nullptr;
+    const EditorCommand command = EditorCommandOf(key, isWriting);
     if (command == EditorCommand::CreateNext)
         cmdCreateNext_Click();
     else if (command == EditorCommand::FindPictures)
         cmdFindPictures_Click();
     else if (command == EditorCommand::FullScreen)
         SwitchFullScreen();
+    else if (command == EditorCommand::ShowKeys)
+        KeySheet({EditorKeySection()}, this).exec();
     else if (command == EditorCommand::Exit)
         cmdExit_Click();
     return command != EditorCommand::None;
@@ -160,7 +165,8 @@ void frmEditParagraph::FillFromAlbum()
     const ParagraphContent content = LoadParagraph(CurrentParagraph);
     const std::optional<Paragraph> stored = ReadParagraph(CurrentParagraph);
     ui_->filterPanel->ShowLabels();
-    ui_->filterPanel->SetFileSelection(stored ? stored->GetQuery().fileSelection : QString());
+    ui_->filterPanel->SetOtherTerms(
+        {.query = {.fileSelection = stored ? stored->fileSelection : QString()}});
     setWindowTitle(AsWindowTitle(tr("Edit Paragraph from Chapter '%1'").arg(chapter)));
     insertion_->SetMarkers(std::move(markers));
     edit_.Load(content);

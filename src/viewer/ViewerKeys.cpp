@@ -12,7 +12,8 @@ namespace {
 bool ActsOnce(ViewerCommand command)
 {
     return command == ViewerCommand::Close || command == ViewerCommand::FullScreen ||
-           command == ViewerCommand::SwitchPlace || command == ViewerCommand::PressControl;
+           command == ViewerCommand::SwitchPlace || command == ViewerCommand::ShowKeys ||
+           command == ViewerCommand::PressControl;
 }
 
 } // namespace
@@ -61,6 +62,7 @@ const std::vector<ViewerKey>& ViewerKeys()
          QT_TRANSLATE_NOOP("ViewerKey",
                            "Press the button or describe the picture that Tab went to"),
          false},
+        {{Qt::Key_Question}, ShowKeys, QT_TRANSLATE_NOOP("ViewerKey", "This sheet of keys"), false},
         {{Qt::Key_F1}, Leave, QT_TRANSLATE_NOOP("ViewerKey", "Manual"), false},
         {{Qt::Key_Q, Qt::Key_Escape}, Close, QT_TRANSLATE_NOOP("ViewerKey", "Back")},
     };
@@ -72,12 +74,12 @@ QString ViewerKey::GetNames() const
     return KeyNames(QList<QKeySequence>(keys.begin(), keys.end()));
 }
 
-KeyRows ViewerKeyRows()
+KeySection ViewerKeySection()
 {
-    KeyRows rows;
+    KeySection section{ViewerKey::tr("Viewer"), {}};
     for (const ViewerKey& row : ViewerKeys())
-        rows.append({row.GetNames(), row.GetText()});
-    return rows;
+        section.rows.push_back({row.GetNames(), row.GetText()});
+    return section;
 }
 
 ViewerCommand CommandOf(const QKeyEvent& key)

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/widgets/KeyRows.h"
+#include "platform/widgets/KeySheet.h"
 
 #include <QCoreApplication>
+#include <QKeyCombination>
 
 #include <vector>
 
@@ -24,9 +25,10 @@ enum class ViewerCommand {
     ZoomOut,
     ZoomIn,
     SwitchAutoview,
-    ZoomPixels,   // of a picture that is alone: to its pixels, and back
-    MovePicture,  // of such a picture the part that is seen
-    FullScreen,   // there and back
+    ZoomPixels,  // of a picture that is alone: to its pixels, and back
+    MovePicture, // of such a picture the part that is seen
+    FullScreen,  // there and back
+    ShowKeys,
     SwitchPlace,  // says where the reader is, or no longer
     PressControl, // that has the focus
     Close,
@@ -48,6 +50,6 @@ public:
 };
 
 const std::vector<ViewerKey>& ViewerKeys();
-KeyRows ViewerKeyRows();
+KeySection ViewerKeySection();
 
 ViewerCommand CommandOf(const QKeyEvent& key);

@@ -59,6 +59,7 @@ void frmReelvane::MakeControls()
         {Command::EditParagraph, ui_->cmdEditParagraph, "edit-paragraph",
          &Form::cmdEditParagraph_Click},
         {Command::FindPictures, nullptr, nullptr, &Form::FindPictures},
+        {Command::ShowKeys, nullptr, nullptr, &Form::ShowKeys},
         {Command::None, ui_->cmdRefresh, "refresh", &Form::cmdRefresh_Click},
         {Command::FullScreen, ui_->cmdHideMenu, "full-screen", &Form::cmdHideMenu_Click},
         {Command::Close, ui_->cmdClose, "exit", &Form::CloseViewer},
@@ -179,6 +180,12 @@ void frmReelvane::cmdHideMenu_Click()
 void frmReelvane::EditCurrentParagraph()
 {
     EditParagraph(reader_, DisplayForm->window());
+}
+
+void frmReelvane::ShowKeys()
+{
+    const auto pause = reader_.GetAutoview().Pause();
+    KeySheet({ViewerKeySection()}, DisplayForm->window()).exec();
 }
 
 void frmReelvane::FindPictures()

@@ -97,6 +97,7 @@ private:
     void cmdRefresh_Click() { reader_.DisplaySelection(); }
     void cmdEditParagraph_Click() { EditCurrentParagraph(); }
     void FindPictures();
+    void ShowKeys();
     void cmdHideMenu_Click();
     void lblLegend_Click() { EditCurrentParagraph(); }
     void imgImage_MouseDown(int index, Qt::MouseButton button);

@@ -49,6 +49,7 @@ private slots:
         QTRY_COMPARE(finding.Shown(), std::vector<qint32>({1, 4}));
         QTRY_VERIFY(finding.Sentence().endsWith(": 2 pictures"));
         QTest::keyClicks(&finding.Words(), "swim");
+        QVERIFY(finding.Sentence().endsWith(", and the words are swim: ..."));
         QTRY_COMPARE(finding.Shown(), std::vector<qint32>({1}));
         Find<QCheckBox>(finding.window, "chkMissing").click();
         QTRY_VERIFY(finding.Shown().empty());
@@ -76,7 +77,8 @@ private slots:
         QCOMPARE(link.text(), "Link to Paragraph");
         link.click();
         QCOMPARE(link.text(), "Unlink from Paragraph");
-        QCOMPARE(finding.album.Joined("SELECT count(*) FROM LinkedImages WHERE ParagraphId=1"), "4");
+        QCOMPARE(finding.album.Joined("SELECT count(*) FROM LinkedImages WHERE ParagraphId=1"),
+                 "4");
         QVERIFY(finding.Sheet().GoTo(2));
         link.click();
         QCOMPARE(finding.album.Joined("SELECT count(*) FROM LinkedImages"), "3");
@@ -98,8 +100,7 @@ private slots:
             indexing.close();
         });
         Click(finding.window, "cmdDescribe");
-        QCOMPARE(finding.album.Joined("SELECT Legend FROM Image"),
-                 "Anna swims; Robert; Nobody; ");
+        QCOMPARE(finding.album.Joined("SELECT Legend FROM Image"), "Anna swims; Robert; Nobody; ");
         QTest::keyClicks(&finding.Words(), "robert");
         QTRY_COMPARE(finding.Shown(), std::vector<qint32>({2}));
     }
@@ -125,8 +126,7 @@ private slots:
             });
             Click(finding.window, "cmdMakeParagraph");
             QCOMPARE(finding.album.Story(), story);
-            QCOMPARE(finding.album.Joined("SELECT Car3 FROM Paragraph WHERE Text='x'"),
-                     "Anna;Bob");
+            QCOMPARE(finding.album.Joined("SELECT Car3 FROM Paragraph WHERE Text='x'"), "Anna;Bob");
         }
     }
 };

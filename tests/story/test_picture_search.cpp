@@ -116,36 +116,37 @@ private slots:
         AlbumFixture album;
         GeneralModule::SetColumnLabel(0, "Year");
         GeneralModule::SetColumnLabel(3, "<b>");
-        const QStringList filters{"*",       "a",           "a;b",     "a;b;c",     "a;b;c;d",
-                                  "!;a",     "!;a;b",       "!;a;b;c", "!;a;b;c;d", "a;!;b",
-                                  "%1;%2;-", "a;b;c;d;e;f"};
-        const QStringList sentences{
-            "Any picture",
-            "Year is a",
-            "Year is a or b",
-            "Year is a, b or c",
-            "Year is a, b or one of 2 others",
-            "Year is not a",
-            "Year is neither a nor b",
-            "Year is none of a, b and c",
-            "Year is none of a, b and 2 others",
-            "Year is a, and Year is not b",
-            "Year is %1, %2 or not given",
-            "Year is a, b or one of 4 others"};
+        const QStringList filters{"*",         "a",     "a;b",     "a;b;c",
+                                  "a;b;c;d",   "!;a",   "!;a;b",   "!;a;b;c",
+                                  "!;a;b;c;d", "a;!;b", "%1;%2;-", "a;b;c;d;e;f"};
+        const QStringList sentences{"Any picture",
+                                    "Year is a",
+                                    "Year is a or b",
+                                    "Year is a, b or c",
+                                    "Year is a, b or one of 2 others",
+                                    "Year is not a",
+                                    "Year is neither a nor b",
+                                    "Year is none of a, b and c",
+                                    "Year is none of a, b and 2 others",
+                                    "Year is a, and Year is not b",
+                                    "Year is %1, %2 or not given",
+                                    "Year is a, b or one of 4 others"};
         for (qsizetype i = 0; i < filters.size(); ++i) {
             PictureQuery query;
             query.values[0] = filters[i];
-            QString sentence = FilterSentence(query);
+            QString sentence = FilterSentence({.query = query});
             QCOMPARE(sentence.remove("<a href=\"0\">").remove("</a>"), sentences[i]);
         }
         PictureQuery query{.fileSelection = "*sea&*"};
         for (const int column : {3, 7, 9})
             query.values[std::size_t(column)] = "<i>";
-        QCOMPARE(WithCount(FilterSentence(query), 1),
+        QCOMPARE(WithCount(FilterSentence({.query = query}), 1),
                  "<a href=\"3\">&lt;b&gt; is &lt;i&gt;</a>, "
                  "<a href=\"7\">Caracteristic 8 is &lt;i&gt;</a>, "
                  "<a href=\"9\">Caracteristic 10 is &lt;i&gt;</a>, and the file is *sea&amp;*: "
                  "1 pictures");
+        QCOMPARE(FilterSentence({.words = " a  <b> ", .isNotIndexed = true, .isMissing = true}),
+                 "the words are a &lt;b&gt;, not indexed, and the file is missing");
         QCOMPARE(WithCount("x", 0), "x: no picture fits");
         QCOMPARE(WithCount("x", std::nullopt), "x: ...");
     }

@@ -8,6 +8,8 @@
 #include "catalogue/frmLoadFiles.h"
 #include "catalogue/frmReloadPictures.h"
 #include "core/StartUp.h"
+#include "gallery/frmFindPictures.h"
+#include "gallery/frmPlaceParagraph.h"
 #include "platform/widgets/HelpWindow.h"
 #include "story/frmEditParagraph.h"
 #include "story/frmOrganizeParagraphs.h"
@@ -25,7 +27,7 @@ inline constexpr std::array everyWindow{
     "frmOpenChapter",        "frmReelvane",       "frmFullScreen",   "frmEditParagraph",
     "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",   "frmEditLabels",
     "frmLoadFiles",          "frmReloadPictures", "frmSelectImages", "frmAbout",
-    "frmRepairAlbum"};
+    "frmRepairAlbum",        "frmFindPictures"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -79,7 +81,7 @@ protected:
             return window;
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
-                       frmAbout, frmRepairAlbum>(name);
+                       frmAbout, frmRepairAlbum, frmFindPictures, frmPlaceParagraph>(name);
     }
 
     frmReelvane* MakeViewer()

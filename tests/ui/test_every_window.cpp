@@ -106,6 +106,7 @@ private slots:
         HelpComesAtTheWindowsChapter_data();
         QTest::newRow("help") << "frmHelp";
         QTest::newRow("opened by nothing") << "frmCDBuffer";
+        QTest::newRow("place") << "frmPlaceParagraph";
     }
 
     void KeepsItsManners()

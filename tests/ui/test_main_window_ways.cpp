@@ -133,7 +133,10 @@ private slots:
         QCOMPARE(Text("cmdNotIndexed"), "3 not indexed");
         QCOMPARE(Notes(), "2 paragraph(s); 0 paragraph(s)");
         QCOMPARE(Chapters(), "*One Empty");
-        WhenModal("frmReloadPictures", [](QWidget& window) { window.close(); });
+        WhenModal("frmFindPictures", [](QWidget& finder) {
+            QVERIFY(::Find<QCheckBox>(finder, "chkMissing").isChecked());
+            finder.close();
+        });
         Click("cmdMissing");
         WhenModal("frmReelvane", [](QWidget& viewer) { viewer.close(); });
         Click("cmdNotIndexed");

@@ -35,6 +35,14 @@ QLabel* MakeHeading(const QString& text)
 
 } // namespace
 
+QString KeyNames(const QList<QKeySequence>& keys)
+{
+    QStringList names;
+    for (const QKeySequence& key : keys)
+        names += key.toString(QKeySequence::NativeText);
+    return names.join(QStringLiteral(", "));
+}
+
 KeySheet::KeySheet(const std::vector<KeySection>& sections, QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmKeys"));

@@ -2,15 +2,20 @@
 #pragma once
 
 #include <QDialog>
+#include <QKeySequence>
+#include <QList>
 #include <QString>
 
 #include <vector>
 
 class QGridLayout;
 
+// As keyboard and desktop name them, "Ctrl+Return, F11".
+QString KeyNames(const QList<QKeySequence>& keys);
+
 struct KeyRow
 {
-    QString keys; // as the desktop writes them
+    QString keys; // by these names
     QString meaning;
 };
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/MainWindowKeys.h"
 
+#include "catalogue/IndexingKeys.h"
+#include "story/EditorKeys.h"
 #include "story/OrganizerKeys.h"
+#include "viewer/ViewerKeys.h"
 
 #include <QCoreApplication>
 
@@ -12,30 +15,31 @@ const WindowKeyTable& MainWindowKeys()
         "MainWindowKeys",
         QT_TRANSLATE_NOOP("MainWindowKeys", "Main window"),
         {
-            {"Return; Enter", QT_TRANSLATE_NOOP("MainWindowKeys", "read the selected chapter"),
+            {"Return; Enter", QT_TRANSLATE_NOOP("MainWindowKeys", "Read the selected chapter"),
              "mnuReadChapter", list},
-            {"F5", QT_TRANSLATE_NOOP("MainWindowKeys", "read it in full screen"),
+            {"F5", QT_TRANSLATE_NOOP("MainWindowKeys", "Read it in full screen"),
              "mnuReadFullScreen"},
-            {"F2", QT_TRANSLATE_NOOP("MainWindowKeys", "rename the selected chapter"), "mnuRename",
+            {"F2", QT_TRANSLATE_NOOP("MainWindowKeys", "Rename the selected chapter"), "mnuRename",
              list},
-            {"Del", QT_TRANSLATE_NOOP("MainWindowKeys", "delete it, if it has no paragraphs"),
+            {"Del", QT_TRANSLATE_NOOP("MainWindowKeys", "Delete it, if it has no paragraphs"),
              "mnuDeleteChapter", list},
-            {"Ctrl+Up", QT_TRANSLATE_NOOP("MainWindowKeys", "move it up"), "mnuMoveUp", list, true},
-            {"Ctrl+Down", QT_TRANSLATE_NOOP("MainWindowKeys", "move it down"), "mnuMoveDown", list,
+            {"Ctrl+Up", QT_TRANSLATE_NOOP("MainWindowKeys", "Move it up"), "mnuMoveUp", list, true},
+            {"Ctrl+Down", QT_TRANSLATE_NOOP("MainWindowKeys", "Move it down"), "mnuMoveDown", list,
              true},
-            {"Ctrl+N", QT_TRANSLATE_NOOP("MainWindowKeys", "create a new album"),
+            {"Ctrl+N", QT_TRANSLATE_NOOP("MainWindowKeys", "Create a new album"),
              "mnuCreateScript"},
-            {"Ctrl+O", QT_TRANSLATE_NOOP("MainWindowKeys", "open an album"), "mnuOpenScript"},
-            {"Ctrl+F", QT_TRANSLATE_NOOP("MainWindowKeys", "find pictures"), "mnuFindPictures"},
-            {"Esc", QT_TRANSLATE_NOOP("MainWindowKeys", "end the program"), "mnuExit", nullptr,
+            {"Ctrl+O", QT_TRANSLATE_NOOP("MainWindowKeys", "Open an album"), "mnuOpenScript"},
+            {"Ctrl+F", QT_TRANSLATE_NOOP("MainWindowKeys", "Find pictures"), "mnuFindPictures"},
+            {"Esc", QT_TRANSLATE_NOOP("MainWindowKeys", "End the program"), "mnuExit", nullptr,
              false, false},
-            {"F1", QT_TRANSLATE_NOOP("MainWindowKeys", "open the manual"), nullptr},
-            {"?", QT_TRANSLATE_NOOP("MainWindowKeys", "show this sheet"), "mnuKeys"},
+            {"F1", QT_TRANSLATE_NOOP("MainWindowKeys", "Open the manual"), nullptr},
+            {"?", QT_TRANSLATE_NOOP("MainWindowKeys", "Show this sheet"), "mnuKeys"},
         }};
     return table;
 }
 
 std::vector<KeySection> AllKeys()
 {
-    return {DescribeKeys(MainWindowKeys()), DescribeKeys(OrganizerKeys())};
+    return {DescribeKeys(MainWindowKeys()), ViewerKeySection(), EditorKeySection(),
+            DescribeKeys(OrganizerKeys()), IndexingKeySection()};
 }
