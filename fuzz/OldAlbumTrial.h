@@ -19,5 +19,6 @@ struct TrialResult
 };
 
 // Converts the contents in an empty folder and looks at what is left there: the old file as it was,
-// and either nothing else or a new album that opens. More than ten seconds of processor time is a fault.
+// and either nothing else or a new album that opens. More than ten seconds of processor time is a
+// fault.
 TrialResult TryConversion(const QByteArray& contents, const QString& folder);

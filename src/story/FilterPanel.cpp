@@ -28,11 +28,6 @@ int LabelRow(int column)
     return column % columnsPerGroup * 2;
 }
 
-bool IsChoosingKey(int key)
-{
-    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 // Keeps its whole text, and draws what there is room for.
 class CarLabel : public ClickLabel
 {

@@ -40,11 +40,6 @@ public:
     }
 };
 
-bool IsChoosingKey(int key)
-{
-    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 } // namespace
 
 FilterValueList::FilterValueList(QListWidget* list, QLineEdit* search, QObject* parent)

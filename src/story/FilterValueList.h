@@ -12,6 +12,12 @@ class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
 
+// Keys that put a mark where the focus is.
+constexpr bool IsChoosingKey(int key)
+{
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 // The values of one characteristic to choose from, with the number of pictures that have each. A
 // long list can be narrowed: what is typed goes to the search field, a blank too.
 class FilterValueList : public QObject

@@ -92,7 +92,8 @@ private slots:
         QTRY_COMPARE(sentence(), "Any picture: 2 pictures");
         writing.Click("cmdPreviousParagraph");
         QCOMPARE(sentence(), "Where is Lake or Gone, and Caracteristic 10 is not Big: ...");
-        QTRY_COMPARE(sentence(), "Where is Lake or Gone, and Caracteristic 10 is not Big: 1 pictures");
+        QTRY_COMPARE(sentence(),
+                     "Where is Lake or Gone, and Caracteristic 10 is not Big: 1 pictures");
         emit Find<QLabel>(writing.editor, "lblSentence").linkActivated("4");
         QTRY_COMPARE(writing.Values().item(5)->data(Qt::UserRole + 1).toString(), "1"); // Gone
         QCOMPARE(writing.Values().item(4)->data(Qt::UserRole + 1).toString(), "0");     // Town

@@ -66,9 +66,9 @@ void JpegScans::Begin(QByteArrayView segment)
     else if (IsWithinScan(marker) || IsBare(marker) || segment.size() < markerBytes + lengthBytes)
         segment_ = markerBytes;
     else
-        segment_ = markerBytes + std::max<qint64>(
-                                     lengthBytes,
-                                     qFromBigEndian<quint16>(segment.data() + markerBytes));
+        segment_ =
+            markerBytes +
+            std::max<qint64>(lengthBytes, qFromBigEndian<quint16>(segment.data() + markerBytes));
 }
 
 qint64 JpegDevice::readData(char* data, qint64 maxBytes)
