@@ -2,6 +2,7 @@
 #include "story/FilterSentence.h"
 
 #include "catalogue/ColumnTitles.h"
+#include "platform/widgets/LiteralText.h"
 
 #include <QCoreApplication>
 
@@ -63,7 +64,7 @@ QString InWords(const QString& name, const Condition& condition)
 {
     QStringList values;
     for (const QString& value : condition.values)
-        values += value == noValue ? SentenceText::tr("not given") : value;
+        values += value == noValue ? SentenceText::tr("not given") : AsPhrase(value);
     return condition.isNegated ? NoneOf(name, values) : OneOf(name, values);
 }
 
@@ -77,11 +78,11 @@ QStringList OtherConditions(const SearchTerms& terms)
 {
     QStringList conditions;
     if (!terms.query.fileSelection.isEmpty())
-        conditions += SentenceText::tr("the file is %1").arg(terms.query.fileSelection);
+        conditions += SentenceText::tr("the file is %1").arg(AsPhrase(terms.query.fileSelection));
     if (!terms.words.simplified().isEmpty())
-        conditions += SentenceText::tr("the words are %1").arg(terms.words.simplified());
+        conditions += SentenceText::tr("the words are %1").arg(AsPhrase(terms.words.simplified()));
     if (!terms.folder.isEmpty())
-        conditions += SentenceText::tr("the folder is %1").arg(terms.folder);
+        conditions += SentenceText::tr("the folder is %1").arg(AsPhrase(terms.folder));
     if (terms.isNotIndexed)
         conditions += SentenceText::tr("not indexed");
     if (terms.isMissing)
@@ -114,7 +115,7 @@ QString FilterSentence(const SearchTerms& terms)
     QStringList conditions;
     for (int column = 0; column < columnCount; ++column) {
         const QList<Condition> ofColumn = ConditionsOf(terms.query.values[std::size_t(column)]);
-        const QString name = ofColumn.isEmpty() ? QString() : ColumnTitle(column);
+        const QString name = ofColumn.isEmpty() ? QString() : AsPhrase(ColumnTitle(column));
         for (const Condition& condition : ofColumn)
             conditions += Linked(InWords(name, condition), column);
     }

@@ -20,6 +20,13 @@ bool IsMisread(const QString& text)
     return document.toPlainText().contains(QChar::ObjectReplacementCharacter);
 }
 
+// Other than the program's own, links to columns.
+bool HoldsMarkup(QString text)
+{
+    static const QRegularExpression links("<a href=\"\\d+\">|</a>");
+    return Qt::mightBeRichText(text) && text.remove(links).contains(u'<');
+}
+
 QStringList MisreadTexts(QWidget& window)
 {
     QStringList faults;
@@ -29,7 +36,7 @@ QStringList MisreadTexts(QWidget& window)
         if (IsMisread(widget->toolTip()))
             faults += widget->objectName() + "'s tool tip";
         const auto* label = qobject_cast<const QLabel*>(widget);
-        if (label && label->textFormat() != Qt::PlainText && Qt::mightBeRichText(label->text()))
+        if (label && label->textFormat() != Qt::PlainText && HoldsMarkup(label->text()))
             faults += widget->objectName() + "'s text";
         const auto* view = qobject_cast<const QAbstractItemView*>(widget);
         for (int row = 0; view && view->model() && row < view->model()->rowCount(); ++row) {

@@ -9,6 +9,7 @@ namespace {
 
 constexpr qsizetype longestToolTip = 2000; // characters
 constexpr qsizetype longestTitle = 250;
+constexpr qsizetype longestPhrase = 80;
 
 QString Cut(const QString& text, qsizetype longest)
 {
@@ -34,6 +35,11 @@ QString AsToolTip(const QString& text)
                ? text
                : Qt::convertFromPlainText(WithoutControls(Cut(text, longestToolTip), true),
                                           Qt::WhiteSpaceNormal);
+}
+
+QString AsPhrase(const QString& text)
+{
+    return WithoutControls(Cut(text, longestPhrase), false);
 }
 
 QString AsWindowTitle(const QString& text)

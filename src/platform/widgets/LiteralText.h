@@ -10,5 +10,8 @@
 // open the file of an <img>.
 QString AsToolTip(const QString& text);
 
+// A part of a sentence, in one line and cut to some words; still to be escaped for markup.
+QString AsPhrase(const QString& text);
+
 // A window's title in one line; the toolkit would drop "[*]", its placeholder for a modified mark.
 QString AsWindowTitle(const QString& text);
