@@ -6,10 +6,12 @@
 #include "catalogue/MovedPictures.h"
 #include "catalogue/Picture.h"
 #include "catalogue/PictureLoading.h"
+#include "catalogue/ValueCounts.h"
 #include "catalogue/ValueReplacement.h"
 #include "core/AlbumSets.h"
 #include "platform/data/Statement.h"
 #include "story/PictureFilter.h"
+#include "story/PictureSearch.h"
 #include "viewer/PageContent.h"
 
 #include <sqlcipher/sqlite3.h>
@@ -82,6 +84,58 @@ Action Selecting(const char* name, const QString& folder, const QString& value, 
                 Require(!found.failure && found.list.Count() > 0);
             },
             [bare](LargeAlbum&) { ListBare(bare, maxListed); }};
+}
+
+// In the slices of idle work, without the pauses between them.
+template<typename Work>
+void WorkThrough(Work& work)
+{
+    while (work.Work(std::chrono::milliseconds(5)))
+        ;
+}
+
+void FindBare(const QByteArray& condition)
+{
+    Statement query(AlbumDatabase->GetEngine(), "SELECT rowid FROM Image WHERE " + condition);
+    std::vector<qint32> found;
+    while (query.Step())
+        found.push_back(qint32(query.GetInteger(0)));
+    Require(!found.empty());
+}
+
+Action Finding(const char* name, const SearchTerms& terms, const QByteArray& bare)
+{
+    return {name, OpenToRead,
+            [terms](LargeAlbum&) {
+                PictureSearch search(terms);
+                WorkThrough(search);
+                Require(search.Count() > 0);
+            },
+            [bare](LargeAlbum&) { FindBare(bare); }};
+}
+
+std::vector<Action> FindActions()
+{
+    PictureQuery bridge;
+    bridge.values[2] = QStringLiteral("Bridge");
+    // Each of the fields that words are looked for in.
+    QByteArray word = "File LIKE '%bridge%' OR Legend LIKE '%bridge%'";
+    for (int column = 0; column < columnCount; ++column)
+        word += " OR " + CarField(column).toUtf8() + " LIKE '%bridge%'";
+    return {Finding("find: one value, one picture in 200", {.query = bridge}, "Car2='Bridge'"),
+            Finding("find: a word", {.words = QStringLiteral("bridge")}, word),
+            {"pictures of each value of a column", OpenToRead,
+             [](LargeAlbum&) {
+                 ValueCounts counts(2);
+                 WorkThrough(counts);
+                 Require(counts.CountOf(QStringLiteral("Bridge")) > 0);
+             },
+             [](LargeAlbum&) {
+                 Statement query(AlbumDatabase->GetEngine(),
+                                 "SELECT Car2, count(*) FROM Image GROUP BY Car2");
+                 while (query.Step())
+                     Require(query.GetInteger(1) > 0);
+             }}};
 }
 
 QString NewFolder(LargeAlbum& album)
@@ -178,7 +232,7 @@ std::vector<Action> CatalogueActions()
         {"replace a value that no picture has", OpenToChange,
          [](LargeAlbum&) { ReplaceValue(4, lake, pond, GoOn); }},
     };
-    const std::vector<Action> pictures = PictureActions();
-    actions.insert(actions.end(), pictures.begin(), pictures.end());
+    for (const std::vector<Action>& more : {PictureActions(), FindActions()})
+        actions.insert(actions.end(), more.begin(), more.end());
     return actions;
 }

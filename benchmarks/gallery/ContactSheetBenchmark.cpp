@@ -9,7 +9,7 @@
 #include "core/Album.h"
 #include "core/AlbumSets.h"
 #include "gallery/ContactSheet.h"
-#include "platform/picture/MemoryReturn.h"
+#include "platform/picture/Heap.h"
 
 #include <QApplication>
 #include <QDir>
