@@ -53,7 +53,7 @@ void Click(QWidget& window, const QString& control)
 void TurnWheel(QWidget& control, double notches)
 {
     const QPointF middle = QRectF(control.rect()).center();
-    const QPoint turn(0, int(QWheelEvent::DefaultDeltasPerStep * notches));
+    const QPoint turn(0, int(int(QWheelEvent::DefaultDeltasPerStep) * notches));
     QWheelEvent event(middle, control.mapToGlobal(middle), {}, turn, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
     QSpontaneKeyEvent::setSpontaneous(&event); // others do not go on to parents
