@@ -6,6 +6,7 @@ set(floors platform core catalogue story gallery viewer ui app)
 set(faults "")
 set(seen 0)
 set(forms 0)
+set(class_names "")
 
 # Number of a path below src/, lowest first. The gallery and the viewer share a floor, and neither
 # knows the other.
@@ -43,6 +44,17 @@ foreach(source IN LISTS sources)
       string(APPEND faults "${source}: includes ${CMAKE_MATCH_1}, which opens windows\n")
     endif()
   endforeach()
+  # Two of one name are one to the linker, which takes whichever it finds first.
+  file(STRINGS ${SOURCE_DIR}/src/${source} classes REGEX "^(class|struct) [A-Z][A-Za-z0-9]*( : .*)?$")
+  if(source MATCHES "\\.h$")
+    foreach(line IN LISTS classes)
+      string(REGEX REPLACE "^[a-z]+ ([A-Za-z0-9]+).*" "\\1" class "${line}")
+      if(class IN_LIST class_names)
+        string(APPEND faults "${source}: another header has a class ${class} too\n")
+      endif()
+      list(APPEND class_names ${class})
+    endforeach()
+  endif()
   if(source MATCHES "/frm[A-Z][A-Za-z]*\\.(cpp|h)$")
     math(EXPR forms "${forms} + 1")
     file(STRINGS ${SOURCE_DIR}/src/${source} tables

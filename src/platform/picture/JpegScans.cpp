@@ -13,7 +13,7 @@ using namespace JpegMarker;
 
 namespace {
 
-constexpr qint64 pieceBytes = 64 * 1024;
+constexpr qint64 bytesPerRead = 64 * 1024;
 constexpr qsizetype markerBytes = 2;
 constexpr qsizetype lengthBytes = 2; // which count themselves
 
@@ -23,7 +23,7 @@ QByteArray JpegScans::Next()
 {
     QByteArray kept;
     while (kept.isEmpty() && !hasEnded_) {
-        const QByteArray read = file_.read(pieceBytes);
+        const QByteArray read = file_.read(bytesPerRead);
         kept.reserve(rest_.size() + read.size());
         Take(std::exchange(rest_, {}) + read, read.isEmpty(), kept);
         hasEnded_ = hasEnded_ || read.isEmpty();
