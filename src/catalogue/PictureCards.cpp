@@ -18,21 +18,6 @@ namespace {
 const QByteArray rowsWithId =
     "rowid BETWEEN 1 AND " + QByteArray::number(std::numeric_limits<qint32>::max());
 
-// Null counts as a value, as it does where the viewer selects the pictures not yet indexed.
-QByteArray ConditionForNotIndexed()
-{
-    QStringList conditions;
-    for (int column = 0; column < columnCount; ++column)
-        conditions += QStringLiteral("\"%1\"='-'").arg(CarField(column));
-    return conditions.join(QLatin1String(" AND ")).toUtf8();
-}
-
-QString TextOf(const Statement& row, int column)
-{
-    const std::string_view text = row.GetUtf8(column);
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
-
 std::string_view Utf8FileNameOf(std::string_view path)
 {
     return path.substr(Utf8FolderOf(path).size());
@@ -44,6 +29,14 @@ LikePattern PatternFor(const QString& pattern)
 }
 
 } // namespace
+
+QString NotIndexedCondition()
+{
+    QStringList conditions;
+    for (int column = 0; column < columnCount; ++column)
+        conditions += QStringLiteral("\"%1\"='%2'").arg(CarField(column), noValue);
+    return conditions.join(QLatin1String(" AND "));
+}
 
 std::vector<qint32> AllPictureIds()
 {
@@ -59,7 +52,7 @@ std::vector<PictureCard> ReadPictureCards(std::span<const qint32> ids)
 {
     const ReadLock lock(*AlbumDatabase);
     Statement row(AlbumDatabase->GetEngine(), "SELECT \"File\",\"Legend\"," +
-                                                  ConditionForNotIndexed() +
+                                                  NotIndexedCondition().toUtf8() +
                                                   " FROM \"Image\" WHERE rowid=?1");
     std::vector<PictureCard> cards;
     cards.reserve(ids.size());
@@ -68,7 +61,8 @@ std::vector<PictureCard> ReadPictureCards(std::span<const qint32> ids)
         row.Bind(1, qint64(id));
         if (!row.Step())
             continue;
-        card = {id, TextOf(row, 0), TextOf(row, 1), row.IsNull(2) || row.GetInteger(2) == 0};
+        card = {id, QString::fromUtf8(row.GetUtf8(0)), QString::fromUtf8(row.GetUtf8(1)),
+                row.IsNull(2) || row.GetInteger(2) == 0};
         row.Reset();
     }
     return cards;

@@ -20,6 +20,10 @@ struct PictureCard
     bool operator==(const PictureCard&) const = default;
 };
 
+// The engine's condition for a picture that is not indexed. Null counts as a value, as it does
+// where the viewer selects such pictures; it makes the condition Null.
+QString NotIndexedCondition();
+
 // In the order in which the pictures were added.
 std::vector<qint32> AllPictureIds();
 

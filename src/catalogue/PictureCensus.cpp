@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/PictureCensus.h"
 
-#include "catalogue/CharacteristicModel.h"
+#include "catalogue/PictureCards.h"
 #include "core/AlbumSets.h"
+#include "core/LocalCopy.h"
 #include "platform/data/Statement.h"
-
-#include <QFileInfo>
-#include <QStringList>
 
 #include <limits>
 
@@ -18,15 +16,6 @@ namespace {
 constexpr int rowsAtOnce = 1000;
 constexpr int filesAtOnce = 200;
 
-// The same that the viewer shows as not indexed.
-QString NotIndexed()
-{
-    QStringList conditions;
-    for (int column = 0; column < columnCount; ++column)
-        conditions += QStringLiteral("%1='%2'").arg(CarField(column), noValue);
-    return conditions.join(QLatin1String(" AND "));
-}
-
 Statement After(qint64 row, int count, const QString& sql)
 {
     Statement statement(AlbumDatabase->GetEngine(), sql.toUtf8());
@@ -35,26 +24,25 @@ Statement After(qint64 row, int count, const QString& sql)
     return statement;
 }
 
-QString TextIn(const Statement& statement, int column)
-{
-    return QString::fromUtf8(statement.GetUtf8(column));
-}
-
 } // namespace
 
-void PictureCensus::Begin()
+void PictureCensus::ForgetOtherAlbum()
 {
-    const NoWaiting atOnce;
     const std::shared_ptr<Database> album = AlbumDatabase;
-    const AlbumVersion version = GetAlbumVersion();
-    const bool isSame = album_.lock() == album;
-    if (isSame && version == version_)
+    if (album_.lock() == album)
         return;
-    if (!isSame) {
-        rows_.reset();
-        missing_.reset();
-    }
+    rows_.reset();
+    missing_.reset();
     album_ = album;
+    stage_ = Stage::Unknown;
+}
+
+void PictureCensus::BeginIfChanged()
+{
+    ForgetOtherAlbum();
+    const AlbumVersion version = GetAlbumVersion();
+    if (stage_ != Stage::Unknown && version == version_)
+        return;
     version_ = version;
     stage_ = Stage::Rows;
     lastRow_ = std::numeric_limits<qint64>::min();
@@ -66,9 +54,7 @@ void PictureCensus::Begin()
 bool PictureCensus::WorkUntil(const QDeadlineTimer& deadline)
 {
     const NoWaiting atOnce;
-    const std::shared_ptr<Database> album = AlbumDatabase;
-    if (album_.lock() != album || !(GetAlbumVersion() == version_))
-        return false;
+    BeginIfChanged();
     do {
         if (stage_ == Stage::Rows)
             CountRows(deadline);
@@ -84,7 +70,7 @@ void PictureCensus::CountRows(const QDeadlineTimer& deadline)
     static const QString sql =
         QStringLiteral("SELECT COUNT(*), TOTAL(isNew), MAX(row) FROM (SELECT rowid AS row, (%1) AS "
                        "isNew FROM Image WHERE rowid>?1 ORDER BY rowid LIMIT ?2)")
-            .arg(NotIndexed());
+            .arg(NotIndexedCondition());
     do {
         Statement counting = After(lastRow_, rowsAtOnce, sql);
         counting.Step();
@@ -113,9 +99,7 @@ void PictureCensus::CountMissing(const QDeadlineTimer& deadline)
         }
         const Files files = std::move(files_.back());
         files_.pop_back();
-        const bool isThere = (!files.copy.isEmpty() && QFileInfo::exists(files.copy)) ||
-                             QFileInfo::exists(files.file);
-        missingSoFar_ += isThere ? 0 : 1;
+        missingSoFar_ += IsPictureThere(files.file, files.copy) ? 0 : 1;
     } while (!deadline.hasExpired());
 }
 
@@ -127,6 +111,7 @@ void PictureCensus::ReadFiles()
             "SELECT rowid, File, SourceFile FROM Image WHERE rowid>?1 ORDER BY rowid LIMIT ?2"));
     while (reading.Step()) {
         lastRow_ = reading.GetInteger(0);
-        files_.push_back({TextIn(reading, 1), TextIn(reading, 2)});
+        files_.push_back(
+            {QString::fromUtf8(reading.GetUtf8(1)), QString::fromUtf8(reading.GetUtf8(2))});
     }
 }

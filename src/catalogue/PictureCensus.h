@@ -15,13 +15,13 @@
 class PictureCensus
 {
 public:
-    // Begins anew if the album is another one or has changed since, else goes on where it was.
-    // Throws DatabaseError: NoAlbum while none is open, InUse at once where another program has it
-    // locked.
-    void Begin();
-    // Counts until the deadline, of which one file may take longer. False when nothing is left to
-    // count, or the album has changed since Begin. Throws as Begin; the next call goes on.
+    // Counts until the deadline, of which one file may take longer; from the first picture if the
+    // album has changed since. False when nothing is left to count. Throws DatabaseError: NoAlbum
+    // while none is open, InUse at once where another program has it locked; the next call goes on.
     bool WorkUntil(const QDeadlineTimer& deadline);
+
+    // Drops the counts of another album than the open one. Throws NoAlbum while none is open.
+    void ForgetOtherAlbum();
 
     struct Rows
     {
@@ -40,6 +40,7 @@ private:
         QString copy; // empty for none
     };
 
+    void BeginIfChanged();
     void CountRows(const QDeadlineTimer& deadline);
     void CountMissing(const QDeadlineTimer& deadline);
     void ReadFiles();
@@ -49,8 +50,8 @@ private:
     std::optional<Rows> rows_;
     std::optional<qint64> missing_;
 
-    enum class Stage { Rows, Files, Done };
-    Stage stage_ = Stage::Done;
+    enum class Stage { Unknown, Rows, Files, Done };
+    Stage stage_ = Stage::Unknown;
     qint64 lastRow_ = 0; // all up to this one are counted or among the files below
     Rows rowsSoFar_;
     qint64 missingSoFar_ = 0;

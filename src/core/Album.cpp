@@ -190,14 +190,11 @@ AlbumVersion GetAlbumVersion()
     return {AlbumDatabase->ChangeCount(), AlbumDatabase->VersionElsewhere()};
 }
 
-NoWaiting::NoWaiting() : database_(AlbumDatabase)
-{
-    database_->SetWaiting(false);
-}
+NoWaiting::NoWaiting() : database_(AlbumDatabase), wasWaiting_(database_->SetWaiting(false)) {}
 
 NoWaiting::~NoWaiting()
 {
-    database_->SetWaiting(true);
+    database_->SetWaiting(wasWaiting_);
 }
 
 bool IsAlbumReadOnly()

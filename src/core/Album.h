@@ -39,6 +39,7 @@ public:
 
 private:
     std::shared_ptr<Database> database_;
+    bool wasWaiting_;
 };
 
 // Whether the open album can only be read: its file or its folder cannot be written. False while

@@ -43,4 +43,9 @@ QString ResolvePictureFile(const QString& file)
     return file;
 }
 
+bool IsPictureThere(const QString& file, const QString& copy)
+{
+    return (!copy.isEmpty() && QFileInfo::exists(copy)) || QFileInfo::exists(file);
+}
+
 } // namespace GeneralModule

@@ -13,4 +13,8 @@ QString ResolvePictureFile(const QString& file);
 // The same path, but a missing copy stays in the album.
 QString FindPictureFile(const QString& file);
 
+// Whether the picture can be read from its file or from that copy (empty for none), the two paths
+// that its row holds.
+bool IsPictureThere(const QString& file, const QString& copy);
+
 } // namespace GeneralModule

@@ -12,6 +12,9 @@
 
 namespace GeneralModule {
 
+// The maximum number of pictures that a page of the viewer lists.
+constexpr int maxListed = 30000;
+
 // The pictures still to be shown, by their File in the album: first those linked to the paragraph,
 // then those that its filter found. It shrinks as screens are filled from it. It has random numbers
 // of its own, so that a copy gives the same pictures in the same order.

@@ -119,11 +119,16 @@ bool ContactSheet::GoTo(qint32 id)
     const std::vector<int> rows = model_->RowsOf({id});
     if (rows.empty())
         return false;
-    // Not by setCurrentIndex, which heeds the keys that are held down.
-    const QModelIndex index = model_->index(rows.front());
+    GoToRow(rows.front());
+    return true;
+}
+
+// Not by setCurrentIndex, which heeds the keys that are held down.
+void ContactSheet::GoToRow(int row)
+{
+    const QModelIndex index = model_->index(row);
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
     scrollTo(index);
-    return true;
 }
 
 void ContactSheet::SetLinked(std::function<bool(const QString&)> isLinked)
@@ -222,7 +227,7 @@ void ContactSheet::FindTyped(const QString& text)
     if (!found && typed_.IsOneLetterRepeated())
         found = model_->FindText(typed_.Get().first(1), row + 1);
     if (found)
-        setCurrentIndex(model_->index(*found));
+        GoToRow(*found);
     typed_.Found();
 }
 

@@ -68,6 +68,7 @@ private:
     void SetUpView();
     void SetUpWork();
     void KeepPlace(int row, int top);
+    void GoToRow(int row);
     void ChangeSide(int steps);
     void AskForSeen();
     void AskAgain();

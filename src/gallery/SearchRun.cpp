@@ -42,6 +42,8 @@ bool SearchRun::Work(const SearchTerms& terms, std::chrono::milliseconds time)
             return true;
         }
     } catch (const DatabaseError& error) {
+        if (error.GetNumber() == DatabaseError::InUse)
+            throw; // for the next try
         emit Failed(error.GetDescription());
         return false;
     }

@@ -7,6 +7,7 @@
 #include "catalogue/frmEditImage.h"
 #include "core/Album.h"
 #include "core/LocalCopy.h"
+#include "core/PictureList.h"
 #include "gallery/frmPlaceParagraph.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
@@ -22,11 +23,39 @@
 #include <QShortcut>
 
 #include <algorithm>
-#include <deque>
+#include <utility>
 
 namespace {
 
 constexpr QSize proposedSize(1120, 780);
+
+// The files of pictures, each read when it is the next one. Those that are gone are passed over.
+class UpcomingFiles
+{
+public:
+    explicit UpcomingFiles(std::vector<qint32> pictures) : pictures_(std::move(pictures)) {}
+
+    // Empty when none is left.
+    QString Foresee()
+    {
+        for (; next_ < pictures_.size(); ++next_) {
+            const QString file = ReadPictureCards({&pictures_[next_], 1}).front().file;
+            if (!file.isEmpty())
+                return file;
+        }
+        return {};
+    }
+    QString Take()
+    {
+        const QString file = Foresee();
+        ++next_;
+        return file;
+    }
+
+private:
+    std::vector<qint32> pictures_;
+    std::size_t next_ = 0;
+};
 
 } // namespace
 
@@ -106,7 +135,7 @@ SearchTerms frmFindPictures::GetTerms() const
 void frmFindPictures::TermsChanged()
 {
     const SearchTerms terms = GetTerms();
-    RunGuarded([&] { ui_->filterPanel->SetOtherTerms(terms); });
+    ui_->filterPanel->SetOtherTerms(terms);
     run_->Begin(terms);
 }
 
@@ -171,7 +200,9 @@ void frmFindPictures::RefreshState()
     OfferUnless(*ui_->cmdMakeParagraph, true, reason);
     if (CurrentParagraph == 0 || !hasChosen)
         return;
-    const bool areLinked = AreAllLinked(ChosenFiles());
+    // More than are linked are not looked up.
+    const bool areLinked =
+        int(ui_->sheet->GetSelected().size()) <= linked_.size() && AreAllLinked(ChosenFiles());
     ui_->cmdLink->setText(areLinked ? tr("Unlink from Paragraph") : tr("Link to Paragraph"));
 }
 
@@ -208,10 +239,12 @@ void frmFindPictures::GoToSheet()
 
 void frmFindPictures::cmdReadPictures_Click()
 {
-    const std::vector<qint32> selected = ui_->sheet->GetSelected();
+    std::vector<qint32> pictures = ui_->sheet->GetSelected();
+    if (pictures.size() <= 1)
+        pictures = ui_->sheet->GetPictures();
+    pictures.resize(std::min<std::size_t>(pictures.size(), GeneralModule::maxListed));
     QStringList files;
-    for (const PictureCard& card :
-         ReadPictureCards(selected.size() > 1 ? selected : ui_->sheet->GetPictures()))
+    for (const PictureCard& card : ReadPictureCards(pictures))
         files += card.file;
     ReadPictures(this, files);
     SearchAgain();
@@ -220,29 +253,21 @@ void frmFindPictures::cmdReadPictures_Click()
 // Several chosen ones, else the current one and those after it.
 void frmFindPictures::cmdDescribe_Click()
 {
-    const QStringList chosen = ChosenFiles();
-    std::deque<QString> upcoming(chosen.begin(), chosen.end());
-    if (chosen.size() == 1) {
+    std::vector<qint32> pictures = ui_->sheet->GetSelected();
+    if (pictures.size() <= 1) {
         const std::vector<qint32>& all = ui_->sheet->GetPictures();
-        const auto current = std::find(all.begin(), all.end(), ui_->sheet->GetCurrent());
-        upcoming.clear();
-        for (const PictureCard& card : ReadPictureCards({current, all.end()}))
-            upcoming.push_back(card.file);
+        pictures.assign(std::find(all.begin(), all.end(), ui_->sheet->GetCurrent()), all.end());
     }
-    if (upcoming.empty())
-        return;
+    UpcomingFiles upcoming(std::move(pictures));
     frmEditImage window(this);
-    window.CurrentImage = upcoming.front();
-    upcoming.pop_front();
-    window.HasNextPicture = [&] { return !upcoming.empty(); };
-    window.NextPicture = [&] {
-        const QString next = upcoming.empty() ? QString() : upcoming.front();
-        if (!upcoming.empty())
-            upcoming.pop_front();
-        return next;
-    };
+    window.CurrentImage = upcoming.Take();
+    if (window.CurrentImage.isEmpty())
+        return;
+    window.HasNextPicture = [&] { return !upcoming.Foresee().isEmpty(); };
+    window.NextPicture = [&] { return upcoming.Take(); };
     window.ForeseeNextPicture = [&] {
-        return upcoming.empty() ? QString() : GeneralModule::FindPictureFile(upcoming.front());
+        const QString next = upcoming.Foresee();
+        return next.isEmpty() ? QString() : GeneralModule::FindPictureFile(next);
     };
     window.exec();
     SearchAgain();

@@ -123,16 +123,17 @@ void FilterPanel::ShowLabels()
     QStringList groups;
     for (int group = 0; group < groupCount; ++group)
         groups += GeneralModule::CaractLabel(group);
-    QStringList labels;
+    ColumnTexts titles;
     for (int column = 0; column < columnCount; ++column)
-        labels += ColumnTitle(column);
+        titles[std::size_t(column)] = ColumnTitle(column);
     const std::vector<TextMarker> markers = ReadTextMarkers();
     const bool hasLabels = HasColumnLabels();
+    titles_ = titles;
     ui_->grdCar->setHorizontalHeaderLabels(groups);
     for (int column = 0; column < columnCount; ++column) {
         names_[std::size_t(column)] = markers[std::size_t(column) + 1].title;
         ClickLabel* label = lblCar_[std::size_t(column)];
-        label->setText(labels[column]);
+        label->setText(titles_[std::size_t(column)]);
         label->setAccessibleName(names_[std::size_t(column)]);
     }
     ui_->cmdEditLabels->setVisible(!hasLabels);
@@ -239,7 +240,7 @@ void FilterPanel::ShowCount(std::optional<int> pictures)
 
 void FilterPanel::ShowSentence()
 {
-    const QString sentence = FilterSentence(GetTerms());
+    const QString sentence = FilterSentence(GetTerms(), titles_);
     const QString text = WithCount(sentence, count_);
     ui_->lblSentence->setText(text);
     ui_->lblSentence->setToolTip(text);

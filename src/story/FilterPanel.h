@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "story/SearchTerms.h"
+#include "story/FilterSentence.h"
 
 #include <QWidget>
 
@@ -62,7 +62,8 @@ private:
 
     std::unique_ptr<Ui::FilterPanel> ui_;
     std::array<ClickLabel*, columnCount> lblCar_{};
-    std::array<QString, columnCount> names_; // with their groups
+    ColumnTexts titles_; // of characteristics
+    ColumnTexts names_;  // with their groups
     FilterValueList* list_;
     CarValues values_;
     SearchTerms others_;

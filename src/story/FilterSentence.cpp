@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "story/FilterSentence.h"
 
-#include "catalogue/ColumnTitles.h"
 #include "platform/widgets/LiteralText.h"
 
 #include <QCoreApplication>
@@ -110,12 +109,12 @@ QString Joined(QStringList conditions)
 
 } // namespace
 
-QString FilterSentence(const SearchTerms& terms)
+QString FilterSentence(const SearchTerms& terms, const ColumnTexts& titles)
 {
     QStringList conditions;
     for (int column = 0; column < columnCount; ++column) {
         const QList<Condition> ofColumn = ConditionsOf(terms.query.values[std::size_t(column)]);
-        const QString name = ofColumn.isEmpty() ? QString() : AsPhrase(ColumnTitle(column));
+        const QString name = AsPhrase(titles[std::size_t(column)]);
         for (const Condition& condition : ofColumn)
             conditions += Linked(InWords(name, condition), column);
     }

@@ -8,7 +8,6 @@
 #include "story/PictureFilter.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -51,11 +50,6 @@ QString FilterOfWord(const QString& word)
     return conditions.join(QLatin1String(" OR "));
 }
 
-bool IsMissing(const QString& file)
-{
-    return !QFileInfo::exists(GeneralModule::FindPictureFile(file));
-}
-
 QString FilterOfFolder(QString folder)
 {
     folder = QDir::toNativeSeparators(folder);
@@ -89,7 +83,8 @@ QString BuildSearchFilter(const SearchTerms& terms)
 
 PictureSearch::PictureSearch(const SearchTerms& terms)
     : scan_(GeneralModule::AlbumDatabase, QStringLiteral("Image"), BuildSearchFilter(terms),
-            terms.isMissing ? QStringList{QStringLiteral("File")} : QStringList()),
+            terms.isMissing ? QStringList{QStringLiteral("File"), QStringLiteral("SourceFile")}
+                            : QStringList()),
       isMissing_(terms.isMissing)
 {
 }
@@ -97,7 +92,9 @@ PictureSearch::PictureSearch(const SearchTerms& terms)
 bool PictureSearch::Work(std::chrono::milliseconds time)
 {
     return scan_.Work(time, [this](const Statement& picture) {
-        if (!isMissing_ || IsMissing(QString::fromUtf8(picture.GetUtf8(1))))
-            found_.push_back(qint32(picture.GetInteger(0)));
+        if (isMissing_ && GeneralModule::IsPictureThere(QString::fromUtf8(picture.GetUtf8(1)),
+                                                        QString::fromUtf8(picture.GetUtf8(2))))
+            return;
+        found_.push_back(qint32(picture.GetInteger(0)));
     });
 }

@@ -7,7 +7,7 @@ namespace {
 
 // The page on show, its neighbours, and the one left last.
 constexpr std::size_t maxPages = 4;
-constexpr int maxFiles = 2 * maxListed; // of all pages together; about 15 MB
+constexpr int maxFiles = 2 * GeneralModule::maxListed; // of all pages together; about 15 MB
 
 } // namespace
 

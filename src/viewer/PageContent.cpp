@@ -46,8 +46,8 @@ std::optional<PageText> TextAt(const StoryPosition& position)
 FoundPictures FindPicturesAt(const StoryPosition& position, const CountFeedback& feedback)
 {
     if (const std::optional<Paragraph> paragraph = ReadParagraph(position.paragraph))
-        return FindPictures(paragraph->GetQuery(), maxListed, feedback);
-    return FindSelection(QStringLiteral("*"), anyValue, maxListed, feedback);
+        return FindPictures(paragraph->GetQuery(), GeneralModule::maxListed, feedback);
+    return FindSelection(QStringLiteral("*"), anyValue, GeneralModule::maxListed, feedback);
 }
 
 FoundPictures FindSelection(const QString& fileSelection, const QString& imageSelection,
@@ -61,7 +61,8 @@ FoundPictures FindSelection(const QString& fileSelection, const QString& imageSe
 FoundPictures ListFiles(const QStringList& files, const CountFeedback& feedback)
 {
     FoundPictures found;
-    for (const QString& file : files.first(std::min<qsizetype>(files.size(), maxListed)))
+    for (const QString& file :
+         files.first(std::min<qsizetype>(files.size(), GeneralModule::maxListed)))
         found.list.Add(file);
     feedback(found.list.Count());
     return found;

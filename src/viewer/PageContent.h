@@ -34,9 +34,6 @@ struct FoundPictures
     std::exception_ptr failure;
 };
 
-// The maximum number of pictures that a page lists.
-constexpr int maxListed = 30000;
-
 // The pictures that the position's paragraph chooses; in an empty chapter every picture.
 FoundPictures FindPicturesAt(const StoryPosition& position, const CountFeedback& feedback);
 

@@ -127,7 +127,7 @@ void StoryReader::DisplaySelection()
 {
     Position.paragraph = 0;
     if (ChosenFiles.isEmpty())
-        DisplayUndefined(FileSelection, maxListed);
+        DisplayUndefined(FileSelection, GeneralModule::maxListed);
     else
         ShowPage({.title = tr("Found Pictures")}, [this](const CountFeedback& feedback) {
             return ListFiles(ChosenFiles, feedback);

@@ -126,6 +126,9 @@ private slots:
         QCOMPARE(type("walk"), 3);   // folders do not count
         QCOMPARE(type("éve"), 2);    // nor does letter case
         QCOMPARE(type(" "), 2);
+        QTest::qWait(QApplication::keyboardInputInterval() + 20);
+        QTest::keyClick(&sheet, 'H', Qt::ShiftModifier); // a capital letter selects no range
+        QCOMPARE(sheet.GetSelected().size(), 1U);
     }
 
     void ThePictureIsShownLarge()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/ContactSheet.h"
 #include "gallery/frmFindPictures.h"
+#include "platform/data/Database.h"
 #include "support/AlbumFixture.h"
 #include "support/ModalDriver.h"
 
@@ -59,6 +60,16 @@ private slots:
         Find<QCheckBox>(finding.window, "chkMissing").click();
         Find<QLineEdit>(finding.window, "txtFolder").setText("/gone");
         QTRY_COMPARE(finding.Shown(), std::vector<qint32>({4}));
+        {
+            const auto other = Database::Open(finding.album.GetAlbum());
+            other->Execute("BEGIN EXCLUSIVE");
+            Find<QLineEdit>(finding.window, "txtFolder").clear();
+            QTest::qWait(300); // it has tried
+            QCOMPARE(finding.Shown().size(), 1U);
+            QVERIFY(!Find<QWidget>(finding.window, "lblFailure").isVisible());
+            other->Execute("ROLLBACK");
+            QTRY_COMPARE(finding.Shown().size(), 2U);
+        }
         finding.window.Values[3] = "O'Hara"; // which no filter can hold
         finding.window.hide();
         finding.window.show();

@@ -13,6 +13,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace {
 
 constexpr int busyMilliseconds = 3000; // longer than any commit of another program should take
@@ -120,9 +122,10 @@ void Database::Connect()
     sqlite3_set_authorizer(engine_, Authorize, nullptr);
 }
 
-void Database::SetWaiting(bool isWaiting)
+bool Database::SetWaiting(bool isWaiting)
 {
     sqlite3_busy_timeout(engine_, isWaiting ? busyMilliseconds : 0);
+    return std::exchange(isWaiting_, isWaiting);
 }
 
 // A wrong key is detected only at the first read, as a file that is not a database.

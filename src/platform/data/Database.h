@@ -41,8 +41,8 @@ public:
     qint64 VersionElsewhere() const { return GetPragma("data_version"); }
 
     // Whether a lock of another program is waited for, some seconds, before InUse is thrown. True
-    // from the beginning.
-    void SetWaiting(bool isWaiting);
+    // from the beginning. Returns what held before.
+    bool SetWaiting(bool isWaiting);
 
     void Execute(const QByteArray& sql);
 
@@ -67,6 +67,7 @@ private:
     QString password_;
     QByteArray cipherKey_;
     bool isReadOnly_ = false;
+    bool isWaiting_ = true;
     int cipherFormat_ = 0;
     sqlite3* engine_ = nullptr;
     int openBatches_ = 0;

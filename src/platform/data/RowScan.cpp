@@ -17,8 +17,8 @@ constexpr qint64 rowsTogether = 2000;
 
 auto WithoutWaiting(Database& database)
 {
-    database.SetWaiting(false);
-    return qScopeGuard([&database] { database.SetWaiting(true); });
+    const bool wasWaiting = database.SetWaiting(false);
+    return qScopeGuard([&database, wasWaiting] { database.SetWaiting(wasWaiting); });
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/shell/IdleWork.h"
 
+#include "platform/data/DatabaseError.h"
+
 #include <exception>
 #include <utility>
 
@@ -8,6 +10,7 @@ namespace {
 
 // A third of a screen's frame: a key that comes meanwhile is handled before anyone notices.
 constexpr std::chrono::milliseconds sliceTime(5);
+constexpr std::chrono::milliseconds pauseWhileInUse(500);
 
 } // namespace
 
@@ -16,10 +19,9 @@ IdleWork::IdleWork(QObject* parent) : QObject(parent)
     connect(&timer_, &QTimer::timeout, this, &IdleWork::WorkOn);
 }
 
-void IdleWork::Begin(Slice slice, std::chrono::milliseconds pause, std::function<void()> onFailed)
+void IdleWork::Begin(Slice slice, std::chrono::milliseconds pause)
 {
     slice_ = std::move(slice);
-    onFailed_ = std::move(onFailed);
     timer_.start(pause);
 }
 
@@ -31,16 +33,16 @@ void IdleWork::Stop()
 void IdleWork::WorkOn()
 {
     timer_.setInterval(0);
-    // Copies, because the work may begin another one.
-    const Slice slice = slice_;
-    const auto onFailed = onFailed_;
+    const Slice slice = slice_; // a copy, because the work may begin another one
     try {
-        if (slice(sliceTime))
-            return;
-        timer_.stop();
+        if (!slice(sliceTime))
+            timer_.stop();
+    } catch (const DatabaseError& error) {
+        if (error.GetNumber() == DatabaseError::InUse)
+            timer_.setInterval(pauseWhileInUse);
+        else
+            timer_.stop();
     } catch (const std::exception&) {
         timer_.stop();
-        if (onFailed)
-            onFailed();
     }
 }

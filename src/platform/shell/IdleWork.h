@@ -17,10 +17,10 @@ public:
 
     explicit IdleWork(QObject* parent = nullptr);
 
-    // Gives up what is not done, and begins this after a pause. An exception ends it; then onFailed
-    // is called, if there is one, from within the handler.
-    void Begin(Slice slice, std::chrono::milliseconds pause = {},
-               std::function<void()> onFailed = {});
+    // Gives up what is not done, and begins this after a pause. A slice that throws DatabaseError
+    // InUse is tried again half a second later, since another program has the album locked; any
+    // other exception ends the work.
+    void Begin(Slice slice, std::chrono::milliseconds pause = {});
     void Stop();
     bool IsWorking() const { return timer_.isActive(); }
 
@@ -28,6 +28,5 @@ private:
     void WorkOn();
 
     Slice slice_;
-    std::function<void()> onFailed_;
     QTimer timer_;
 };

@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QShortcut>
-#include <QStringList>
 #include <QWidget>
 
 #include <algorithm>
@@ -32,11 +31,8 @@ KeySection DescribeKeys(const WindowKeyTable& table)
 {
     KeySection section{QCoreApplication::translate(table.context, table.title), {}};
     for (const WindowKey& row : table.rows) {
-        QStringList names;
-        for (const QKeySequence& key : KeysOf(row))
-            names += key.toString(QKeySequence::NativeText);
-        section.rows.push_back({names.join(QStringLiteral(", ")),
-                                QCoreApplication::translate(table.context, row.meaning)});
+        section.rows.push_back(
+            {KeyNames(KeysOf(row)), QCoreApplication::translate(table.context, row.meaning)});
     }
     return section;
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/AlbumStatus.h"
 
-#include "platform/data/DatabaseError.h"
 #include "platform/files/PathRoutines.h"
 #include "platform/widgets/OfferedControl.h"
 
@@ -13,9 +12,6 @@
 using namespace GeneralModule;
 
 namespace {
-
-// A third of a screen's frame: a key that comes meanwhile is handled before anyone notices.
-constexpr int slice = 5; // milliseconds
 
 // What can be clicked is underlined.
 void Offer(QPushButton& button, bool isOffered, const QString& reason)
@@ -40,7 +36,6 @@ AlbumStatus::AlbumStatus(const Controls& controls) : controls_(controls)
     for (QPushButton* button : {controls_.notIndexed, controls_.missing})
         button->setFlat(true);
     LookLikeLinks();
-    connect(&timer_, &QTimer::timeout, this, &AlbumStatus::CountOn);
     controls_.row->window()->installEventFilter(this);
 }
 
@@ -54,35 +49,26 @@ void AlbumStatus::LookLikeLinks()
     }
 }
 
-// Not through Guard: an album that cannot be read now is told where the user asks for something.
+// An album that cannot be read now is told where the user asks for something.
 void AlbumStatus::Refresh()
 {
     controls_.row->setVisible(IsAlbumOpen());
-    timer_.stop();
+    counting_.Stop();
     if (!IsAlbumOpen())
         return;
     controls_.album->setText(DescribeAlbum());
-    try {
-        census_.Begin();
-        timer_.start(0);
-    } catch (const DatabaseError&) {
-        // The next call tries again.
-    }
+    census_.ForgetOtherAlbum();
+    counting_.Begin([this](std::chrono::milliseconds time) { return CountOn(time); });
     ShowCounts();
 }
 
-void AlbumStatus::CountOn()
+bool AlbumStatus::CountOn(std::chrono::milliseconds time)
 {
-    bool goesOn = false;
-    try {
-        goesOn = IsAlbumOpen() && !QApplication::activeModalWidget() &&
-                 census_.WorkUntil(QDeadlineTimer(slice, Qt::PreciseTimer));
-    } catch (const DatabaseError&) {
-        // It goes on when the window is worked with again.
-    }
-    if (!goesOn)
-        timer_.stop();
+    if (!IsAlbumOpen() || QApplication::activeModalWidget())
+        return false;
+    const bool goesOn = census_.WorkUntil(QDeadlineTimer(time, Qt::PreciseTimer));
     ShowCounts();
+    return goesOn;
 }
 
 void AlbumStatus::ShowCounts()
@@ -105,7 +91,7 @@ void AlbumStatus::ShowCounts()
         controls_.missing->setText(*missing == 0
                                        ? tr("no file missing")
                                        : tr("%Ln file(s) missing", nullptr, int(*missing)));
-        Offer(*controls_.missing, *missing > 0, readOnly);
+        Offer(*controls_.missing, *missing > 0, QString());
     }
 }
 

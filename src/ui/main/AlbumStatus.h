@@ -2,9 +2,9 @@
 #pragma once
 
 #include "catalogue/PictureCensus.h"
+#include "platform/shell/IdleWork.h"
 
 #include <QObject>
-#include <QTimer>
 
 class QLabel;
 class QPushButton;
@@ -31,17 +31,16 @@ public:
 
     // Shows the open album. Counts again if it has changed.
     void Refresh();
-    bool IsCounting() const { return timer_.isActive(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void LookLikeLinks();
-    void CountOn();
+    bool CountOn(std::chrono::milliseconds time);
     void ShowCounts();
 
     Controls controls_;
     PictureCensus census_;
-    QTimer timer_;
+    IdleWork counting_;
 };
