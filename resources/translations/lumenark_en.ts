@@ -36,7 +36,7 @@
     </message>
 </context>
 <context>
-    <name>FileDrop</name>
+    <name>DroppedFiles</name>
     <message numerus="yes">
         <source>%n file(s) left out: their names are not valid text</source>
         <translation>
@@ -44,6 +44,16 @@
             <numerusform>%n files left out: their names are not valid text</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) left out: no pictures</source>
+        <translation>
+            <numerusform>%n file left out: no picture</numerusform>
+            <numerusform>%n files left out: no pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
     <message numerus="yes">
         <source>%n picture(s) loaded</source>
         <translation>
@@ -63,13 +73,6 @@
         <translation>
             <numerusform>%n picture left out, because you stopped</numerusform>
             <numerusform>%n pictures left out, because you stopped</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n file(s) left out: no pictures</source>
-        <translation>
-            <numerusform>%n file left out: no picture</numerusform>
-            <numerusform>%n files left out: no pictures</numerusform>
         </translation>
     </message>
 </context>
@@ -94,6 +97,23 @@
         <translation>
             <numerusform>%1: %n picture</numerusform>
             <numerusform>%1: %n pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>frmLinkedPictures</name>
+    <message numerus="yes">
+        <source>%n linked pictures, which the paragraph shows first, in this order</source>
+        <translation>
+            <numerusform>%n linked picture, which the paragraph shows first</numerusform>
+            <numerusform>%n linked pictures, which the paragraph shows first, in this order</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n linked files are not in the album.</source>
+        <translation>
+            <numerusform>%n linked file is not in the album.</numerusform>
+            <numerusform>%n linked files are not in the album.</numerusform>
         </translation>
     </message>
 </context>

@@ -471,6 +471,30 @@
     </message>
 </context>
 <context>
+    <name>DroppedFiles</name>
+    <message numerus="yes">
+        <source>%n file(s) left out: their names are not valid text</source>
+        <translation>
+            <numerusform>%n fichier laissé de côté : son nom n&amp;apos;est pas du texte valide</numerusform>
+            <numerusform>%n fichiers laissés de côté : leurs noms ne sont pas du texte valide</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) left out: no pictures</source>
+        <translation>
+            <numerusform>%n fichier laissé de côté : pas une photo</numerusform>
+            <numerusform>%n fichiers laissés de côté : pas des photos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DroppedPictures</name>
+    <message>
+        <source>There is no picture among these files.</source>
+        <translation>Il n&apos;y a pas de photo parmi ces fichiers.</translation>
+    </message>
+</context>
+<context>
     <name>EditConflict</name>
     <message>
         <source>(nothing)</source>
@@ -531,16 +555,13 @@ Votre version :
         <source>This sheet of keys, outside the text</source>
         <translation>Cette liste des touches, hors du texte</translation>
     </message>
+    <message>
+        <source>The linked pictures, and their order</source>
+        <translation>Les photos liées, et leur ordre</translation>
+    </message>
 </context>
 <context>
     <name>FileDrop</name>
-    <message numerus="yes">
-        <source>%n file(s) left out: their names are not valid text</source>
-        <translation>
-            <numerusform>%n fichier laissé de côté : son nom n&apos;est pas du texte valide</numerusform>
-            <numerusform>%n fichiers laissés de côté : leurs noms ne sont pas du texte valide</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Please drop one album at a time.</source>
         <translation>Veuillez déposer un seul album à la fois.</translation>
@@ -576,13 +597,6 @@ Votre version :
         <translation>
             <numerusform>%n photo laissée de côté, parce que vous avez arrêté</numerusform>
             <numerusform>%n photos laissées de côté, parce que vous avez arrêté</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n file(s) left out: no pictures</source>
-        <translation>
-            <numerusform>%n fichier laissé de côté : pas une photo</numerusform>
-            <numerusform>%n fichiers laissés de côté : pas des photos</numerusform>
         </translation>
     </message>
 </context>
@@ -856,6 +870,87 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>frmLinkedPictures</name>
+    <message numerus="yes">
+        <source>%n linked pictures, which the paragraph shows first, in this order</source>
+        <translation>
+            <numerusform>%n photo liée, que le paragraphe montre en premier</numerusform>
+            <numerusform>%n photos liées, que le paragraphe montre en premier, dans cet ordre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n linked files are not in the album.</source>
+        <translation>
+            <numerusform>%n fichier lié n&apos;est pas dans l&apos;album.</numerusform>
+            <numerusform>%n fichiers liés ne sont pas dans l&apos;album.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No picture is linked to this paragraph.</source>
+        <translation>Aucune photo n&apos;est liée à ce paragraphe.</translation>
+    </message>
+    <message>
+        <source>Linked Pictures</source>
+        <translation>Photos liées</translation>
+    </message>
+    <message>
+        <source>Linked pictures</source>
+        <translation>Photos liées</translation>
+    </message>
+    <message>
+        <source>Remove the links to files that the album does not hold</source>
+        <translation>Retirer les liens vers des fichiers que l&apos;album ne contient pas</translation>
+    </message>
+    <message>
+        <source>Take Those Out</source>
+        <translation>Les retirer</translation>
+    </message>
+    <message>
+        <source>Show the chosen pictures earlier (Ctrl+Up); they can be dragged too</source>
+        <translation>Montrer les photos choisies plus tôt (Ctrl+Haut) ; on peut aussi les glisser</translation>
+    </message>
+    <message>
+        <source>Earlier</source>
+        <translation>Plus tôt</translation>
+    </message>
+    <message>
+        <source>Show the chosen pictures later (Ctrl+Down); they can be dragged too</source>
+        <translation>Montrer les photos choisies plus tard (Ctrl+Bas) ; on peut aussi les glisser</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Remove the links to the chosen pictures (Del); they stay in the album</source>
+        <translation>Retirer les liens vers les photos choisies (Suppr) ; elles restent dans l&apos;album</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Find pictures of the album and link them to this paragraph (Ctrl+F)</source>
+        <translation>Chercher des photos de l&apos;album et les lier à ce paragraphe (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Find Pictures</source>
+        <translation>Chercher des photos</translation>
+    </message>
+    <message>
+        <source>Leave the window</source>
+        <translation>Quitter la fenêtre</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+</context>
+<context>
     <name>frmPlaceParagraph</name>
     <message>
         <source>Make Paragraph</source>
@@ -941,6 +1036,53 @@ Votre version :
     <message>
         <source>Keys</source>
         <translation>Touches</translation>
+    </message>
+</context>
+<context>
+    <name>LinkedPicturesKeys</name>
+    <message>
+        <source>Linked pictures</source>
+        <translation>Photos liées</translation>
+    </message>
+    <message>
+        <source>Show the chosen pictures earlier</source>
+        <translation>Montrer les photos choisies plus tôt</translation>
+    </message>
+    <message>
+        <source>Show the chosen pictures later</source>
+        <translation>Montrer les photos choisies plus tard</translation>
+    </message>
+    <message>
+        <source>Take the chosen pictures out</source>
+        <translation>Retirer les photos choisies</translation>
+    </message>
+    <message>
+        <source>Choose all pictures</source>
+        <translation>Choisir toutes les photos</translation>
+    </message>
+    <message>
+        <source>Show the picture large, and back</source>
+        <translation>Montrer la photo en grand, et retour</translation>
+    </message>
+    <message>
+        <source>Larger and smaller pictures</source>
+        <translation>Photos plus grandes et plus petites</translation>
+    </message>
+    <message>
+        <source>Find pictures, and link them</source>
+        <translation>Chercher des photos, et les lier</translation>
+    </message>
+    <message>
+        <source>Go back to the editor</source>
+        <translation>Revenir à l&apos;éditeur</translation>
+    </message>
+    <message>
+        <source>Open the manual</source>
+        <translation>Ouvrir le manuel</translation>
+    </message>
+    <message>
+        <source>Show this sheet</source>
+        <translation>Montrer cette fiche</translation>
     </message>
 </context>
 <context>
@@ -1543,6 +1685,25 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>StoryEditing</name>
+    <message>
+        <source>There is no paragraph to link pictures to.</source>
+        <translation>Il n&apos;y a pas de paragraphe auquel lier des photos.</translation>
+    </message>
+    <message>
+        <source>Point at a picture first, or show it large.</source>
+        <translation>Pointez d&apos;abord une photo, ou montrez-la en grand.</translation>
+    </message>
+    <message>
+        <source>No longer linked to the paragraph</source>
+        <translation>N&apos;est plus liée au paragraphe</translation>
+    </message>
+    <message>
+        <source>Linked to the paragraph</source>
+        <translation>Liée au paragraphe</translation>
+    </message>
+</context>
+<context>
     <name>StoryReader</name>
     <message>
         <source>Click to index picture</source>
@@ -1653,6 +1814,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>This sheet of keys</source>
         <translation>Cette liste des touches</translation>
+    </message>
+    <message>
+        <source>Link to this paragraph, or unlink: the large picture, or the one under the pointer</source>
+        <translation>Lier à ce paragraphe, ou délier : la grande photo, ou celle sous le pointeur</translation>
     </message>
 </context>
 <context>
@@ -2015,6 +2180,14 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Find Pictures</source>
         <translation>Chercher des photos</translation>
+    </message>
+    <message>
+        <source>Put the linked pictures in order, or take some out (Ctrl+L)</source>
+        <translation>Mettre les photos liées en ordre, ou en retirer (Ctrl+L)</translation>
+    </message>
+    <message>
+        <source>Linked Pictures</source>
+        <translation>Photos liées</translation>
     </message>
 </context>
 <context>

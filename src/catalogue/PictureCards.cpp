@@ -48,6 +48,22 @@ std::vector<qint32> AllPictureIds()
     return ids;
 }
 
+std::vector<qint32> PictureIdsOf(const QStringList& files)
+{
+    const ReadLock lock(*AlbumDatabase);
+    Statement row(AlbumDatabase->GetEngine(),
+                  "SELECT rowid FROM \"Image\" WHERE \"File\"=?1 AND " + rowsWithId);
+    std::vector<qint32> ids;
+    ids.reserve(std::size_t(files.size()));
+    for (const QString& file : files) {
+        const QByteArray path = file.toUtf8();
+        row.BindUtf8(1, path);
+        ids.push_back(row.Step() ? qint32(row.GetInteger(0)) : 0);
+        row.Reset();
+    }
+    return ids;
+}
+
 std::vector<PictureCard> ReadPictureCards(std::span<const qint32> ids)
 {
     const ReadLock lock(*AlbumDatabase);

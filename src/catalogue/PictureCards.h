@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <span>
 #include <vector>
@@ -26,6 +27,9 @@ QString NotIndexedCondition();
 
 // In the order in which the pictures were added.
 std::vector<qint32> AllPictureIds();
+
+// In the order of the files; 0 for one that the album does not hold.
+std::vector<qint32> PictureIdsOf(const QStringList& files);
 
 // In the order of the identifiers.
 std::vector<PictureCard> ReadPictureCards(std::span<const qint32> ids);

@@ -86,3 +86,17 @@ int LoadPictures(const QString& folder, const QStringList& names, const LoadingP
     batch.Finish();
     return done;
 }
+
+int LoadPictures(const QMap<QString, QStringList>& namesByFolder, const LoadingProgress& progress)
+{
+    int done = 0;
+    bool goesOn = true;
+    for (auto folder = namesByFolder.begin(); goesOn && folder != namesByFolder.end(); ++folder) {
+        const int earlier = done;
+        done += LoadPictures(folder.key(), folder.value(), [&](int ofFolder) {
+            goesOn = progress(earlier + ofFolder);
+            return goesOn;
+        });
+    }
+    return done;
+}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -14,3 +15,6 @@ using LoadingProgress = std::function<bool(int done)>;
 // was added before a stop or an error stays. Throws DatabaseError, and std::runtime_error when the
 // folder has disappeared.
 int LoadPictures(const QString& folder, const QStringList& names, const LoadingProgress& progress);
+
+// The same for the pictures of several folders.
+int LoadPictures(const QMap<QString, QStringList>& namesByFolder, const LoadingProgress& progress);

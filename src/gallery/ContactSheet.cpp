@@ -5,6 +5,7 @@
 #include "gallery/AlbumThumbnails.h"
 #include "gallery/LargeViewing.h"
 #include "gallery/SheetDelegate.h"
+#include "gallery/SheetDrag.h"
 #include "gallery/SheetSelection.h"
 #include "platform/dialogs/Guard.h"
 
@@ -36,7 +37,8 @@ ContactSheet::ContactSheet(QWidget* parent)
       model_(new SheetModel(this)),
       thumbnails_(new ThumbnailStore(SurroundingsInAlbum([this] { return isVisible(); }), this)),
       delegate_(new SheetDelegate(*model_, *thumbnails_, this)),
-      large_(new LargeViewing(*this, *model_))
+      large_(new LargeViewing(*this, *model_)),
+      drag_(new SheetDrag(this))
 {
     SetUpView();
     SetUpWork();
@@ -52,6 +54,7 @@ void ContactSheet::SetUpView()
     setSelectionRectVisible(true);
     setEditTriggers(NoEditTriggers);
     connect(this, &QListView::doubleClicked, large_, &LargeViewing::Open);
+    connect(drag_, &SheetDrag::Dropped, this, &ContactSheet::Dropped);
 }
 
 void ContactSheet::SetUpWork()
@@ -147,6 +150,13 @@ void ContactSheet::SetCaptions(Captions captions)
 {
     model_->SetCaptions(captions);
     viewport()->update();
+}
+
+void ContactSheet::AllowDragging(bool isAllowed)
+{
+    model_->SetDraggable(isAllowed);
+    setDragEnabled(isAllowed);
+    viewport()->setAcceptDrops(isAllowed);
 }
 
 // What is in the middle stays there.

@@ -10,6 +10,7 @@
 
 class LargeViewing;
 class SheetDelegate;
+class SheetDrag;
 
 // Pictures of the open album as thumbnails, any number of them: only those that are seen are read
 // and decoded. Everything can be done by keys: the arrows with Shift and Ctrl, Ctrl+A, Ctrl + and -
@@ -40,6 +41,9 @@ public:
     void MarksChanged();
     void SetCaptions(Captions captions);
 
+    // Lets the user drag the selected pictures to another place, see SheetDrag.
+    void AllowDragging(bool isAllowed);
+
     // Of the squares that thumbnails fit into, logical pixels.
     int GetSide() const { return side_; }
     void SetSide(int side);
@@ -48,6 +52,8 @@ public:
     bool IsWorking() const { return asking_.isActive() || thumbnails_->IsWorking(); }
 
 signals:
+    // The selected pictures were dropped before that row; the number of pictures: at the end.
+    void Dropped(int before);
     void SelectionChanged();
     void CurrentChanged();
     // By the user.
@@ -79,6 +85,7 @@ private:
     ThumbnailStore* thumbnails_;
     SheetDelegate* delegate_;
     LargeViewing* large_;
+    SheetDrag* drag_;
     int side_ = 0;
     bool isFilling_ = false; // the signals wait
 

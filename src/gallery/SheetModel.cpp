@@ -115,6 +115,12 @@ int SheetModel::rowCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : int(ids_.size());
 }
 
+Qt::ItemFlags SheetModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags usual = QAbstractListModel::flags(index);
+    return isDraggable_ ? usual | Qt::ItemIsDragEnabled : usual;
+}
+
 QVariant SheetModel::data(const QModelIndex& index, int role) const
 {
     switch (role) {

@@ -54,7 +54,10 @@ public:
     // text; when there is none, one that contains it. Throws DatabaseError.
     std::optional<int> FindText(const QString& text, int from) const;
 
+    void SetDraggable(bool isDraggable) { isDraggable_ = isDraggable; }
+
     int rowCount(const QModelIndex& parent = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
@@ -65,6 +68,7 @@ private:
 
     std::vector<qint32> ids_;
     Captions captions_ = Captions::Legend;
+    bool isDraggable_ = false;
     std::function<bool(const QString&)> isLinked_;
     std::function<bool(const QString&)> isMissing_;
     mutable QCache<int, Block> blocks_{maxBlocks};

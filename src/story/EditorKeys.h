@@ -10,6 +10,7 @@ enum class EditorCommand {
     None, // a key for the control that has the focus
     CreateNext,
     FindPictures,
+    ShowLinked,
     FullScreen, // there and back
     ShowKeys,
     Exit,

@@ -5,6 +5,8 @@
 #include "core/TextRoutines.h"
 #include "platform/data/WriteBatch.h"
 
+#include <algorithm>
+
 using GeneralModule::AlbumDatabase;
 using GeneralModule::LinkedImagesSet;
 
@@ -13,6 +15,30 @@ namespace {
 QString LinksOf(qint32 paragraph)
 {
     return QStringLiteral("[ParagraphId]=") + QString::number(paragraph);
+}
+
+// Rows come in the order in which they were added, and so do the pictures.
+void AddLink(qint32 paragraph, const QString& file)
+{
+    LinkedImagesSet->AddNew();
+    LinkedImagesSet->Set(u"ParagraphId", paragraph);
+    LinkedImagesSet->Set(u"File", file);
+    LinkedImagesSet->Update();
+}
+
+QStringList WithMoved(const QStringList& links, const QSet<QString>& files, const QString& before)
+{
+    QStringList moved;
+    QStringList others;
+    qsizetype place = -1;
+    for (const QString& link : links) {
+        if (link == before)
+            place = others.size();
+        (files.contains(link) ? moved : others) += link;
+    }
+    if (place < 0)
+        place = others.size();
+    return others.first(place) + moved + others.sliced(place);
 }
 
 } // namespace
@@ -26,22 +52,25 @@ bool IsLinked(qint32 paragraph, const QString& file)
 
 QSet<QString> LinkedFiles(qint32 paragraph)
 {
-    QSet<QString> files;
+    const QStringList links = LinksInOrder(paragraph);
+    return {links.begin(), links.end()};
+}
+
+QStringList LinksInOrder(qint32 paragraph)
+{
+    QStringList links;
     const RecordSet::Walk walk(*LinkedImagesSet);
     for (LinkedImagesSet->FindFirst(LinksOf(paragraph)); !LinkedImagesSet->NoMatch();
          LinkedImagesSet->FindNext(LinksOf(paragraph)))
-        files.insert(LinkedImagesSet->TextOrEmpty(u"File"));
-    return files;
+        links += LinkedImagesSet->TextOrEmpty(u"File");
+    links.removeDuplicates();
+    return links;
 }
 
 void SetLinked(qint32 paragraph, const QString& file, bool linked)
 {
-    if (linked && !IsLinked(paragraph, file)) {
-        LinkedImagesSet->AddNew();
-        LinkedImagesSet->Set(u"ParagraphId", paragraph);
-        LinkedImagesSet->Set(u"File", file);
-        LinkedImagesSet->Update();
-    }
+    if (linked && !IsLinked(paragraph, file))
+        AddLink(paragraph, file);
     // An album from elsewhere may hold the same link twice.
     while (!linked && IsLinked(paragraph, file))
         LinkedImagesSet->Delete();
@@ -49,8 +78,23 @@ void SetLinked(qint32 paragraph, const QString& file, bool linked)
 
 void SetLinked(qint32 paragraph, const QStringList& files, bool linked)
 {
+    const QSet<QString> held = LinkedFiles(paragraph);
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
-    for (const QString& file : files)
-        SetLinked(paragraph, file, linked);
+    for (const QString& file : files) {
+        if (held.contains(file) != linked)
+            SetLinked(paragraph, file, linked);
+    }
+    batch.Finish();
+}
+
+void MoveLinks(qint32 paragraph, const QSet<QString>& files, const QString& before)
+{
+    const QStringList former = LinksInOrder(paragraph);
+    const QStringList order = WithMoved(former, files, before);
+    const auto [firstFormer, firstNew] = std::mismatch(former.begin(), former.end(), order.begin());
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
+    std::for_each(firstFormer, former.end(),
+                  [&](const QString& file) { SetLinked(paragraph, file, false); });
+    std::for_each(firstNew, order.end(), [&](const QString& file) { AddLink(paragraph, file); });
     batch.Finish();
 }

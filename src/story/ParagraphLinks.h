@@ -12,8 +12,14 @@ bool IsLinked(qint32 paragraph, const QString& file);
 
 // The linked pictures' files.
 QSet<QString> LinkedFiles(qint32 paragraph);
+// The same in the order in which the paragraph shows them, each once.
+QStringList LinksInOrder(qint32 paragraph);
 
 // A picture that is already linked is not linked again.
 void SetLinked(qint32 paragraph, const QString& file, bool linked);
 // The same for many, committed together: all or none.
 void SetLinked(qint32 paragraph, const QStringList& files, bool linked);
+
+// Puts those of the files that are linked, in the order of the links, before that one, or at the
+// end where it is not linked. All rows or none are written.
+void MoveLinks(qint32 paragraph, const QSet<QString>& files, const QString& before);

@@ -11,15 +11,18 @@
 #include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/LiteralText.h"
 #include "platform/widgets/WindowSize.h"
+#include "story/DroppedPictures.h"
 #include "story/EditorKeys.h"
 #include "story/FilterCounting.h"
 #include "story/MarkerInsertion.h"
 #include "story/ParagraphPreview.h"
-#include "story/PictureFinder.h"
+#include "story/PictureWindows.h"
 #include "story/frmOrganizeParagraphs.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QScopeGuard>
 #include <QTimer>
 
@@ -48,6 +51,7 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
         {ui_->txtParagraph, ui_->lstInsertCar, ui_->cmdInsertCar, ui_->cmdCancelInsert}, this);
     counting_ = new FilterCounting(ui_->filterPanel, this);
     KeepWindowSize(this, proposedSize);
+    setAcceptDrops(true);
     ConnectControls();
     // Both columns start at the same height, with or without icons on their buttons.
     for (QWidget* heading :
@@ -77,6 +81,7 @@ void frmEditParagraph::ConnectControls()
             {ui_->cmdPreview, "preview", &Form::cmdPreview_Click},
             {ui_->cmdNextImage, "next-pictures", &Form::cmdNextImage_Click},
             {ui_->cmdFindPictures, "link", &Form::cmdFindPictures_Click},
+            {ui_->cmdLinkedPictures, "organize", &Form::cmdLinkedPictures_Click},
         });
     connect(preview_, &ParagraphPreview::PicturePressed, this,
             Guarded(this, &frmEditParagraph::imgImage_MouseDown));
@@ -101,6 +106,8 @@ bool frmEditParagraph::Form_KeyDown(QKeyEvent& key)
         cmdCreateNext_Click();
     else if (command == EditorCommand::FindPictures)
         cmdFindPictures_Click();
+    else if (command == EditorCommand::ShowLinked)
+        cmdLinkedPictures_Click();
     else if (command == EditorCommand::FullScreen)
         SwitchFullScreen();
     else if (command == EditorCommand::ShowKeys)
@@ -429,25 +436,72 @@ void frmEditParagraph::cmdFindPictures_Click()
     request.parent = this;
     request.paragraph = CurrentParagraph;
     FindPictures(request);
-    // What was described there may have replaced values, here too.
-    auto leave = qScopeGuard([this] { LeaveUnsaved(); });
-    FillFromAlbum();
-    leave.dismiss();
+    ReadAgain();
     if (isPreview_)
         RefreshPictureList();
 }
 
-// The picture, labels, values, and the paragraph with them may have changed there.
+void frmEditParagraph::cmdLinkedPictures_Click()
+{
+    if (!SaveParagraph())
+        return;
+    ShowLinkedPictures(this, CurrentParagraph);
+    ReadAgain();
+    if (isPreview_)
+        RefreshPictureList();
+}
+
+bool frmEditParagraph::IsInFront() const
+{
+    const QWidget* modal = QApplication::activeModalWidget();
+    return !modal || modal == this;
+}
+
+// The text box takes what is dropped on it for itself.
+void frmEditParagraph::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls() && IsInFront())
+        event->acceptProposedAction();
+}
+
+// Later, so that the program from which the files come does not wait for message boxes here.
+void frmEditParagraph::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    QMetaObject::invokeMethod(
+        this, [this, urls = event->mimeData()->urls()] { RunGuarded([&] { TakeDropped(urls); }); },
+        Qt::QueuedConnection);
+}
+
+void frmEditParagraph::TakeDropped(const QList<QUrl>& urls)
+{
+    if (!IsInFront() || !SaveParagraph())
+        return;
+    const QStringList linked = LinkDroppedFiles(CurrentParagraph, urls);
+    if (isPreview_)
+        RefreshPictureList();
+    if (linked.isEmpty())
+        return;
+    preview_->ShowPicture(linked.front());
+    preview_->ShowText(GetContent().text);
+}
+
+// The picture, labels, values, and the paragraph with them may have changed in another window. What
+// cannot be read again must not be saved: a value may have been replaced.
+void frmEditParagraph::ReadAgain()
+{
+    auto leave = qScopeGuard([this] { LeaveUnsaved(); });
+    FillFromAlbum();
+    leave.dismiss();
+}
+
 void frmEditParagraph::EditPicture(const QString& file)
 {
     frmEditImage window(this);
     window.CurrentImage = file;
     window.IsSinglePicture = true;
     window.exec();
-    // What cannot be read again must not be saved: a value may have been replaced.
-    auto leave = qScopeGuard([this] { LeaveUnsaved(); });
-    FillFromAlbum();
-    leave.dismiss();
+    ReadAgain();
     const bool isTakenOut = window.TakenOut.contains(file);
     if (isTakenOut && isPreview_)
         return cmdNextImage_Click();

@@ -40,6 +40,8 @@ protected:
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void ConnectControls();
@@ -84,7 +86,11 @@ private:
     void txtParagraphPreview_GotFocus();
     void imgImage_MouseDown();
     void cmdFindPictures_Click();
+    void cmdLinkedPictures_Click();
     void EditPicture(const QString& file);
+    bool IsInFront() const;
+    void TakeDropped(const QList<QUrl>& urls);
+    void ReadAgain();
 
     std::unique_ptr<Ui::frmEditParagraph> ui_;
     ParagraphPreview* preview_;

@@ -6,12 +6,23 @@
 #include "core/LocalCopy.h"
 #include "platform/dialogs/Dialogs.h"
 #include "story/ParagraphChain.h"
-#include "story/PictureFinder.h"
+#include "story/ParagraphLinks.h"
+#include "story/PictureWindows.h"
 #include "story/frmEditParagraph.h"
 #include "viewer/StoryReader.h"
 #include "viewer/ViewerFlags.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+
+namespace {
+
+struct StoryEditing
+{
+    Q_DECLARE_TR_FUNCTIONS(StoryEditing)
+};
+
+} // namespace
 
 void EditParagraph(StoryReader& reader, QWidget* window)
 {
@@ -44,6 +55,20 @@ void FindForReader(StoryReader& reader, QWidget* window)
     FindPictures(request);
     if (isStory)
         reader.DisplayParagraph(); // its links may have changed
+}
+
+QString SwitchLink(qint32 paragraph, const QString& file)
+{
+    if (paragraph <= 0)
+        return StoryEditing::tr("There is no paragraph to link pictures to.");
+    if (GeneralModule::IsAlbumReadOnly())
+        return GeneralModule::ReadOnlyReason();
+    if (file.isEmpty())
+        return StoryEditing::tr("Point at a picture first, or show it large.");
+    const bool isLinked = IsLinked(paragraph, file);
+    SetLinked(paragraph, file, !isLinked);
+    return isLinked ? StoryEditing::tr("No longer linked to the paragraph")
+                    : StoryEditing::tr("Linked to the paragraph");
 }
 
 void IndexPicture(StoryReader& reader, const QString& file, QWidget* window)

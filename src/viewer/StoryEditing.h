@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-class QString;
+#include <QString>
+
 class QWidget;
 class StoryReader;
 
@@ -14,6 +15,11 @@ void EditParagraph(StoryReader& reader, QWidget* window);
 
 // Opens the window that finds pictures, which can be linked to the reader's paragraph.
 void FindForReader(StoryReader& reader, QWidget* window);
+
+// Links a picture of the album to the paragraph, or unlinks it. Returns what has become of it, for
+// the reader, or why nothing has: there is no paragraph (0), no file, or the album is read-only.
+// Throws DatabaseError.
+QString SwitchLink(qint32 paragraph, const QString& file);
 
 // Opens the indexing window on one of the pictures on the screen, with those that come after it.
 void IndexPicture(StoryReader& reader, const QString& file, QWidget* window);

@@ -7,6 +7,7 @@
 #include "viewer/LargePictureBox.h"
 #include "viewer/LegendArea.h"
 #include "viewer/PageFade.h"
+#include "viewer/PageNews.h"
 #include "viewer/ViewerFlags.h"
 
 #include <QContextMenuEvent>
@@ -37,6 +38,7 @@ StoryPage::StoryPage(QWidget* parent) : QWidget(parent)
     CreateNotice();
     CreatePlace();
     fade_ = new PageFade(this);
+    news_ = new PageNews(this);
 }
 
 void StoryPage::CreateBoxes()
@@ -253,6 +255,20 @@ int StoryPage::GetPictureMeant() const
     const QWidget* focus = window()->focusWidget();
     const int focused = find([focus](const PictureBox* box) { return box == focus; });
     return focused >= 0 ? focused : find([](const PictureBox* box) { return box->underMouse(); });
+}
+
+QString StoryPage::GetFileMeant() const
+{
+    if (imgFullSize_->isVisible())
+        return imgFullSize_->GetTag();
+    const bool isOnlyOne = imgImage_[0]->isVisible() && !imgImage_[1]->isVisible();
+    const int meant = isOnlyOne ? 0 : GetPictureMeant();
+    return meant < 0 ? QString() : imgImage_[std::size_t(meant)]->GetTag();
+}
+
+void StoryPage::ShowNews(const QString& text)
+{
+    news_->Show(text, {0, 0, width(), bandHeight_});
 }
 
 std::shared_ptr<void> StoryPage::BeginWork()

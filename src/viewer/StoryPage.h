@@ -11,6 +11,7 @@
 class LargePictureBox;
 class LegendArea;
 class PageFade;
+class PageNews;
 class PictureBox;
 class QLabel;
 
@@ -51,6 +52,10 @@ public:
 
     // The index of the picture that has the focus, else of the one under the pointer; -1 for none.
     int GetPictureMeant() const;
+    // File of the picture that is alone, else of the one meant or the only one; empty for none.
+    QString GetFileMeant() const;
+    // Says something over the pictures for a moment.
+    void ShowNews(const QString& text);
 
 signals:
     void PicturePressed(int index, Qt::MouseButton button);
@@ -81,6 +86,7 @@ private:
     LegendArea* legend_ = nullptr;
     QLabel* lblNotice_ = nullptr;
     QLabel* lblPlace_ = nullptr;
+    PageNews* news_ = nullptr;
     PageFade* fade_ = nullptr;
     bool isDark_ = false;
     bool canTakeFocus_ = false; // the pictures

@@ -13,7 +13,7 @@ bool ActsOnce(ViewerCommand command)
 {
     return command == ViewerCommand::Close || command == ViewerCommand::FullScreen ||
            command == ViewerCommand::SwitchPlace || command == ViewerCommand::ShowKeys ||
-           command == ViewerCommand::PressControl;
+           command == ViewerCommand::LinkPicture || command == ViewerCommand::PressControl;
 }
 
 } // namespace
@@ -46,6 +46,11 @@ const std::vector<ViewerKey>& ViewerKeys()
          QT_TRANSLATE_NOOP("ViewerKey", "Autoview on and off")},
         {{Qt::Key_E}, EditParagraph, QT_TRANSLATE_NOOP("ViewerKey", "Edit the paragraph")},
         {{Qt::CTRL | Qt::Key_F}, FindPictures, QT_TRANSLATE_NOOP("ViewerKey", "Find pictures")},
+        {{Qt::Key_L},
+         LinkPicture,
+         QT_TRANSLATE_NOOP("ViewerKey", "Link to this paragraph, or unlink: the large picture, or "
+                                        "the one under the pointer"),
+         false},
         {{Qt::Key_F11}, FullScreen, QT_TRANSLATE_NOOP("ViewerKey", "Full screen, and back")},
         {{Qt::Key_I}, SwitchPlace, QT_TRANSLATE_NOOP("ViewerKey", "Show or hide where you are")},
         {{Qt::Key_Z},

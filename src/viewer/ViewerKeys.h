@@ -16,6 +16,7 @@ enum class ViewerCommand {
     Leave, // a key for the desktop or the window's help, which does not even pause autoview
     EditParagraph,
     FindPictures,
+    LinkPicture, // to the paragraph, or unlinks it
     NextPictures,
     PreviousPictures,
     NextParagraph,

@@ -59,6 +59,7 @@ void frmReelvane::MakeControls()
         {Command::EditParagraph, ui_->cmdEditParagraph, "edit-paragraph",
          &Form::cmdEditParagraph_Click},
         {Command::FindPictures, nullptr, nullptr, &Form::FindPictures},
+        {Command::LinkPicture, nullptr, nullptr, &Form::LinkPicture},
         {Command::ShowKeys, nullptr, nullptr, &Form::ShowKeys},
         {Command::None, ui_->cmdRefresh, "refresh", &Form::cmdRefresh_Click},
         {Command::FullScreen, ui_->cmdHideMenu, "full-screen", &Form::cmdHideMenu_Click},
@@ -191,6 +192,13 @@ void frmReelvane::ShowKeys()
 void frmReelvane::FindPictures()
 {
     FindForReader(reader_, DisplayForm->window());
+}
+
+void frmReelvane::LinkPicture()
+{
+    const bool isStory = reader_.GetMode() == StoryMode::Story;
+    const qint32 paragraph = isStory ? CurrentParagraph : ParagraphToLink;
+    DisplayForm->ShowNews(SwitchLink(paragraph, DisplayForm->GetFileMeant()));
 }
 
 void frmReelvane::imgImage_MouseDown(int index, Qt::MouseButton button)

@@ -40,6 +40,7 @@ public:
     QString& ImageSelection = reader_.ImageSelection;
     int& Nblines = reader_.Nblines;
     const QString& LastImageDisplayed = reader_.LastImageDisplayed;
+    qint32 ParagraphToLink = 0;       // that pictures outside the story can be linked to; 0: none
     StoryPage* DisplayForm = nullptr; // what is drawn on: the own page, or the full-screen view's
 
     void DisplayChapter() { reader_.DisplayChapter(); }
@@ -97,6 +98,7 @@ private:
     void cmdRefresh_Click() { reader_.DisplaySelection(); }
     void cmdEditParagraph_Click() { EditCurrentParagraph(); }
     void FindPictures();
+    void LinkPicture();
     void ShowKeys();
     void cmdHideMenu_Click();
     void lblLegend_Click() { EditCurrentParagraph(); }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/ContactSheet.h"
 #include "gallery/frmFindPictures.h"
+#include "gallery/frmLinkedPictures.h"
 #include "platform/data/Database.h"
+#include "story/ParagraphLinks.h"
 #include "support/AlbumFixture.h"
 #include "support/ModalDriver.h"
 
@@ -96,6 +98,54 @@ private slots:
         QVERIFY(finding.Sheet().GoTo(4));
         Click(finding.window, "cmdReadPictures");
         QCOMPARE(finding.read.size(), 4);
+    }
+
+    void PutsLinkedPicturesInOrder()
+    {
+        AlbumFixture album;
+        album.AddChapter("One");
+        QStringList files;
+        for (const char* name : {"a.png", "b.png", "c.png", "d.png"})
+            files += album.AddPicture(name);
+        files.insert(1, "/gone/x.png"); // is in no album
+        SetLinked(1, files, true);
+        SetLinked(2, files, true);
+        SetLinked(1, files[4], true); // once is enough
+        frmLinkedPictures window;
+        window.CurrentParagraph = 1;
+        window.show();
+        auto& sheet = Find<ContactSheet>(window, "sheet");
+        const auto names = [&](qint32 paragraph) {
+            QString order;
+            for (const QString& file : LinksInOrder(paragraph))
+                order += QFileInfo(file).baseName();
+            return order;
+        };
+        QCOMPARE(sheet.GetPictures(), std::vector<qint32>({1, 2, 3, 4}));
+        sheet.GoTo(4);
+        QTest::keyClick(&sheet, Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(names(1), "axbdc");
+        Click(window, "cmdEarlier");
+        QCOMPARE(names(1), "axdbc");
+        QCOMPARE(sheet.GetPictures(), std::vector<qint32>({1, 4, 2, 3}));
+        QCOMPARE(sheet.GetSelected(), std::vector<qint32>({4}));
+        QVERIFY(sheet.GoTo(1));
+        QVERIFY(!Find<QWidget>(window, "cmdEarlier").isEnabled());
+        QTest::keyClick(&sheet, Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClick(&sheet, Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(names(1), "xbadc");
+        emit sheet.Dropped(4); // a and d
+        QCOMPARE(names(1), "xbcad");
+        QVERIFY(!Find<QWidget>(window, "cmdLater").isEnabled());
+        emit sheet.Dropped(0);
+        QCOMPARE(names(1), "xadbc");
+        QTest::keyClick(&sheet, Qt::Key_Delete);
+        QCOMPARE(names(1), "xbc");
+        QVERIFY(Find<QWidget>(window, "lost").isVisible());
+        Click(window, "cmdTakeOutLost");
+        QCOMPARE(names(1), "bc");
+        QVERIFY(!Find<QWidget>(window, "lost").isVisible());
+        QCOMPARE(names(2), "axbcd");
     }
 
     void DescribesThoseAfterThisOne()

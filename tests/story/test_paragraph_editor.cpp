@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Writing.h"
+#include "support/ScriptedDialogs.h"
 
 // The paragraph editor and the organiser, worked by their controls.
 class TestParagraphEditor : public QObject
@@ -118,6 +119,35 @@ private slots:
         QTest::keyClick(&search, Qt::Key_Return);
         writing.Click("cmdNextParagraph");
         QCOMPARE(writing.Stored("Car0", 1), "Person 299");
+    }
+
+    void LinksDroppedFiles()
+    {
+        Writing writing;
+        ScriptedDialogs dialogs;
+        writing.AddPicture("held.png", {{"Legend", "kept"}});
+        for (const char* name : {"one.png", "note.txt"})
+            QVERIFY(QFile::copy(writing.PathOf("held.png"), writing.PathOf(name)));
+        writing.TextBox().setPlainText("typed");
+        const auto drop = [&](const QStringList& names) {
+            QStringList paths;
+            for (const QString& name : names)
+                paths += writing.PathOf(name);
+            QVERIFY(DropFiles(writing.editor, paths));
+        };
+        drop({"one.png", "held.png"});
+        const QString links = "SELECT ParagraphId||File FROM LinkedImages";
+        const QString both = "1" + writing.PathOf("one.png") + "; 1" + writing.PathOf("held.png");
+        QCOMPARE(writing.Joined(links), both);
+        QVERIFY(Find<QCheckBox>(writing.editor, "chkLinkedImage").isChecked());
+        QCOMPARE(writing.Stored("Text", 1), "typed");
+        QCOMPARE(writing.Joined("SELECT Legend FROM Image"), "kept; ");
+        dialogs.ExpectBox("There is no picture among these files.\n"
+                          "1 file(s) left out: no pictures",
+                          Dialogs::Icon::Warning);
+        drop({"note.txt"});
+        QVERIFY(dialogs.IsDone());
+        QCOMPARE(writing.Joined(links), both);
     }
 
     void PreviewAndLinks()

@@ -80,6 +80,23 @@ QMenu& OpenMenuOf(QListWidget& list)
     return *menu;
 }
 
+bool DropFiles(QWidget& window, const QStringList& paths)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& path : paths)
+        urls += path.contains("://") ? QUrl(path) : QUrl::fromLocalFile(path);
+    data.setUrls(urls);
+    QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent drop({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    QApplication::processEvents();
+    return true;
+}
+
 void DropLine(QListWidget& list, int from, int onto, bool isLowerHalf)
 {
     list.setCurrentRow(from);

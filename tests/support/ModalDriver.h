@@ -22,6 +22,9 @@ Widget& Find(QWidget& window, const QString& name)
     return *found;
 }
 
+// False when the window does not take the files (paths or URLs) at all.
+bool DropFiles(QWidget& window, const QStringList& paths);
+
 // A left click on the control of that name, whatever it is.
 void Click(QWidget& window, const QString& control);
 // Turns the wheel over the middle of the control, away from the user or, below 0, the other way.

@@ -9,6 +9,7 @@
 #include "catalogue/frmReloadPictures.h"
 #include "core/StartUp.h"
 #include "gallery/frmFindPictures.h"
+#include "gallery/frmLinkedPictures.h"
 #include "gallery/frmPlaceParagraph.h"
 #include "platform/widgets/HelpWindow.h"
 #include "story/frmEditParagraph.h"
@@ -24,10 +25,10 @@
 #include <array>
 
 inline constexpr std::array everyWindow{
-    "frmOpenChapter",        "frmReelvane",       "frmFullScreen",   "frmEditParagraph",
-    "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",   "frmEditLabels",
-    "frmLoadFiles",          "frmReloadPictures", "frmSelectImages", "frmAbout",
-    "frmRepairAlbum",        "frmFindPictures"};
+    "frmOpenChapter",        "frmReelvane",       "frmFullScreen",    "frmEditParagraph",
+    "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",    "frmEditLabels",
+    "frmLoadFiles",          "frmReloadPictures", "frmSelectImages",  "frmAbout",
+    "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -81,7 +82,8 @@ protected:
             return window;
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
-                       frmAbout, frmRepairAlbum, frmFindPictures, frmPlaceParagraph>(name);
+                       frmAbout, frmRepairAlbum, frmFindPictures, frmPlaceParagraph,
+                       frmLinkedPictures>(name);
     }
 
     frmReelvane* MakeViewer()

@@ -199,23 +199,7 @@ private slots:
     }
 
 private:
-    // False when the window does not take the files at all.
-    bool Drop(const QStringList& paths)
-    {
-        QMimeData data;
-        QList<QUrl> urls;
-        for (const QString& path : paths)
-            urls += path.contains("://") ? QUrl(path) : QUrl::fromLocalFile(path);
-        data.setUrls(urls);
-        QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(window_, &enter);
-        if (!enter.isAccepted())
-            return false;
-        QDropEvent drop({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(window_, &drop);
-        QApplication::processEvents();
-        return true;
-    }
+    bool Drop(const QStringList& paths) { return DropFiles(*window_, paths); }
 
     QString OtherAlbum(const QString& name)
     {

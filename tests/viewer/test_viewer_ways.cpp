@@ -63,6 +63,35 @@ private slots:
         QCOMPARE(story.Shown(), first);
     }
 
+    void LinksThePictureMeant()
+    {
+        OpenViewer story;
+        const QStringList files = story.AddPictures(3);
+        story.Open(story.AddStory({"First"}));
+        const auto links = [&] {
+            return story.album.Joined("SELECT ParagraphId||File FROM LinkedImages");
+        };
+        const auto news = [&] { return Find<QLabel>(story.viewer, "lblNews").text(); };
+        story.Press(Qt::Key_L);
+        QCOMPARE(news(), "Point at a picture first, or show it large.");
+        const QString clicked = story.Boxes()[1]->GetTag();
+        QTest::mouseClick(story.Boxes()[1], Qt::LeftButton);
+        story.Press(Qt::Key_L);
+        QCOMPARE(links(), "1" + clicked);
+        QCOMPARE(news(), "Linked to the paragraph");
+        story.Press(Qt::Key_L);
+        QCOMPARE(links(), "");
+        story.viewer.CurrentChapter = 0;
+        story.viewer.ChosenFiles = {files[2]};
+        story.viewer.DisplayAgain();
+        QCOMPARE(story.Shown(), QStringList("p02"));
+        story.Press(Qt::Key_L);
+        QCOMPARE(news(), "There is no paragraph to link pictures to.");
+        story.viewer.ParagraphToLink = 7;
+        story.Press(Qt::Key_L); // the only picture
+        QCOMPARE(links(), "7" + files[2]);
+    }
+
     void MenuOffersWhatKeysDo()
     {
         OpenViewer story;

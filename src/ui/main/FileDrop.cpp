@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/FileDrop.h"
 
+#include "catalogue/DroppedFiles.h"
 #include "catalogue/Picture.h"
 #include "catalogue/PictureLoading.h"
 #include "core/Album.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/WorkProgress.h"
-#include "ui/main/DroppedFiles.h"
 
 #include <QApplication>
 #include <QMimeData>
@@ -16,16 +16,6 @@
 using namespace GeneralModule;
 
 namespace {
-
-// Lines for those that nothing can be done with.
-QStringList LinesOfUnusable(const DroppedFiles& files)
-{
-    QStringList lines;
-    if (files.unusable > 0)
-        lines += FileDrop::tr("%n file(s) left out: their names are not valid text", nullptr,
-                              files.unusable);
-    return lines + files.unreadable;
-}
 
 QString Joined(const QStringList& lines)
 {
@@ -72,7 +62,7 @@ QString FileDrop::ReasonAgainst(const DroppedFiles& files)
     if (files.pictureCount == 0)
         return Joined(
             QStringList{tr("There is neither an album nor a picture among these files.")} +
-            LinesOfUnusable(files));
+            files.DescribeUnusable());
     if (!IsAlbumOpen())
         return tr("Please open or create an album first, then drop the pictures.");
     return IsAlbumReadOnly() ? ReadOnlyReason() : QString();
@@ -86,16 +76,7 @@ int FileDrop::Load(const DroppedFiles& files) const
         progress_->End();
         onLoaded_();
     });
-    int done = 0;
-    bool goesOn = true;
-    for (auto folder = files.pictures.begin(); goesOn && folder != files.pictures.end(); ++folder) {
-        const int earlier = done;
-        done += LoadPictures(folder.key(), folder.value(), [&](int ofFolder) {
-            goesOn = progress_->Advance(earlier + ofFolder);
-            return goesOn;
-        });
-    }
-    return done;
+    return LoadPictures(files.pictures, [this](int done) { return progress_->Advance(done); });
 }
 
 void FileDrop::LoadAndTell(const DroppedFiles& files) const
@@ -109,7 +90,5 @@ void FileDrop::LoadAndTell(const DroppedFiles& files) const
     if (done < files.pictureCount)
         lines +=
             tr("%n picture(s) left out, because you stopped", nullptr, files.pictureCount - done);
-    if (files.others > 0)
-        lines += tr("%n file(s) left out: no pictures", nullptr, files.others);
-    Tell(Joined(lines + LinesOfUnusable(files)));
+    Tell(Joined(lines + files.DescribeLeftOut()));
 }

@@ -2,6 +2,7 @@
 #include "ui/main/ViewerWindows.h"
 
 #include "gallery/frmFindPictures.h"
+#include "gallery/frmLinkedPictures.h"
 #include "platform/dialogs/Guard.h"
 #include "viewer/ViewerFlags.h"
 #include "viewer/frmReelvane.h"
@@ -50,14 +51,22 @@ void OpenPictureFinder(const FindRequest& request, bool isMissing)
     finder.Values = request.values;
     finder.CurrentParagraph = request.paragraph;
     finder.IsMissing = isMissing;
-    finder.ReadPictures = [](QWidget* window, const QStringList& files) {
+    finder.ReadPictures = [&request](QWidget* window, const QStringList& files) {
         AutoviewOn = false;
         PictureAtRandom = false;
         frmReelvane viewer(window);
         viewer.ChosenFiles = files;
+        viewer.ParagraphToLink = request.paragraph;
         viewer.exec();
     };
     finder.exec();
+}
+
+void OpenLinkedPictures(QWidget* parent, qint32 paragraph)
+{
+    frmLinkedPictures window(parent);
+    window.CurrentParagraph = paragraph;
+    window.exec();
 }
 
 bool BrowseChosenFolder(QWidget* parent, const QString& imageSelection)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "story/PictureFinder.h"
+#include "story/PictureWindows.h"
 
 #include <QString>
 
@@ -21,6 +21,9 @@ void BrowsePictures(QWidget* parent, const QString& imageSelection,
 
 // The window that finds pictures; reads them in the viewer, in their order.
 void OpenPictureFinder(const FindRequest& request, bool isMissing = false);
+
+// The pictures linked to a paragraph, to be put in order.
+void OpenLinkedPictures(QWidget* parent, qint32 paragraph);
 
 // On pictures of a folder that the user chooses. False when none was chosen.
 bool BrowseChosenFolder(QWidget* parent, const QString& imageSelection);

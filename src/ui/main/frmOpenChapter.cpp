@@ -58,7 +58,8 @@ frmOpenChapter::frmOpenChapter(const QString& album) : ui_(std::make_unique<Ui::
     ConnectCommands();
     ConnectControls();
     SetCallHandler([this] { BringToFront(this); });
-    SetPictureFinder([](const FindRequest& request) { OpenPictureFinder(request); });
+    SetPictureWindows({.find = [](const FindRequest& request) { OpenPictureFinder(request); },
+                       .showLinked = OpenLinkedPictures});
     Form_Load(album);
 }
 

@@ -1,15 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
 
-// Files that were dragged onto the main window, told apart by their names.
+// Files that were dragged onto a window, told apart by their names.
 struct DroppedFiles
 {
+    Q_DECLARE_TR_FUNCTIONS(DroppedFiles)
+
+public:
+    // Lines for the user about those that cannot be read or have no usable name.
+    QStringList DescribeUnusable() const;
+    // The same, and about those that are no pictures.
+    QStringList DescribeLeftOut() const;
+
     QStringList albums;                  // full paths
     QMap<QString, QStringList> pictures; // names by folder
     int pictureCount = 0;

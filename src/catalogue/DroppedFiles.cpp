@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/main/DroppedFiles.h"
+#include "catalogue/DroppedFiles.h"
 
 #include "platform/files/FilePatterns.h"
 #include "platform/files/FolderListing.h"
@@ -77,6 +77,22 @@ private:
 };
 
 } // namespace
+
+QStringList DroppedFiles::DescribeUnusable() const
+{
+    QStringList lines;
+    if (unusable > 0)
+        lines += tr("%n file(s) left out: their names are not valid text", nullptr, unusable);
+    return lines + unreadable;
+}
+
+QStringList DroppedFiles::DescribeLeftOut() const
+{
+    QStringList lines;
+    if (others > 0)
+        lines += tr("%n file(s) left out: no pictures", nullptr, others);
+    return lines + DescribeUnusable();
+}
 
 DroppedFiles SortDroppedFiles(const QList<QUrl>& urls)
 {

@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/widgets/WindowKeys.h"
+
+const WindowKeyTable& LinkedPicturesKeys();

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "story/DroppedPictures.h"
+
+#include "catalogue/DroppedFiles.h"
+#include "catalogue/PictureLoading.h"
+#include "core/Album.h"
+#include "platform/dialogs/Dialogs.h"
+#include "platform/files/FolderListing.h"
+#include "platform/widgets/BusyPointer.h"
+#include "story/ParagraphLinks.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+// Under the name that translators see.
+struct DroppedPictures
+{
+    Q_DECLARE_TR_FUNCTIONS(DroppedPictures)
+};
+
+QStringList PathsOf(const DroppedFiles& files)
+{
+    QStringList paths;
+    for (auto folder = files.pictures.begin(); folder != files.pictures.end(); ++folder) {
+        for (const QString& name : folder.value())
+            paths += PathIn(folder.key(), name);
+    }
+    return paths;
+}
+
+QStringList Link(qint32 paragraph, const DroppedFiles& files)
+{
+    const BusyPointer busy;
+    LoadPictures(files.pictures, [](int) { return true; });
+    const QStringList paths = PathsOf(files);
+    SetLinked(paragraph, paths, true);
+    return paths;
+}
+
+} // namespace
+
+QStringList LinkDroppedFiles(qint32 paragraph, const QList<QUrl>& urls)
+{
+    if (GeneralModule::IsAlbumReadOnly()) {
+        Tell(GeneralModule::ReadOnlyReason(), Dialogs::Icon::Warning);
+        return {};
+    }
+    DroppedFiles files = SortDroppedFiles(urls);
+    files.others += int(files.albums.size());
+    QStringList lines = files.DescribeLeftOut();
+    QStringList linked;
+    if (files.pictureCount > 0)
+        linked = Link(paragraph, files);
+    else
+        lines.prepend(DroppedPictures::tr("There is no picture among these files."));
+    if (!lines.isEmpty())
+        Tell(lines.join(u'\n'), Dialogs::Icon::Warning);
+    return linked;
+}
