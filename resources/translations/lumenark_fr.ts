@@ -2106,8 +2106,10 @@ Le supprimer quand même ?</translation>
         <translation>Photo suivante</translation>
     </message>
     <message>
-        <source>Preview shows the pictures of this paragraph here</source>
-        <translation>L&apos;aperçu montre ici les photos de ce paragraphe</translation>
+        <source>Preview shows the pictures of this paragraph here.
+Picture files dropped here are linked to it.</source>
+        <translation>L&apos;aperçu montre ici les photos de ce paragraphe.
+Les fichiers de photos déposés ici lui sont liés.</translation>
     </message>
     <message>
         <source>Link Picture to Paragraph</source>

@@ -271,6 +271,11 @@ void ContactSheet::showEvent(QShowEvent* event)
     scrollTo(currentIndex());
 }
 
+void ContactSheet::startDrag(Qt::DropActions)
+{
+    drag_->Begin();
+}
+
 void ContactSheet::hideEvent(QHideEvent* event)
 {
     EvenGrid::hideEvent(event);

@@ -68,6 +68,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void startDrag(Qt::DropActions actions) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/SheetDrag.h"
 
+#include <QDrag>
 #include <QDropEvent>
 #include <QScrollBar>
 
@@ -10,6 +11,7 @@ namespace {
 constexpr int lineWidth = 3;
 constexpr int scrollMargin = 24; // where a drag scrolls, at the upper and the lower edge
 constexpr int searchStep = 8;    // less than a picture is wide
+constexpr QPoint hotSpot(12, 16);
 
 } // namespace
 
@@ -21,6 +23,18 @@ SheetDrag::SheetDrag(QListView* sheet)
     line_->setBackgroundRole(QPalette::Highlight);
     line_->hide();
     sheet->viewport()->installEventFilter(this);
+}
+
+// The picture hangs below the pointer, half as large, so that the line stays visible.
+void SheetDrag::Begin()
+{
+    const QPixmap picture = sheet_->viewport()->grab(sheet_->visualRect(sheet_->currentIndex()));
+    auto* drag = new QDrag(sheet_); // which the toolkit deletes
+    drag->setMimeData(sheet_->model()->mimeData({sheet_->currentIndex()}));
+    drag->setPixmap(
+        picture.scaled(picture.size() / 2, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    drag->setHotSpot(-hotSpot);
+    drag->exec(Qt::CopyAction);
 }
 
 // Beside the picture there, else after the one that is nearest to the left or, to the right of

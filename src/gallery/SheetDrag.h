@@ -14,6 +14,9 @@ class SheetDrag : public QObject
 public:
     explicit SheetDrag(QListView* sheet);
 
+    // Drags the selected pictures. Returns when they were dropped.
+    void Begin();
+
 signals:
     // The row before which they shall be; the number of rows: at the end. Comes when the drag has
     // ended, so that message boxes may be opened.

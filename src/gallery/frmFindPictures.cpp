@@ -11,6 +11,7 @@
 #include "gallery/frmPlaceParagraph.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/ButtonMenu.h"
 #include "platform/widgets/FormButtons.h"
 #include "platform/widgets/OfferedControl.h"
 #include "platform/widgets/WindowSize.h"
@@ -19,6 +20,7 @@
 #include "story/frmEditParagraph.h"
 
 #include <QCompleter>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QShortcut>
 
@@ -227,6 +229,19 @@ bool frmFindPictures::eventFilter(QObject* watched, QEvent* event)
             ui_->txtFolder->setCompleter(completer);
         });
     return QDialog::eventFilter(watched, event);
+}
+
+// Fields have menus of their own, and a right click into a filter means something else.
+void frmFindPictures::contextMenuEvent(QContextMenuEvent* event)
+{
+    const QWidget* below = childAt(mapFromGlobal(event->globalPos()));
+    if (below && ui_->filterPanel->isAncestorOf(below))
+        return;
+    ButtonMenu menu(this);
+    menu.AddButtons({ui_->cmdReadPictures, ui_->cmdDescribe});
+    menu.AddButtons({ui_->cmdLink, ui_->cmdMakeParagraph});
+    menu.AddButtons({ui_->cmdExit});
+    menu.exec(event->globalPos());
 }
 
 void frmFindPictures::GoToSheet()
