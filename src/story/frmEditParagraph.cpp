@@ -57,10 +57,26 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
     for (QWidget* heading :
          std::initializer_list<QWidget*>{ui_->lblText, ui_->cmdInsertCar, ui_->cmdCancelInsert})
         heading->setMinimumHeight(ui_->cmdPreview->sizeHint().height());
+    LeadFromTextToFilter();
     SetPreviewMode(false);
 }
 
 frmEditParagraph::~frmEditParagraph() = default;
+
+// As people write, with the preview after both.
+void frmEditParagraph::LeadFromTextToFilter()
+{
+    QWidget* last = ui_->cmdFirstParagraph; // of the filter
+    do
+        last = last->previousInFocusChain();
+    while ((last->focusPolicy() & Qt::TabFocus) == 0);
+    for (QWidget* next : std::initializer_list<QWidget*>{
+             ui_->cmdPreview, ui_->cmdNextImage, ui_->txtParagraphPreview, ui_->chkLinkedImage,
+             ui_->cmdLinkedPictures, ui_->cmdFindPictures}) {
+        setTabOrder(last, next);
+        last = next;
+    }
+}
 
 void frmEditParagraph::ConnectControls()
 {

@@ -44,6 +44,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void LeadFromTextToFilter();
     void ConnectControls();
     bool Form_KeyDown(QKeyEvent& key);
     void SwitchFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
