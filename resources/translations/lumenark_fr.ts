@@ -1030,6 +1030,18 @@ Votre version :
         <source>Indexing</source>
         <translation>Indexation</translation>
     </message>
+    <message>
+        <source>Previous picture</source>
+        <translation>Photo précédente</translation>
+    </message>
+    <message>
+        <source>The values of the picture described last</source>
+        <translation>Les valeurs de la photo décrite en dernier</translation>
+    </message>
+    <message>
+        <source>The same for the field you are in</source>
+        <translation>De même pour le champ où vous êtes</translation>
+    </message>
 </context>
 <context>
     <name>KeySheet</name>
@@ -1970,6 +1982,26 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Do you also want to delete the file %1 ?</source>
         <translation>Voulez-vous aussi supprimer le fichier %1 ?</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Take the values of the picture described last (Ctrl+D); Ctrl+Space takes that of one field</source>
+        <translation>Reprendre les valeurs de la photo décrite en dernier (Ctrl+D) ; Ctrl+Espace reprend celle d&apos;un champ</translation>
+    </message>
+    <message>
+        <source>As Before</source>
+        <translation>Comme avant</translation>
+    </message>
+    <message>
+        <source>Edit the image before this one (Alt+P)</source>
+        <translation>Décrire la photo précédente (Alt+P)</translation>
+    </message>
+    <message>
+        <source>Previous Picture</source>
+        <translation>Photo précédente</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "ui_frmEditImage.h"
 
 #include "catalogue/ColumnTitles.h"
+#include "catalogue/LastDescribed.h"
 #include "catalogue/ValueBoxes.h"
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
@@ -51,14 +52,18 @@ frmEditImage::~frmEditImage() = default;
 void frmEditImage::ConnectControls()
 {
     using Form = frmEditImage;
-    ConnectButtons<Form>(this, {
-                                   {ui_->cmdNextImage, "next-pictures", &Form::cmdNextImage_Click},
-                                   {ui_->cmdDelete, "delete", &Form::cmdDelete_Click},
-                                   {ui_->cmdEditTables, "rename", &Form::cmdEditTables_Click},
-                                   {ui_->cmdEditLabels, "", &Form::cmdEditLabels_Click},
-                                   {ui_->cmdExit, "exit", &Form::cmdExit_Click},
-                               });
+    ConnectButtons<Form>(
+        this, {
+                  {ui_->cmdNextImage, "next-pictures", &Form::cmdNextImage_Click},
+                  {ui_->cmdPreviousImage, "previous-paragraph", &Form::cmdPreviousImage_Click},
+                  {ui_->cmdAsBefore, "as-before", &Form::cmdAsBefore_Click},
+                  {ui_->cmdDelete, "delete", &Form::cmdDelete_Click},
+                  {ui_->cmdEditTables, "rename", &Form::cmdEditTables_Click},
+                  {ui_->cmdEditLabels, "", &Form::cmdEditLabels_Click},
+                  {ui_->cmdExit, "exit", &Form::cmdExit_Click},
+              });
     ui_->cmdNextImage->setShortcut(Qt::ALT | Qt::Key_N);
+    ui_->cmdPreviousImage->setShortcut(Qt::ALT | Qt::Key_P);
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
 }
 
@@ -89,6 +94,8 @@ void frmEditImage::Form_Load()
 {
     DisplayCaracteristicNames();
     ShowPicture(CurrentImage);
+    visited_.Show(CurrentImage);
+    ShowPlace();
     ui_->txtLegend->setFocus();
 }
 
@@ -141,14 +148,33 @@ void frmEditImage::ShowPicture(const QString& file)
     CurrentImage = file;
     ui_->stage->ShowPicture(file, path);
     ui_->lblFileName->setText(file);
-    ui_->cmdNextImage->setVisible(HasNextPicture && HasNextPicture());
-    if (ForeseeNextPicture)
-        ui_->stage->Expect(ForeseeNextPicture());
     isKnown_ = record.has_value();
     ShowStored(record.value_or(Picture()));
     if (!isKnown_)
         Tell(tr("Internal Error : Image File %1 not found").arg(CurrentImage),
              Dialogs::Icon::Critical);
+}
+
+bool frmEditImage::HasNext() const
+{
+    return visited_.HasNext() || (CountUpcoming && CountUpcoming() > 0);
+}
+
+// Where the picture is in its selection, and what can be done from there.
+void frmEditImage::ShowPlace()
+{
+    const int count = visited_.Count() + (CountUpcoming ? CountUpcoming() : 0);
+    ui_->lblPlace->setText(count > 1 ? tr("%1 of %2").arg(visited_.GetNumber()).arg(count)
+                                     : QString());
+    ui_->cmdNextImage->setVisible(HasNext());
+    ui_->cmdPreviousImage->setVisible(count > 1);
+    ui_->cmdPreviousImage->setEnabled(visited_.HasPrevious());
+    OfferUnless(*ui_->cmdAsBefore, LastDescribed().has_value(),
+                IsAlbumReadOnly() ? ReadOnlyReason() : QString());
+    if (visited_.HasNext())
+        ui_->stage->Expect(FindPictureFile(visited_.GetNext()));
+    else if (ForeseeNextPicture)
+        ui_->stage->Expect(ForeseeNextPicture());
 }
 
 void frmEditImage::ShowStored(const Picture& record)
@@ -173,14 +199,69 @@ void frmEditImage::cmdNextImage_Click()
 
 void frmEditImage::GoToNextPicture()
 {
-    const QString next = NextPicture ? NextPicture() : QString();
+    const bool wasSeen = visited_.HasNext();
+    QString next;
+    if (wasSeen)
+        next = visited_.GetNext();
+    else if (NextPicture)
+        next = NextPicture();
     if (next.isEmpty()) {
         close();
         return;
     }
     ShowPicture(next);
+    if (wasSeen)
+        visited_.GoOn();
+    else
+        visited_.Show(next);
+    BeginDescribing();
+}
+
+void frmEditImage::cmdPreviousImage_Click()
+{
+    if (!visited_.HasPrevious() || !SavePicture())
+        return;
+    ShowPicture(visited_.GetPrevious());
+    visited_.GoBack();
+    BeginDescribing();
+}
+
+void frmEditImage::BeginDescribing()
+{
+    ShowPlace();
     ui_->txtLegend->setFocus();
     ui_->txtLegend->selectAll();
+}
+
+// Nothing is saved yet, and the legend stays, which seldom fits two pictures.
+void frmEditImage::cmdAsBefore_Click()
+{
+    if (const std::optional<Picture> last = LastDescribed())
+        ShowRecord(WithValuesOf(ControlValues(), *last));
+}
+
+// Of the field that has the focus. False where that is none.
+bool frmEditImage::TakeFieldAsBefore()
+{
+    const std::optional<Picture> last = LastDescribed();
+    if (!last || IsAlbumReadOnly())
+        return false;
+    Picture picture = ControlValues();
+    if (ui_->txtLegend->hasFocus()) {
+        picture.legend = last->legend;
+        ShowRecord(picture);
+        return true;
+    }
+    for (int column = 0; column < columnCount; ++column) {
+        const QComboBox* box = boxes_->GetBox(column);
+        if (box != focusWidget() && !box->isAncestorOf(focusWidget()))
+            continue;
+        picture.values[std::size_t(column)] = last->values[std::size_t(column)];
+        ShowRecord(picture);
+        box->lineEdit()->selectAll();
+        return true;
+    }
+    return false;
 }
 
 void frmEditImage::cmdDelete_Click()
@@ -196,6 +277,7 @@ void frmEditImage::cmdDelete_Click()
     if (!trouble.isEmpty())
         return Tell(trouble, Dialogs::Icon::Warning);
     TakenOut.append(CurrentImage);
+    visited_.Remove();
     CurrentImage.clear();
     if (IsSinglePicture)
         close();
@@ -222,6 +304,12 @@ bool frmEditImage::Form_KeyDown(const QKeyEvent& key)
 {
     if (boxes_->UseKey(key))
         return true;
+    if (key.modifiers() == Qt::ControlModifier && key.key() == Qt::Key_D) {
+        ui_->cmdAsBefore->click();
+        return true;
+    }
+    if (key.modifiers() == Qt::ControlModifier && key.key() == Qt::Key_Space)
+        return TakeFieldAsBefore();
     const bool isPlain = !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     const bool isTyping = IsTyping(focusWidget());
     const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
@@ -278,6 +366,7 @@ bool frmEditImage::SavePicture()
             boxes_->Offer(column, value);
     }
     ShowStored(saved);
+    RememberDescribed(saved);
     return true;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "catalogue/Picture.h"
+#include "catalogue/VisitedPictures.h"
 
 #include <QDialog>
 #include <QStringList>
@@ -36,8 +37,8 @@ public:
     std::function<QString()> NextPicture;
     // Path of that picture, which stays the next one; empty when none is left. May be left unset.
     std::function<QString()> ForeseeNextPicture;
-    // Whether the selection has more pictures; if not set, there is no Next Picture.
-    std::function<bool()> HasNextPicture;
+    // How many of the selection are still to come; if not set, none.
+    std::function<int()> CountUpcoming;
     // Files that were removed from the album here.
     QStringList TakenOut;
 
@@ -50,6 +51,8 @@ private:
     void Form_Load();
     bool Form_KeyDown(const QKeyEvent& key);
     void cmdNextImage_Click();
+    void cmdPreviousImage_Click();
+    void cmdAsBefore_Click();
     void cmdDelete_Click();
     void cmdEditTables_Click();
     void cmdEditLabels_Click();
@@ -60,6 +63,10 @@ private:
     void DisplayCaracteristicNames();
     void DisplayLabels();
     void ShowPicture(const QString& file);
+    void ShowPlace();
+    void BeginDescribing();
+    bool HasNext() const;
+    bool TakeFieldAsBefore();
     void ShowStored(const Picture& record);
     void ShowRecord(const Picture& record);
     Picture ControlValues() const;
@@ -74,6 +81,7 @@ private:
 
     std::unique_ptr<Ui::frmEditImage> ui_;
     ValueBoxes* boxes_;
+    VisitedPictures visited_;
     Picture controls_;     // shown_ as the controls return it
     Picture shown_;        // as the album holds it
     bool isKnown_ = false; // the album holds the picture

@@ -47,6 +47,7 @@ public:
         }
         return {};
     }
+    int Count() { return Foresee().isEmpty() ? 0 : int(pictures_.size() - next_); }
     QString Take()
     {
         const QString file = Foresee();
@@ -278,7 +279,7 @@ void frmFindPictures::cmdDescribe_Click()
     window.CurrentImage = upcoming.Take();
     if (window.CurrentImage.isEmpty())
         return;
-    window.HasNextPicture = [&] { return !upcoming.Foresee().isEmpty(); };
+    window.CountUpcoming = [&] { return upcoming.Count(); };
     window.NextPicture = [&] { return upcoming.Take(); };
     window.ForeseeNextPicture = [&] {
         const QString next = upcoming.Foresee();

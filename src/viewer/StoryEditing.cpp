@@ -15,12 +15,35 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <deque>
+
 namespace {
 
 struct StoryEditing
 {
     Q_DECLARE_TR_FUNCTIONS(StoryEditing)
 };
+
+// From the next one on, round the end.
+std::deque<QString> OthersOnScreen(const StoryReader& reader, const QString& file)
+{
+    std::deque<QString> before;
+    std::deque<QString> others;
+    bool isAfter = false;
+    for (const ShownPicture& picture : reader.GetDisplayed()) {
+        if (picture.file == file)
+            isAfter = true;
+        else
+            (isAfter ? others : before).push_back(picture.file);
+    }
+    others.insert(others.end(), before.begin(), before.end());
+    return others;
+}
+
+bool IsPictureFileThere(const QString& picture)
+{
+    return QFileInfo::exists(GeneralModule::ResolvePictureFile(picture));
+}
 
 } // namespace
 
@@ -75,22 +98,25 @@ void IndexPicture(StoryReader& reader, const QString& file, QWidget* window)
 {
     const auto pause = reader.GetAutoview().Pause();
     PictureList upcoming = reader.GetUpcoming();
-    const auto isThere = [](const QString& picture) {
-        return QFileInfo::exists(GeneralModule::ResolvePictureFile(picture));
-    };
+    std::deque<QString> others = OthersOnScreen(reader, file);
     const auto pickNext = [&] {
-        return upcoming.PickNext(GeneralModule::PictureAtRandom, isThere);
+        return upcoming.PickNext(GeneralModule::PictureAtRandom, IsPictureFileThere);
     };
     frmEditImage indexing(window);
     indexing.CurrentImage = file;
-    indexing.HasNextPicture = [&] { return upcoming.Count() > 0; };
+    indexing.CountUpcoming = [&] { return int(others.size()) + upcoming.Count(); };
     indexing.NextPicture = [&] {
+        if (!others.empty()) {
+            const QString next = others.front();
+            others.pop_front();
+            return next;
+        }
         const QString next = pickNext();
         upcoming.TakePicked();
         return next;
     };
     indexing.ForeseeNextPicture = [&] {
-        const QString next = pickNext();
+        const QString next = others.empty() ? pickNext() : others.front();
         return next.isEmpty() ? QString() : GeneralModule::FindPictureFile(next);
     };
     indexing.exec();

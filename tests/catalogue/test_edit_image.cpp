@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "catalogue/LastDescribed.h"
 #include "catalogue/frmEditImage.h"
 #include "core/AlbumSets.h"
 #include "platform/widgets/PictureBox.h"
@@ -197,6 +198,58 @@ private slots:
         QCOMPARE(album_->Joined("SELECT Name FROM Car0"), "-");
     }
 
+    void GoesBackAndOn()
+    {
+        const QStringList files = Open(3);
+        const auto place = [this] { return Find<QLabel>(*window_, "lblPlace").text(); };
+        QCOMPARE(place(), "1 of 3");
+        QVERIFY(!Find<QWidget>(*window_, "cmdPreviousImage").isEnabled());
+        Click(*window_, "cmdNextImage");
+        Click(*window_, "cmdNextImage");
+        QVERIFY(!Find<QWidget>(*window_, "cmdNextImage").isVisible());
+        Find<QLineEdit>(*window_, "txtLegend").setText("third");
+        Click(*window_, "cmdPreviousImage");
+        Click(*window_, "cmdPreviousImage");
+        QCOMPARE(place(), "1 of 3");
+        QCOMPARE(Shown(), files[0]);
+        Click(*window_, "cmdNextImage");
+        QCOMPARE(place(), "2 of 3");
+        Delete(files[1], Answer::No); // goes on to the third, which was seen
+        QCOMPARE(place(), "2 of 2");
+        QCOMPARE(Find<QLineEdit>(*window_, "txtLegend").text(), "third");
+        Click(*window_, "cmdPreviousImage");
+        QCOMPARE(Shown(), files[0]);
+    }
+
+    void DescribesAsBefore()
+    {
+        Open(4);
+        auto& legend = Find<QLineEdit>(*window_, "txtLegend");
+        QVERIFY(!Find<QWidget>(*window_, "cmdAsBefore").isEnabled());
+        TypeInto(0, "Sea");
+        TypeInto(4, "Anna");
+        legend.setText("A walk");
+        Click(*window_, "cmdNextImage");
+        QTest::keyClick(&legend, Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(legend.text(), "");
+        legend.setText("A rest");
+        QTest::keyClick(&legend, Qt::Key_Return);
+        QTest::keyClick(&legend, Qt::Key_Space, Qt::ControlModifier);
+        Combo(4).setFocus();
+        QTest::keyClick(&Combo(4), Qt::Key_Space, Qt::ControlModifier);
+        TypeInto(0, "Lake");
+        Click(*window_, "cmdNextImage");
+        TypeInto(11, "own"); // which the last one has none for
+        Click(*window_, "cmdAsBefore");
+        window_->close();
+        QCOMPARE(album_->Rows("SELECT Legend,Car0,Car4,Car11 FROM Image"),
+                 QStringList({"A walk|Sea|Anna|-", "A rest|Sea|Anna|-", "A rest|Lake|Anna|-",
+                              "|Lake|Anna|own"}));
+        QVERIFY(LastDescribed().has_value());
+        const AlbumFixture other;
+        QVERIFY(!LastDescribed().has_value());
+    }
+
     // Wherever the engine fails on the way to the next picture, none gets the values of another.
     void WhatCannotBeReadIsNotSaved()
     {
@@ -229,7 +282,7 @@ private:
         next_ = {files.begin() + 1, files.end()};
         window_ = Make<frmEditImage>();
         window_->CurrentImage = files.first();
-        window_->HasNextPicture = [this] { return !next_.empty(); };
+        window_->CountUpcoming = [this] { return int(next_.size()); };
         window_->NextPicture = [this] {
             const QString next = next_.empty() ? QString() : next_.front();
             if (!next_.empty())

@@ -154,7 +154,15 @@ private slots:
         story.dialogs.ExpectBox("Do you also want to delete the file " + gone + " ?",
                                 Dialogs::Icon::Question, Dialogs::Buttons::YesNoCancel,
                                 Dialogs::Answer::No);
-        Index(story, 1, [](QWidget& window) { Click(window, "cmdDelete"); });
+        const QStringList others{story.Boxes()[2]->GetTag(), story.Boxes()[0]->GetTag()};
+        Index(story, 1, [&](QWidget& window) {
+            Click(window, "cmdDelete"); // goes on through the others on the screen
+            QCOMPARE(Find<QLabel>(window, "lblFileName").text(), others[0]);
+            Click(window, "cmdNextImage");
+            QCOMPARE(Find<QLabel>(window, "lblFileName").text(), others[1]);
+            QVERIFY(!Find<QWidget>(window, "cmdNextImage").isVisible());
+            window.close();
+        });
         QCOMPARE(story.Boxes().size(), 2);
         QVERIFY(!story.Shown().contains(QFileInfo(gone).completeBaseName()));
     }

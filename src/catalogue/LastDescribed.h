@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "catalogue/Picture.h"
+
+// The picture of the open album that was described last since the program began: its legend and
+// values as they were saved. One without any value does not count.
+std::optional<Picture> LastDescribed();
+// Throws NoAlbum while no album is open.
+void RememberDescribed(const Picture& picture);
+
+// What is left of a picture's values when it takes those of another one that has some; it keeps its
+// own where the other has none.
+Picture WithValuesOf(const Picture& picture, const Picture& other);
