@@ -20,6 +20,7 @@
 #include <QFile>
 
 using GeneralModule::AlbumDatabase;
+using GeneralModule::maxListed;
 
 namespace {
 
