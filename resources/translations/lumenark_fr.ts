@@ -731,6 +731,10 @@ Votre version :
         <source>the file is missing</source>
         <translation>fichier manquant</translation>
     </message>
+    <message>
+        <source>%1 is given</source>
+        <translation>%1 : renseigné</translation>
+    </message>
 </context>
 <context>
     <name>FilterValueList</name>
