@@ -1,7 +1,8 @@
 # cmake --install, and the Debian package: cpack -G DEB in the build folder.
 #
 # The program and its files lie together in a folder of their own, because it looks for the template,
-# the help and the reader of old albums beside itself; what people call is a link to it.
+# the help, the reader of old albums and the sample story beside itself; what people call is a link
+# to it.
 include(GNUInstallDirs)
 
 set(program_folder ${CMAKE_INSTALL_LIBDIR}/lumenark)
@@ -13,6 +14,9 @@ install(FILES
   DESTINATION ${program_folder})
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/help/ DESTINATION ${program_folder}/help
         FILES_MATCHING PATTERN *.jpg)
+if(NOT LUMENARK_SANITIZE)
+  install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/sample DESTINATION ${program_folder})
+endif()
 file(RELATIVE_PATH link_target
   /${CMAKE_INSTALL_BINDIR} /${program_folder}/lumenark)
 file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/links)

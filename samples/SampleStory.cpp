@@ -251,10 +251,10 @@ bool Complain(const QString& text)
 
 } // namespace
 
-bool WriteSampleStory(const QString& folder, const QString& name)
+bool WriteSampleStory(const QString& folder, const QString& name, PicturePaths paths)
 {
-    const QString pictures =
-        QDir(folder).absoluteFilePath(QStringLiteral("pictures")) + QDir::separator();
+    const QString below = QStringLiteral("pictures") + QDir::separator();
+    const QString pictures = QDir(folder).absoluteFilePath(below);
     if (!QDir().mkpath(pictures))
         return Complain("cannot make the folder " + pictures);
     const QStringList missing = PaintSamplePictures(pictures);
@@ -265,9 +265,10 @@ bool WriteSampleStory(const QString& folder, const QString& name)
         return Complain("cannot make the album " + album);
     WriteBatch batch(AlbumDatabase);
     WriteLabels();
+    const QString named = paths == PicturePaths::Relative ? below : pictures;
     for (const SamplePicture& picture : SamplePictures())
-        AddPicture(picture, pictures + picture.fileName);
-    WriteChapters(pictures);
+        AddPicture(picture, named + picture.fileName);
+    WriteChapters(named);
     batch.Finish();
     return true;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Makes the sample story: make_sample FOLDER ALBUM.alb
+// Makes the sample story: make_sample [--relative] FOLDER ALBUM.alb
 #include "SampleStory.h"
 
 #include "platform/dialogs/Dialogs.h"
@@ -31,18 +31,20 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    const QStringList arguments = QGuiApplication::arguments();
+    QStringList arguments = QGuiApplication::arguments();
+    const bool isRelative = arguments.removeAll(QStringLiteral("--relative")) > 0;
     if (arguments.size() != 3) {
-        QTextStream(stderr) << "usage: make_sample FOLDER ALBUM.alb\n";
+        QTextStream(stderr) << "usage: make_sample [--relative] FOLDER ALBUM.alb\n";
         return 2;
     }
+    const auto paths = isRelative ? PicturePaths::Relative : PicturePaths::Absolute;
     // The user's own last album is not to be forgotten for this one.
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     ConsoleDialogs dialogs;
     Dialogs::Install(&dialogs);
     try {
-        return WriteSampleStory(arguments[1], arguments[2]) ? 0 : 1;
+        return WriteSampleStory(arguments[1], arguments[2], paths) ? 0 : 1;
     } catch (const std::exception& error) {
         QTextStream(stderr) << "make_sample: " << error.what() << '\n';
         return 1;

@@ -94,6 +94,10 @@
         <source>Create a new Album</source>
         <translation>Créer un nouvel album</translation>
     </message>
+    <message>
+        <source>The sample story is being copied...</source>
+        <translation>L&apos;histoire d&apos;exemple est en cours de copie...</translation>
+    </message>
 </context>
 <context>
     <name>AlbumPassword</name>
@@ -741,6 +745,10 @@ Votre version :
         <source>the file is missing</source>
         <translation>fichier manquant</translation>
     </message>
+    <message>
+        <source>%1 is given</source>
+        <translation>%1 : renseigné</translation>
+    </message>
 </context>
 <context>
     <name>FilterValueList</name>
@@ -1041,6 +1049,25 @@ Votre version :
     <message>
         <source>The same for the field you are in</source>
         <translation>De même pour le champ où vous êtes</translation>
+    </message>
+</context>
+<context>
+    <name>InstalledSample</name>
+    <message>
+        <source>Lumenark Sample Story</source>
+        <translation>Histoire exemple Lumenark</translation>
+    </message>
+    <message>
+        <source>Lumenark Sample Story %1</source>
+        <translation>Histoire exemple Lumenark %1</translation>
+    </message>
+    <message>
+        <source>The sample story cannot be copied to &apos;%1&apos;: %2</source>
+        <translation>Impossible de copier l&apos;histoire d&apos;exemple dans « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The sample story is being copied in another window.</source>
+        <translation>Une autre fenêtre est en train de copier l&apos;histoire d&apos;exemple.</translation>
     </message>
 </context>
 <context>
@@ -2636,6 +2663,42 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
     <message>
         <source>Find Pictures</source>
         <translation>Chercher des photos</translation>
+    </message>
+    <message>
+        <source>Or look at a finished story. It is copied to your documents, so change what you like in it.</source>
+        <translation>Ou regardez une histoire finie, en anglais. Elle est copiée dans vos documents : changez-y ce que vous voulez.</translation>
+    </message>
+    <message>
+        <source>Click to open the story that comes with the program</source>
+        <translation>Cliquez pour ouvrir l&apos;histoire fournie avec le programme</translation>
+    </message>
+    <message>
+        <source>Open Sample Story</source>
+        <translation>Ouvrir l&apos;histoire d&apos;exemple</translation>
+    </message>
+    <message>
+        <source>What to do first</source>
+        <translation>Par où commencer</translation>
+    </message>
+    <message>
+        <source>1. Create an album: one file that will hold your story.</source>
+        <translation>1. Créez un album : un seul fichier, qui contiendra votre histoire.</translation>
+    </message>
+    <message>
+        <source>2. Load pictures. They stay where they are on your disk.</source>
+        <translation>2. Chargez des photos. Elles restent où elles sont sur votre disque.</translation>
+    </message>
+    <message>
+        <source>3. Index them: say who and what they show.</source>
+        <translation>3. Indexez-les : dites qui et quoi elles montrent.</translation>
+    </message>
+    <message>
+        <source>4. Create a chapter and write. Each paragraph chooses its pictures.</source>
+        <translation>4. Créez un chapitre et écrivez. Chaque paragraphe choisit ses photos.</translation>
+    </message>
+    <message>
+        <source>5. Read the chapter, or let it play.</source>
+        <translation>5. Lisez le chapitre, ou laissez-le défiler.</translation>
     </message>
 </context>
 <context>

@@ -64,6 +64,8 @@ QString InWords(const QString& name, const Condition& condition)
     QStringList values;
     for (const QString& value : condition.values)
         values += value == noValue ? SentenceText::tr("not given") : AsPhrase(value);
+    if (condition.isNegated && condition.values == QStringList(noValue))
+        return SentenceText::tr("%1 is given").arg(name);
     return condition.isNegated ? NoneOf(name, values) : OneOf(name, values);
 }
 

@@ -125,9 +125,9 @@ private slots:
         titles[0] = "Year";
         titles[3] = "<b>";
         titles[7] = titles[9] = "&";
-        const QStringList filters{"*",         "a",     "a;b",     "a;b;c",
-                                  "a;b;c;d",   "!;a",   "!;a;b",   "!;a;b;c",
-                                  "!;a;b;c;d", "a;!;b", "%1;%2;-", "a;b;c;d;e;f"};
+        const QStringList filters{"*",       "a",           "a;b",     "a;b;c",     "a;b;c;d",
+                                  "!;a",     "!;a;b",       "!;a;b;c", "!;a;b;c;d", "a;!;b",
+                                  "%1;%2;-", "a;b;c;d;e;f", "!;-"};
         const QStringList sentences{"Any picture",
                                     "Year is a",
                                     "Year is a or b",
@@ -139,7 +139,8 @@ private slots:
                                     "Year is none of a, b and 2 others",
                                     "Year is a, and Year is not b",
                                     "Year is %1, %2 or not given",
-                                    "Year is a, b or one of 4 others"};
+                                    "Year is a, b or one of 4 others",
+                                    "Year is given"};
         for (qsizetype i = 0; i < filters.size(); ++i) {
             PictureQuery query;
             query.values[0] = filters[i];

@@ -9,9 +9,9 @@
 class ProgramTest : public AlbumTest
 {
 protected:
-    void Start(const QString& album)
+    void Start(const QString& album, const QString& sample = {})
     {
-        window_ = Make<frmOpenChapter>(album);
+        window_ = Make<frmOpenChapter>(album, sample);
         window_->show();
         QVERIFY(QTest::qWaitForWindowExposed(window_));
     }

@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ProgramTest.h"
+#include "core/AlbumSets.h"
+#include "core/ChapterChain.h"
 #include "core/Settings.h"
 #include "viewer/ViewerFlags.h"
+
+#include <csignal>
+
+#include <sys/resource.h>
 
 using namespace GeneralModule;
 
@@ -68,6 +74,48 @@ private slots:
         Click("cmdCreateChapter");
         QCOMPARE(Chapters(), "*First");
         QCOMPARE(Warning(), "");
+    }
+
+    void CopiesTheSampleOnceAndNothingOfTheUsers()
+    {
+        const QString sample = MakeSample();
+        Start({});
+        QVERIFY(!Find<QWidget>("cmdOpenSample")->isVisible());
+        QVERIFY(!Find<QAction>("mnuOpenSample")->isVisible());
+        WriteFile(documents_ + "/Lumenark Sample Story/mine.txt");
+        Start({}, sample);
+        Click("cmdOpenSample");
+        QVERIFY(!IsAlbumReadOnly() && !Find<QWidget>("firstSteps")->isVisible());
+        const QString copied = documents_ + "/Lumenark Sample Story 2/pictures/b.png";
+        ImageSet->MoveFirst();
+        QCOMPARE(ImageSet->Text(u"File"), copied);
+        LinkedImagesSet->MoveFirst();
+        QCOMPARE(LinkedImagesSet->Text(u"File"), copied);
+        RenameChapter(FirstChapter(), "Mine");
+        Choose("mnuOpenSample");
+        QCOMPARE(Chapters(), "*Mine");
+        QCOMPARE(Documents(), "Lumenark Sample Story|Lumenark Sample Story 2");
+    }
+
+    void CopiesTheSampleCompletelyOrNotAtAll()
+    {
+        Start({}, MakeSample());
+        const auto limitFiles = [](rlim_t bytes) {
+            const rlimit limit{bytes, RLIM_INFINITY};
+            setrlimit(RLIMIT_FSIZE, &limit);
+        };
+        signal(SIGXFSZ, SIG_IGN);
+        limitFiles(200000); // as on a disk that becomes full
+        dialogs_->ExpectBoxBeginning("The sample story cannot be copied to '", Icon::Warning);
+        Click("cmdOpenSample");
+        limitFiles(RLIM_INFINITY);
+        QCOMPARE(Documents(), "");
+        // What a killed program leaves: half a copy, and the lock of a process that is gone.
+        WriteFile(documents_ + "/.lumenark_sample/pictures/b.png", "half");
+        WriteFile(documents_ + "/.lumenark_sample.lock", "99999999\nlumenark\n\n\n\n");
+        Click("cmdOpenSample");
+        QCOMPARE(Documents(), "Lumenark Sample Story");
+        QCOMPARE(QFileInfo(documents_ + "/Lumenark Sample Story/pictures/b.png").size(), 300000);
     }
 
     void AsksForNamesUntilTheyAreGood()
@@ -223,11 +271,36 @@ private slots:
 private:
     QString Chapters() const { return Lines(*Find<QListWidget>("lstChapter")).join(u' '); }
 
+    // With the user's documents in a folder of the test.
+    QString MakeSample()
+    {
+        qputenv("HOME", QFile::encodeName(album_->PathOf("home")));
+        documents_ = album_->PathOf("home/Documents");
+        QDir().mkpath(documents_);
+        WriteFile(album_->PathOf("installed/pictures/b.png"), QByteArray(300000, 'b'));
+        album_->AddImageRow("pictures/b.png");
+        album_->Link(album_->AddParagraph(album_->AddChapter("One"), "text"), "pictures/b.png");
+        ReleaseAlbum();
+        SaveLastAlbum({});
+        const QString sample = album_->PathOf("installed/Lake.alb");
+        QFile::copy(album_->GetAlbum(), sample);
+        QFile::setPermissions(sample, QFile::ReadOwner);
+        return sample;
+    }
+
+    QString Documents() const
+    {
+        const auto all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        return QDir(documents_).entryList(all).join('|');
+    }
+
     QString Warning() const
     {
         const auto* label = Find<QLabel>("lblWarning");
         return label->isVisible() ? label->text() : QString();
     }
+
+    QString documents_;
 };
 
 QTEST_MAIN(TestMainWindow)

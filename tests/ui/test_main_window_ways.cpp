@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ProgramTest.h"
+#include "core/Settings.h"
 #include "core/StartUp.h"
 #include "platform/widgets/HelpWindow.h"
 #include "ui/main/MainWindowKeys.h"
@@ -73,6 +74,30 @@ private slots:
             }
         }
         QVERIFY(rows > 15);
+    }
+
+    void TheManualComesAtTheFirstStoryAndKnowsOtherWords()
+    {
+        InstallHelpKey(HelpFile());
+        ReleaseAlbum();
+        SaveLastAlbum({});
+        Start({});
+        WhenModal("frmHelp", [](QWidget& help) {
+            auto& text = ::Find<QTextBrowser>(help, "txtHelp");
+            const QListWidget& contents = ::Find<QListWidget>(help, "lstContents");
+            QCOMPARE(contents.currentItem()->text(), "Your first story");
+            for (const char* word : {"slide show", "keyword", "caption", "undo", "print", "tag"}) {
+                ::Find<QLineEdit>(help, "txtSearch").setText(word);
+                QTextBlock block = text.textCursor().block();
+                while (block.isValid() && block.blockFormat().headingLevel() != 2)
+                    block = block.previous();
+                QVERIFY2(text.textCursor().hasSelection() && block.text() == "Other words", word);
+            }
+            emit text.anchorClicked(QUrl("#autoview"));
+            QCOMPARE(contents.currentItem()->text(), "Autoview");
+            help.close();
+        });
+        QTest::keyClick(window_, Qt::Key_F1);
     }
 
     void RowsAreDragged()

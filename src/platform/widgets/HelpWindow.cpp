@@ -51,7 +51,8 @@ public:
         QWidget* window = WindowOf(static_cast<QWidget*>(watched));
         if (window && !window->inherits("HelpWindow")) {
             HelpWindow help(file_, window, keys_ ? keys_() : std::vector<KeySection>());
-            help.GoTo(window->objectName());
+            const QString chapter = window->property(helpChapterProperty).toString();
+            help.GoTo(chapter.isEmpty() ? window->objectName() : chapter);
             help.exec();
         }
         return true;
@@ -105,6 +106,9 @@ HelpWindow::HelpWindow(const QString& file, QWidget* parent, const std::vector<K
     });
     connect(txtHelp_->verticalScrollBar(), &QScrollBar::valueChanged, this,
             &HelpWindow::FollowText);
+    txtHelp_->setOpenLinks(false);
+    connect(txtHelp_, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl& link) { GoTo(link.fragment()); });
     connect(txtSearch_, &QLineEdit::returnPressed, this, &HelpWindow::Search);
     connect(txtSearch_, &QLineEdit::textChanged, this, [this] {
         txtHelp_->moveCursor(QTextCursor::Start);

@@ -38,6 +38,9 @@ private:
     bool isGuided_ = false; // the text moves because a chapter was chosen
 };
 
+// A window's dynamic property: its chapter, where that is not the one of the window's name.
+inline constexpr char helpChapterProperty[] = "HelpChapter";
+
 // From now on F1 shows the front window's chapter of the help file, with those keys in it.
 using KeyTables = std::vector<KeySection> (*)();
 void InstallHelpKey(const QString& file, KeyTables keys = nullptr);

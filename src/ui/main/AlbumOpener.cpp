@@ -2,6 +2,7 @@
 #include "ui/main/AlbumOpener.h"
 
 #include "core/Album.h"
+#include "core/InstalledSample.h"
 #include "core/Settings.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/FolderListing.h"
@@ -79,4 +80,16 @@ void AlbumOpener::AskAndCreate()
     chapters_->Clear();
     ReleaseAlbum();
     onDone_();
+}
+
+void AlbumOpener::OpenSample(const QString& sample)
+{
+    SampleCopy copy;
+    RunLong(tr("The sample story is being copied..."), true, [&](const auto& isStopped) {
+        copy = ProvideSample(sample, UsersDocumentFolder(), isStopped);
+    });
+    if (!copy.error.isEmpty())
+        Tell(copy.error, Dialogs::Icon::Warning);
+    if (!copy.album.isEmpty())
+        Open(copy.album);
 }

@@ -24,6 +24,9 @@ public:
     void OpenFirst(const QString& path);
     void AskAndOpen();
     void AskAndCreate();
+    // Opens the user's copy of the installed sample story, which is made where there is none. When
+    // that fails, the open album stays open.
+    void OpenSample(const QString& sample);
     // Opens the album however it was chosen. After a failure none is open.
     void Open(const QString& path);
 

@@ -13,6 +13,7 @@
 #include "platform/dialogs/Guard.h"
 #include "platform/files/PathRoutines.h"
 #include "platform/widgets/FrontWindow.h"
+#include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/LiteralText.h"
 #include "platform/widgets/RowDrag.h"
 #include "platform/widgets/WindowSize.h"
@@ -43,7 +44,8 @@ constexpr QSize proposedSize(860, 600);
 
 } // namespace
 
-frmOpenChapter::frmOpenChapter(const QString& album) : ui_(std::make_unique<Ui::frmOpenChapter>())
+frmOpenChapter::frmOpenChapter(const QString& album, const QString& sample)
+    : sample_(sample), ui_(std::make_unique<Ui::frmOpenChapter>())
 {
     ui_->setupUi(this);
     const auto refresh = [this] { RefreshState(); };
@@ -77,6 +79,7 @@ void frmOpenChapter::ConnectCommands()
     commands_ = {
         {on(&Form::mnuOpenScript_Click), "album-open", ui.cmdOpenAlbum, ui.mnuOpenScript},
         {on(&Form::mnuCreateScript_Click), "album-create", ui.cmdCreateAlbum, ui.mnuCreateScript},
+        {on(&Form::mnuOpenSample_Click), "read-chapter", ui.cmdOpenSample, ui.mnuOpenSample},
         {on(&Form::mnuExit_Click), "exit", ui.cmdExit, ui.mnuExit},
         {on(&Form::cmdReadChapter_Click), "read-chapter", ui.cmdReadChapter, ui.mnuReadChapter,
          &State::offersChapterCommands},
@@ -131,6 +134,8 @@ void frmOpenChapter::ConnectControls()
     OfferTextSizes(*ui_->mnuTextSize);
     OfferColors(*ui_->mnuColors);
     OfferLanguages(*ui_->mnuLanguage);
+    ui_->sampleOffer->setVisible(!sample_.isEmpty());
+    ui_->mnuOpenSample->setVisible(!sample_.isEmpty());
     connect(ui_->lstChapter, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmOpenChapter::RefreshState));
     connect(ui_->lstChapter, &QListWidget::itemDoubleClicked, this,
@@ -184,6 +189,9 @@ void frmOpenChapter::RefreshState()
     for (QPushButton* button : {ui_->cmdLoadPictures, ui_->cmdDisplayUndefined,
                                 ui_->cmdCreateChapter, ui_->cmdReadChapter})
         button->setVisible(state.offersAlbumCommands);
+    ui_->lstChapter->setVisible(state.offersAlbumCommands);
+    ui_->firstSteps->setVisible(!state.offersAlbumCommands);
+    setProperty(helpChapterProperty, state.offersAlbumCommands ? "frmOpenChapter" : "start");
     for (const MainWindowCommand& command : commands_)
         OfferCommand(command, state);
     if (AlbumOpen())
@@ -219,6 +227,11 @@ void frmOpenChapter::mnuOpenScript_Click()
 void frmOpenChapter::mnuCreateScript_Click()
 {
     albums_->AskAndCreate();
+}
+
+void frmOpenChapter::mnuOpenSample_Click()
+{
+    albums_->OpenSample(sample_);
 }
 
 void frmOpenChapter::mnuExit_Click()

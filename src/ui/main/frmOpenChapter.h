@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/InstalledSample.h"
 #include "ui/main/MainWindowCommand.h"
 
 #include <QMainWindow>
@@ -26,8 +27,10 @@ class frmOpenChapter : public QMainWindow
     Q_OBJECT
 
 public:
-    // Opens the given album, or the one opened last when album is empty.
-    explicit frmOpenChapter(const QString& album = {});
+    // Opens the given album, or the one opened last when album is empty. Offers the sample story
+    // with that album, unless sample is empty.
+    explicit frmOpenChapter(const QString& album = {},
+                            const QString& sample = GeneralModule::InstalledSample());
     ~frmOpenChapter() override;
 
     // Asked of the album each time: a copy would be wrong while a box of its opening is up.
@@ -44,6 +47,7 @@ private:
 
     void mnuOpenScript_Click();
     void mnuCreateScript_Click();
+    void mnuOpenSample_Click();
     void mnuExit_Click();
     void cmdReadChapter_Click();
     void mnuReadFullScreen_Click();
@@ -74,6 +78,7 @@ private:
     void ConnectCommands();
     void ConnectControls();
 
+    const QString sample_;
     std::unique_ptr<Ui::frmOpenChapter> ui_;
     std::unique_ptr<ChapterList> chapters_;
     std::unique_ptr<AlbumOpener> albums_;
