@@ -101,6 +101,44 @@
     </message>
 </context>
 <context>
+    <name>frmDescribePictures</name>
+    <message numerus="yes">
+        <source>%1 of %n pictures chosen</source>
+        <translation>
+            <numerusform>%1 of %n picture chosen</numerusform>
+            <numerusform>%1 of %n pictures chosen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Apply to %n Pictures</source>
+        <translation>
+            <numerusform>Apply to %n Picture</numerusform>
+            <numerusform>Apply to %n Pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different legends</source>
+        <translation>
+            <numerusform>%n different legend</numerusform>
+            <numerusform>%n different legends</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures described</source>
+        <translation>
+            <numerusform>%n picture described</numerusform>
+            <numerusform>%n pictures described</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Apply what you have entered to %n pictures ?</source>
+        <translation>
+            <numerusform>Apply what you have entered to %n picture ?</numerusform>
+            <numerusform>Apply what you have entered to %n pictures ?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>frmLinkedPictures</name>
     <message numerus="yes">
         <source>%n linked pictures, which the paragraph shows first, in this order</source>

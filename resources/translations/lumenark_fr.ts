@@ -787,6 +787,112 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>frmDescribePictures</name>
+    <message numerus="yes">
+        <source>%1 of %n pictures chosen</source>
+        <translation>
+            <numerusform>%1 photo choisie sur %n</numerusform>
+            <numerusform>%1 photos choisies sur %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Apply to %n Pictures</source>
+        <translation>
+            <numerusform>Appliquer à %n photo</numerusform>
+            <numerusform>Appliquer à %n photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n different legends</source>
+        <translation>
+            <numerusform>%n légende différente</numerusform>
+            <numerusform>%n légendes différentes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures described</source>
+        <translation>
+            <numerusform>%n photo décrite</numerusform>
+            <numerusform>%n photos décrites</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Apply what you have entered to %n pictures ?</source>
+        <translation>
+            <numerusform>Appliquer ce que vous avez saisi à %n photo ?</numerusform>
+            <numerusform>Appliquer ce que vous avez saisi à %n photos ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Describe Pictures</source>
+        <translation>Décrire des photos</translation>
+    </message>
+    <message>
+        <source>Choose all pictures of the current one&apos;s folder</source>
+        <translation>Choisir toutes les photos du dossier de la photo courante</translation>
+    </message>
+    <message>
+        <source>Same Folder</source>
+        <translation>Même dossier</translation>
+    </message>
+    <message>
+        <source>Choose all pictures with the values of the current one</source>
+        <translation>Choisir toutes les photos qui ont les valeurs de la photo courante</translation>
+    </message>
+    <message>
+        <source>Same Values</source>
+        <translation>Mêmes valeurs</translation>
+    </message>
+    <message>
+        <source>Pictures to describe</source>
+        <translation>Photos à décrire</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>What becomes of the legends</source>
+        <translation>Ce que deviennent les légendes</translation>
+    </message>
+    <message>
+        <source>instead of the legends</source>
+        <translation>à la place des légendes</translation>
+    </message>
+    <message>
+        <source>before the legends</source>
+        <translation>avant les légendes</translation>
+    </message>
+    <message>
+        <source>after the legends</source>
+        <translation>après les légendes</translation>
+    </message>
+    <message>
+        <source>Write the fields that were changed, shown bold, into the chosen pictures (Return in a field)</source>
+        <translation>Écrire les champs modifiés, en gras, dans les photos choisies (Entrée dans un champ)</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Enter the values of the picture described last (Ctrl+D)</source>
+        <translation>Saisir les valeurs de la photo décrite en dernier (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>As Before</source>
+        <translation>Comme avant</translation>
+    </message>
+    <message>
+        <source>Leave the window</source>
+        <translation>Quitter la fenêtre</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+</context>
+<context>
     <name>frmFindPictures</name>
     <message>
         <source>Find Pictures</source>
@@ -875,6 +981,14 @@ Votre version :
     <message>
         <source>Leave the window</source>
         <translation>Quitter la fenêtre</translation>
+    </message>
+    <message>
+        <source>Describe the chosen pictures, or all of these, together</source>
+        <translation>Décrire ensemble les photos choisies, ou toutes celles-ci</translation>
+    </message>
+    <message>
+        <source>Describe Together</source>
+        <translation>Décrire ensemble</translation>
     </message>
 </context>
 <context>

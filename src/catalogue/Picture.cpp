@@ -25,22 +25,6 @@ QString HeldSpelling(int column, const QString& value)
     return table.NoMatch() ? QString() : table.TextOrEmpty(u"Name");
 }
 
-// The value that a typed text stands for, added to the column's table.
-QString StoreValue(int column, const QString& typed)
-{
-    if (typed.isEmpty())
-        return noValue;
-    // Looked up unchanged first: a marker may be chosen, though not typed.
-    QString held = HeldSpelling(column, typed);
-    if (!held.isEmpty())
-        return held;
-    const QString value = CleanValue(NormalizedValue(typed));
-    if (value.isEmpty() || value == noValue)
-        return noValue;
-    held = HeldSpelling(column, value);
-    return held.isEmpty() ? AddValueToTable(column, value) : held;
-}
-
 bool FindPicture(const QString& file)
 {
     ImageSet->FindFirst(QStringLiteral("[File]=") + Quoted(file));
@@ -102,6 +86,21 @@ QString DescribePicture(const Picture& record)
     parts.removeAll(QString());
     parts.removeAll(noValue);
     return parts.join(QStringLiteral(", "));
+}
+
+QString StoreValue(int column, const QString& typed)
+{
+    if (typed.isEmpty())
+        return noValue;
+    // Looked up unchanged first: a marker may be chosen, though not typed.
+    QString held = HeldSpelling(column, typed);
+    if (!held.isEmpty())
+        return held;
+    const QString value = CleanValue(NormalizedValue(typed));
+    if (value.isEmpty() || value == noValue)
+        return noValue;
+    held = HeldSpelling(column, value);
+    return held.isEmpty() ? AddValueToTable(column, value) : held;
 }
 
 Picture StorePicture(const QString& file, const Picture& shown, const Picture& edited)

@@ -37,6 +37,11 @@ bool HasConflict(const Picture& shown, const Picture& edited, const Picture& sto
 // The legend and the values, so that a person can tell two versions apart.
 QString DescribePicture(const Picture& record);
 
+// The value of a column that a typed text stands for: an empty one becomes "-", one that the table
+// holds in another letter case takes the table's spelling, and a new one is cleaned and added to
+// the table. Throws DatabaseError.
+QString StoreValue(int column, const QString& typed);
+
 // Writes the edit of the shown record. An unchanged value stays, even one that its table no longer
 // offers; an empty one becomes "-"; a new one is cleaned and added to its table, and one that the
 // table holds in another letter case takes the table's spelling. Returns the record as now stored,

@@ -55,6 +55,26 @@ void ValueBoxes::SetTables(const std::map<int, QStringList>& values)
         Model(column)->setStringList(allowed);
 }
 
+void ValueBoxes::SeparateLists()
+{
+    for (int column = 0; column < columnCount; ++column) {
+        if (LabelledColumnOf(column) == column)
+            continue;
+        QComboBox* box = GetBox(column);
+        box->lineEdit()->setCompleter(nullptr); // which would get the list as its own
+        box->setModel(new QStringListModel(Model(column)->stringList(), this));
+        box->lineEdit()->setCompleter(completion_);
+    }
+}
+
+// Only if they differ: the box would forget what it shows.
+void ValueBoxes::SetChoices(int column, QStringList values)
+{
+    values.removeDuplicates();
+    if (values != Model(column)->stringList())
+        Model(column)->setStringList(values);
+}
+
 void ValueBoxes::Offer(int column, const QString& value)
 {
     if (IndexOf(Model(column)->stringList(), value) < 0)

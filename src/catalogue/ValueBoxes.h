@@ -28,6 +28,10 @@ public:
 
     // The allowed values of each labelled column.
     void SetTables(const std::map<int, QStringList>& values);
+    // From now on each box has a list of its own, see SetChoices.
+    void SeparateLists();
+    // What the box of that column offers, in this order, each value once.
+    void SetChoices(int column, QStringList values);
     // Adds the value to what a column offers, unless it is there.
     void Offer(int column, const QString& value);
 

@@ -3,14 +3,13 @@
 #include "ui_frmEditImage.h"
 
 #include "catalogue/ColumnTitles.h"
+#include "catalogue/DescriptionFields.h"
 #include "catalogue/LastDescribed.h"
-#include "catalogue/ValueBoxes.h"
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "core/Album.h"
 #include "core/EditConflict.h"
 #include "core/LocalCopy.h"
-#include "core/Parameters.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
@@ -19,6 +18,7 @@
 #include "platform/widgets/OfferedControl.h"
 #include "platform/widgets/WindowSize.h"
 
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -41,7 +41,8 @@ frmEditImage::frmEditImage(QWidget* parent)
     ui_->setupUi(this);
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
     KeepWindowSize(this, proposedSize);
-    boxes_ = new ValueBoxes(this);
+    boxes_ = &ui_->descriptionFields->GetBoxes();
+    ui_->descriptionFields->TakeFocusBetween(ui_->txtLegend, ui_->cmdEditLabels);
     ConnectControls();
     if (IsAlbumReadOnly())
         ShowOnly();
@@ -99,46 +100,20 @@ void frmEditImage::Form_Load()
     ui_->txtLegend->setFocus();
 }
 
-QLabel* frmEditImage::LabelOf(const QString& name) const
-{
-    return findChild<QLabel*>(name);
-}
-
-// Here and below everything is read before a control is touched, so that a failure leaves the
-// window unchanged.
+// Everything is read before a control is touched, so that a failure leaves the window unchanged.
 void frmEditImage::DisplayCaracteristicNames()
 {
-    std::map<int, QStringList> values;
-    for (const int column : labelledColumns)
-        values[column] = ValuesOf(column);
-    DisplayLabels();
-    boxes_->SetTables(values);
-}
-
-void frmEditImage::DisplayLabels()
-{
-    QHash<QWidget*, QString> texts;
-    QHash<QWidget*, QString> names;
-    for (int group = 0; group < groupCount; ++group)
-        texts.insert(LabelOf(QStringLiteral("lblCaract_%1").arg(group)), CaractLabel(group));
-    for (const int column : labelledColumns)
-        texts.insert(LabelOf(QStringLiteral("lblCar_%1").arg(column)), SharedTitle(column));
-    for (int column = 0; column < columnCount; ++column) {
-        const QString name = CaractLabel(GroupOf(column)) + QLatin1Char(' ') + ColumnTitle(column);
-        names.insert(boxes_->GetBox(column), name.trimmed());
-    }
     const bool hasLabels = HasColumnLabels();
-    for (auto text = texts.cbegin(); text != texts.cend(); ++text)
-        static_cast<QLabel*>(text.key())->setText(text.value());
-    for (auto name = names.cbegin(); name != names.cend(); ++name)
-        name.key()->setAccessibleName(name.value());
+    ui_->descriptionFields->ShowLabelsAndValues();
     ui_->offer->setVisible(!hasLabels);
 }
 
 void frmEditImage::cmdEditLabels_Click()
 {
     frmEditLabels(this).exec();
-    DisplayLabels();
+    const bool hasLabels = HasColumnLabels();
+    ui_->descriptionFields->ShowLabels();
+    ui_->offer->setVisible(!hasLabels);
 }
 
 void frmEditImage::ShowPicture(const QString& file)

@@ -12,7 +12,6 @@
 #include <memory>
 
 class QKeyEvent;
-class QLabel;
 class ValueBoxes;
 
 namespace Ui {
@@ -61,7 +60,6 @@ private:
     void ConnectControls();
     void ShowOnly();
     void DisplayCaracteristicNames();
-    void DisplayLabels();
     void ShowPicture(const QString& file);
     void ShowPlace();
     void BeginDescribing();
@@ -77,7 +75,6 @@ private:
     bool SavePicture();
     void GoToNextPicture();
     bool SaveBeforeLeaving();
-    QLabel* LabelOf(const QString& name) const;
 
     std::unique_ptr<Ui::frmEditImage> ui_;
     ValueBoxes* boxes_;

@@ -126,6 +126,16 @@ bool ContactSheet::GoTo(qint32 id)
     return true;
 }
 
+void ContactSheet::Select(std::vector<qint32> ids)
+{
+    std::ranges::sort(ids);
+    const std::vector<int> rows = model_->RowsOf(ids);
+    if (rows.empty())
+        return;
+    GoToRow(rows.front());
+    selectionModel()->select(SelectionOf(*model_, rows), QItemSelectionModel::ClearAndSelect);
+}
+
 // Not by setCurrentIndex, which heeds the keys that are held down.
 void ContactSheet::GoToRow(int row)
 {

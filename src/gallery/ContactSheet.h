@@ -35,6 +35,9 @@ public:
     // Makes it the current and only selected one, and shows it. False when it is not on the sheet.
     bool GoTo(qint32 id);
 
+    // Selects those that are on the sheet, and shows the first of them.
+    void Select(std::vector<qint32> ids);
+
     // Which files of the album are marked as linked; it is called for those that are seen.
     void SetLinked(std::function<bool(const QString& file)> isLinked);
     // The album, the links or the pictures' files have changed: what is seen is looked at again.

@@ -8,6 +8,7 @@
 #include "core/Album.h"
 #include "core/LocalCopy.h"
 #include "core/PictureList.h"
+#include "gallery/frmDescribePictures.h"
 #include "gallery/frmPlaceParagraph.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
@@ -81,6 +82,7 @@ void frmFindPictures::ConnectControls()
         this, {
                   {ui_->cmdReadPictures, "read-chapter", &Form::cmdReadPictures_Click},
                   {ui_->cmdDescribe, "index-pictures", &Form::cmdDescribe_Click},
+                  {ui_->cmdDescribeTogether, "", &Form::cmdDescribeTogether_Click},
                   {ui_->cmdLink, "link", &Form::cmdLink_Click},
                   {ui_->cmdMakeParagraph, "chapter-create", &Form::cmdMakeParagraph_Click},
                   {ui_->cmdExit, "exit", &Form::cmdExit_Click},
@@ -199,6 +201,7 @@ void frmFindPictures::RefreshState()
     const QString reason =
         GeneralModule::IsAlbumReadOnly() ? GeneralModule::ReadOnlyReason() : QString();
     OfferUnless(*ui_->cmdDescribe, hasChosen, reason);
+    OfferUnless(*ui_->cmdDescribeTogether, hasPictures, reason);
     OfferUnless(*ui_->cmdLink, hasChosen, reason);
     OfferUnless(*ui_->cmdMakeParagraph, true, reason);
     if (CurrentParagraph == 0 || !hasChosen)
@@ -239,7 +242,7 @@ void frmFindPictures::contextMenuEvent(QContextMenuEvent* event)
     if (below && ui_->filterPanel->isAncestorOf(below))
         return;
     ButtonMenu menu(this);
-    menu.AddButtons({ui_->cmdReadPictures, ui_->cmdDescribe});
+    menu.AddButtons({ui_->cmdReadPictures, ui_->cmdDescribe, ui_->cmdDescribeTogether});
     menu.AddButtons({ui_->cmdLink, ui_->cmdMakeParagraph});
     menu.AddButtons({ui_->cmdExit});
     menu.exec(event->globalPos());
@@ -285,6 +288,16 @@ void frmFindPictures::cmdDescribe_Click()
         const QString next = upcoming.Foresee();
         return next.isEmpty() ? QString() : GeneralModule::FindPictureFile(next);
     };
+    window.exec();
+    SearchAgain();
+}
+
+void frmFindPictures::cmdDescribeTogether_Click()
+{
+    frmDescribePictures window(this);
+    window.Pictures = ui_->sheet->GetSelected();
+    if (window.Pictures.size() <= 1)
+        window.Pictures = ui_->sheet->GetPictures();
     window.exec();
     SearchAgain();
 }

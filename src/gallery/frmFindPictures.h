@@ -51,6 +51,7 @@ private:
     void cmdFolder_Click();
     void cmdReadPictures_Click();
     void cmdDescribe_Click();
+    void cmdDescribeTogether_Click();
     void cmdLink_Click();
     void cmdMakeParagraph_Click();
     void cmdExit_Click();

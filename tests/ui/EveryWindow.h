@@ -8,6 +8,7 @@
 #include "catalogue/frmLoadFiles.h"
 #include "catalogue/frmReloadPictures.h"
 #include "core/StartUp.h"
+#include "gallery/frmDescribePictures.h"
 #include "gallery/frmFindPictures.h"
 #include "gallery/frmLinkedPictures.h"
 #include "gallery/frmPlaceParagraph.h"
@@ -25,10 +26,10 @@
 #include <array>
 
 inline constexpr std::array everyWindow{
-    "frmOpenChapter",        "frmReelvane",       "frmFullScreen",    "frmEditParagraph",
-    "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",    "frmEditLabels",
-    "frmLoadFiles",          "frmReloadPictures", "frmSelectImages",  "frmAbout",
-    "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures"};
+    "frmOpenChapter",        "frmReelvane",       "frmFullScreen",     "frmEditParagraph",
+    "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",     "frmEditLabels",
+    "frmLoadFiles",          "frmReloadPictures", "frmSelectImages",   "frmAbout",
+    "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures", "frmDescribePictures"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -83,7 +84,7 @@ protected:
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
                        frmAbout, frmRepairAlbum, frmFindPictures, frmPlaceParagraph,
-                       frmLinkedPictures>(name);
+                       frmLinkedPictures, frmDescribePictures>(name);
     }
 
     frmReelvane* MakeViewer()
