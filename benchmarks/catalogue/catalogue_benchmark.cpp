@@ -3,6 +3,7 @@
 #include "../SideBySide.h"
 
 #include "catalogue/CharacteristicModel.h"
+#include "catalogue/PictureGroup.h"
 #include "catalogue/PictureLoading.h"
 #include "catalogue/ValueReplacement.h"
 #include "catalogue/frmEditImage.h"
@@ -179,6 +180,43 @@ void Replace_Bare(benchmark::State& state)
     state.counters["rows"] = sqlite3_changes(Million().GetEngine());
 }
 
+// Not side by side in the album, as a person chooses them.
+constexpr int described = 10'000;
+constexpr int stepBetween = 7;
+
+QString NextMood()
+{
+    static int number = 0;
+    return QStringLiteral("Mood %1").arg(++number % 2);
+}
+
+void Describe_Ours(benchmark::State& state)
+{
+    Million();
+    std::vector<qint32> chosen;
+    for (int i = 1; i <= described; ++i)
+        chosen.push_back(i * stepBetween);
+    for (auto _ : state) {
+        GroupChange change;
+        change.values[2] = NextMood();
+        ApplyToGroup(chosen, change);
+    }
+}
+
+void Describe_Bare(benchmark::State& state)
+{
+    Statement update(Million().GetEngine(),
+                     "UPDATE Image SET Car2=?1 WHERE rowid<=?2 AND rowid%?3=0");
+    update.Bind(2, qint64(described * stepBetween));
+    update.Bind(3, qint64(stepBetween));
+    for (auto _ : state) {
+        update.Bind(1, NextMood());
+        update.Run();
+    }
+    if (sqlite3_changes(Million().GetEngine()) != described)
+        state.SkipWithError("other rows were changed");
+}
+
 void FillTables(const Album& album)
 {
     const WriteBatch batch(AlbumDatabase);
@@ -232,6 +270,7 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     RegisterPair("load 100,000 files", Load_Ours, Load_Bare);
     RegisterPair("replace in 1,000,000 pictures", Replace_Ours, Replace_Bare);
+    RegisterPair("describe 10,000 of 1,000,000 pictures", Describe_Ours, Describe_Bare);
     benchmark::RegisterBenchmark("open the indexing window on tables of 5,000 values", OpenIndexing)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime()
