@@ -5,16 +5,19 @@
 #include "catalogue/CharacteristicModel.h"
 #include "catalogue/PictureGroup.h"
 #include "catalogue/PictureLoading.h"
+#include "catalogue/PictureTree.h"
 #include "catalogue/ValueReplacement.h"
 #include "catalogue/frmEditImage.h"
 #include "core/Album.h"
 #include "core/AlbumSets.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/dialogs/Dialogs.h"
+#include "platform/files/FolderListing.h"
 
 #include <sqlcipher/sqlite3.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -107,6 +110,48 @@ void Load_Bare(benchmark::State& state)
         auto album = std::make_unique<Album>();
         state.ResumeTiming();
         LoadBare(*album, names);
+        state.PauseTiming();
+        album.reset();
+        state.ResumeTiming();
+    }
+}
+
+// The same number in 1,000 folders, against all in one.
+void LoadTree_Ours(benchmark::State& state)
+{
+    const QStringList names = FileNames();
+    constexpr int folders = 1000;
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto album = std::make_unique<Album>();
+        for (int i = 0; i < folders; ++i)
+            QDir(album->GetFolder()).mkpath(QString::number(i));
+        for (int i = 0; i < files; ++i)
+            QFile(album->GetFolder() + QStringLiteral("/%1/").arg(i % folders) + names[i])
+                .open(QFile::WriteOnly);
+        state.ResumeTiming();
+        const auto tree =
+            FindPictureFiles(album->GetFolder(), QStringLiteral("*.jpg"), [](int) { return true; });
+        if (LoadPictures(tree->byFolder, [](int) { return true; }) != files)
+            state.SkipWithError("not all were loaded");
+        state.PauseTiming();
+        album.reset();
+        state.ResumeTiming();
+    }
+}
+
+void LoadTree_Bare(benchmark::State& state)
+{
+    const QStringList names = FileNames();
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto album = std::make_unique<Album>();
+        for (const QString& name : names)
+            QFile(album->GetFolder() + u'/' + name).open(QFile::WriteOnly);
+        state.ResumeTiming();
+        if (LoadPictures(album->GetFolder(), ListFiles(album->GetFolder()).names.filter(".jpg"),
+                         [](int) { return true; }) != files)
+            state.SkipWithError("not all were loaded");
         state.PauseTiming();
         album.reset();
         state.ResumeTiming();
@@ -269,6 +314,7 @@ int main(int argc, char** argv)
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     benchmark::Initialize(&argc, argv);
     RegisterPair("load 100,000 files", Load_Ours, Load_Bare);
+    RegisterPair("load a tree of 100,000 files", LoadTree_Ours, LoadTree_Bare);
     RegisterPair("replace in 1,000,000 pictures", Replace_Ours, Replace_Bare);
     RegisterPair("describe 10,000 of 1,000,000 pictures", Describe_Ours, Describe_Bare);
     benchmark::RegisterBenchmark("open the indexing window on tables of 5,000 values", OpenIndexing)

@@ -205,6 +205,27 @@
             <numerusform>%n picture(s) loaded</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n new</numerusform>
+            <numerusform>%n new</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n there already</source>
+        <translation>
+            <numerusform>%n there already</numerusform>
+            <numerusform>%n there already</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures of other kinds left out</source>
+        <translation>
+            <numerusform>%n picture of another kind left out</numerusform>
+            <numerusform>%n pictures of other kinds left out</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>frmReloadPictures</name>

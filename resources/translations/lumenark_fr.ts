@@ -2551,6 +2551,55 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
             <numerusform>%n photos chargées</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n nouvelle</numerusform>
+            <numerusform>%n nouvelles</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n there already</source>
+        <translation>
+            <numerusform>%n déjà là</numerusform>
+            <numerusform>%n déjà là</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures of other kinds left out</source>
+        <translation>
+            <numerusform>%n photo d&apos;autre sorte laissée de côté</numerusform>
+            <numerusform>%n photos d&apos;autres sortes laissées de côté</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Usual picture file types</source>
+        <translation>Types usuels de fichiers de photos</translation>
+    </message>
+    <message>
+        <source>Load the pictures of the folders in this folder too</source>
+        <translation>Charger aussi les photos des dossiers contenus dans ce dossier</translation>
+    </message>
+    <message>
+        <source>With the folders inside</source>
+        <translation>Avec les dossiers contenus</translation>
+    </message>
+    <message>
+        <source>Describe the pictures that were new, many at once</source>
+        <translation>Décrire les nouvelles photos, plusieurs à la fois</translation>
+    </message>
+    <message>
+        <source>Describe New Pictures</source>
+        <translation>Décrire les nouvelles photos</translation>
+    </message>
+    <message>
+        <source>Load only the files that are marked in the list</source>
+        <translation>Charger seulement les fichiers marqués dans la liste</translation>
+    </message>
+    <message>
+        <source>Load Marked</source>
+        <translation>Charger les marqués</translation>
+    </message>
 </context>
 <context>
     <name>frmOpenChapter</name>

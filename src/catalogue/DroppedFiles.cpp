@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/DroppedFiles.h"
 
+#include "catalogue/PictureTree.h"
 #include "platform/files/FilePatterns.h"
 #include "platform/files/FolderListing.h"
 
@@ -10,9 +11,6 @@
 namespace {
 
 const QString albumPatterns = QStringLiteral("*.alb;*.mdb");
-// The usual extensions of what the picture reader knows; it also reads PPM and PGM.
-const QString picturePatterns =
-    QStringLiteral("*.jpg;*.jpeg;*.gif;*.bmp;*.png;*.tif;*.tiff;*.webp");
 
 // A file name, and so the path of a URL, may be any bytes.
 bool IsValidText(const QUrl& url)
@@ -72,7 +70,7 @@ private:
     }
 
     FilePatterns isAlbum_{albumPatterns};
-    FilePatterns isPicture_{picturePatterns};
+    FilePatterns isPicture_{readablePictures};
     DroppedFiles files_;
 };
 

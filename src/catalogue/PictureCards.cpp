@@ -40,12 +40,25 @@ QString NotIndexedCondition()
 
 std::vector<qint32> AllPictureIds()
 {
+    return PictureIdsAfter(0);
+}
+
+std::vector<qint32> PictureIdsAfter(qint32 id)
+{
     std::vector<qint32> ids;
-    Statement rows(AlbumDatabase->GetEngine(),
-                   "SELECT rowid FROM \"Image\" WHERE " + rowsWithId + " ORDER BY rowid");
+    Statement rows(AlbumDatabase->GetEngine(), "SELECT rowid FROM \"Image\" WHERE rowid>?1 AND " +
+                                                   rowsWithId + " ORDER BY rowid");
+    rows.Bind(1, qint64(id));
     while (rows.Step())
         ids.push_back(qint32(rows.GetInteger(0)));
     return ids;
+}
+
+qint32 LastPictureId()
+{
+    Statement row(AlbumDatabase->GetEngine(),
+                  "SELECT max(rowid) FROM \"Image\" WHERE " + rowsWithId);
+    return row.Step() ? qint32(row.GetInteger(0)) : 0;
 }
 
 std::vector<qint32> PictureIdsOf(const QStringList& files)

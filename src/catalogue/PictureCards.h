@@ -28,6 +28,11 @@ QString NotIndexedCondition();
 // In the order in which the pictures were added.
 std::vector<qint32> AllPictureIds();
 
+// Those added after the picture with that identifier, in that order; 0 for all.
+std::vector<qint32> PictureIdsAfter(qint32 id);
+// Of the picture added last; 0 when there is none.
+qint32 LastPictureId();
+
 // In the order of the files; 0 for one that the album does not hold.
 std::vector<qint32> PictureIdsOf(const QStringList& files);
 

@@ -46,11 +46,29 @@ class Loader
 {
 public:
     Loader()
-        : find_(AlbumDatabase->GetEngine(), "SELECT 1 FROM \"Image\" WHERE \"File\"=?1"),
+        : batch_(AlbumDatabase),
+          find_(AlbumDatabase->GetEngine(), "SELECT 1 FROM \"Image\" WHERE \"File\"=?1"),
           insert_(AlbumDatabase->GetEngine(), InsertSql())
     {
     }
 
+    // False when goesOn, called after each file, has returned false.
+    bool Load(const QString& folder, const QStringList& names, const std::function<bool()>& goesOn)
+    {
+        for (qsizetype i = 0; i < names.size(); ++i) {
+            if (i % filesPerLook == 0)
+                RequireFolder(folder);
+            AddUnlessHeld(PathIn(folder, names[i]));
+            batch_.RowDone();
+            if (!goesOn())
+                return false;
+        }
+        return true;
+    }
+
+    void Finish() { batch_.Finish(); }
+
+private:
     void AddUnlessHeld(const QString& path)
     {
         const QByteArray file = path.toUtf8();
@@ -63,7 +81,7 @@ public:
         insert_.Run();
     }
 
-private:
+    WriteBatch batch_;
     Statement find_;
     Statement insert_;
 };
@@ -72,31 +90,17 @@ private:
 
 int LoadPictures(const QString& folder, const QStringList& names, const LoadingProgress& progress)
 {
-    Loader loader;
-    WriteBatch batch(AlbumDatabase);
-    int done = 0;
-    for (const QString& name : names) {
-        if (done % filesPerLook == 0)
-            RequireFolder(folder);
-        loader.AddUnlessHeld(PathIn(folder, name));
-        batch.RowDone();
-        if (!progress(++done))
-            break;
-    }
-    batch.Finish();
-    return done;
+    return LoadPictures({{folder, names}}, progress);
 }
 
 int LoadPictures(const QMap<QString, QStringList>& namesByFolder, const LoadingProgress& progress)
 {
+    Loader loader;
     int done = 0;
-    bool goesOn = true;
-    for (auto folder = namesByFolder.begin(); goesOn && folder != namesByFolder.end(); ++folder) {
-        const int earlier = done;
-        done += LoadPictures(folder.key(), folder.value(), [&](int ofFolder) {
-            goesOn = progress(earlier + ofFolder);
-            return goesOn;
-        });
+    for (auto folder = namesByFolder.begin(); folder != namesByFolder.end(); ++folder) {
+        if (!loader.Load(folder.key(), folder.value(), [&] { return progress(++done); }))
+            break;
     }
+    loader.Finish();
     return done;
 }

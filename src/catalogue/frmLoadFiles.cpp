@@ -2,7 +2,10 @@
 #include "catalogue/frmLoadFiles.h"
 #include "ui_frmLoadFiles.h"
 
+#include "catalogue/PictureCards.h"
 #include "catalogue/PictureLoading.h"
+#include "core/Settings.h"
+#include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
 #include "platform/widgets/BusyPointer.h"
@@ -10,11 +13,20 @@
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 
+#include <QFileInfo>
+#include <QMenu>
 #include <QScopeGuard>
+
+#include <algorithm>
+
+using namespace GeneralModule;
 
 namespace {
 
 constexpr QSize proposedSize(820, 560);
+
+const QString section = QStringLiteral("User");
+const QString folderKey = QStringLiteral("LastLoadFolder");
 
 } // namespace
 
@@ -27,12 +39,22 @@ frmLoadFiles::frmLoadFiles(QWidget* parent)
     KeepWindowSize(this, proposedSize);
     ui_->cmdLoad->setIcon(ThemedIcon(QStringLiteral("load-pictures")));
     ui_->cmdCancel->setIcon(ThemedIcon(QStringLiteral("exit")));
+    ui_->cmdDescribeNew->setIcon(ThemedIcon(QStringLiteral("index-pictures")));
+    ui_->cmdDescribeNew->hide();
+    ui_->cmdLoadMarked->setEnabled(false);
     RunGuarded([this] { Form_Load(); });
     chooser_->Connect(this, &frmLoadFiles::drvPicturesToLoad_Change,
                       &frmLoadFiles::dirPicturesToLoad_Change);
     connect(ui_->txtPictureTypes, &QLineEdit::textChanged, this,
             Guarded(this, &frmLoadFiles::txtPictureTypes_Change));
     connect(ui_->cmdLoad, &QPushButton::clicked, this, Guarded(this, &frmLoadFiles::cmdLoad_Click));
+    connect(ui_->cmdLoadMarked, &QPushButton::clicked, this,
+            Guarded(this, &frmLoadFiles::cmdLoadMarked_Click));
+    connect(ui_->cmdDescribeNew, &QPushButton::clicked, this,
+            Guarded(this, &frmLoadFiles::cmdDescribeNew_Click));
+    connect(
+        ui_->filPicturesToLoad->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        [this] { ui_->cmdLoadMarked->setEnabled(!ui_->filPicturesToLoad->GetMarked().isEmpty()); });
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &QDialog::close);
 }
 
@@ -41,8 +63,25 @@ frmLoadFiles::~frmLoadFiles() = default;
 void frmLoadFiles::Form_Load()
 {
     ui_->txtPictureTypes->setText(ui_->filPicturesToLoad->GetPattern());
-    ui_->dirPicturesToLoad->SetPath(UsersPictureFolder());
+    OfferKinds();
+    const QString last = GetUserSetting(section, folderKey);
+    ui_->dirPicturesToLoad->SetPath(QFileInfo(last).isDir() ? last : UsersPictureFolder());
     dirPicturesToLoad_Change();
+}
+
+// What the box holds at first, and every kind that the program reads.
+void frmLoadFiles::OfferKinds()
+{
+    auto* menu = new QMenu(ui_->txtPictureTypes);
+    for (const QString& patterns : {ui_->filPicturesToLoad->GetPattern(), readablePictures})
+        connect(menu->addAction(patterns), &QAction::triggered, ui_->txtPictureTypes,
+                [this, patterns] { ui_->txtPictureTypes->setText(patterns); });
+    QAction* kinds = ui_->txtPictureTypes->addAction(ThemedIcon(QStringLiteral("next-pictures")),
+                                                     QLineEdit::TrailingPosition);
+    kinds->setToolTip(tr("Usual picture file types"));
+    connect(kinds, &QAction::triggered, menu, [this, menu] {
+        menu->popup(ui_->txtPictureTypes->mapToGlobal(ui_->txtPictureTypes->rect().bottomLeft()));
+    });
 }
 
 void frmLoadFiles::ShowCount()
@@ -71,20 +110,80 @@ void frmLoadFiles::txtPictureTypes_Change()
 
 void frmLoadFiles::cmdLoad_Click()
 {
+    if (const std::optional<PictureFiles> files = FindFiles())
+        Load(*files);
+}
+
+void frmLoadFiles::cmdLoadMarked_Click()
+{
+    PictureFiles files;
+    AddPictureFiles(files, ui_->filPicturesToLoad->GetPath(), ui_->filPicturesToLoad->GetMarked(),
+                    ui_->filPicturesToLoad->GetPattern());
+    Load(files);
+}
+
+std::optional<PictureFiles> frmLoadFiles::FindFiles()
+{
+    const FileList& list = *ui_->filPicturesToLoad;
+    if (!ui_->chkFolders->isChecked()) {
+        PictureFiles files;
+        AddPictureFiles(files, list.GetPath(), list.GetAllNames(), list.GetPattern());
+        return files;
+    }
     const BusyPointer busy;
     ui_->lblFeedback->setText(tr("Loading pictures..."));
+    ui_->progress->Begin(0, true);
+    const auto end = qScopeGuard([this] { ui_->progress->End(); });
+    std::optional<PictureFiles> files =
+        FindPictureFiles(list.GetPath(), list.GetPattern(),
+                         [this](int found) { return ui_->progress->Advance(found); });
+    if (!files)
+        ShowCount();
+    return files;
+}
+
+void frmLoadFiles::Load(const PictureFiles& files)
+{
+    const BusyPointer busy;
+    ui_->lblFeedback->setText(tr("Loading pictures..."));
+    ui_->lblDetails->clear();
     const QStringList names = ui_->filPicturesToLoad->GetNames();
-    ui_->progress->Begin(int(names.size()), true);
+    const bool isList = files.byFolder.value(ui_->filPicturesToLoad->GetPath()) == names;
+    const qint32 before = LastPictureId();
+    ui_->progress->Begin(files.count, true);
     int loaded = 0;
     {
-        const auto end = qScopeGuard([this] { ui_->progress->End(); });
-        loaded = LoadPictures(ui_->filPicturesToLoad->GetPath(), names, [this](int done) {
+        const auto end = qScopeGuard([&] { ui_->progress->End(); });
+        loaded = LoadPictures(files.byFolder, [&](int done) {
             const bool goOn = ui_->progress->Advance(done);
-            if (ui_->progress->HasShown())
+            if (isList && ui_->progress->HasShown())
                 ui_->filPicturesToLoad->SelectRow(done - 1);
             return goOn;
         });
     }
-    ui_->filPicturesToLoad->SelectRow(loaded - 1);
+    if (isList)
+        ui_->filPicturesToLoad->SelectRow(std::min(loaded, int(names.size())) - 1);
+    loaded_ = PictureIdsAfter(before);
+    SaveUserSetting(section, folderKey, ui_->filPicturesToLoad->GetPath());
+    TellWhatWasLoaded(files, loaded);
+}
+
+void frmLoadFiles::TellWhatWasLoaded(const PictureFiles& files, int loaded)
+{
+    const int added = int(loaded_.size());
     ui_->lblFeedback->setText(tr("%n picture(s) loaded", nullptr, loaded));
+    QStringList parts{tr("%n new", nullptr, added)};
+    if (loaded > added)
+        parts += tr("%n there already", nullptr, loaded - added);
+    if (files.otherKinds > 0)
+        parts += tr("%n pictures of other kinds left out", nullptr, files.otherKinds);
+    ui_->lblDetails->setText(parts.join(QStringLiteral(", ")));
+    ui_->cmdDescribeNew->setVisible(DescribePictures && added > 0);
+    if (!files.unreadable.isEmpty())
+        Tell(files.unreadable.join(u'\n'), Dialogs::Icon::Warning);
+}
+
+void frmLoadFiles::cmdDescribeNew_Click()
+{
+    DescribePictures(this, loaded_);
 }

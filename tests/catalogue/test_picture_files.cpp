@@ -57,6 +57,40 @@ private slots:
         }
     }
 
+    void LoadsTreesAndMarkedFiles()
+    {
+        for (const char* name : {"/a.jpg", "/b.jpg", "/c.png", "/note.txt", "/deep/er/a.jpg",
+                                 "/deep/d.gif", "/deep/er/e.webp", "/.hidden/f.jpg"})
+            WriteFile(Folder() + name);
+        QFile::link(Folder(), Folder() + "/deep/round"); // leads back
+        frmLoadFiles window;
+        std::vector<qint32> described;
+        window.DescribePictures = [&](QWidget*, const auto& pictures) { described = pictures; };
+        window.show();
+        const auto text = [&](const char* label) { return Find<QLabel>(window, label).text(); };
+        Find<QWidget>(window, "dirPicturesToLoad").setProperty("Path", Folder());
+        QVERIFY(!Find<QWidget>(window, "cmdLoadMarked").isEnabled());
+        auto& list = Find<QListView>(window, "filPicturesToLoad");
+        list.setCurrentIndex(list.model()->index(1, 0));
+        Click(window, "cmdLoadMarked");
+        QCOMPARE(album_->Joined("SELECT File FROM Image"), Folder() + "/b.jpg");
+        QCOMPARE(text("lblFeedback"), "1 picture(s) loaded");
+        QCOMPARE(text("lblDetails"), "1 new");
+        Click(window, "cmdLoad");
+        QCOMPARE(text("lblDetails"), "1 new, 1 there already, 1 pictures of other kinds left out");
+        Find<QCheckBox>(window, "chkFolders").click();
+        Click(window, "cmdLoad");
+        QCOMPARE(text("lblFeedback"), "4 picture(s) loaded");
+        QCOMPARE(text("lblDetails"), "2 new, 2 there already, 2 pictures of other kinds left out");
+        QCOMPARE(
+            album_->Joined("SELECT replace(File,'" + Folder() + "','') FROM Image ORDER BY rowid"),
+            "/b.jpg; /a.jpg; /deep/d.gif; /deep/er/a.jpg");
+        Click(window, "cmdDescribeNew");
+        QCOMPARE(described, std::vector<qint32>({3, 4}));
+        frmLoadFiles next; // remembers the folder
+        QCOMPARE(Find<QWidget>(next, "dirPicturesToLoad").property("Path").toString(), Folder());
+    }
+
     void LockedAlbumIsTold()
     {
         WriteFile(Folder() + "/a.jpg");

@@ -50,6 +50,17 @@ QStringList FileList::GetNames() const
     return model_->stringList();
 }
 
+QStringList FileList::GetMarked() const
+{
+    QStringList names;
+    for (int row = 0; row < Count(); ++row) {
+        const QModelIndex index = model_->index(row);
+        if (selectionModel()->isSelected(index))
+            names += index.data().toString();
+    }
+    return names;
+}
+
 int FileList::Count() const
 {
     return model_->rowCount();

@@ -27,7 +27,9 @@ public:
     // Does not read the folder again.
     void SetPattern(const QString& pattern);
 
-    QStringList GetNames() const; // those shown
+    QStringList GetNames() const;  // those shown
+    QStringList GetMarked() const; // of those shown
+    const QStringList& GetAllNames() const { return files_; }
     int Count() const;
     void SelectRow(int row);
 

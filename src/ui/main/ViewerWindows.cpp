@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/ViewerWindows.h"
 
+#include "gallery/frmDescribePictures.h"
 #include "gallery/frmFindPictures.h"
 #include "gallery/frmLinkedPictures.h"
 #include "platform/dialogs/Guard.h"
@@ -66,6 +67,13 @@ void OpenLinkedPictures(QWidget* parent, qint32 paragraph)
 {
     frmLinkedPictures window(parent);
     window.CurrentParagraph = paragraph;
+    window.exec();
+}
+
+void DescribeTogether(QWidget* parent, const std::vector<qint32>& pictures)
+{
+    frmDescribePictures window(parent);
+    window.Pictures = pictures;
     window.exec();
 }
 

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <vector>
+
 class QWidget;
 
 // The viewer as the main window opens it, without autoview. They return when the user has left it.
@@ -24,6 +26,9 @@ void OpenPictureFinder(const FindRequest& request, bool isMissing = false);
 
 // The pictures linked to a paragraph, to be put in order.
 void OpenLinkedPictures(QWidget* parent, qint32 paragraph);
+
+// Many pictures at once.
+void DescribeTogether(QWidget* parent, const std::vector<qint32>& pictures);
 
 // On pictures of a folder that the user chooses. False when none was chosen.
 bool BrowseChosenFolder(QWidget* parent, const QString& imageSelection);

@@ -312,7 +312,9 @@ void frmOpenChapter::mnuFindPictures_Click()
 
 void frmOpenChapter::mnuLoadPictures_Click()
 {
-    frmLoadFiles(this).exec();
+    frmLoadFiles loading(this);
+    loading.DescribePictures = DescribeTogether;
+    loading.exec();
     RefreshState();
 }
 
