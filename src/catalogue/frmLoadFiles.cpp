@@ -40,6 +40,8 @@ frmLoadFiles::frmLoadFiles(QWidget* parent)
     ui_->cmdLoad->setIcon(ThemedIcon(QStringLiteral("load-pictures")));
     ui_->cmdCancel->setIcon(ThemedIcon(QStringLiteral("exit")));
     ui_->cmdDescribeNew->setIcon(ThemedIcon(QStringLiteral("index-pictures")));
+    ui_->cmdLoadMarked->setIcon(ThemedIcon(QStringLiteral("load-pictures")));
+    ui_->lblDetails->hide();
     ui_->cmdDescribeNew->hide();
     ui_->cmdLoadMarked->setEnabled(false);
     RunGuarded([this] { Form_Load(); });
@@ -146,7 +148,7 @@ void frmLoadFiles::Load(const PictureFiles& files)
 {
     const BusyPointer busy;
     ui_->lblFeedback->setText(tr("Loading pictures..."));
-    ui_->lblDetails->clear();
+    ui_->lblDetails->hide();
     const QStringList names = ui_->filPicturesToLoad->GetNames();
     const bool isList = files.byFolder.value(ui_->filPicturesToLoad->GetPath()) == names;
     const qint32 before = LastPictureId();
@@ -178,6 +180,7 @@ void frmLoadFiles::TellWhatWasLoaded(const PictureFiles& files, int loaded)
     if (files.otherKinds > 0)
         parts += tr("%n pictures of other kinds left out", nullptr, files.otherKinds);
     ui_->lblDetails->setText(parts.join(QStringLiteral(", ")));
+    ui_->lblDetails->show();
     ui_->cmdDescribeNew->setVisible(DescribePictures && added > 0);
     if (!files.unreadable.isEmpty())
         Tell(files.unreadable.join(u'\n'), Dialogs::Icon::Warning);
