@@ -446,10 +446,6 @@
         <translation>« %1 » ressemble à un album à l&apos;ancien format de fichier, mais il est endommagé ou vient d&apos;une version inconnue.</translation>
     </message>
     <message>
-        <source>The part of the program that reads former albums cannot be started: %1: %2</source>
-        <translation>La partie du programme qui lit les anciens albums ne démarre pas : %1 : %2</translation>
-    </message>
-    <message>
         <source>The album&apos;s file was moved, renamed or replaced while it was open. Please open the album again.</source>
         <translation>Le fichier de l&apos;album a été déplacé, renommé ou remplacé pendant qu&apos;il était ouvert. Veuillez rouvrir l&apos;album.</translation>
     </message>
@@ -468,6 +464,44 @@
     <message>
         <source>The album cannot be copied: %1</source>
         <translation>Impossible de copier l&apos;album : %1</translation>
+    </message>
+    <message>
+        <source>A part of the program cannot be started: %1: %2</source>
+        <translation>Une partie du programme ne démarre pas : %1 : %2</translation>
+    </message>
+    <message>
+        <source>A part of the program does not work: %1</source>
+        <translation>Une partie du programme ne fonctionne pas : %1</translation>
+    </message>
+</context>
+<context>
+    <name>DescriptionCsv</name>
+    <message>
+        <source>The table &apos;%1&apos; cannot be read: %2</source>
+        <translation>Le tableau « %1 » est illisible : %2</translation>
+    </message>
+    <message>
+        <source>The table &apos;%1&apos; is too large.</source>
+        <translation>Le tableau « %1 » est trop grand.</translation>
+    </message>
+    <message>
+        <source>The table &apos;%1&apos; cannot be written: %2</source>
+        <translation>Le tableau « %1 » ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>The table &apos;%1&apos; has no column &quot;File&quot;, so it fits no pictures.</source>
+        <translation>Le tableau « %1 » n&apos;a pas de colonne « File » : il ne correspond à aucune image.</translation>
+    </message>
+    <message>
+        <source>The table &apos;%1&apos; ends inside the quotes of the row that begins on line %2. Nothing was taken from it.</source>
+        <translation>Le tableau « %1 » se termine entre les guillemets de la ligne qui commence à la ligne %2. Rien n&apos;en a été pris.</translation>
+    </message>
+</context>
+<context>
+    <name>DescriptionSidecars</name>
+    <message>
+        <source>%1: The picture is not there.</source>
+        <translation>%1 : L&apos;image n&apos;est pas là.</translation>
     </message>
 </context>
 <context>
@@ -1533,6 +1567,13 @@ Le supprimer quand même ?</translation>
     <message>
         <source>file is missing</source>
         <translation>fichier introuvable</translation>
+    </message>
+</context>
+<context>
+    <name>SidecarWriter</name>
+    <message>
+        <source>The present sidecar cannot be taken over whole, so it is left as it is.</source>
+        <translation>Le fichier XMP présent ne peut pas être repris en entier ; il reste tel quel.</translation>
     </message>
 </context>
 <context>

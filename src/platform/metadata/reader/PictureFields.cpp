@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "PictureFields.h"
+
+#include "SidecarFiles.h"
+
+#include <exiv2/exiv2.hpp>
+#include <exiv2/webpimage.hpp>
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+using namespace MetadataStream;
+
+namespace {
+
+// Longest text that is taken: more than any that a person wrote.
+constexpr std::size_t longestText = 256 * 1024; // bytes
+constexpr std::size_t maxKeywords = 1000;       // of one field
+
+// What is read of each kind, in the order in which it counts.
+constexpr std::array xmpTexts{"Xmp.dc.description",
+                              "Xmp.exif.UserComment",
+                              "Xmp.tiff.ImageDescription",
+                              "Xmp.acdsee.notes",
+                              "Xmp.dc.subject",
+                              "Xmp.lr.hierarchicalSubject",
+                              "Xmp.digiKam.TagsList",
+                              "Xmp.exif.DateTimeOriginal",
+                              "Xmp.photoshop.DateCreated",
+                              "Xmp.xmp.CreateDate"};
+constexpr std::array iptcTexts{"Iptc.Application2.Caption", "Iptc.Application2.Keywords",
+                               "Iptc.Application2.DateCreated"};
+constexpr std::array exifTexts{"Exif.Photo.UserComment",      "Exif.Image.ImageDescription",
+                               "Exif.Image.XPComment",        "Exif.Image.XPKeywords",
+                               "Exif.Photo.DateTimeOriginal", "Exif.Photo.DateTimeDigitized",
+                               "Exif.Image.DateTime"};
+
+class EntryWriter
+{
+public:
+    explicit EntryWriter(FrameWriter& stream) : stream_(stream) {}
+
+    void Write(Place place, const std::string& field, Coding coding, std::string_view text)
+    {
+        if (text.empty() || text.size() > longestText)
+            return;
+        stream_.Number(place);
+        stream_.Text(field);
+        stream_.Number(coding);
+        stream_.Text(text);
+    }
+
+private:
+    FrameWriter& stream_;
+};
+
+// One text of several languages: the default one, else the first.
+std::string DefaultOf(const Exiv2::LangAltValue& texts)
+{
+    const auto found = texts.value_.find("x-default");
+    if (found != texts.value_.end())
+        return found->second;
+    return texts.value_.empty() ? std::string() : texts.value_.begin()->second;
+}
+
+void WriteXmpField(Place place, const Exiv2::Xmpdatum& datum, EntryWriter& entries)
+{
+    if (const auto* texts = dynamic_cast<const Exiv2::LangAltValue*>(&datum.value())) {
+        entries.Write(place, datum.key(), Utf8, DefaultOf(*texts));
+        return;
+    }
+    const auto count = std::min<std::size_t>(std::size_t(datum.count()), maxKeywords);
+    const bool isList = dynamic_cast<const Exiv2::XmpArrayValue*>(&datum.value()) != nullptr;
+    if (!isList) {
+        entries.Write(place, datum.key(), Utf8, datum.toString());
+        return;
+    }
+    for (std::size_t i = 0; i < count; ++i)
+        entries.Write(place, datum.key(), Utf8, datum.toString(long(i)));
+}
+
+void WriteXmp(Place place, const Exiv2::XmpData& xmp, EntryWriter& entries)
+{
+    if (xmp.empty())
+        return;
+    for (const char* key : xmpTexts) {
+        const auto found = xmp.findKey(Exiv2::XmpKey(key));
+        if (found != xmp.end())
+            WriteXmpField(place, *found, entries);
+    }
+    if (place == InPicture)
+        return;
+    const std::string own = "Xmp." + std::string(ownPrefix) + ".";
+    for (const Exiv2::Xmpdatum& datum : xmp) {
+        const std::string key = datum.key();
+        if (key.compare(0, own.size(), own) == 0 && key.find('[') == std::string::npos)
+            WriteXmpField(place, datum, entries);
+    }
+}
+
+void WriteSidecars(const std::string& picture, EntryWriter& entries)
+{
+    for (const SidecarFile& sidecar : SidecarsOf(picture)) {
+        Exiv2::XmpData xmp;
+        if (ReadSidecar(sidecar.path, xmp) == SidecarState::Whole &&
+            !IsOfOtherPicture(picture, xmp))
+            WriteXmp(sidecar.place, xmp, entries);
+    }
+}
+
+void WriteIptc(const Exiv2::IptcData& iptc, EntryWriter& entries)
+{
+    std::size_t count = 0;
+    for (const char* key : iptcTexts) {
+        for (const Exiv2::Iptcdatum& datum : iptc) {
+            if (datum.key() == key && ++count <= maxKeywords)
+                entries.Write(InPicture, key, Bytes, datum.toString());
+        }
+    }
+}
+
+std::string RawBytes(const Exiv2::Value& value, Exiv2::ByteOrder order)
+{
+    std::vector<Exiv2::byte> bytes(std::size_t(std::max<long>(value.size(), 0)));
+    if (!bytes.empty())
+        value.copy(bytes.data(), order);
+    return {bytes.begin(), bytes.end()};
+}
+
+Coding CodingOf(const Exiv2::Exifdatum& datum, Exiv2::ByteOrder order)
+{
+    if (dynamic_cast<const Exiv2::CommentValue*>(&datum.value()))
+        return order == Exiv2::bigEndian ? CommentBigEndian : CommentLittleEndian;
+    return datum.tagName().compare(0, 2, "XP") == 0 ? Utf16 : Bytes;
+}
+
+void WriteExif(const Exiv2::ExifData& exif, Exiv2::ByteOrder order, EntryWriter& entries)
+{
+    for (const char* key : exifTexts) {
+        const auto found = exif.findKey(Exiv2::ExifKey(key));
+        if (found != exif.end() && std::size_t(found->size()) <= longestText)
+            entries.Write(InPicture, key, CodingOf(*found, order), RawBytes(found->value(), order));
+    }
+}
+
+template<typename Type>
+bool IsShownFormat(Type type)
+{
+    return type == Exiv2::ImageType::jpeg || type == Exiv2::ImageType::tiff ||
+           type == Exiv2::ImageType::png || type == Exiv2::ImageType::webp ||
+           type == Exiv2::ImageType::gif || type == Exiv2::ImageType::bmp;
+}
+
+Status StatusOf(const std::string& path)
+{
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0)
+        return NotThere;
+    // A pipe would be waited for, and the library reads other kinds of paths from the network.
+    if (path.front() != '/' || !S_ISREG(status.st_mode))
+        return OtherFormat;
+    try {
+        return IsShownFormat(Exiv2::ImageFactory::getType(path)) ? Done : OtherFormat;
+    } catch (const std::exception&) {
+        return OtherFormat; // a file too short for some of the formats that are tried
+    }
+}
+
+} // namespace
+
+void WritePictureFields(const std::string& path, FrameWriter& stream)
+{
+    const Status status = path.empty() ? NotThere : StatusOf(path);
+    EntryWriter entries(stream);
+    if (status != Done) {
+        stream.Number(status);
+        return;
+    }
+    const auto image = Exiv2::ImageFactory::open(path);
+    bool isDamaged = false;
+    try {
+        image->readMetadata();
+    } catch (const std::exception&) {
+        isDamaged = true; // the library keeps what it had read before
+    }
+    stream.Number(isDamaged ? Damaged : Done);
+    WriteSidecars(path, entries);
+    WriteXmp(InPicture, image->xmpData(), entries);
+    WriteIptc(image->iptcData(), entries);
+    WriteExif(image->exifData(), image->byteOrder(), entries);
+    entries.Write(InPicture, "JPEG comment", Bytes, image->comment());
+}
