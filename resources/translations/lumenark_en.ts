@@ -36,6 +36,58 @@
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message numerus="yes">
+        <source>%n sidecar(s) written.</source>
+        <translation>
+            <numerusform>%n sidecar written.</numerusform>
+            <numerusform>%n sidecars written.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) written.</source>
+        <translation>
+            <numerusform>%n picture written.</numerusform>
+            <numerusform>%n pictures written.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are described so already.</source>
+        <translation>
+            <numerusform>%n picture is described so already.</numerusform>
+            <numerusform>%n pictures are described so already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) differ.</source>
+        <translation>
+            <numerusform>%n picture differs.</numerusform>
+            <numerusform>%n pictures differ.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n legend(s)</source>
+        <translation>
+            <numerusform>%n legend</numerusform>
+            <numerusform>%n legends</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n value(s)</source>
+        <translation>
+            <numerusform>%1: %n value</numerusform>
+            <numerusform>%1: %n values</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) changed.</source>
+        <translation>
+            <numerusform>%n picture changed.</numerusform>
+            <numerusform>%n pictures changed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FileDrop</name>
     <message numerus="yes">
         <source>%n file(s) left out: their names are not valid text</source>

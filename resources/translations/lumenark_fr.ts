@@ -498,6 +498,136 @@
     </message>
 </context>
 <context>
+    <name>Descriptions</name>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Ce fichier n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>It is an album of the former file format; make a new one of it first, with --convert.</source>
+        <translation>C&apos;est un album de l&apos;ancien format ; faites-en d&apos;abord un nouveau avec --convert.</translation>
+    </message>
+    <message>
+        <source>It has a password; give the file that holds it with --%1.</source>
+        <translation>Il a un mot de passe ; indiquez avec --%1 le fichier qui le contient.</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Le mot de passe est faux.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sidecar(s) written.</source>
+        <translation>
+            <numerusform>%n fichier XMP écrit.</numerusform>
+            <numerusform>%n fichiers XMP écrits.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) written.</source>
+        <translation>
+            <numerusform>%n image écrite.</numerusform>
+            <numerusform>%n images écrites.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; fits none of the album.</source>
+        <translation>La colonne « %1 » ne correspond à aucune de l&apos;album.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are described so already.</source>
+        <translation>
+            <numerusform>%n image est déjà décrite ainsi.</numerusform>
+            <numerusform>%n images sont déjà décrites ainsi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) differ.</source>
+        <translation>
+            <numerusform>%n image diffère.</numerusform>
+            <numerusform>%n images diffèrent.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n legend(s)</source>
+        <translation>
+            <numerusform>%n légende</numerusform>
+            <numerusform>%n légendes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n value(s)</source>
+        <translation>
+            <numerusform>%1 : %n valeur</numerusform>
+            <numerusform>%1 : %n valeurs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: new value &quot;%2&quot;</source>
+        <translation>%1 : nouvelle valeur « %2 »</translation>
+    </message>
+    <message>
+        <source>The album does not hold this picture.</source>
+        <translation>L&apos;album ne contient pas cette image.</translation>
+    </message>
+    <message>
+        <source>It comes a second time, which does not count.</source>
+        <translation>Elle vient une deuxième fois, ce qui ne compte pas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) changed.</source>
+        <translation>
+            <numerusform>%n image changée.</numerusform>
+            <numerusform>%n images changées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write the legends and characteristics of the album&apos;s pictures, with --to or --sidecars, without windows.</source>
+        <translation>Écrit les légendes et les caractéristiques des images de l&apos;album, avec --to ou --sidecars, sans fenêtre.</translation>
+    </message>
+    <message>
+        <source>Take legends and characteristics into the album, with --from or --sidecars, without windows. Only what differs is changed. The exit status is 3 when something was left out.</source>
+        <translation>Reprend des légendes et des caractéristiques dans l&apos;album, avec --from ou --sidecars, sans fenêtre. Seul ce qui diffère est changé. Le code de sortie est 3 quand quelque chose est resté de côté.</translation>
+    </message>
+    <message>
+        <source>The table to write, as CSV.</source>
+        <translation>Le tableau à écrire, en CSV.</translation>
+    </message>
+    <message>
+        <source>The table to read, as CSV.</source>
+        <translation>Le tableau à lire, en CSV.</translation>
+    </message>
+    <message>
+        <source>XMP files beside the pictures instead of a table.</source>
+        <translation>Des fichiers XMP à côté des images au lieu d&apos;un tableau.</translation>
+    </message>
+    <message>
+        <source>With --import-descriptions: only say what would change.</source>
+        <translation>Avec --import-descriptions : dit seulement ce qui changerait.</translation>
+    </message>
+    <message>
+        <source>The first line of FILE is the album&apos;s password.</source>
+        <translation>La première ligne de FILE est le mot de passe de l&apos;album.</translation>
+    </message>
+    <message>
+        <source>Replace a table that exists.</source>
+        <translation>Remplace un tableau qui existe.</translation>
+    </message>
+    <message>
+        <source>The album.</source>
+        <translation>L&apos;album.</translation>
+    </message>
+    <message>
+        <source>descriptions need an album and one place</source>
+        <translation>il faut un album et un seul lieu pour les descriptions</translation>
+    </message>
+    <message>
+        <source>usage: lumenark --export-descriptions ALBUM --to FILE|--sidecars [--password-file FILE] [--force]
+       lumenark --import-descriptions ALBUM --from FILE|--sidecars [--password-file FILE] [--dry-run]</source>
+        <translation>usage : lumenark --export-descriptions ALBUM --to FILE|--sidecars [--password-file FILE] [--force]
+        lumenark --import-descriptions ALBUM --from FILE|--sidecars [--password-file FILE] [--dry-run]</translation>
+    </message>
+</context>
+<context>
     <name>DescriptionSidecars</name>
     <message>
         <source>%1: The picture is not there.</source>
