@@ -51,6 +51,7 @@ private:
     void cmdReadPictures_Click();
     void cmdDescribe_Click();
     void cmdLink_Click();
+    void cmdTakeFromFiles_Click();
     void cmdMakeParagraph_Click();
     void cmdExit_Click();
 

@@ -10,7 +10,7 @@ namespace {
 
 // Requests that a helper has before it has answered them. Enough to keep it busy between two
 // slices, few enough that what was sent in vain does not matter.
-constexpr int maxAhead = 256;
+constexpr int maxAhead = 1024;
 
 // Milliseconds by the clock without a frame; a helper counts its processor time by itself. A disk
 // that sleeps takes some seconds.

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
 #include <vector>
 
 using namespace MetadataStream;
@@ -82,14 +83,26 @@ void WriteXmpField(Place place, const Exiv2::Xmpdatum& datum, EntryWriter& entri
         entries.Write(place, datum.key(), Utf8, datum.toString(long(i)));
 }
 
+// The fields of those names that a file has, each in its name's place; null for one that it has
+// not. One walk over all: to look a name up takes the library as long as to read some fields.
+template<typename Data, typename Names>
+auto FindFields(const Data& data, const Names& names)
+{
+    std::vector<const std::remove_cvref_t<decltype(*data.begin())>*> found(names.size());
+    for (const auto& datum : data) {
+        const std::string key = datum.key();
+        const auto name = std::find(names.begin(), names.end(), key);
+        if (name != names.end() && !found[std::size_t(name - names.begin())])
+            found[std::size_t(name - names.begin())] = &datum;
+    }
+    return found;
+}
+
 void WriteXmp(Place place, const Exiv2::XmpData& xmp, EntryWriter& entries)
 {
-    if (xmp.empty())
-        return;
-    for (const char* key : xmpTexts) {
-        const auto found = xmp.findKey(Exiv2::XmpKey(key));
-        if (found != xmp.end())
-            WriteXmpField(place, *found, entries);
+    for (const Exiv2::Xmpdatum* datum : FindFields(xmp, xmpTexts)) {
+        if (datum)
+            WriteXmpField(place, *datum, entries);
     }
     if (place == InPicture)
         return;
@@ -139,10 +152,10 @@ Coding CodingOf(const Exiv2::Exifdatum& datum, Exiv2::ByteOrder order)
 
 void WriteExif(const Exiv2::ExifData& exif, Exiv2::ByteOrder order, EntryWriter& entries)
 {
-    for (const char* key : exifTexts) {
-        const auto found = exif.findKey(Exiv2::ExifKey(key));
-        if (found != exif.end() && std::size_t(found->size()) <= longestText)
-            entries.Write(InPicture, key, CodingOf(*found, order), RawBytes(found->value(), order));
+    for (const Exiv2::Exifdatum* datum : FindFields(exif, exifTexts)) {
+        if (datum && std::size_t(datum->size()) <= longestText)
+            entries.Write(InPicture, datum->key(), CodingOf(*datum, order),
+                          RawBytes(datum->value(), order));
     }
 }
 
@@ -157,15 +170,22 @@ bool IsShownFormat(Type type)
 Status StatusOf(const std::string& path)
 {
     struct stat status = {};
-    if (stat(path.c_str(), &status) != 0)
+    if (path.empty() || stat(path.c_str(), &status) != 0)
         return NotThere;
     // A pipe would be waited for, and the library reads other kinds of paths from the network.
-    if (path.front() != '/' || !S_ISREG(status.st_mode))
-        return OtherFormat;
+    return path.front() == '/' && S_ISREG(status.st_mode) ? Done : OtherFormat;
+}
+
+using ImagePointer = decltype(Exiv2::ImageFactory::open(std::string()));
+
+// Null where the library knows no such format, or where the file is too short for some of those
+// that it tries. Reads no more than the format.
+ImagePointer OpenImage(const std::string& path)
+{
     try {
-        return IsShownFormat(Exiv2::ImageFactory::getType(path)) ? Done : OtherFormat;
+        return Exiv2::ImageFactory::open(path);
     } catch (const std::exception&) {
-        return OtherFormat; // a file too short for some of the formats that are tried
+        return ImagePointer();
     }
 }
 
@@ -173,13 +193,13 @@ Status StatusOf(const std::string& path)
 
 void WritePictureFields(const std::string& path, FrameWriter& stream)
 {
-    const Status status = path.empty() ? NotThere : StatusOf(path);
     EntryWriter entries(stream);
-    if (status != Done) {
-        stream.Number(status);
+    const Status status = StatusOf(path);
+    const auto image = status == Done ? OpenImage(path) : ImagePointer();
+    if (!image.get() || !IsShownFormat(image->imageType())) {
+        stream.Number(status == Done ? OtherFormat : status);
         return;
     }
-    const auto image = Exiv2::ImageFactory::open(path);
     bool isDamaged = false;
     try {
         image->readMetadata();
