@@ -201,6 +201,18 @@ private slots:
         QCOMPARE(read.sidecarCaption, read.ownFields.value("Caption"));
         QCOMPARE(ReadFile(picture), before);
 
+        // Without a caption of its own another's stays, however often it is written.
+        WriteFile(shared, XmpPacket(XmpCaption("theirs")));
+        const QStringList captions{"", "", "mine", ""};
+        const QStringList expected{"theirs", "theirs", "mine", ""};
+        for (qsizetype i = 0; i < captions.size(); ++i) {
+            content.caption = captions[i];
+            QCOMPARE(WriteSidecar(content), "");
+            const FileMetadata now = Read({picture}).value(0);
+            QCOMPARE(now.sidecarCaption, expected[i]);
+            QCOMPARE(now.ownFields.value("Caption"), now.sidecarCaption);
+        }
+
         // A second picture of that name gets one of its own; one that cannot be read stays.
         const QString other = folder.filePath("a.png");
         WriteFile(other, before);

@@ -58,15 +58,6 @@ private:
     FrameWriter& stream_;
 };
 
-// One text of several languages: the default one, else the first.
-std::string DefaultOf(const Exiv2::LangAltValue& texts)
-{
-    const auto found = texts.value_.find("x-default");
-    if (found != texts.value_.end())
-        return found->second;
-    return texts.value_.empty() ? std::string() : texts.value_.begin()->second;
-}
-
 void WriteXmpField(Place place, const Exiv2::Xmpdatum& datum, EntryWriter& entries)
 {
     if (const auto* texts = dynamic_cast<const Exiv2::LangAltValue*>(&datum.value())) {

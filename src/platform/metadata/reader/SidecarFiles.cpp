@@ -94,3 +94,11 @@ std::optional<std::string> TextOf(const Exiv2::XmpData& xmp, const std::string& 
     const auto found = xmp.findKey(Exiv2::XmpKey(key));
     return found == xmp.end() ? std::nullopt : std::optional(found->toString());
 }
+
+std::string DefaultOf(const Exiv2::LangAltValue& texts)
+{
+    const auto found = texts.value_.find("x-default");
+    if (found != texts.value_.end())
+        return found->second;
+    return texts.value_.empty() ? std::string() : texts.value_.begin()->second;
+}

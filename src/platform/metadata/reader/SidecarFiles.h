@@ -3,7 +3,7 @@
 
 #include "platform/metadata/MetadataStream.h"
 
-#include <exiv2/xmp_exiv2.hpp>
+#include <exiv2/exiv2.hpp>
 
 #include <array>
 #include <optional>
@@ -36,3 +36,6 @@ std::string QuotedNameOf(const std::string& path);
 
 // The text of a field, none when it is not there.
 std::optional<std::string> TextOf(const Exiv2::XmpData& xmp, const std::string& key);
+
+// One text of several languages: the default one, else the first.
+std::string DefaultOf(const Exiv2::LangAltValue& texts);

@@ -21,6 +21,7 @@ constexpr char captionKey[] = "Xmp.dc.description";
 constexpr char keywordsKey[] = "Xmp.dc.subject";
 // What was written there last, to tell it from what another program wrote since.
 constexpr char ownCaptionKey[] = "Xmp.lumenark.Caption";
+constexpr char captionIsOwnKey[] = "Xmp.lumenark.CaptionIsOwn";
 constexpr char ownKeywordsKey[] = "Xmp.lumenark.Keywords";
 
 struct Description
@@ -118,14 +119,17 @@ void SetCaption(Exiv2::XmpData& xmp, const std::string& caption)
             texts.value_["x-default"] = found->toString();
     }
     const auto present = texts.value_.find("x-default");
+    const bool isOwn = present != texts.value_.end() && TextOf(xmp, captionIsOwnKey) &&
+                       present->second == TextOf(xmp, ownCaptionKey);
     if (!caption.empty())
         texts.value_["x-default"] = caption;
-    else if (present != texts.value_.end() && present->second == TextOf(xmp, ownCaptionKey))
+    else if (isOwn)
         texts.value_.erase(present);
     Erase(xmp, captionKey);
     if (!texts.value_.empty())
         xmp.add(Exiv2::XmpKey(captionKey), &texts);
-    SetText(xmp, ownCaptionKey, texts.value_.count("x-default") ? texts.value_["x-default"] : "");
+    SetText(xmp, ownCaptionKey, DefaultOf(texts));
+    SetText(xmp, captionIsOwnKey, caption.empty() ? "" : "True");
 }
 
 // Keywords of others stay; those that this program added before make room for the present ones.
