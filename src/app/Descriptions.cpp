@@ -130,12 +130,12 @@ void PrintCounts(const DescriptionComparison& comparison)
         if (number > 0)
             Print(stdout,
                   QStringLiteral("  ") + DescriptionsTexts::tr("%1: %n value(s)", nullptr, number)
-                                             .arg(ColumnTitle(column)));
+                                             .arg(DistinctTitle(column)));
     }
     for (const auto& [column, value] : counts.newValues)
         Print(stdout,
               QStringLiteral("  ") +
-                  DescriptionsTexts::tr("%1: new value \"%2\"").arg(ColumnTitle(column), value));
+                  DescriptionsTexts::tr("%1: new value \"%2\"").arg(DistinctTitle(column), value));
 }
 
 int ImportDescriptions(const QCommandLineParser& parser)

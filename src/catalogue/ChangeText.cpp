@@ -22,7 +22,7 @@ QString NewValuesText(const ChangeCounts& counts)
             values += QStringLiteral("...");
             break;
         }
-        values += QStringLiteral("%1 (%2)").arg(value, ColumnTitle(column));
+        values += QStringLiteral("%1 (%2)").arg(value, DistinctTitle(column));
     }
     return values.join(QStringLiteral(", "));
 }
@@ -40,7 +40,7 @@ QString ChangeText(const std::vector<DescriptionChange>& changes)
     for (int column = 0; column < columnCount; ++column) {
         const int number = counts.values[std::size_t(column)];
         if (number > 0)
-            parts += ChangeTexts::tr("%1: %n value(s)", nullptr, number).arg(ColumnTitle(column));
+            parts += ChangeTexts::tr("%1: %n value(s)", nullptr, number).arg(DistinctTitle(column));
     }
     QString text = ChangeTexts::tr("%n picture(s) change: %1.", nullptr, counts.pictures)
                        .arg(parts.join(QStringLiteral(", ")));

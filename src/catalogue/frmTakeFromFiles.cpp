@@ -59,7 +59,7 @@ void frmTakeFromFiles::Form_Load()
 {
     QStringList titles;
     for (int column = 0; column < columnCount; ++column)
-        titles += ColumnTitle(column);
+        titles += DistinctTitle(column);
     auto taking = std::make_unique<FileTaking>(Pictures);
     isFilling_ = true;
     ui_->cboKeywords->addItems({tr("Not taken"), tr("To characteristics that have such a value")});

@@ -137,6 +137,7 @@ private slots:
         changes[0].shown = Records()[0];
         changes[0].edited.legend = "mine";
         QVERIFY(!ApplyChanges(changes, [](int) { return false; }));
+        QCOMPARE(album_->Joined("SELECT Legend FROM Image ORDER BY rowid"), "theirs; ");
         FailAtEachStep(
             1, [] {}, [&changes] { ErrorOf([&changes] { ApplyChanges(changes); }); },
             [this] {

@@ -2,6 +2,7 @@
 #include "catalogue/FileTaking.h"
 #include "catalogue/PictureCards.h"
 #include "catalogue/frmTakeFromFiles.h"
+#include "core/Parameters.h"
 #include "platform/metadata/PictureTexts.h"
 #include "support/AlbumTest.h"
 
@@ -81,6 +82,8 @@ private slots:
     void TheWindowTellsBeforeItTakes()
     {
         AddPictures();
+        GeneralModule::SetColumnLabel(3, "Person");
+        GeneralModule::SetCaractLabel(1, "First");
         auto* window = Make<frmTakeFromFiles>();
         window->Pictures = AllPictureIds();
         window->show();
@@ -91,8 +94,8 @@ private slots:
         };
         QCOMPARE(text("lblRead"), "3 of 3 file(s) read; 1 cannot be read to the end");
         QCOMPARE(text("lblSummary"),
-                 "2 picture(s) change: 1 legend(s), Caracteristic 4: 1 value(s), "
-                 "Caracteristic 7: 2 value(s).\n2 keyword(s) find no place.");
+                 "2 picture(s) change: 1 legend(s), Person (First): 1 value(s), "
+                 "Person (7): 2 value(s).\n2 keyword(s) find no place.");
         QCOMPARE(album_->Joined("SELECT Legend FROM Image"), "; mine; ");
         auto* fields = window->findChild<QTreeWidget*>("treFields");
         QCOMPARE(fields->topLevelItemCount(), 5);

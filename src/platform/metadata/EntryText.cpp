@@ -89,7 +89,8 @@ bool IsMachineCaption(const QString& caption)
     static constexpr std::array whole{
         u"OLYMPUS DIGITAL CAMERA", u"SONY DSC",       u"KONICA MINOLTA DIGITAL CAMERA",
         u"MINOLTA DIGITAL CAMERA", u"binary comment", u"Created with GIMP"};
-    static constexpr std::array beginnings{u"CREATOR: gd-jpeg", u"File written by Adobe Photoshop"};
+    static constexpr std::array beginnings{u"CREATOR: gd-jpeg", u"File written by Adobe Photoshop",
+                                           u"cmp3."};
     const auto isWhole = [&caption](const char16_t* text) {
         return caption.compare(QStringView(text), Qt::CaseInsensitive) == 0;
     };
