@@ -28,5 +28,8 @@ target_compile_definitions(PkgConfig::SQLCIPHER INTERFACE SQLITE_HAS_CODEC)
 # The reader of albums in the former file format. Its header is C, and warns by our standards.
 pkg_check_modules(LIBMDB REQUIRED IMPORTED_TARGET libmdb)
 
+# The reader of what picture files say.
+pkg_check_modules(EXIV2 REQUIRED IMPORTED_TARGET exiv2>=0.27)
+
 # Where a deflated profile in a PNG file says how long it is.
 find_package(ZLIB REQUIRED)

@@ -1,12 +1,11 @@
 # cmake --install, and the Debian package: cpack -G DEB in the build folder.
 #
 # The program and its files lie together in a folder of their own, because it looks for the template,
-# the help, the reader of old albums and the sample story beside itself; what people call is a link
-# to it.
+# the help, its helpers and the sample story beside itself; what people call is a link to it.
 include(GNUInstallDirs)
 
 set(program_folder ${CMAKE_INSTALL_LIBDIR}/lumenark)
-install(TARGETS lumenark lumenark-import RUNTIME DESTINATION ${program_folder})
+install(TARGETS lumenark lumenark-import lumenark-metadata RUNTIME DESTINATION ${program_folder})
 install(FILES
   ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Album.tpl
   ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lumenark.hlp

@@ -7,7 +7,7 @@ packages=(
     g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-svg-dev qt6-l10n-tools qt6-translations-l10n
     qt6-image-formats-plugins
-    libsqlcipher-dev libjpeg62-turbo-dev mdbtools-dev zlib1g-dev
+    libsqlcipher-dev libjpeg62-turbo-dev mdbtools-dev libexiv2-dev zlib1g-dev
     fonts-dejavu-core xvfb xauth
 )
 

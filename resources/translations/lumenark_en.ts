@@ -26,12 +26,109 @@
     </message>
 </context>
 <context>
+    <name>ChangeText</name>
+    <message numerus="yes">
+        <source>%n legend(s)</source>
+        <translation>
+            <numerusform>%n legend</numerusform>
+            <numerusform>%n legends</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n value(s)</source>
+        <translation>
+            <numerusform>%1: %n value</numerusform>
+            <numerusform>%1: %n values</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) change: %1.</source>
+        <translation>
+            <numerusform>%n picture changes: %1.</numerusform>
+            <numerusform>%n pictures change: %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new value(s): %1</source>
+        <translation>
+            <numerusform>%n new value: %1</numerusform>
+            <numerusform>%n new values: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) changed.</source>
+        <translation>
+            <numerusform>%n picture changed.</numerusform>
+            <numerusform>%n pictures changed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) were changed elsewhere meanwhile; that stays.</source>
+        <translation>
+            <numerusform>%n picture was changed elsewhere meanwhile; that stays.</numerusform>
+            <numerusform>%n pictures were changed elsewhere meanwhile; that stays.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ChapterList</name>
     <message numerus="yes">
         <source>%Ln paragraph(s)</source>
         <translation>
             <numerusform>%Ln paragraph</numerusform>
             <numerusform>%Ln paragraphs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Descriptions</name>
+    <message numerus="yes">
+        <source>%n sidecar(s) written.</source>
+        <translation>
+            <numerusform>%n sidecar written.</numerusform>
+            <numerusform>%n sidecars written.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) written.</source>
+        <translation>
+            <numerusform>%n picture written.</numerusform>
+            <numerusform>%n pictures written.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are described so already.</source>
+        <translation>
+            <numerusform>%n picture is described so already.</numerusform>
+            <numerusform>%n pictures are described so already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) differ.</source>
+        <translation>
+            <numerusform>%n picture differs.</numerusform>
+            <numerusform>%n pictures differ.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n legend(s)</source>
+        <translation>
+            <numerusform>%n legend</numerusform>
+            <numerusform>%n legends</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n value(s)</source>
+        <translation>
+            <numerusform>%1: %n value</numerusform>
+            <numerusform>%1: %n values</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) changed.</source>
+        <translation>
+            <numerusform>%n picture changed.</numerusform>
+            <numerusform>%n pictures changed.</numerusform>
         </translation>
     </message>
 </context>
@@ -152,6 +249,30 @@
         <translation>
             <numerusform>%n linked file is not in the album.</numerusform>
             <numerusform>%n linked files are not in the album.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>frmTakeFromFiles</name>
+    <message numerus="yes">
+        <source>%1 of %n file(s) read</source>
+        <translation>
+            <numerusform>%1 of %n file read</numerusform>
+            <numerusform>%1 of %n files read</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cannot be read to the end</source>
+        <translation>
+            <numerusform>%n cannot be read to the end</numerusform>
+            <numerusform>%n cannot be read to the end</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keyword(s) find no place.</source>
+        <translation>
+            <numerusform>%n keyword finds no place.</numerusform>
+            <numerusform>%n keywords find no place.</numerusform>
         </translation>
     </message>
 </context>

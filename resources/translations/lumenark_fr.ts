@@ -178,6 +178,55 @@
     </message>
 </context>
 <context>
+    <name>ChangeText</name>
+    <message>
+        <source>Nothing changes.</source>
+        <translation>Rien ne change.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n legend(s)</source>
+        <translation>
+            <numerusform>%n légende</numerusform>
+            <numerusform>%n légendes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n value(s)</source>
+        <translation>
+            <numerusform>%1 : %n valeur</numerusform>
+            <numerusform>%1 : %n valeurs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) change: %1.</source>
+        <translation>
+            <numerusform>%n photo change : %1.</numerusform>
+            <numerusform>%n photos changent : %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new value(s): %1</source>
+        <translation>
+            <numerusform>%n nouvelle valeur : %1</numerusform>
+            <numerusform>%n nouvelles valeurs : %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) changed.</source>
+        <translation>
+            <numerusform>%n photo changée.</numerusform>
+            <numerusform>%n photos changées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) were changed elsewhere meanwhile; that stays.</source>
+        <translation>
+            <numerusform>%n photo a été changée ailleurs entre-temps ; cela reste.</numerusform>
+            <numerusform>%n photos ont été changées ailleurs entre-temps ; cela reste.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ChapterChain</name>
     <message>
         <source>(no name)</source>
@@ -450,10 +499,6 @@
         <translation>« %1 » ressemble à un album à l&apos;ancien format de fichier, mais il est endommagé ou vient d&apos;une version inconnue.</translation>
     </message>
     <message>
-        <source>The part of the program that reads former albums cannot be started: %1: %2</source>
-        <translation>La partie du programme qui lit les anciens albums ne démarre pas : %1 : %2</translation>
-    </message>
-    <message>
         <source>The album&apos;s file was moved, renamed or replaced while it was open. Please open the album again.</source>
         <translation>Le fichier de l&apos;album a été déplacé, renommé ou remplacé pendant qu&apos;il était ouvert. Veuillez rouvrir l&apos;album.</translation>
     </message>
@@ -472,6 +517,174 @@
     <message>
         <source>The album cannot be copied: %1</source>
         <translation>Impossible de copier l&apos;album : %1</translation>
+    </message>
+    <message>
+        <source>A part of the program cannot be started: %1: %2</source>
+        <translation>Une partie du programme ne démarre pas : %1 : %2</translation>
+    </message>
+    <message>
+        <source>A part of the program does not work: %1</source>
+        <translation>Une partie du programme ne fonctionne pas : %1</translation>
+    </message>
+</context>
+<context>
+    <name>DescriptionCsv</name>
+    <message>
+        <source>The table &apos;%1&apos; cannot be read: %2</source>
+        <translation>Le tableau « %1 » est illisible : %2</translation>
+    </message>
+    <message>
+        <source>The table &apos;%1&apos; is too large.</source>
+        <translation>Le tableau « %1 » est trop grand.</translation>
+    </message>
+    <message>
+        <source>The table &apos;%1&apos; cannot be written: %2</source>
+        <translation>Le tableau « %1 » ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>The table &apos;%1&apos; has no column &quot;File&quot;, so it fits no pictures.</source>
+        <translation>Le tableau « %1 » n&apos;a pas de colonne « File » : il ne correspond à aucune photo.</translation>
+    </message>
+    <message>
+        <source>The table &apos;%1&apos; ends inside the quotes of the row that begins on line %2. Nothing was taken from it.</source>
+        <translation>Le tableau « %1 » se termine entre les guillemets de la ligne qui commence à la ligne %2. Rien n&apos;en a été pris.</translation>
+    </message>
+</context>
+<context>
+    <name>Descriptions</name>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Ce fichier n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>It is an album of the former file format; make a new one of it first, with --convert.</source>
+        <translation>C&apos;est un album de l&apos;ancien format ; faites-en d&apos;abord un nouveau avec --convert.</translation>
+    </message>
+    <message>
+        <source>It has a password; give the file that holds it with --%1.</source>
+        <translation>Il a un mot de passe ; indiquez avec --%1 le fichier qui le contient.</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Le mot de passe est faux.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sidecar(s) written.</source>
+        <translation>
+            <numerusform>%n fichier XMP écrit.</numerusform>
+            <numerusform>%n fichiers XMP écrits.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) written.</source>
+        <translation>
+            <numerusform>%n photo écrite.</numerusform>
+            <numerusform>%n photos écrites.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; fits none of the album.</source>
+        <translation>La colonne « %1 » ne correspond à aucune de l&apos;album.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are described so already.</source>
+        <translation>
+            <numerusform>%n photo est déjà décrite ainsi.</numerusform>
+            <numerusform>%n photos sont déjà décrites ainsi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) differ.</source>
+        <translation>
+            <numerusform>%n photo diffère.</numerusform>
+            <numerusform>%n photos diffèrent.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n legend(s)</source>
+        <translation>
+            <numerusform>%n légende</numerusform>
+            <numerusform>%n légendes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n value(s)</source>
+        <translation>
+            <numerusform>%1 : %n valeur</numerusform>
+            <numerusform>%1 : %n valeurs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: new value &quot;%2&quot;</source>
+        <translation>%1 : nouvelle valeur « %2 »</translation>
+    </message>
+    <message>
+        <source>The album does not hold this picture.</source>
+        <translation>L&apos;album ne contient pas cette photo.</translation>
+    </message>
+    <message>
+        <source>It comes a second time, which does not count.</source>
+        <translation>Elle vient une deuxième fois, ce qui ne compte pas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) changed.</source>
+        <translation>
+            <numerusform>%n photo changée.</numerusform>
+            <numerusform>%n photos changées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write the legends and characteristics of the album&apos;s pictures, with --to or --sidecars, without windows.</source>
+        <translation>Écrit les légendes et les caractéristiques des photos de l&apos;album, avec --to ou --sidecars, sans fenêtre.</translation>
+    </message>
+    <message>
+        <source>Take legends and characteristics into the album, with --from or --sidecars, without windows. Only what differs is changed. The exit status is 3 when something was left out.</source>
+        <translation>Reprend des légendes et des caractéristiques dans l&apos;album, avec --from ou --sidecars, sans fenêtre. Seul ce qui diffère est changé. Le code de sortie est 3 quand quelque chose est resté de côté.</translation>
+    </message>
+    <message>
+        <source>The table to write, as CSV.</source>
+        <translation>Le tableau à écrire, en CSV.</translation>
+    </message>
+    <message>
+        <source>The table to read, as CSV.</source>
+        <translation>Le tableau à lire, en CSV.</translation>
+    </message>
+    <message>
+        <source>XMP files beside the pictures instead of a table.</source>
+        <translation>Des fichiers XMP à côté des photos au lieu d&apos;un tableau.</translation>
+    </message>
+    <message>
+        <source>With --import-descriptions: only say what would change.</source>
+        <translation>Avec --import-descriptions : dit seulement ce qui changerait.</translation>
+    </message>
+    <message>
+        <source>The first line of FILE is the album&apos;s password.</source>
+        <translation>La première ligne de FILE est le mot de passe de l&apos;album.</translation>
+    </message>
+    <message>
+        <source>Replace a table that exists.</source>
+        <translation>Remplace un tableau qui existe.</translation>
+    </message>
+    <message>
+        <source>The album.</source>
+        <translation>L&apos;album.</translation>
+    </message>
+    <message>
+        <source>descriptions need an album and one place</source>
+        <translation>il faut un album et un seul lieu pour les descriptions</translation>
+    </message>
+    <message>
+        <source>usage: lumenark --export-descriptions ALBUM --to FILE|--sidecars [--password-file FILE] [--force]
+       lumenark --import-descriptions ALBUM --from FILE|--sidecars [--password-file FILE] [--dry-run]</source>
+        <translation>usage : lumenark --export-descriptions ALBUM --to FILE|--sidecars [--password-file FILE] [--force]
+        lumenark --import-descriptions ALBUM --from FILE|--sidecars [--password-file FILE] [--dry-run]</translation>
+    </message>
+</context>
+<context>
+    <name>DescriptionSidecars</name>
+    <message>
+        <source>%1: The picture is not there.</source>
+        <translation>%1 : La photo n&apos;est pas là.</translation>
     </message>
 </context>
 <context>
@@ -990,6 +1203,14 @@ Votre version :
         <source>Describe Together</source>
         <translation>Décrire ensemble</translation>
     </message>
+    <message>
+        <source>Take captions, keywords and dates from the files of the selected pictures, or of all</source>
+        <translation>Reprendre les légendes, les mots-clés et les dates des fichiers des photos choisies, ou de toutes</translation>
+    </message>
+    <message>
+        <source>Take from Files</source>
+        <translation>Reprendre des fichiers</translation>
+    </message>
 </context>
 <context>
     <name>frmLinkedPictures</name>
@@ -1101,6 +1322,138 @@ Votre version :
     <message>
         <source>(at the chapter&apos;s beginning)</source>
         <translation>(au début du chapitre)</translation>
+    </message>
+</context>
+<context>
+    <name>frmTakeFromFiles</name>
+    <message>
+        <source>Take from Files</source>
+        <translation>Reprendre des fichiers</translation>
+    </message>
+    <message>
+        <source>Read no more files, and take from those that were read</source>
+        <translation>Ne plus lire de fichiers, et reprendre ceux qui ont été lus</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>What the files hold, and where; fields without a tick are passed over :</source>
+        <translation>Ce que contiennent les fichiers, et où ; les champs décochés sont laissés de côté :</translation>
+    </message>
+    <message>
+        <source>Fields of the files</source>
+        <translation>Champs des fichiers</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Champ</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>Reprises</translation>
+    </message>
+    <message>
+        <source>Captions become legends where there is none</source>
+        <translation>Les légendes des fichiers vont aux photos qui n&apos;en ont pas</translation>
+    </message>
+    <message>
+        <source>Keywords :</source>
+        <translation>Mots-clés :</translation>
+    </message>
+    <message>
+        <source>Keywords go to</source>
+        <translation>Les mots-clés vont</translation>
+    </message>
+    <message>
+        <source>Date taken :</source>
+        <translation>Date de la photo :</translation>
+    </message>
+    <message>
+        <source>Part of the date</source>
+        <translation>Partie de la date</translation>
+    </message>
+    <message>
+        <source>Not taken</source>
+        <translation>Rien</translation>
+    </message>
+    <message>
+        <source>Year (1998)</source>
+        <translation>Année (1998)</translation>
+    </message>
+    <message>
+        <source>Month (1998-07)</source>
+        <translation>Mois (1998-07)</translation>
+    </message>
+    <message>
+        <source>Day (1998-07-14)</source>
+        <translation>Jour (1998-07-14)</translation>
+    </message>
+    <message>
+        <source>The date goes to</source>
+        <translation>La date va</translation>
+    </message>
+    <message>
+        <source>Write this into the album; the files stay as they are</source>
+        <translation>Écrire cela dans l&apos;album ; les fichiers restent tels quels</translation>
+    </message>
+    <message>
+        <source>Take</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>To characteristics that have such a value</source>
+        <translation>Aux caractéristiques qui ont une telle valeur</translation>
+    </message>
+    <message>
+        <source>To %1</source>
+        <translation>À : %1</translation>
+    </message>
+    <message>
+        <source>Caption: %1</source>
+        <translation>Légende : %1</translation>
+    </message>
+    <message>
+        <source>Keywords: %1</source>
+        <translation>Mots-clés : %1</translation>
+    </message>
+    <message>
+        <source>Date: %1</source>
+        <translation>Date : %1</translation>
+    </message>
+    <message>
+        <source>The files are being read...</source>
+        <translation>Les fichiers sont en cours de lecture...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n file(s) read</source>
+        <translation>
+            <numerusform>%1 fichier sur %n lu</numerusform>
+            <numerusform>%1 fichiers sur %n lus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cannot be read to the end</source>
+        <translation>
+            <numerusform>%n illisible jusqu&apos;au bout</numerusform>
+            <numerusform>%n illisibles jusqu&apos;au bout</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keyword(s) find no place.</source>
+        <translation>
+            <numerusform>%n mot-clé ne trouve pas de place.</numerusform>
+            <numerusform>%n mots-clés ne trouvent pas de place.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1828,6 +2181,13 @@ Le supprimer quand même ?</translation>
     <message>
         <source>file is missing</source>
         <translation>fichier introuvable</translation>
+    </message>
+</context>
+<context>
+    <name>SidecarWriter</name>
+    <message>
+        <source>The present sidecar cannot be taken over whole, so it is left as it is.</source>
+        <translation>Le fichier XMP présent ne peut pas être repris en entier ; il reste tel quel.</translation>
     </message>
 </context>
 <context>

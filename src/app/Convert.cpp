@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Convert.h"
 
+#include "CommandLine.h"
 #include "Translations.h"
 #include "core/oldalbum/OldAlbumConversion.h"
 #include "platform/data/DatabaseError.h"
@@ -9,17 +10,10 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
-
-#include <csignal>
-#include <cstdio>
-#include <cstring>
 
 namespace {
 
 using namespace GeneralModule;
-
-enum Status { Whole = 0, Failed = 1, BadUse = 2, InPart = 3 };
 
 constexpr const char* convertOption = "convert";
 constexpr const char* passwordOption = "password-file";
@@ -29,61 +23,6 @@ struct ConvertTexts
 {
     Q_DECLARE_TR_FUNCTIONS(Convert)
 };
-
-void Print(std::FILE* stream, const QString& line)
-{
-    std::fprintf(stream, "%s\n", line.toLocal8Bit().constData());
-}
-
-void Complain(const QString& about, const QString& text)
-{
-    Print(stderr, QStringLiteral("lumenark: %1: %2").arg(QDir::toNativeSeparators(about), text));
-}
-
-// A failure whose text comes from here, not from a layer below.
-struct Trouble
-{
-    QString about;
-    QString text;
-};
-
-volatile std::sig_atomic_t caughtSignal = 0;
-
-struct Interrupted
-{
-};
-
-void CheckSignals()
-{
-    if (caughtSignal != 0)
-        throw Interrupted();
-}
-
-// So that the unfinished album is removed before the program ends.
-void CatchSignals()
-{
-    for (const int signal : {SIGINT, SIGTERM})
-        std::signal(signal, [](int number) { caughtSignal = number; });
-}
-
-int EndBySignal()
-{
-    std::signal(caughtSignal, SIG_DFL);
-    std::raise(caughtSignal);
-    return Failed;
-}
-
-// The file's first line, without its line end.
-QString ReadPassword(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw Trouble{path, file.errorString()};
-    QByteArray line = file.readLine();
-    while (line.endsWith('\n') || line.endsWith('\r'))
-        line.chop(1);
-    return QString::fromUtf8(line);
-}
 
 QString FittingPassword(const OldAlbumFile& old, const QString& path,
                         const QCommandLineParser& parser)
@@ -128,11 +67,7 @@ int Convert(const QString& path, const QString& target, const QCommandLineParser
 
 bool IsConversion(int argc, char** argv)
 {
-    for (int i = 1; i < argc && std::strcmp(argv[i], "--") != 0; ++i) {
-        if (std::strcmp(argv[i], "--convert") == 0)
-            return true;
-    }
-    return false;
+    return HasOption(argc, argv, {"--convert"});
 }
 
 void AddConversionOptions(QCommandLineParser& parser)

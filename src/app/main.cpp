@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Application.h"
+#include "CommandLine.h"
 #include "Convert.h"
+#include "Descriptions.h"
 #include "Translations.h"
 
 #include "core/Album.h"
@@ -9,23 +11,12 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 
-#include <algorithm>
-#include <array>
-#include <cstring>
-#include <string_view>
-
 namespace {
 
 // Whether the arguments only ask for help or the version, which needs no display.
 bool AsksOnly(int argc, char** argv)
 {
-    static constexpr std::array<std::string_view, 5> questions{"-h", "--help", "--help-all", "-v",
-                                                               "--version"};
-    for (int i = 1; i < argc && std::strcmp(argv[i], "--") != 0; ++i) {
-        if (std::find(questions.begin(), questions.end(), argv[i]) != questions.end())
-            return true;
-    }
-    return false;
+    return HasOption(argc, argv, {"-h", "--help", "--help-all", "-v", "--version"});
 }
 
 // The album to open, empty for none. Absolute, because the program makes its own folder the current
@@ -37,6 +28,7 @@ QString ReadArguments()
     parser.addHelpOption();
     parser.addVersionOption();
     AddConversionOptions(parser);
+    AddDescriptionOptions(parser);
     parser.addPositionalArgument(
         QStringLiteral("album"),
         QApplication::tr("The album to open; the last one when not given."),
@@ -53,6 +45,8 @@ int main(int argc, char** argv)
     // Before anything that needs a display.
     if (IsConversion(argc, argv))
         return RunConversion(argc, argv);
+    if (IsDescriptionTransfer(argc, argv))
+        return RunDescriptionTransfer(argc, argv);
     if (AsksOnly(argc, argv)) {
         QCoreApplication application(argc, argv);
         NameProgram();

@@ -16,6 +16,16 @@ QString ColumnTitle(int column)
                : label;
 }
 
+QString DistinctTitle(int column)
+{
+    const bool hasTwin = GroupOf(column) == 1 || GroupOf(column) == 2;
+    if (!hasTwin || GeneralModule::ColumnLabel(LabelledColumnOf(column)).isEmpty())
+        return ColumnTitle(column);
+    const QString group = GeneralModule::CaractLabel(GroupOf(column));
+    return QStringLiteral("%1 (%2)").arg(ColumnTitle(column),
+                                         group.isEmpty() ? QString::number(column + 1) : group);
+}
+
 QString SharedTitle(int column)
 {
     const auto twin = TwinColumnOf(column);

@@ -9,6 +9,9 @@
 
 QString ColumnTitle(int column);
 
+// The same, with the group's label or the column's number where the twin has the same title.
+QString DistinctTitle(int column);
+
 // For a caption that a column shares with its twin: their label, else both numbers.
 QString SharedTitle(int column);
 

@@ -5,6 +5,7 @@
 #include "catalogue/MovedPictures.h"
 #include "catalogue/PictureCards.h"
 #include "catalogue/frmEditImage.h"
+#include "catalogue/frmTakeFromFiles.h"
 #include "core/Album.h"
 #include "core/LocalCopy.h"
 #include "core/PictureList.h"
@@ -84,6 +85,7 @@ void frmFindPictures::ConnectControls()
                   {ui_->cmdDescribe, "index-pictures", &Form::cmdDescribe_Click},
                   {ui_->cmdDescribeTogether, "", &Form::cmdDescribeTogether_Click},
                   {ui_->cmdLink, "link", &Form::cmdLink_Click},
+                  {ui_->cmdTakeFromFiles, "load-pictures", &Form::cmdTakeFromFiles_Click},
                   {ui_->cmdMakeParagraph, "chapter-create", &Form::cmdMakeParagraph_Click},
                   {ui_->cmdExit, "exit", &Form::cmdExit_Click},
               });
@@ -203,6 +205,7 @@ void frmFindPictures::RefreshState()
     OfferUnless(*ui_->cmdDescribe, hasChosen, reason);
     OfferUnless(*ui_->cmdDescribeTogether, hasPictures, reason);
     OfferUnless(*ui_->cmdLink, hasChosen, reason);
+    OfferUnless(*ui_->cmdTakeFromFiles, hasPictures, reason);
     OfferUnless(*ui_->cmdMakeParagraph, true, reason);
     if (CurrentParagraph == 0 || !hasChosen)
         return;
@@ -309,6 +312,17 @@ void frmFindPictures::cmdLink_Click()
     linked_ = LinkedFiles(CurrentParagraph);
     ui_->sheet->MarksChanged();
     RefreshState();
+}
+
+// Several chosen ones, else all that were found.
+void frmFindPictures::cmdTakeFromFiles_Click()
+{
+    frmTakeFromFiles window(this);
+    window.Pictures = ui_->sheet->GetSelected();
+    if (window.Pictures.size() <= 1)
+        window.Pictures = ui_->sheet->GetPictures();
+    if (window.exec() == QDialog::Accepted)
+        SearchAgain();
 }
 
 void frmFindPictures::cmdMakeParagraph_Click()

@@ -53,6 +53,7 @@ private:
     void cmdDescribe_Click();
     void cmdDescribeTogether_Click();
     void cmdLink_Click();
+    void cmdTakeFromFiles_Click();
     void cmdMakeParagraph_Click();
     void cmdExit_Click();
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "catalogue/PictureCards.h"
 #include "catalogue/frmCDBuffer.h"
 #include "catalogue/frmEditImage.h"
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "catalogue/frmLoadFiles.h"
 #include "catalogue/frmReloadPictures.h"
+#include "catalogue/frmTakeFromFiles.h"
 #include "core/StartUp.h"
 #include "gallery/frmDescribePictures.h"
 #include "gallery/frmFindPictures.h"
@@ -29,7 +31,8 @@ inline constexpr std::array everyWindow{
     "frmOpenChapter",        "frmReelvane",       "frmFullScreen",     "frmEditParagraph",
     "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",     "frmEditLabels",
     "frmLoadFiles",          "frmReloadPictures", "frmSelectImages",   "frmAbout",
-    "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures", "frmDescribePictures"};
+    "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures", "frmDescribePictures",
+    "frmTakeFromFiles"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -80,6 +83,11 @@ protected:
         if (name == "frmEditImage") {
             auto* window = Make<frmEditImage>();
             window->CurrentImage = picture_;
+            return window;
+        }
+        if (name == "frmTakeFromFiles") {
+            auto* window = Make<frmTakeFromFiles>();
+            window->Pictures = AllPictureIds();
             return window;
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,

@@ -2,7 +2,7 @@
 #include "platform/oldalbum/OldAlbumFile.h"
 
 #include "platform/data/DatabaseError.h"
-#include "platform/oldalbum/ReaderProcess.h"
+#include "platform/helper/HelperProcess.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -24,6 +24,8 @@ constexpr qint64 volumeFactor = 40;
 constexpr qint64 volumeBase = 4 * 1024 * 1024;
 
 constexpr qsizetype maxTables = 10000;
+
+const QString readerProgram = QStringLiteral("lumenark-import");
 
 OldValue TakeValue(FrameContents& contents)
 {
@@ -87,7 +89,7 @@ bool OldAlbumFile::ReadList(bool wholeFile)
     QStringList arguments{QStringLiteral("tables"), path_};
     if (wholeFile)
         arguments += QStringLiteral("file");
-    ReaderProcess reader(arguments);
+    HelperProcess reader(readerProgram, arguments);
     while (const auto frame = reader.Next(patience_)) {
         if (reader.GetVolume() > MaxVolume())
             return false;
@@ -113,7 +115,7 @@ bool OldAlbumFile::ReadList(bool wholeFile)
 
 bool OldAlbumFile::PasswordFits(const QString& password) const
 {
-    ReaderProcess reader({QStringLiteral("password"), path_});
+    HelperProcess reader(readerProgram, {QStringLiteral("password"), path_});
     return reader.Finish(password.toUtf8()) == OldAlbumStream::Done;
 }
 
@@ -153,7 +155,7 @@ bool OldAlbumFile::RunReader(const Table& table, Progress& progress, OldTableVis
         arguments += QStringLiteral("file");
     if (progress.isRest)
         arguments += QStringLiteral("rest");
-    ReaderProcess reader(arguments);
+    HelperProcess reader(readerProgram, arguments);
     const qint64 earlier = volume_;
     while (const auto frame = reader.Next(patience_)) {
         volume_ = earlier + reader.GetVolume();
@@ -161,7 +163,7 @@ bool OldAlbumFile::RunReader(const Table& table, Progress& progress, OldTableVis
             restarts_ = maxRestarts;
             return false;
         }
-        if (TakeFrame(frame->kind, frame->contents, progress, visitor))
+        if (TakeFrame(OldAlbumStream::Frame(frame->kind), frame->contents, progress, visitor))
             return true;
     }
     if (reader.Finish() == OldAlbumStream::TableUnreadable)

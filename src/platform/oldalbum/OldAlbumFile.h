@@ -9,7 +9,7 @@
 
 #include <vector>
 
-class ReaderProcess;
+class HelperProcess;
 
 // A field's value in an album of the former file format.
 struct OldValue

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 
-// The standard output of the reader of former albums, read by the program that started it. A frame
-// is its kind (one byte), the size of its contents (four bytes) and the contents. All numbers are
-// 32-bit little-endian; texts are their size, then UTF-8.
+// The frames (FrameStream.h) that the reader of former albums writes. Texts are UTF-8.
 namespace OldAlbumStream {
 
 enum Frame : unsigned char {
@@ -19,8 +16,6 @@ enum Frame : unsigned char {
     LostRow = 'X', // page and row of an unreadable row
     End = 'E',     // all was read; a stream without it is incomplete
 };
-
-constexpr std::size_t frameHead = 5; // bytes
 
 // A value is its size, which may carry a mark, and its bytes. These two sizes have no bytes.
 constexpr std::uint32_t nullValue = 0xFFFFFFFF;

@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Reads albums of the former file format for Lumenark, which starts it
+// SPDX-License-Identifier: MIT
+// Reads albums of the former file format for Lumenark, which starts it
 // as a separate process: such files come from anywhere, and a damaged one can make the library that
 // reads them crash or run for ever.
 //
@@ -12,12 +13,9 @@
 #include "JetFile.h"
 #include "JetTable.h"
 #include "JetValue.h"
-#include "StreamWriter.h"
-
-#include <fcntl.h>
-#include <sys/resource.h>
-#include <sys/time.h>
-#include <unistd.h>
+#include "platform/helper/child/FrameWriter.h"
+#include "platform/helper/child/Limits.h"
+#include "platform/oldalbum/OldAlbumStream.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -31,46 +29,27 @@ namespace {
 
 constexpr std::uint32_t catalogPage = 2; // of the table that lists all tables
 constexpr long secondsPerPage = 2;       // of processor time; a page takes a few microseconds
-constexpr rlim_t maxMemory = 512 * 1024 * 1024;
+constexpr std::size_t maxMemory = 512 * 1024 * 1024;
 constexpr std::uint32_t systemFlags = 0x80000002;
 
-// The timer counts processor time only, so that neither a slow disk nor a busy machine ends the
-// reading. When it expires, its signal kills the process.
 void WindUpClock()
 {
-    itimerval time = {};
-    time.it_value.tv_sec = secondsPerPage;
-    setitimer(ITIMER_PROF, &time, nullptr);
+    LimitProcessorTime(secondsPerPage);
 }
 
 void LimitMyself()
 {
-    const rlimit none = {0, 0};
-    setrlimit(RLIMIT_CORE, &none);
-#ifndef __SANITIZE_ADDRESS__ // reserves far more address space than it uses
-    const rlimit memory = {maxMemory, maxMemory};
-    setrlimit(RLIMIT_AS, &memory);
-#endif
+    LimitMemory(maxMemory);
     // These variables would change how the library reads.
     for (const char* name : {"MDBICONV", "MDB_JET3_CHARSET", "MDBOPTS", "MDBPATH"})
         unsetenv(name);
     WindUpClock();
 }
 
-// Discards what the library prints to standard output and standard error.
-int TakeOutput()
-{
-    const int output = dup(STDOUT_FILENO);
-    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-    dup2(nowhere, STDOUT_FILENO);
-    dup2(nowhere, STDERR_FILENO);
-    return output;
-}
-
 class RowWriter : public JetTable::Visitor
 {
 public:
-    RowWriter(const JetFile& file, std::vector<const MdbColumn*> columns, StreamWriter& stream,
+    RowWriter(const JetFile& file, std::vector<const MdbColumn*> columns, FrameWriter& stream,
               bool careful)
         : file_(file), columns_(std::move(columns)), stream_(stream), careful_(careful)
     {
@@ -132,7 +111,7 @@ private:
 
     const JetFile& file_;
     std::vector<const MdbColumn*> columns_;
-    StreamWriter& stream_;
+    FrameWriter& stream_;
     bool careful_;
 };
 
@@ -141,7 +120,7 @@ class CatalogWriter : public JetTable::Visitor
 {
 public:
     CatalogWriter(const JetFile& file, const std::vector<const MdbColumn*>& columns,
-                  StreamWriter& stream)
+                  FrameWriter& stream)
         : file_(file), columns_(columns), stream_(stream)
     {
     }
@@ -189,10 +168,10 @@ private:
 
     const JetFile& file_;
     const std::vector<const MdbColumn*>& columns_;
-    StreamWriter& stream_;
+    FrameWriter& stream_;
 };
 
-int WriteEnd(StreamWriter& stream)
+int WriteEnd(FrameWriter& stream)
 {
     stream.Begin(End);
     stream.End();
@@ -200,7 +179,7 @@ int WriteEnd(StreamWriter& stream)
     return Done;
 }
 
-int WriteTables(const JetFile& file, JetTable::Pages pages, StreamWriter& stream)
+int WriteTables(const JetFile& file, JetTable::Pages pages, FrameWriter& stream)
 {
     stream.Begin(Header);
     stream.Number(file.GetPassword().empty() ? 0 : 1);
@@ -215,7 +194,7 @@ int WriteTables(const JetFile& file, JetTable::Pages pages, StreamWriter& stream
 }
 
 int WriteRows(const JetFile& file, std::uint32_t page, JetTable::Place from, bool careful,
-              JetTable::Pages pages, StreamWriter& stream)
+              JetTable::Pages pages, FrameWriter& stream)
 {
     JetTable table(file, page);
     if (!table.IsReadable())
@@ -250,7 +229,7 @@ int Run(const std::vector<std::string>& arguments)
         std::cerr << "lumenark-import is started by lumenark, to read albums of former versions\n";
         return BadUse;
     }
-    StreamWriter stream(TakeOutput());
+    FrameWriter stream(TakeOutput());
     const auto file = JetFile::Open(arguments[2].c_str());
     if (!file)
         return NotReadable;

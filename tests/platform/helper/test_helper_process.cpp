@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/data/DatabaseError.h"
-#include "platform/oldalbum/ReaderProcess.h"
+#include "platform/helper/HelperQueue.h"
 #include "support/Rows.h"
 
 #include <QtTest>
@@ -16,12 +16,12 @@ QString PageFrame(int page)
         .arg(page, 3, 8, QLatin1Char('0'));
 }
 
-ReaderProcess Start(const QString& script)
+HelperProcess Start(const QString& script)
 {
-    return ReaderProcess({"-c", script}, "/bin/sh");
+    return HelperProcess("/bin/sh", {"-c", script});
 }
 
-quint32 PageOf(const std::optional<ReaderProcess::Frame>& frame)
+quint32 PageOf(const std::optional<HelperProcess::Frame>& frame)
 {
     return frame ? FrameContents(frame->contents).Number() : 0;
 }
@@ -29,14 +29,14 @@ quint32 PageOf(const std::optional<ReaderProcess::Frame>& frame)
 } // namespace
 
 // Readers that fail as no sound file makes them fail: scripts of the shell stand in for them.
-class TestReaderProcess : public QObject
+class TestHelperProcess : public QObject
 {
     Q_OBJECT
 
 private slots:
     void TakesFramesInPieces()
     {
-        ReaderProcess reader =
+        HelperProcess reader =
             Start("printf 'P\\004\\000'; sleep 0.1; printf '\\000\\000\\007\\000';"
                   "sleep 0.1; printf '\\000\\000';" +
                   PageFrame(8));
@@ -55,7 +55,7 @@ private slots:
         for (const QString& way :
              {u"exec sleep 100"_qs, drips, u"exec yes"_qs, u"kill -SEGV $$"_qs}) {
             const InRow row(way);
-            ReaderProcess reader = Start(PageFrame(3) + way);
+            HelperProcess reader = Start(PageFrame(3) + way);
             int patience = 20000;
             QCOMPARE(PageOf(reader.Next(patience)), 3U);
             const bool hangs = way == "exec sleep 100" || way == drips;
@@ -65,13 +65,34 @@ private slots:
             QVERIFY(!reader.Next(patience));
             QCOMPARE(reader.Finish(), -1);
         }
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, ReaderProcess({}, "/nowhere/reader"));
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, HelperProcess("/nowhere/reader", {}));
         QCOMPARE(Start("exec yes").Finish(), -1); // after seconds, of which nothing is kept
         rusage usage{};
         getrusage(RUSAGE_SELF, &usage);
         QVERIFY2(usage.ru_maxrss < 200'000, "KiB");
     }
+
+    // Each request is one byte, and so nine with its head.
+    void GoesOnAfterTheRequestThatKills()
+    {
+        const QString script = "printf 'H\\000\\000\\000\\000';"
+                               "while r=$(head -c 9 | od -An -tu1) && [ -n \"$r\" ]; do set -- $r;"
+                               "case $1 in 3|4|7) kill -SEGV $$;; esac;"
+                               "printf 'A\\006\\000\\000\\000';"
+                               "printf \"\\\\$(printf %03o $1)\\\\000\\\\000\\\\000ok\"; done";
+        QStringList answers;
+        HelperQueue queue("/bin/sh", {"-c", script}, 9, [](int) { return QByteArray("x"); });
+        while (queue.Work(std::chrono::milliseconds(50), [&answers](int number, auto contents) {
+            answers += QString::number(number) + (contents ? contents->toByteArray() : "dead");
+        }))
+            ;
+        QCOMPARE(answers.join(' '), "0ok 1ok 2ok 3dead 4dead 5ok 6ok 7dead 8ok");
+
+        HelperQueue broken("/bin/false", {}, 2, [](int) { return QByteArray("x"); });
+        QVERIFY_THROWS_EXCEPTION(
+            DatabaseError, while (broken.Work(std::chrono::milliseconds(50), [](int, auto) {})));
+    }
 };
 
-QTEST_GUILESS_MAIN(TestReaderProcess)
-#include "test_reader_process.moc"
+QTEST_GUILESS_MAIN(TestHelperProcess)
+#include "test_helper_process.moc"

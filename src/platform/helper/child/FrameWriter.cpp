@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "StreamWriter.h"
+#include "platform/helper/child/FrameWriter.h"
 
 #include <unistd.h>
 
@@ -18,33 +18,33 @@ void PutNumber(std::string& text, std::size_t at, std::uint32_t number)
 
 } // namespace
 
-void StreamWriter::Begin(OldAlbumStream::Frame frame)
+void FrameWriter::Begin(unsigned char kind)
 {
     frameStart_ = buffer_.size();
-    buffer_.push_back(char(frame));
+    buffer_.push_back(char(kind));
     buffer_.append(4, '\0');
 }
 
-void StreamWriter::Number(std::uint32_t number)
+void FrameWriter::Number(std::uint32_t number)
 {
     buffer_.append(4, '\0');
     PutNumber(buffer_, buffer_.size() - 4, number);
 }
 
-void StreamWriter::Text(std::string_view text, std::uint32_t mark)
+void FrameWriter::Text(std::string_view text, std::uint32_t mark)
 {
     Number(std::uint32_t(text.size()) | mark);
     buffer_.append(text);
 }
 
-void StreamWriter::End()
+void FrameWriter::End()
 {
-    PutNumber(buffer_, frameStart_ + 1, std::uint32_t(GetFrameSize() - OldAlbumStream::frameHead));
+    PutNumber(buffer_, frameStart_ + 1, std::uint32_t(GetFrameSize() - FrameStream::frameHead));
     if (buffer_.size() >= writeAt)
         Flush();
 }
 
-void StreamWriter::Flush()
+void FrameWriter::Flush()
 {
     std::string_view left = buffer_;
     while (!left.empty()) {

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <cstdio>
+#include <initializer_list>
+#include <string_view>
+
+// What the ways to use the program without windows share.
+
+enum ExitStatus { Whole = 0, Failed = 1, BadUse = 2, InPart = 3 };
+
+// Whether one of the options is among the arguments.
+bool HasOption(int argc, char** argv, std::initializer_list<std::string_view> options);
+
+void Print(std::FILE* stream, const QString& line);
+// "lumenark: about: text" on standard error.
+void Complain(const QString& about, const QString& text);
+
+// A failure whose text comes from the command, not from a layer below.
+struct Trouble
+{
+    QString about;
+    QString text;
+};
+
+// The file's first line, without its line end. Throws Trouble.
+QString ReadPassword(const QString& path);
+
+// Thrown by CheckSignals once the user has ended the program, so that what is not complete is
+// removed first.
+struct Interrupted
+{
+};
+
+void CatchSignals();
+bool HasSignal();
+void CheckSignals();
+// Ends the program as the signal would have.
+int EndBySignal();
