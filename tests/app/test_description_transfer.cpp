@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "core/AlbumPassword.h"
 #include "platform/shell/ProgramFolder.h"
 #include "support/AlbumTest.h"
 
@@ -74,6 +75,25 @@ private slots:
         QCOMPARE(result.errors,
                  "lumenark: /nowhere/b.jpg: The album does not hold this picture.\n");
         QCOMPARE(picture, album_->Joined("SELECT File FROM Image"));
+    }
+
+    void TakesThePasswordFromAFile()
+    {
+        const QString secret = album_->PathOf("secret");
+        const QString table = album_->PathOf("t.csv");
+        QVERIFY(GeneralModule::SetAlbumPassword("mirabelle 8"));
+        const QStringList arguments{"--export-descriptions", album_->GetAlbum(), "--to", table};
+        TransferResult result = Transfer(arguments);
+        QCOMPARE(result.status, 1);
+        QVERIFY2(result.errors.contains("with --password-file."), qPrintable(result.errors));
+        for (const auto& [line, status] :
+             {std::pair("wrong\n", 1), {"mirabelle 8\r\nnotes\n", 0}}) {
+            WriteFile(secret, line);
+            result = Transfer(arguments + QStringList{"--password-file", secret});
+            QCOMPARE(result.status, status);
+            QCOMPARE(result.errors.contains("The password is wrong."), status == 1);
+        }
+        QVERIFY(QFile::exists(table));
     }
 };
 
