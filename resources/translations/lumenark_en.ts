@@ -133,6 +133,51 @@
     </message>
 </context>
 <context>
+    <name>DescriptionTransfer</name>
+    <message numerus="yes">
+        <source>and %n other(s)</source>
+        <translation>
+            <numerusform>and %n other</numerusform>
+            <numerusform>and %n others</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The descriptions of %n picture(s) were written.</source>
+        <translation>
+            <numerusform>The description of %n picture was written.</numerusform>
+            <numerusform>The descriptions of %n pictures were written.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write an XMP file beside each of %n picture(s)? What other programs have written into such files stays.</source>
+        <translation>
+            <numerusform>Write an XMP file beside the picture (%n picture)? What other programs have written into such a file stays.</numerusform>
+            <numerusform>Write an XMP file beside each of %n pictures? What other programs have written into such files stays.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are described so already.</source>
+        <translation>
+            <numerusform>%n picture is described so already.</numerusform>
+            <numerusform>%n pictures are described so already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are not in the album.</source>
+        <translation>
+            <numerusform>%n picture is not in the album.</numerusform>
+            <numerusform>%n pictures are not in the album.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) come a second time, which does not count.</source>
+        <translation>
+            <numerusform>%n picture comes a second time, which does not count.</numerusform>
+            <numerusform>%n pictures come a second time, which does not count.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>DroppedFiles</name>
     <message numerus="yes">
         <source>%n file(s) left out: their names are not valid text</source>

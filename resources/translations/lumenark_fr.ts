@@ -688,6 +688,79 @@
     </message>
 </context>
 <context>
+    <name>DescriptionTransfer</name>
+    <message numerus="yes">
+        <source>and %n other(s)</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The descriptions of %n picture(s) were written.</source>
+        <translation>
+            <numerusform>La description de %n photo a été écrite.</numerusform>
+            <numerusform>Les descriptions de %n photos ont été écrites.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write an XMP file beside each of %n picture(s)? What other programs have written into such files stays.</source>
+        <translation>
+            <numerusform>Écrire un fichier XMP à côté de la photo (%n photo) ? Ce que d&apos;autres programmes ont écrit dans un tel fichier reste.</numerusform>
+            <numerusform>Écrire un fichier XMP à côté de chacune des %n photos ? Ce que d&apos;autres programmes ont écrit dans de tels fichiers reste.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are described so already.</source>
+        <translation>
+            <numerusform>%n photo est déjà décrite ainsi.</numerusform>
+            <numerusform>%n photos sont déjà décrites ainsi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are not in the album.</source>
+        <translation>
+            <numerusform>%n photo n&apos;est pas dans l&apos;album.</numerusform>
+            <numerusform>%n photos ne sont pas dans l&apos;album.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) come a second time, which does not count.</source>
+        <translation>
+            <numerusform>%n photo revient une seconde fois, ce qui ne compte pas.</numerusform>
+            <numerusform>%n photos reviennent une seconde fois, ce qui ne compte pas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Table|*.csv</source>
+        <translation>Table|*.csv</translation>
+    </message>
+    <message>
+        <source>Export Descriptions</source>
+        <translation>Exporter les descriptions</translation>
+    </message>
+    <message>
+        <source>You stopped before the end.</source>
+        <translation>Vous avez arrêté avant la fin.</translation>
+    </message>
+    <message>
+        <source>Import Descriptions</source>
+        <translation>Importer des descriptions</translation>
+    </message>
+    <message>
+        <source>The column &quot;%1&quot; fits none of the album.</source>
+        <translation>La colonne « %1 » ne correspond à aucune de l&apos;album.</translation>
+    </message>
+    <message>
+        <source>Change the album ?</source>
+        <translation>Modifier l&apos;album ?</translation>
+    </message>
+    <message>
+        <source>You stopped it, and nothing was changed.</source>
+        <translation>Vous l&apos;avez arrêté, et rien n&apos;a été changé.</translation>
+    </message>
+</context>
+<context>
     <name>DroppedFiles</name>
     <message numerus="yes">
         <source>%n file(s) left out: their names are not valid text</source>
@@ -3222,6 +3295,26 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
     <message>
         <source>5. Read the chapter, or let it play.</source>
         <translation>5. Lisez le chapitre, ou laissez-le défiler.</translation>
+    </message>
+    <message>
+        <source>Descriptions</source>
+        <translation>Descriptions</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>Exporter une table</translation>
+    </message>
+    <message>
+        <source>Import Table</source>
+        <translation>Importer une table</translation>
+    </message>
+    <message>
+        <source>Export XMP Files</source>
+        <translation>Exporter des fichiers XMP</translation>
+    </message>
+    <message>
+        <source>Import XMP Files</source>
+        <translation>Importer des fichiers XMP</translation>
     </message>
 </context>
 <context>

@@ -51,6 +51,53 @@ private slots:
         QVERIFY(dialogs_->IsDone());
     }
 
+    void DescriptionsGoOutAndIn()
+    {
+        album_->AddPicture("a.jpg", {{"Legend", "A;\"b\""}, {"Car3", "Anna"}});
+        album_->AddPicture("b.jpg", {{"Legend", "=1"}});
+        const auto descriptions = [this] {
+            return album_->Rows("SELECT Legend,Car3,Car9 FROM Image");
+        };
+        const QStringList before = descriptions();
+        Start();
+        const QString table = album_->PathOf("out.csv");
+        dialogs_->ExpectSaveFile("Export Descriptions", table,
+                                 QFileInfo(album_->GetAlbum()).completeBaseName() + ".csv");
+        dialogs_->ExpectBox("The descriptions of 2 picture(s) were written.");
+        Choose("mnuExportTable");
+        const QString question = "Write an XMP file beside each of 2 picture(s)? What other "
+                                 "programs have written into such files stays.";
+        dialogs_->ExpectBox(question, Icon::Question, Buttons::YesNo, Answer::No);
+        Choose("mnuExportSidecars");
+        QVERIFY(!QFile::exists(album_->PathOf("a.jpg.xmp")));
+        for (const char* entry : {"mnuImportTable", "mnuImportSidecars"}) {
+            const bool isTable = entry == QLatin1String("mnuImportTable");
+            const auto choose = [&] {
+                if (isTable)
+                    dialogs_->ExpectOpenFile("Import Descriptions", table);
+            };
+            if (!isTable) {
+                dialogs_->ExpectBox(question, Icon::Question, Buttons::YesNo, Answer::Yes);
+                dialogs_->ExpectBox("The descriptions of 2 picture(s) were written.");
+                Choose("mnuExportSidecars");
+            }
+            album_->Execute("UPDATE Image SET Legend='x', Car3='-' WHERE rowid=1");
+            const QStringList changed = descriptions();
+            for (const Answer answer : {Answer::No, Answer::Yes}) {
+                choose();
+                dialogs_->ExpectBoxBeginning("1 picture(s) change: 1 legend(s), ", Icon::Question,
+                                             Buttons::YesNo, answer);
+                if (answer == Answer::Yes)
+                    dialogs_->ExpectBox("1 picture(s) changed.");
+                Choose(entry);
+                QCOMPARE(descriptions(), answer == Answer::Yes ? before : changed);
+            }
+        }
+        dialogs_->ExpectBox("Nothing changes.\n2 picture(s) are described so already.");
+        Choose("mnuImportSidecars");
+        QVERIFY(dialogs_->IsDone());
+    }
+
     void TheSheetTellsAllKeys()
     {
         AddChapters({"A"});

@@ -35,7 +35,7 @@ enum Coding : std::uint32_t {
 };
 
 // The program's own fields in a sidecar. Their texts are as QuotedText writes them.
-inline constexpr char ownNamespace[] = "https://lumenark.github.io/ns/1.0/";
+inline constexpr char ownNamespace[] = "urn:lumenark:descriptions:1.0/";
 inline constexpr char ownPrefix[] = "lumenark";
 
 } // namespace MetadataStream

@@ -20,6 +20,7 @@
 #include "ui/main/AlbumOpener.h"
 #include "ui/main/AlbumStatus.h"
 #include "ui/main/ChapterList.h"
+#include "ui/main/DescriptionTransfer.h"
 #include "ui/main/FileDrop.h"
 #include "ui/main/GuidanceLook.h"
 #include "ui/main/LookOptions.h"
@@ -105,6 +106,14 @@ void frmOpenChapter::ConnectCommands()
          &State::offersPictureCommands, true},
         {on(&Form::mnuFindPictures_Click), "", nullptr, ui.mnuFindPictures,
          &State::offersPictureCommands},
+        {on(&Form::mnuExportTable_Click), "", nullptr, ui.mnuExportTable,
+         &State::offersPictureCommands},
+        {on(&Form::mnuImportTable_Click), "", nullptr, ui.mnuImportTable,
+         &State::offersPictureCommands, true},
+        {on(&Form::mnuExportSidecars_Click), "", nullptr, ui.mnuExportSidecars,
+         &State::offersPictureCommands},
+        {on(&Form::mnuImportSidecars_Click), "", nullptr, ui.mnuImportSidecars,
+         &State::offersPictureCommands, true},
         {on(&Form::mnuAllPictures_Click), "", nullptr, ui.mnuAllPictures,
          &State::offersPictureCommands},
         {on(&Form::mnuSelectedPictures_Click), "", nullptr, ui.mnuSelectedPictures,
@@ -315,6 +324,28 @@ void frmOpenChapter::mnuLoadPictures_Click()
     frmLoadFiles loading(this);
     loading.DescribePictures = DescribeTogether;
     loading.exec();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuExportTable_Click()
+{
+    DescriptionTransfer(ui_->progress).ExportTable();
+}
+
+void frmOpenChapter::mnuImportTable_Click()
+{
+    DescriptionTransfer(ui_->progress).ImportTable();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuExportSidecars_Click()
+{
+    DescriptionTransfer(ui_->progress).ExportSidecars();
+}
+
+void frmOpenChapter::mnuImportSidecars_Click()
+{
+    DescriptionTransfer(ui_->progress).ImportSidecars();
     RefreshState();
 }
 

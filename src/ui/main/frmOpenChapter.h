@@ -57,6 +57,10 @@ private:
     void cmdMoveUp_Click();
     void cmdMoveDown_Click();
     void mnuLoadPictures_Click();
+    void mnuExportTable_Click();
+    void mnuImportTable_Click();
+    void mnuExportSidecars_Click();
+    void mnuImportSidecars_Click();
     void mnuReloadPictures_Click();
     void mnuUndefined_Click();
     void mnuSelectedUndefined_Click();
