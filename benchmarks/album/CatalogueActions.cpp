@@ -80,7 +80,8 @@ Action Selecting(const char* name, const QString& folder, const QString& value, 
 {
     return {name, OpenToRead,
             [=](LargeAlbum&) {
-                const FoundPictures found = FindSelection(folder, value, GeneralModule::maxListed, [](int) {});
+                const FoundPictures found =
+                    FindSelection(folder, value, GeneralModule::maxListed, [](int) {});
                 Require(!found.failure && found.list.Count() > 0);
             },
             [bare](LargeAlbum&) { ListBare(bare, GeneralModule::maxListed); }};

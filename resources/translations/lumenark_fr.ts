@@ -2264,6 +2264,125 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>StarterLabels</name>
+    <message>
+        <source>Family</source>
+        <translation>Famille</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Événement</translation>
+    </message>
+    <message>
+        <source>First person</source>
+        <translation>Première personne</translation>
+    </message>
+    <message>
+        <source>Second person</source>
+        <translation>Deuxième personne</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Année</translation>
+    </message>
+    <message>
+        <source>Occasion</source>
+        <translation>Occasion</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lieu</translation>
+    </message>
+    <message>
+        <source>Person</source>
+        <translation>Personne</translation>
+    </message>
+    <message>
+        <source>Activity</source>
+        <translation>Activité</translation>
+    </message>
+    <message>
+        <source>Mood</source>
+        <translation>Humeur</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Saison</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Journeys</source>
+        <translation>Voyages</translation>
+    </message>
+    <message>
+        <source>Journey</source>
+        <translation>Voyage</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Pays</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>Sujet</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Temps qu&apos;il fait</translation>
+    </message>
+    <message>
+        <source>Time of Day</source>
+        <translation>Moment du jour</translation>
+    </message>
+    <message>
+        <source>Nature</source>
+        <translation>Nature</translation>
+    </message>
+    <message>
+        <source>First species</source>
+        <translation>Première espèce</translation>
+    </message>
+    <message>
+        <source>Second species</source>
+        <translation>Deuxième espèce</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Région</translation>
+    </message>
+    <message>
+        <source>Habitat</source>
+        <translation>Habitat</translation>
+    </message>
+    <message>
+        <source>Species</source>
+        <translation>Espèce</translation>
+    </message>
+    <message>
+        <source>Behaviour</source>
+        <translation>Comportement</translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation>Stade</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Lumière</translation>
+    </message>
+</context>
+<context>
     <name>StayAwake</name>
     <message>
         <source>A story is on show</source>
@@ -2651,6 +2770,14 @@ Le supprimer quand même ?</translation>
     <message>
         <source>One of these labels</source>
         <translation>Une de ces étiquettes</translation>
+    </message>
+    <message>
+        <source>Fill the empty boxes with names that suit many albums</source>
+        <translation>Remplir les cases vides avec des noms qui conviennent à beaucoup d&apos;albums</translation>
+    </message>
+    <message>
+        <source>Propose Names</source>
+        <translation>Proposer des noms</translation>
     </message>
 </context>
 <context>

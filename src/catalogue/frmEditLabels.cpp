@@ -9,6 +9,8 @@
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 
+#include <QMenu>
+
 #include <algorithm>
 #include <iterator>
 
@@ -28,6 +30,7 @@ frmEditLabels::frmEditLabels(QWidget* parent)
     ui_->cmdExit->setIcon(ThemedIcon(QStringLiteral("exit")));
     connect(ui_->cmdExit, &QPushButton::clicked, this,
             Guarded(this, &frmEditLabels::cmdExit_Click));
+    OfferStarters();
     RunGuarded([this] { Form_Load(); });
 }
 
@@ -49,6 +52,29 @@ void frmEditLabels::Form_Load()
         Load(txtCaract(group), CaractParam(group));
     for (const int column : labelledColumns)
         Load(txtCar(column), CarField(column));
+}
+
+void frmEditLabels::OfferStarters()
+{
+    auto* menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("mnuPropose"));
+    for (const LabelSet& labels : StarterLabels())
+        connect(menu->addAction(labels.name), &QAction::triggered, this,
+                [this, labels] { Propose(labels); });
+    ui_->cmdPropose->setMenu(menu);
+}
+
+// What has a name keeps it; Exit keeps the rest.
+void frmEditLabels::Propose(const LabelSet& labels)
+{
+    const auto fill = [](QLineEdit& box, const QString& label) {
+        if (box.text().isEmpty())
+            box.setText(label);
+    };
+    for (int group = 0; group < groupCount; ++group)
+        fill(*txtCaract(group), labels.groups[std::size_t(group)]);
+    for (std::size_t i = 0; i < labelledColumns.size(); ++i)
+        fill(*txtCar(labelledColumns[i]), labels.columns[i]);
 }
 
 // A label that cannot be read is not added to the list, and so never written.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "catalogue/StarterLabels.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -35,6 +37,8 @@ private:
     // Removes the labels where another window's change is to stay. False when the user wants to
     // stay.
     bool SettleConflicts(std::vector<Label>& edited);
+    void OfferStarters();
+    void Propose(const LabelSet& labels);
     void cmdExit_Click();
 
     QLineEdit* txtCaract(int group) const;

@@ -186,6 +186,26 @@ private slots:
         QCOMPARE(caption("optColumn_3"), "Car_11 && co");
     }
 
+    void ProposesLabels()
+    {
+        SetColumnLabel(3, "Who");
+        frmEditLabels labels;
+        labels.show();
+        const QList<QAction*> sets = Find<QMenu>(labels, "mnuPropose").actions();
+        QCOMPARE(sets.size(), 3);
+        sets[1]->trigger();
+        QCOMPARE(ColumnLabel(1), ""); // until Exit
+        ::Click(labels, "cmdExit");
+        QCOMPARE(ColumnLabel(1), "Country");
+        QCOMPARE(ColumnLabel(3), "Who");
+        QCOMPARE(ColumnLabel(11), "Time of Day");
+        QCOMPARE(CaractLabel(0), "Journey");
+        for (const LabelSet& set : StarterLabels()) {
+            for (const QString& label : set.columns)
+                QVERIFY(!label.isEmpty());
+        }
+    }
+
     // Of another window's labels only those that this one edits are asked about, or written.
     void LabelsThatAnotherWindowNames()
     {
