@@ -28,6 +28,7 @@ frmEditLabels::frmEditLabels(QWidget* parent)
     ui_->setupUi(this);
     KeepWindowSize(this, proposedSize);
     ui_->cmdExit->setIcon(ThemedIcon(QStringLiteral("exit")));
+    ui_->cmdPropose->setIcon(ThemedIcon(QStringLiteral("rename")));
     connect(ui_->cmdExit, &QPushButton::clicked, this,
             Guarded(this, &frmEditLabels::cmdExit_Click));
     OfferStarters();
