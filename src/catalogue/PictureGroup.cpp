@@ -18,7 +18,7 @@ using GeneralModule::AlbumDatabase;
 
 namespace {
 
-constexpr std::size_t legendField = columnCount;
+constexpr std::size_t legendPlace = columnCount;
 constexpr int picturesBetweenLooks = 64; // at the clock
 
 QByteArray QuotedColumn(int column)
@@ -112,7 +112,7 @@ bool GroupReading::Work(std::chrono::milliseconds time)
             continue;
         for (std::size_t field = 0; field < counts_.size(); ++field) {
             const std::string_view text = row.GetUtf8(int(field));
-            const bool isNone = text.empty() && field != legendField;
+            const bool isNone = text.empty() && field != legendPlace;
             ++counts_[field][isNone ? noValue.toStdString() : std::string(text)];
         }
         ++found_;
@@ -127,7 +127,7 @@ GroupDescription GroupReading::GetDescription() const
     description.pictures = found_;
     for (std::size_t column = 0; column < columnCount; ++column)
         description.columns[column] = FieldOf(counts_[column]);
-    description.legend = FieldOf(counts_[legendField]);
+    description.legend = FieldOf(counts_[legendPlace]);
     return description;
 }
 

@@ -22,7 +22,7 @@ QString TableFilter()
     return DescriptionTransfer::tr("Table|*.csv");
 }
 
-QString Joined(QStringList lines)
+QString FirstLines(QStringList lines)
 {
     const qsizetype others = lines.size() - maxLines;
     if (others > 0) {
@@ -88,7 +88,7 @@ void DescriptionTransfer::ExportSidecars() const
     if (!isWhole)
         lines += tr("You stopped before the end.");
     const bool isFine = isWhole && work.GetTroubles().isEmpty();
-    Tell(Joined(lines + work.GetTroubles()),
+    Tell(FirstLines(lines + work.GetTroubles()),
          isFine ? Dialogs::Icon::Information : Dialogs::Icon::Warning);
 }
 
@@ -126,8 +126,8 @@ void DescriptionTransfer::Import(const std::vector<ImportedDescription>& importe
         lines += tr("%n picture(s) come a second time, which does not count.", nullptr,
                     int(comparison.repeated.size()));
     if (comparison.changes.empty())
-        return Tell(Joined(lines));
-    if (!AgreesTo(Joined(lines) + u'\n' + tr("Change the album ?")))
+        return Tell(FirstLines(lines));
+    if (!AgreesTo(FirstLines(lines) + u'\n' + tr("Change the album ?")))
         return;
     std::optional<ChangeResult> result;
     {
