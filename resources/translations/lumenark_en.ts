@@ -281,6 +281,16 @@
     </message>
 </context>
 <context>
+    <name>frmEditTables</name>
+    <message numerus="yes">
+        <source>%n pictures still have &apos;%1&apos;</source>
+        <translation>
+            <numerusform>%n picture still has &apos;%1&apos;</numerusform>
+            <numerusform>%n pictures still have &apos;%1&apos;</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>frmLinkedPictures</name>
     <message numerus="yes">
         <source>%n linked pictures, which the paragraph shows first, in this order</source>

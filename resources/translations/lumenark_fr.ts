@@ -3039,6 +3039,17 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
         <source>Replace all occurences of %1 by :</source>
         <translation>Remplacer partout %1 par :</translation>
     </message>
+    <message numerus="yes">
+        <source>%n pictures still have &apos;%1&apos;</source>
+        <translation>
+            <numerusform>%n photo a encore « %1 »</numerusform>
+            <numerusform>%n photos ont encore « %1 »</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; are one value now.</source>
+        <translation>« %1 » et « %2 » sont maintenant une seule valeur.</translation>
+    </message>
 </context>
 <context>
     <name>frmFullScreen</name>

@@ -11,6 +11,7 @@
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
+#include "platform/widgets/CountDelegate.h"
 #include "platform/widgets/FormButtons.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
@@ -63,6 +64,7 @@ frmEditTables::frmEditTables(const QString& picture, QWidget* parent)
 {
     ui_->setupUi(this);
     KeepWindowSize(this, proposedSize);
+    ui_->lstCar->setItemDelegate(new CountDelegate(ui_->lstCar));
     RunGuarded([&] { Form_Load(picture); });
     ConnectControls();
 }
@@ -157,6 +159,31 @@ void frmEditTables::ShowTable(bool isGroupNew)
         return;
     ui_->lstCar->clear();
     ui_->lstCar->addItems(values);
+    BeginCounting();
+}
+
+// How many pictures have each value, in one scan for all of them.
+void frmEditTables::BeginCounting()
+{
+    areCounted_ = false;
+    counts_.reset();
+    counting_.Begin([this](std::chrono::milliseconds time) {
+        if (!counts_)
+            counts_.emplace(column_);
+        if (counts_->Work(time))
+            return true;
+        areCounted_ = true;
+        ShowCounts();
+        return false;
+    });
+}
+
+void frmEditTables::ShowCounts()
+{
+    for (int row = 0; row < ui_->lstCar->count(); ++row) {
+        QListWidgetItem* item = ui_->lstCar->item(row);
+        item->setData(CountDelegate::countRole, locale().toString(counts_->CountOf(item->text())));
+    }
 }
 
 QString frmEditTables::SelectedValue() const
@@ -183,6 +210,7 @@ void frmEditTables::cmdAddNew_Click()
         return;
     ui_->lstCar->addItem(added);
     ui_->lstCar->setCurrentRow(ui_->lstCar->count() - 1);
+    BeginCounting(); // a picture may have it, from another program or an earlier table
 }
 
 void frmEditTables::cmdDelete_Click()
@@ -196,6 +224,9 @@ void frmEditTables::cmdDelete_Click()
     delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
     // Else the list would choose the neighbour, which a double click would delete too.
     ui_->lstCar->setCurrentRow(-1);
+    const int holders = areCounted_ ? counts_->CountOf(value) : 0;
+    if (holders > 0)
+        TellChanged(tr("%n pictures still have '%1'", nullptr, holders).arg(value));
 }
 
 void frmEditTables::cmdReplace_Click()
@@ -208,12 +239,18 @@ void frmEditTables::cmdReplace_Click()
     const QString replacement = AskForValue(tr("Replace all occurences of %1 by :").arg(old), old);
     if (replacement.isEmpty() || replacement == old)
         return;
+    const QListWidgetItem* held = ListedItem(replacement);
+    const bool isMerged = held && held->text() != old;
     if (!RunReplacement(old, replacement))
         return;
+    if (isMerged)
+        TellChanged(ui_->lblProgress->text() + QStringLiteral(". ") +
+                    tr("'%1' and '%2' are one value now.").arg(old, held->text()));
     delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
     if (!ListedItem(replacement))
         ui_->lstCar->addItem(replacement);
     ui_->lstCar->setCurrentItem(ListedItem(replacement));
+    BeginCounting();
 }
 
 bool frmEditTables::RunReplacement(const QString& old, const QString& replacement)

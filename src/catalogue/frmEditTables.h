@@ -2,6 +2,8 @@
 #pragma once
 
 #include "catalogue/CharacteristicModel.h"
+#include "catalogue/ValueCounts.h"
+#include "platform/shell/IdleWork.h"
 
 #include <QDialog>
 
@@ -39,6 +41,8 @@ private:
     std::array<QRadioButton*, columnsPerGroup> Columns() const;
     void ShowCaptions();
     void ShowTable(bool isGroupNew);
+    void BeginCounting();
+    void ShowCounts();
     // False when the user stopped it.
     bool RunReplacement(const QString& old, const QString& replacement);
     void TellChanged(const QString& text);
@@ -46,5 +50,8 @@ private:
     QListWidgetItem* ListedItem(const QString& value) const;
 
     std::unique_ptr<Ui::frmEditTables> ui_;
+    IdleWork counting_;
+    std::optional<ValueCounts> counts_; // of the table on show; none before it was asked for
+    bool areCounted_ = false;
     int column_ = -1; // its table is shown: 0 to 5 or 9 to 11; -1 when none is chosen
 };

@@ -2,43 +2,17 @@
 #include "story/FilterValueList.h"
 
 #include "platform/dialogs/Guard.h"
+#include "platform/widgets/CountDelegate.h"
 #include "story/FilterValues.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPainter>
-#include <QStyledItemDelegate>
 
 namespace {
 
 constexpr int tokenRole = Qt::UserRole;
-constexpr int countRole = Qt::UserRole + 1;
 constexpr int fewestToSearch = 12; // choices; fewer are seen at once
-constexpr int countGap = 6;        // logical pixels, on both sides of a number
-
-// Shows the number of pictures at the right edge.
-class CountDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override
-    {
-        const QString count = index.data(countRole).toString();
-        const int width = count.isEmpty() ? 0 : option.fontMetrics.horizontalAdvance(count);
-        QStyleOptionViewItem value = option;
-        const bool isMirrored = option.direction == Qt::RightToLeft;
-        const int room = width > 0 ? width + 2 * countGap : 0;
-        value.rect.adjust(isMirrored ? room : 0, 0, isMirrored ? 0 : -room, 0);
-        QStyledItemDelegate::paint(painter, value, index);
-        painter->setPen(option.palette.color(QPalette::Disabled, QPalette::Text));
-        painter->drawText(option.rect.adjusted(countGap, 0, -countGap, 0),
-                          int(Qt::AlignVCenter) | int(isMirrored ? Qt::AlignLeft : Qt::AlignRight),
-                          count);
-    }
-};
 
 } // namespace
 
@@ -119,7 +93,8 @@ void FilterValueList::ShowCounts()
         QListWidgetItem* item = lstCar_->item(row);
         const QString token = item->data(tokenRole).toString();
         if (token != anyValue && token != negation)
-            item->setData(countRole, lstCar_->locale().toString(counts_->CountOf(token)));
+            item->setData(CountDelegate::countRole,
+                          lstCar_->locale().toString(counts_->CountOf(token)));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "catalogue/frmEditTables.h"
 #include "core/AlbumSets.h"
 #include "core/Parameters.h"
+#include "platform/widgets/CountDelegate.h"
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"
 
@@ -54,11 +55,14 @@ private slots:
         Select("Anna");
         Replace("Anna", "");
         Replace("Anna", "Anna ");
+        QTRY_COMPARE(CountOf("Anna"), "1");
+        QCOMPARE(CountOf("Bob"), "0");
         QCOMPARE(Values(), "-;Anna;Bob");
         for (int time = 0; time < 2; ++time) // as by a double click: nothing is chosen any more
             Click("cmdDelete");
         QCOMPARE(Values(), "-;Bob");
         QCOMPARE(album_->Joined("SELECT Car0 FROM Image"), "Anna");
+        QCOMPARE(Find<QLabel>(*window_, "lblProgress").text(), "1 pictures still have 'Anna'");
     }
 
     void ReplacesEverywhere()
@@ -85,6 +89,13 @@ private slots:
         Select("An ne");
         Replace("An ne", "an NE");
         QCOMPARE(Values(), "-;Annabel;an NE");
+        album_->Execute("INSERT INTO Car4 VALUES ('other')");
+        Choose(2, 2);
+        Select("other");
+        Replace("other", "ANNABEL");
+        QCOMPARE(told.text(),
+                 "Pictures changed: 0, paragraphs changed: 0. 'other' and 'Annabel' are one "
+                 "value now.");
         ReplaceValue(4, "an NE", "Annabel", [](int) { return true; });
         QCOMPARE(album_->Joined("SELECT Name FROM Car4"), "-; Annabel");
         QCOMPARE(album_->Joined("SELECT Car4,Car7 FROM Image LIMIT 2"),
@@ -276,6 +287,15 @@ private:
         if (!complaint.isEmpty())
             dialogs_->ExpectBoxBeginning(complaint, Icon::Critical);
         Click("cmdReplace");
+    }
+
+    QString CountOf(const QString& value)
+    {
+        const auto& list = Find<QListWidget>(*window_, "lstCar");
+        return list.findItems(value, Qt::MatchExactly)
+            .front()
+            ->data(CountDelegate::countRole)
+            .toString();
     }
 
     // As the list shows them, and the table holds them.
