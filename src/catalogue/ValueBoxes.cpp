@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/ValueBoxes.h"
 
+#include "catalogue/LastDescribed.h"
 #include "catalogue/ValueCompletion.h"
 
 #include <QComboBox>
@@ -115,7 +116,7 @@ bool ValueBoxes::eventFilter(QObject* watched, QEvent* event)
 
 void ValueBoxes::cboCategory_Change(int column)
 {
-    completion_->SetValues(Model(column)->stringList());
+    completion_->SetValues(Model(column)->stringList(), RecentValues(column));
     QComboBox* box = GetBox(column);
     QString text = box->currentText();
     for (QString normal = NormalizedValue(text); normal != text; normal = NormalizedValue(text))

@@ -32,6 +32,16 @@ QStringList Sorted(const QStringList& values)
     return sorted;
 }
 
+QStringList RecentFirst(QStringList values, const QStringList& recent)
+{
+    QStringList first;
+    for (const QString& value : recent) {
+        if (values.removeOne(value))
+            first += value;
+    }
+    return first + values;
+}
+
 bool IsEnter(const QKeyEvent& key)
 {
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
@@ -49,11 +59,12 @@ ValueCompletion::ValueCompletion(QObject* parent)
     setMaxVisibleItems(shownAtOnce);
 }
 
-void ValueCompletion::SetValues(const QStringList& values)
+void ValueCompletion::SetValues(const QStringList& values, const QStringList& recent)
 {
-    if (values != source_) {
+    if (values != source_ || recent != recent_) {
         source_ = values;
-        values_->setStringList(Sorted(values));
+        recent_ = recent;
+        values_->setStringList(RecentFirst(Sorted(values), recent));
     }
     if (!list_)
         CreateList();

@@ -246,6 +246,17 @@ private slots:
                  QStringList({"A walk|Sea|Anna|-", "A rest|Sea|Anna|-", "A rest|Lake|Anna|-",
                               "|Lake|Anna|own"}));
         QVERIFY(LastDescribed().has_value());
+        QCOMPARE(RecentValues(0), QStringList({"Lake", "Sea"}));
+        QCOMPARE(RecentValues(7), QStringList("Anna")); // which shares the table
+        album_->Execute("INSERT INTO Car0 VALUES ('Aster')");
+        Open({album_->PathOf("0.png")});
+        TypeInto(0, "a");
+        const QAbstractItemModel& lines = *Combo(0).lineEdit()->completer()->completionModel();
+        QStringList offered;
+        for (int row = 0; row < lines.rowCount(); ++row)
+            offered += lines.index(row, 0).data().toString();
+        QCOMPARE(offered, QStringList({"Lake", "Sea", "Aster"}));
+        window_->reject();
         const AlbumFixture other;
         QVERIFY(!LastDescribed().has_value());
     }
