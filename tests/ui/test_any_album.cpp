@@ -97,7 +97,9 @@ private slots:
         QTimer closer;
         connect(&closer, &QTimer::timeout, [&window] {
             QWidget* modal = QApplication::activeModalWidget();
-            if (modal && modal != &window)
+            if (QWidget* menu = QApplication::activePopupWidget())
+                menu->close();
+            else if (modal && modal != &window)
                 modal->close();
         });
         closer.start(20);
