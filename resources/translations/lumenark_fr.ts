@@ -549,6 +549,10 @@
         <source>The table &apos;%1&apos; ends inside the quotes of the row that begins on line %2. Nothing was taken from it.</source>
         <translation>Le tableau « %1 » se termine entre les guillemets de la ligne qui commence à la ligne %2. Rien n&apos;en a été pris.</translation>
     </message>
+    <message>
+        <source>It is an album. Choose another name.</source>
+        <translation>C&apos;est un album. Choisissez un autre nom.</translation>
+    </message>
 </context>
 <context>
     <name>Descriptions</name>

@@ -3,6 +3,7 @@
 
 #include "core/AlbumSets.h"
 #include "core/Parameters.h"
+#include "platform/data/DatabaseFile.h"
 #include "platform/data/ReadLock.h"
 #include "platform/files/FileReplacement.h"
 #include "platform/text/CsvText.h"
@@ -156,6 +157,24 @@ QStringList DescriptionTitles()
     return titles;
 }
 
+namespace {
+
+// A table that takes the place of an album would take everything with it.
+bool IsAlbum(const QString& path)
+{
+    switch (KindOfDatabaseFile(path)) {
+    case DatabaseFileKind::Plain:
+    case DatabaseFileKind::OldAlbum:
+        return true;
+    case DatabaseFileKind::Encrypted: // or any other file of such a length
+        return !path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 std::optional<int> ExportDescriptionTable(const QString& path, bool replaces,
                                           const std::function<bool(int done)>& progress)
 {
@@ -163,6 +182,8 @@ std::optional<int> ExportDescriptionTable(const QString& path, bool replaces,
         Refuse(DescriptionCsvTexts::tr("The table '%1' cannot be written: %2")
                    .arg(QDir::toNativeSeparators(path), reason));
     };
+    if (IsAlbum(path))
+        fail(DescriptionCsvTexts::tr("It is an album. Choose another name."));
     try {
         FileReplacement replacement(path);
         QFile file(replacement.GetPath());

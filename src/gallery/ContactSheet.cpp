@@ -45,6 +45,17 @@ ContactSheet::ContactSheet(QWidget* parent)
     SetSide(usualSide);
 }
 
+std::optional<ContactSheet::CursorAction> ContactSheet::ExtendingActionOf(const QKeyEvent& key)
+{
+    static const QHash<int, CursorAction> actions{
+        {Qt::Key_Up, MoveUp},         {Qt::Key_Down, MoveDown},        {Qt::Key_Left, MoveLeft},
+        {Qt::Key_Right, MoveRight},   {Qt::Key_Home, MoveHome},        {Qt::Key_End, MoveEnd},
+        {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown}};
+    const auto action = actions.find(key.key());
+    const bool isShift = (key.modifiers() & ~Qt::KeypadModifier) == Qt::ShiftModifier;
+    return isShift && action != actions.end() ? std::optional(*action) : std::nullopt;
+}
+
 void ContactSheet::SetUpView()
 {
     setAccessibleName(tr("Contact sheet"));
@@ -205,9 +216,39 @@ void ContactSheet::changeEvent(QEvent* event)
         AskAgain(); // files may have been changed by another program
 }
 
+// The toolkit's own way goes on from the last click or key, not from a picture that the program
+// made the current one.
+void ContactSheet::ExtendTo(int row)
+{
+    const int last = model_->rowCount() - 1;
+    const int anchor = std::clamp(anchor_, 0, std::max(0, last));
+    isExtending_ = true;
+    const QItemSelection range(model_->index(std::min(anchor, row)),
+                               model_->index(std::max(anchor, row)));
+    selectionModel()->select(range, QItemSelectionModel::ClearAndSelect);
+    selectionModel()->setCurrentIndex(model_->index(row), QItemSelectionModel::NoUpdate);
+    isExtending_ = false;
+    scrollTo(model_->index(row));
+}
+
+void ContactSheet::mousePressEvent(QMouseEvent* event)
+{
+    const int anchor = anchor_;
+    EvenGrid::mousePressEvent(event);
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || event->modifiers() != Qt::ShiftModifier ||
+        !index.isValid())
+        return;
+    anchor_ = anchor;
+    ExtendTo(index.row());
+}
+
 void ContactSheet::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    const std::optional<CursorAction> extending = ExtendingActionOf(*event);
+    if (extending && currentIndex().isValid())
+        ExtendTo(moveCursor(*extending, event->modifiers()).row());
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         large_->Open();
     else if (IsZoomIn(*event))
         ChangeSide(1);
@@ -261,6 +302,8 @@ void ContactSheet::selectionChanged(const QItemSelection& selected, const QItemS
 void ContactSheet::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     EvenGrid::currentChanged(current, previous);
+    if (!isExtending_)
+        anchor_ = current.row();
     if (!isFilling_)
         emit CurrentChanged();
 }

@@ -8,6 +8,8 @@
 
 #include <QTimer>
 
+#include <optional>
+
 class LargeViewing;
 class SheetDelegate;
 class SheetDrag;
@@ -69,6 +71,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
@@ -79,6 +82,9 @@ private:
     void SetUpWork();
     void KeepPlace(int row, int top);
     void GoToRow(int row);
+    static std::optional<CursorAction> ExtendingActionOf(const QKeyEvent& key);
+    // Selects from the picture where that began.
+    void ExtendTo(int row);
     void ChangeSide(int steps);
     void AskForSeen();
     void AskAgain();
@@ -92,6 +98,8 @@ private:
     SheetDrag* drag_;
     int side_ = 0;
     bool isFilling_ = false; // the signals wait
+    bool isExtending_ = false;
+    int anchor_ = 0; // row from which Shift selects
 
     QTimer asking_;
     QTimer retry_;

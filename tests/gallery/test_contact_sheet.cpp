@@ -129,6 +129,16 @@ private slots:
         QTest::qWait(QApplication::keyboardInputInterval() + 20);
         QTest::keyClick(&sheet, 'H', Qt::ShiftModifier); // a capital letter selects no range
         QCOMPARE(sheet.GetSelected().size(), 1U);
+        // Shift goes on from there, wherever the last key or click was.
+        QTest::mouseClick(sheet.viewport(), Qt::LeftButton, {}, Place(0).center());
+        sheet.GoTo(ids[2]);
+        QTest::keyClick(&sheet, Qt::Key_Right, Qt::ShiftModifier);
+        QCOMPARE(sheet.GetSelected(), Part(ids, 2, 2));
+        QTest::keyClick(&sheet, Qt::Key_Home, Qt::ShiftModifier);
+        QCOMPARE(sheet.GetSelected(), Part(ids, 0, 3));
+        sheet.GoTo(ids[1]);
+        QTest::mouseClick(sheet.viewport(), Qt::LeftButton, Qt::ShiftModifier, Place(3).center());
+        QCOMPARE(sheet.GetSelected(), Part(ids, 1, 3));
     }
 
     void ThePictureIsShownLarge()

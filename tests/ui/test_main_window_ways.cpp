@@ -3,6 +3,7 @@
 #include "core/Settings.h"
 #include "core/StartUp.h"
 #include "platform/widgets/HelpWindow.h"
+#include "support/TestFiles.h"
 #include "ui/main/MainWindowKeys.h"
 #include "viewer/LegendArea.h"
 #include "viewer/ViewerFlags.h"
@@ -93,6 +94,20 @@ private slots:
                 QCOMPARE(descriptions(), answer == Answer::Yes ? before : changed);
             }
         }
+        dialogs_->ExpectOpenFile("Import Descriptions", album_->GetAlbum());
+        dialogs_->ExpectBoxBeginning("The table '", Icon::Warning);
+        Choose("mnuImportTable");
+        // An album is no place for a table.
+        const QByteArray bytes = ReadFile(album_->GetAlbum());
+        dialogs_->ExpectSaveFile("Export Descriptions", album_->GetAlbum(),
+                                 QFileInfo(album_->GetAlbum()).completeBaseName() + ".csv");
+        dialogs_->ExpectBoxBeginning("The table '", Icon::Warning);
+        Choose("mnuExportTable");
+        QCOMPARE(ReadFile(album_->GetAlbum()), bytes);
+        dialogs_->ExpectSaveFile("Export Descriptions", "/nowhere/out.csv",
+                                 QFileInfo(album_->GetAlbum()).completeBaseName() + ".csv");
+        dialogs_->ExpectBoxBeginning("", Icon::Warning);
+        Choose("mnuExportTable");
         dialogs_->ExpectBox("Nothing changes.\n2 picture(s) are described so already.");
         Choose("mnuImportSidecars");
         QVERIFY(dialogs_->IsDone());

@@ -12,6 +12,8 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 
+#include <stdexcept>
+
 namespace {
 
 constexpr std::chrono::milliseconds slice(20); // between two looks at the stop button
@@ -30,6 +32,16 @@ QString FirstLines(QStringList lines)
         lines += DescriptionTransfer::tr("and %n other(s)", nullptr, int(others));
     }
     return lines.join(u'\n');
+}
+
+// What is wrong with a table is no fault of the program's.
+void TellTroubleOf(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const std::runtime_error& error) {
+        Tell(QString::fromUtf8(error.what()), Dialogs::Icon::Warning);
+    }
 }
 
 bool AgreesTo(const QString& question)
@@ -68,8 +80,10 @@ void DescriptionTransfer::ExportTable() const
         const BusyPointer busy;
         progress_->Begin(0, true);
         const auto end = qScopeGuard([this] { progress_->End(); });
-        written = ExportDescriptionTable(path, true,
-                                         [this](int done) { return progress_->Advance(done); });
+        TellTroubleOf([&] {
+            written = ExportDescriptionTable(path, true,
+                                             [this](int done) { return progress_->Advance(done); });
+        });
     }
     if (written)
         Tell(tr("The descriptions of %n picture(s) were written.", nullptr, *written));
@@ -99,11 +113,14 @@ void DescriptionTransfer::ImportTable() const
         Dialogs::Door().AskOpenFile({tr("Import Descriptions"), TableFilter(), folder});
     if (path.isEmpty())
         return;
-    const DescriptionTable table = ReadDescriptionTable(path);
+    std::optional<DescriptionTable> table;
+    TellTroubleOf([&] { table = ReadDescriptionTable(path); });
+    if (!table)
+        return;
     QStringList lines;
-    for (const QString& title : table.leftOut)
+    for (const QString& title : table->leftOut)
         lines += tr("The column \"%1\" fits none of the album.").arg(title);
-    Import(table.rows, lines);
+    Import(table->rows, lines);
 }
 
 void DescriptionTransfer::ImportSidecars() const

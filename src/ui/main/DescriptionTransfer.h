@@ -18,7 +18,7 @@ public:
     // The bar must outlive it.
     explicit DescriptionTransfer(WorkProgress* progress) : progress_(progress) {}
 
-    // Throw DatabaseError, and std::runtime_error for a table that cannot be written or read.
+    // Throw DatabaseError. A table that cannot be written or read is told in a message box.
     void ExportTable() const;
     void ExportSidecars() const;
     void ImportTable() const;
