@@ -15,8 +15,9 @@
 QStringList DescriptionTitles();
 
 // Writes the pictures of the album into a file, which takes the place of one that is there if
-// replaces is set, but never that of an album. Returns their number. Nothing remains after a failure, nor when progress, which
-// gets the number of pictures done, returns false; the result has no value then.
+// replaces is set, but never that of an album. Returns their number. Nothing remains after a
+// failure, nor when progress, which gets the number of pictures done, returns false; the result has
+// no value then.
 std::optional<int> ExportDescriptionTable(const QString& path, bool replaces,
                                           const std::function<bool(int done)>& progress = {});
 
