@@ -102,13 +102,12 @@ void frmTakeFromFiles::ShowRead()
 
 TakingChoices frmTakeFromFiles::GetChoices() const
 {
-    using Keywords = TakingChoices::Keywords;
     const int keywords = ui_->cboKeywords->currentIndex();
     TakingChoices choices;
     choices.takesCaptions = ui_->chkCaptions->isChecked();
-    choices.keywords = keywords == noKeywords      ? Keywords::None
-                       : keywords == knownKeywords ? Keywords::WhereKnown
-                                                   : Keywords::IntoColumn;
+    choices.keywords = keywords == noKeywords      ? TakingChoices::Keywords::None
+                       : keywords == knownKeywords ? TakingChoices::Keywords::WhereKnown
+                                                   : TakingChoices::Keywords::IntoColumn;
     choices.keywordColumn = std::max(keywords - firstKeywordColumn, 0);
     choices.datePart = TakingChoices::DatePart(ui_->cboDatePart->currentIndex());
     choices.dateColumn = ui_->cboDateColumn->currentIndex();

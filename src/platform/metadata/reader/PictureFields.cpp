@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <type_traits>
 #include <vector>
 
@@ -167,16 +168,15 @@ Status StatusOf(const std::string& path)
     return path.front() == '/' && S_ISREG(status.st_mode) ? Done : OtherFormat;
 }
 
-using ImagePointer = decltype(Exiv2::ImageFactory::open(std::string()));
-
 // Null where the library knows no such format, or where the file is too short for some of those
 // that it tries. Reads no more than the format.
-ImagePointer OpenImage(const std::string& path)
+std::unique_ptr<Exiv2::Image> OpenImage(const std::string& path)
 {
     try {
-        return Exiv2::ImageFactory::open(path);
+        // Older versions of the library return a pointer of a deprecated kind.
+        return std::unique_ptr<Exiv2::Image>(Exiv2::ImageFactory::open(path).release());
     } catch (const std::exception&) {
-        return ImagePointer();
+        return nullptr;
     }
 }
 
@@ -186,8 +186,8 @@ void WritePictureFields(const std::string& path, FrameWriter& stream)
 {
     EntryWriter entries(stream);
     const Status status = StatusOf(path);
-    const auto image = status == Done ? OpenImage(path) : ImagePointer();
-    if (!image.get() || !IsShownFormat(image->imageType())) {
+    const auto image = status == Done ? OpenImage(path) : nullptr;
+    if (!image || !IsShownFormat(image->imageType())) {
         stream.Number(status == Done ? OtherFormat : status);
         return;
     }
