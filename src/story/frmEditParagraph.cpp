@@ -2,27 +2,23 @@
 #include "story/frmEditParagraph.h"
 #include "ui_frmEditParagraph.h"
 
-#include "catalogue/frmEditImage.h"
 #include "catalogue/frmEditLabels.h"
 #include "core/ChapterChain.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ButtonMenu.h"
+#include "platform/widgets/DropTarget.h"
 #include "platform/widgets/FormButtons.h"
 #include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/LiteralText.h"
 #include "platform/widgets/WindowSize.h"
-#include "story/DroppedPictures.h"
 #include "story/EditorKeys.h"
 #include "story/FilterCounting.h"
 #include "story/MarkerInsertion.h"
 #include "story/ParagraphPreview.h"
-#include "story/PictureWindows.h"
 #include "story/frmOrganizeParagraphs.h"
 
-#include <QApplication>
 #include <QContextMenuEvent>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QScopeGuard>
 #include <QTimer>
 
@@ -51,7 +47,6 @@ frmEditParagraph::frmEditParagraph(QWidget* parent)
         {ui_->txtParagraph, ui_->lstInsertCar, ui_->cmdInsertCar, ui_->cmdCancelInsert}, this);
     counting_ = new FilterCounting(ui_->filterPanel, this);
     KeepWindowSize(this, proposedSize);
-    setAcceptDrops(true);
     ConnectControls();
     // Both columns start at the same height, with or without icons on their buttons.
     for (QWidget* heading :
@@ -99,6 +94,8 @@ void frmEditParagraph::ConnectControls()
             {ui_->cmdFindPictures, "link", &Form::cmdFindPictures_Click},
             {ui_->cmdLinkedPictures, "organize", &Form::cmdLinkedPictures_Click},
         });
+    connect(new DropTarget(this), &DropTarget::Dropped, this,
+            [this](const QList<QUrl>& urls) { RunGuarded([&] { TakeDropped(urls); }); });
     connect(preview_, &ParagraphPreview::PicturePressed, this,
             Guarded(this, &frmEditParagraph::imgImage_MouseDown));
     connect(ui_->filterPanel, &FilterPanel::ValuesChanged, this,
@@ -377,150 +374,4 @@ void frmEditParagraph::reject()
 {
     if (edit_.SaveOrGiveUp(GetPlace()))
         QDialog::reject();
-}
-
-void frmEditParagraph::SetPreviewMode(bool isPreview)
-{
-    isPreview_ = isPreview;
-    ui_->txtParagraph->setVisible(!isPreview);
-    ui_->cmdPreview->setVisible(!isPreview);
-    ui_->txtParagraphPreview->setVisible(isPreview);
-    ui_->cmdNextImage->setVisible(isPreview);
-    ui_->lblFeedback->setVisible(isPreview);
-    ui_->cmdInsertCar->setEnabled(!isPreview);
-    insertion_->Hide();
-}
-
-void frmEditParagraph::ClearPreview()
-{
-    SetPreviewMode(false);
-    preview_->Begin(CurrentParagraph);
-}
-
-void frmEditParagraph::cmdPreview_Click()
-{
-    if (!edit_.SettleConflict(CurrentParagraph))
-        return;
-    SetPreviewMode(true);
-    ui_->cmdNextImage->setFocus();
-    RefreshPictureList();
-}
-
-void frmEditParagraph::RefreshPictureList()
-{
-    if (!SaveParagraph())
-        return;
-    preview_->Begin(CurrentParagraph);
-    preview_->ShowText(GetContent().text); // for as long as the search takes
-    preview_->FindPictures();
-    preview_->ShowText(GetContent().text);
-}
-
-void frmEditParagraph::cmdNextImage_Click()
-{
-    if (preview_->ShowNext())
-        preview_->ShowText(GetContent().text);
-    else
-        lblText_Click();
-}
-
-// The preview is updated at once when the filter changes.
-void frmEditParagraph::filterPanel_Change()
-{
-    if (isPreview_)
-        RefreshPictureList();
-}
-
-void frmEditParagraph::lblText_Click()
-{
-    SetPreviewMode(false);
-    ui_->txtParagraph->setFocus();
-}
-
-void frmEditParagraph::imgImage_MouseDown()
-{
-    const QString file = preview_->GetPicture();
-    if (SaveParagraph())
-        EditPicture(file);
-}
-
-void frmEditParagraph::cmdFindPictures_Click()
-{
-    if (!SaveParagraph())
-        return;
-    FindRequest request;
-    request.parent = this;
-    request.paragraph = CurrentParagraph;
-    FindPictures(request);
-    ReadAgain();
-    if (isPreview_)
-        RefreshPictureList();
-}
-
-void frmEditParagraph::cmdLinkedPictures_Click()
-{
-    if (!SaveParagraph())
-        return;
-    ShowLinkedPictures(this, CurrentParagraph);
-    ReadAgain();
-    if (isPreview_)
-        RefreshPictureList();
-}
-
-bool frmEditParagraph::IsInFront() const
-{
-    const QWidget* modal = QApplication::activeModalWidget();
-    return !modal || modal == this;
-}
-
-// The text box takes what is dropped on it for itself.
-void frmEditParagraph::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (event->mimeData()->hasUrls() && IsInFront())
-        event->acceptProposedAction();
-}
-
-// Later, so that the program from which the files come does not wait for message boxes here.
-void frmEditParagraph::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    QMetaObject::invokeMethod(
-        this, [this, urls = event->mimeData()->urls()] { RunGuarded([&] { TakeDropped(urls); }); },
-        Qt::QueuedConnection);
-}
-
-void frmEditParagraph::TakeDropped(const QList<QUrl>& urls)
-{
-    if (!IsInFront() || !SaveParagraph())
-        return;
-    const QStringList linked = LinkDroppedFiles(CurrentParagraph, urls);
-    if (isPreview_)
-        RefreshPictureList();
-    if (linked.isEmpty())
-        return;
-    preview_->ShowPicture(linked.front());
-    preview_->ShowText(GetContent().text);
-}
-
-// The picture, labels, values, and the paragraph with them may have changed in another window. What
-// cannot be read again must not be saved: a value may have been replaced.
-void frmEditParagraph::ReadAgain()
-{
-    auto leave = qScopeGuard([this] { LeaveUnsaved(); });
-    FillFromAlbum();
-    leave.dismiss();
-}
-
-void frmEditParagraph::EditPicture(const QString& file)
-{
-    frmEditImage window(this);
-    window.CurrentImage = file;
-    window.IsSinglePicture = true;
-    window.exec();
-    ReadAgain();
-    const bool isTakenOut = window.TakenOut.contains(file);
-    if (isTakenOut && isPreview_)
-        return cmdNextImage_Click();
-    preview_->ShowPicture(isTakenOut ? QString() : file);
-    preview_->ShowText(GetContent().text);
 }

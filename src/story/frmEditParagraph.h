@@ -40,8 +40,6 @@ protected:
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private:
     void LeadFromTextToFilter();
@@ -88,8 +86,9 @@ private:
     void imgImage_MouseDown();
     void cmdFindPictures_Click();
     void cmdLinkedPictures_Click();
+    // Opens a window in which pictures and links may change.
+    void Visit(const std::function<void()>& openWindow);
     void EditPicture(const QString& file);
-    bool IsInFront() const;
     void TakeDropped(const QList<QUrl>& urls);
     void ReadAgain();
 

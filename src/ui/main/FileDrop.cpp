@@ -9,8 +9,6 @@
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/WorkProgress.h"
 
-#include <QApplication>
-#include <QMimeData>
 #include <QScopeGuard>
 
 using namespace GeneralModule;
@@ -30,16 +28,8 @@ FileDrop::FileDrop(WorkProgress* progress, std::function<void(const QString& pat
 {
 }
 
-bool FileDrop::Accepts(const QMimeData* data)
-{
-    // A window in front may hold something that is not saved.
-    return data->hasUrls() && !QApplication::activeModalWidget();
-}
-
 void FileDrop::Take(const QList<QUrl>& urls) const
 {
-    if (QApplication::activeModalWidget())
-        return;
     const DroppedFiles files = SortDroppedFiles(urls);
     const QString reason = ReasonAgainst(files);
     if (!reason.isEmpty())

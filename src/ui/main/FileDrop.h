@@ -7,7 +7,6 @@
 
 #include <functional>
 
-class QMimeData;
 class WorkProgress;
 struct DroppedFiles;
 
@@ -23,9 +22,6 @@ public:
     FileDrop(WorkProgress* progress, std::function<void(const QString& path)> openAlbum,
              std::function<void()> onLoaded);
 
-    // False for what holds no files, and while another window is in front.
-    static bool Accepts(const QMimeData* data);
-    // Does nothing where another window has come to the front since they were dropped.
     void Take(const QList<QUrl>& urls) const;
 
 private:

@@ -12,6 +12,7 @@
 #include "core/StartUp.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/PathRoutines.h"
+#include "platform/widgets/DropTarget.h"
 #include "platform/widgets/FrontWindow.h"
 #include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/LiteralText.h"
@@ -54,6 +55,8 @@ frmOpenChapter::frmOpenChapter(const QString& album, const QString& sample)
     albums_ = std::make_unique<AlbumOpener>(ui_->mnuRecent, chapters_.get(), refresh);
     drop_ = std::make_unique<FileDrop>(
         ui_->progress, [this](const QString& path) { albums_->Open(path); }, refresh);
+    connect(new DropTarget(this), &DropTarget::Dropped, this,
+            [this](const QList<QUrl>& urls) { RunGuarded([&] { drop_->Take(urls); }); });
     guidance_ = std::make_unique<GuidanceLook>(ui_->lblWarning, this);
     status_ = std::make_unique<AlbumStatus>(AlbumStatus::Controls{
         ui_->albumStatus, ui_->lblAlbum, ui_->lblPictures, ui_->cmdNotIndexed, ui_->cmdMissing});
@@ -77,6 +80,12 @@ void frmOpenChapter::ConnectCommands()
     using State = MainWindowState;
     const Ui::frmOpenChapter& ui = *ui_;
     const auto on = [this](void (Form::*handler)()) { return Guarded(this, handler); };
+    const auto transfer = [this](void (DescriptionTransfer::*way)() const) {
+        return [this, way] {
+            RunGuarded([&] { (DescriptionTransfer(ui_->progress).*way)(); });
+            RefreshState();
+        };
+    };
     commands_ = {
         {on(&Form::mnuOpenScript_Click), "album-open", ui.cmdOpenAlbum, ui.mnuOpenScript},
         {on(&Form::mnuCreateScript_Click), "album-create", ui.cmdCreateAlbum, ui.mnuCreateScript},
@@ -106,13 +115,13 @@ void frmOpenChapter::ConnectCommands()
          &State::offersPictureCommands, true},
         {on(&Form::mnuFindPictures_Click), "", nullptr, ui.mnuFindPictures,
          &State::offersPictureCommands},
-        {on(&Form::mnuExportTable_Click), "", nullptr, ui.mnuExportTable,
+        {transfer(&DescriptionTransfer::ExportTable), "", nullptr, ui.mnuExportTable,
          &State::offersPictureCommands},
-        {on(&Form::mnuImportTable_Click), "", nullptr, ui.mnuImportTable,
+        {transfer(&DescriptionTransfer::ImportTable), "", nullptr, ui.mnuImportTable,
          &State::offersPictureCommands, true},
-        {on(&Form::mnuExportSidecars_Click), "", nullptr, ui.mnuExportSidecars,
+        {transfer(&DescriptionTransfer::ExportSidecars), "", nullptr, ui.mnuExportSidecars,
          &State::offersPictureCommands},
-        {on(&Form::mnuImportSidecars_Click), "", nullptr, ui.mnuImportSidecars,
+        {transfer(&DescriptionTransfer::ImportSidecars), "", nullptr, ui.mnuImportSidecars,
          &State::offersPictureCommands, true},
         {on(&Form::mnuAllPictures_Click), "", nullptr, ui.mnuAllPictures,
          &State::offersPictureCommands},
@@ -213,21 +222,6 @@ void frmOpenChapter::RefreshState()
         ui_->lstChapter->setFocus();
 }
 
-void frmOpenChapter::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (FileDrop::Accepts(event->mimeData()))
-        event->acceptProposedAction();
-}
-
-void frmOpenChapter::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    // Later, so that the program from which the files come does not wait for message boxes here.
-    QMetaObject::invokeMethod(
-        this, [this, urls = event->mimeData()->urls()] { RunGuarded([&] { drop_->Take(urls); }); },
-        Qt::QueuedConnection);
-}
-
 void frmOpenChapter::mnuOpenScript_Click()
 {
     albums_->AskAndOpen();
@@ -324,28 +318,6 @@ void frmOpenChapter::mnuLoadPictures_Click()
     frmLoadFiles loading(this);
     loading.DescribePictures = DescribeTogether;
     loading.exec();
-    RefreshState();
-}
-
-void frmOpenChapter::mnuExportTable_Click()
-{
-    DescriptionTransfer(ui_->progress).ExportTable();
-}
-
-void frmOpenChapter::mnuImportTable_Click()
-{
-    DescriptionTransfer(ui_->progress).ImportTable();
-    RefreshState();
-}
-
-void frmOpenChapter::mnuExportSidecars_Click()
-{
-    DescriptionTransfer(ui_->progress).ExportSidecars();
-}
-
-void frmOpenChapter::mnuImportSidecars_Click()
-{
-    DescriptionTransfer(ui_->progress).ImportSidecars();
     RefreshState();
 }
 

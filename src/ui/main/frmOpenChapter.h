@@ -38,8 +38,6 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private:
     void Form_Load(const QString& album);
@@ -57,10 +55,6 @@ private:
     void cmdMoveUp_Click();
     void cmdMoveDown_Click();
     void mnuLoadPictures_Click();
-    void mnuExportTable_Click();
-    void mnuImportTable_Click();
-    void mnuExportSidecars_Click();
-    void mnuImportSidecars_Click();
     void mnuReloadPictures_Click();
     void mnuUndefined_Click();
     void mnuSelectedUndefined_Click();
