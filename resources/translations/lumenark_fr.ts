@@ -780,6 +780,10 @@
             <numerusform>%n fichiers laissés de côté : pas des photos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Load the pictures of the folders inside, too ?</source>
+        <translation>Charger aussi les photos des dossiers contenus ?</translation>
+    </message>
 </context>
 <context>
     <name>DroppedPictures</name>
@@ -1181,6 +1185,22 @@ Votre version :
         <source>Exit</source>
         <translation>Quitter</translation>
     </message>
+    <message>
+        <source>Choose all pictures taken on the day of the current one, as their files say</source>
+        <translation>Choisir toutes les photos prises le même jour que celle-ci, d&apos;après leurs fichiers</translation>
+    </message>
+    <message>
+        <source>Same Day</source>
+        <translation>Même jour</translation>
+    </message>
+    <message>
+        <source>Change the values and names of the caracteristics</source>
+        <translation>Modifier les valeurs et les noms des caractéristiques</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Tables</source>
+        <translation>Modifier les &amp;tables</translation>
+    </message>
 </context>
 <context>
     <name>frmFindPictures</name>
@@ -1531,6 +1551,21 @@ Votre version :
             <numerusform>%n mot-clé ne trouve pas de place.</numerusform>
             <numerusform>%n mots-clés ne trouvent pas de place.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>of the last change of the file</source>
+        <translation>de la dernière modification du fichier</translation>
+    </message>
+</context>
+<context>
+    <name>GroupChoice</name>
+    <message>
+        <source>Dates read: %1 of %2</source>
+        <translation>Dates lues : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>The day of this picture is not known</source>
+        <translation>Le jour de cette photo n&apos;est pas connu</translation>
     </message>
 </context>
 <context>
@@ -3054,6 +3089,14 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
         <source>&apos;%1&apos; and &apos;%2&apos; are one value now.</source>
         <translation>« %1 » et « %2 » sont maintenant une seule valeur.</translation>
     </message>
+    <message>
+        <source>Sorted</source>
+        <translation>Triées</translation>
+    </message>
+    <message>
+        <source>Show the values in alphabetical order; the table keeps its own</source>
+        <translation>Montrer les valeurs par ordre alphabétique ; la table garde le sien</translation>
+    </message>
 </context>
 <context>
     <name>frmFullScreen</name>
@@ -3174,6 +3217,14 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
     <message>
         <source>Load Marked</source>
         <translation>Charger les marqués</translation>
+    </message>
+    <message>
+        <source>Take what the files say</source>
+        <translation>Reprendre ce que disent les fichiers</translation>
+    </message>
+    <message>
+        <source>After loading, show which captions, keywords and dates the new pictures&apos; files hold, to take them into the album</source>
+        <translation>Après le chargement, montrer quels textes, mots-clés et dates contiennent les fichiers des nouvelles photos, pour les reprendre dans l&apos;album</translation>
     </message>
 </context>
 <context>
