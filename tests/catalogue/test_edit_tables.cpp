@@ -313,10 +313,7 @@ private:
             .toString();
     }
 
-    QString Shown()
-    {
-        return Lines(Find<QListWidget>(*window_, "lstCar")).join(u';').remove(u'*');
-    }
+    QString Shown() { return Lines(Find<QListWidget>(*window_, "lstCar")).join(u';').remove(u'*'); }
 
     // As the list shows them, and the table holds them.
     QString Values()
