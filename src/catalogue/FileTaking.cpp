@@ -186,7 +186,8 @@ std::vector<DescribedPicture> ReadAll(const std::vector<qint32>& ids)
 FileTaking::FileTaking(const std::vector<qint32>& pictures) : pictures_(ReadAll(pictures))
 {
     reader_ = std::make_unique<MetadataReader>(GetCount(), [this](int number) {
-        return GeneralModule::FindPictureFile(pictures_[std::size_t(number)].file);
+        const DescribedPicture& picture = pictures_[std::size_t(number)];
+        return GeneralModule::PictureFileOf(picture.file, picture.copy);
     });
 }
 
