@@ -7,6 +7,7 @@
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "catalogue/frmLoadFiles.h"
+#include "catalogue/frmMissingPictures.h"
 #include "catalogue/frmReloadPictures.h"
 #include "catalogue/frmTakeFromFiles.h"
 #include "core/StartUp.h"
@@ -32,7 +33,7 @@ inline constexpr std::array everyWindow{
     "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",     "frmEditLabels",
     "frmLoadFiles",          "frmReloadPictures", "frmSelectImages",   "frmAbout",
     "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures", "frmDescribePictures",
-    "frmTakeFromFiles"};
+    "frmTakeFromFiles",      "frmMissingPictures"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -92,7 +93,7 @@ protected:
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
                        frmAbout, frmRepairAlbum, frmFindPictures, frmPlaceParagraph,
-                       frmLinkedPictures, frmDescribePictures>(name);
+                       frmLinkedPictures, frmDescribePictures, frmMissingPictures>(name);
     }
 
     frmReelvane* MakeViewer()

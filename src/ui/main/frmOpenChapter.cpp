@@ -6,6 +6,7 @@
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "catalogue/frmLoadFiles.h"
+#include "catalogue/frmMissingPictures.h"
 #include "catalogue/frmReloadPictures.h"
 #include "core/Album.h"
 #include "core/ChapterChain.h"
@@ -43,6 +44,11 @@ using namespace GeneralModule;
 namespace {
 
 constexpr QSize proposedSize(860, 600);
+
+void ShowMissing(QWidget* window)
+{
+    OpenPictureFinder({.parent = window}, true);
+}
 
 } // namespace
 
@@ -115,6 +121,8 @@ void frmOpenChapter::ConnectCommands()
          &State::offersPictureCommands, true},
         {on(&Form::mnuFindPictures_Click), "", nullptr, ui.mnuFindPictures,
          &State::offersPictureCommands},
+        {on(&Form::mnuMissingPictures_Click), "", nullptr, ui.mnuMissingPictures,
+         &State::offersPictureCommands},
         {transfer(&DescriptionTransfer::ExportTable), "", nullptr, ui.mnuExportTable,
          &State::offersPictureCommands},
         {transfer(&DescriptionTransfer::ImportTable), "", nullptr, ui.mnuImportTable,
@@ -167,7 +175,7 @@ void frmOpenChapter::ConnectControls()
     new WindowKeys(this, MainWindowKeys());
     connect(ui_->cmdNotIndexed, &QPushButton::clicked, ui_->mnuUndefined, &QAction::trigger);
     connect(ui_->cmdMissing, &QPushButton::clicked, this,
-            Guarded(this, &frmOpenChapter::ShowMissing));
+            Guarded(this, &frmOpenChapter::mnuMissingPictures_Click));
 }
 
 bool frmOpenChapter::AlbumOpen() const
@@ -301,9 +309,11 @@ void frmOpenChapter::MoveRow(int from, int to)
         RefreshState();
 }
 
-void frmOpenChapter::ShowMissing()
+void frmOpenChapter::mnuMissingPictures_Click()
 {
-    OpenPictureFinder({.parent = this}, true);
+    frmMissingPictures window(this);
+    window.ShowPictures = ShowMissing;
+    window.exec();
     RefreshState();
 }
 
@@ -323,7 +333,9 @@ void frmOpenChapter::mnuLoadPictures_Click()
 
 void frmOpenChapter::mnuReloadPictures_Click()
 {
-    frmReloadPictures(this).exec();
+    frmReloadPictures window(this);
+    window.ShowPictures = ShowMissing;
+    window.exec();
     RefreshState();
 }
 
