@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/MissingPictures.h"
 
+#include "core/Album.h"
 #include "core/LocalCopy.h"
 #include "platform/files/PathRoutines.h"
 
@@ -11,6 +12,7 @@
 
 bool MissingPictures::Work(std::chrono::milliseconds time)
 {
+    const GeneralModule::NoWaiting atOnce;
     const QDeadlineTimer deadline(time);
     do {
         const std::vector<PicturePaths::Entry> entries = paths_.ReadMore();

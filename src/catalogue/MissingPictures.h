@@ -26,7 +26,8 @@ struct MissingFolder
 class MissingPictures
 {
 public:
-    // Looks for about that time; false when all were looked for. Throws DatabaseError.
+    // Looks for about that time; false when all were looked for. Throws DatabaseError, InUse at
+    // once where another program has the album locked; the next call goes on.
     bool Work(std::chrono::milliseconds time);
 
     int GetRead() const { return read_; }

@@ -22,10 +22,10 @@ std::vector<PicturePaths::Entry> PicturePaths::ReadMore()
     reading.Bind(1, lastRow_);
     reading.Bind(2, qint64(filesAtOnce));
     std::vector<Entry> entries;
-    while (reading.Step()) {
-        lastRow_ = reading.GetInteger(0);
-        entries.push_back({qint32(lastRow_), QString::fromUtf8(reading.GetUtf8(1)),
+    while (reading.Step())
+        entries.push_back({qint32(reading.GetInteger(0)), QString::fromUtf8(reading.GetUtf8(1)),
                            QString::fromUtf8(reading.GetUtf8(2))});
-    }
+    if (!entries.empty())
+        lastRow_ = entries.back().id;
     return entries;
 }

@@ -19,7 +19,7 @@ public:
 
     PicturePaths();
 
-    // None when all were read. Throws DatabaseError.
+    // None when all were read. Throws DatabaseError; the next call goes on.
     std::vector<Entry> ReadMore();
 
 private:
