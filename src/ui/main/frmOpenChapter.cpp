@@ -82,17 +82,22 @@ frmOpenChapter::~frmOpenChapter()
 
 void frmOpenChapter::ConnectCommands()
 {
+    for (auto commands : {&frmOpenChapter::StoryCommands, &frmOpenChapter::PictureCommands,
+                          &frmOpenChapter::OtherCommands}) {
+        for (MainWindowCommand& command : (this->*commands)())
+            commands_.push_back(std::move(command));
+    }
+    for (const MainWindowCommand& command : commands_)
+        ConnectCommand(command);
+}
+
+std::vector<MainWindowCommand> frmOpenChapter::StoryCommands()
+{
     using Form = frmOpenChapter;
     using State = MainWindowState;
     const Ui::frmOpenChapter& ui = *ui_;
     const auto on = [this](void (Form::*handler)()) { return Guarded(this, handler); };
-    const auto transfer = [this](void (DescriptionTransfer::*way)() const) {
-        return [this, way] {
-            RunGuarded([&] { (DescriptionTransfer(ui_->progress).*way)(); });
-            RefreshState();
-        };
-    };
-    commands_ = {
+    return {
         {on(&Form::mnuOpenScript_Click), "album-open", ui.cmdOpenAlbum, ui.mnuOpenScript},
         {on(&Form::mnuCreateScript_Click), "album-create", ui.cmdCreateAlbum, ui.mnuCreateScript},
         {on(&Form::mnuOpenSample_Click), "read-chapter", ui.cmdOpenSample, ui.mnuOpenSample},
@@ -111,6 +116,22 @@ void frmOpenChapter::ConnectCommands()
          true},
         {on(&Form::cmdMoveDown_Click), "move-down", ui.cmdMoveDown, ui.mnuMoveDown,
          &State::canMoveDown, true},
+    };
+}
+
+std::vector<MainWindowCommand> frmOpenChapter::PictureCommands()
+{
+    using Form = frmOpenChapter;
+    using State = MainWindowState;
+    const Ui::frmOpenChapter& ui = *ui_;
+    const auto on = [this](void (Form::*handler)()) { return Guarded(this, handler); };
+    const auto transfer = [this](void (DescriptionTransfer::*way)() const) {
+        return [this, way] {
+            RunGuarded([&] { (DescriptionTransfer(ui_->progress).*way)(); });
+            RefreshState();
+        };
+    };
+    return {
         {on(&Form::mnuLoadPictures_Click), "load-pictures", ui.cmdLoadPictures, ui.mnuLoadPictures,
          &State::offersAlbumCommands, true},
         {on(&Form::mnuReloadPictures_Click), "refresh", nullptr, ui.mnuReloadPictures,
@@ -135,6 +156,16 @@ void frmOpenChapter::ConnectCommands()
          &State::offersPictureCommands},
         {on(&Form::mnuSelectedPictures_Click), "", nullptr, ui.mnuSelectedPictures,
          &State::offersPictureCommands},
+    };
+}
+
+std::vector<MainWindowCommand> frmOpenChapter::OtherCommands()
+{
+    using Form = frmOpenChapter;
+    using State = MainWindowState;
+    const Ui::frmOpenChapter& ui = *ui_;
+    const auto on = [this](void (Form::*handler)()) { return Guarded(this, handler); };
+    return {
         {on(&Form::mnuRepair_Click), "repair", nullptr, ui.mnuRepair, &State::offersAlbumCommands,
          true},
         {on(&Form::mnuPassword_Click), "", nullptr, ui.mnuPassword, &State::offersAlbumCommands,
@@ -147,8 +178,6 @@ void frmOpenChapter::ConnectCommands()
         {on(&Form::mnuKeys_Click), "", nullptr, ui.mnuKeys},
         {on(&Form::mnuAbout_Click), "about", nullptr, ui.mnuAbout},
     };
-    for (const MainWindowCommand& command : commands_)
-        ConnectCommand(command);
 }
 
 void frmOpenChapter::ConnectControls()

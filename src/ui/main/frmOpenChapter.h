@@ -74,6 +74,9 @@ private:
     void Read(void (*showChapter)(QWidget* parent, qint32 chapter));
 
     void ConnectCommands();
+    std::vector<MainWindowCommand> StoryCommands();
+    std::vector<MainWindowCommand> PictureCommands();
+    std::vector<MainWindowCommand> OtherCommands();
     void ConnectControls();
 
     const QString sample_;
