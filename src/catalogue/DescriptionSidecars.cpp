@@ -2,6 +2,7 @@
 #include "catalogue/DescriptionSidecars.h"
 
 #include "catalogue/PictureCards.h"
+#include "core/AlbumPaths.h"
 #include "platform/metadata/MetadataReader.h"
 #include "platform/metadata/SidecarWriter.h"
 #include "platform/text/QuotedText.h"
@@ -28,7 +29,8 @@ const QString captionField = QStringLiteral("Caption");
 
 SidecarContent ContentOf(const DescribedPicture& picture)
 {
-    SidecarContent content{picture.file, picture.record.legend, {}, {}};
+    SidecarContent content{
+        GeneralModule::AbsolutePath(picture.file), picture.record.legend, {}, {}};
     content.ownFields.insert(legendField, QuotedText(picture.record.legend));
     for (int column = 0; column < columnCount; ++column) {
         const QString& value = picture.record.values[std::size_t(column)];
@@ -71,7 +73,7 @@ bool SidecarExport::BeginBatch()
     std::vector<DescribedPicture> pictures;
     for (; next_ < ids_.size() && pictures.size() < batchSize; ++next_) {
         std::optional<DescribedPicture> picture = ReadDescription(ids_[next_]);
-        if (picture && QFileInfo::exists(picture->file)) {
+        if (picture && QFileInfo::exists(GeneralModule::AbsolutePath(picture->file))) {
             pictures.push_back(std::move(*picture));
             continue;
         }
@@ -113,7 +115,9 @@ SidecarImport::SidecarImport()
         files_ += picture.file;
         return true;
     });
-    reader_ = std::make_unique<MetadataReader>(files_);
+    reader_ = std::make_unique<MetadataReader>(int(files_.size()), [this](int number) {
+        return GeneralModule::AbsolutePath(files_[number]);
+    });
 }
 
 SidecarImport::~SidecarImport() = default;

@@ -2,6 +2,7 @@
 #include "catalogue/FoundPictures.h"
 
 #include "catalogue/MovedPatterns.h"
+#include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
@@ -17,7 +18,7 @@ class Taking
 public:
     explicit Taking(const std::function<bool(int)>& progress)
         : progress_(progress),
-          holder_(AlbumDatabase->GetEngine(), "SELECT 1 FROM Image WHERE File=?1"),
+          holder_(AlbumDatabase->GetEngine(), "SELECT 1 FROM Image WHERE File IN (?1,?2)"),
           stored_(AlbumDatabase->GetEngine(), "SELECT 1 FROM Image WHERE rowid=?1 AND File=?2"),
           mover_(AlbumDatabase->GetEngine(), "UPDATE Image SET File=?1 WHERE rowid=?2")
     {
@@ -42,11 +43,13 @@ public:
     }
 
 private:
-    void Move(const MissingPicture& picture, const QString& path)
+    void Move(const MissingPicture& picture, const QString& newFile)
     {
+        const QString path = GeneralModule::PathLike(picture.file, newFile);
         stored_.Bind(1, qint64(picture.id));
         stored_.Bind(2, picture.file);
-        holder_.Bind(1, path);
+        holder_.Bind(1, newFile);
+        holder_.Bind(2, GeneralModule::RelativePath(newFile));
         if (!IsThere(stored_))
             return;
         if (IsThere(holder_)) {

@@ -2,6 +2,7 @@
 #include "catalogue/MissingPictures.h"
 
 #include "core/Album.h"
+#include "core/AlbumPaths.h"
 #include "core/LocalCopy.h"
 #include "platform/files/PathRoutines.h"
 
@@ -38,7 +39,7 @@ void MissingPictures::Look(const PicturePaths::Entry& entry)
     MissingFolder& counts = folders_[std::size_t(*number)];
     ++counts.pictures;
     if (GeneralModule::IsPictureThere(entry.file, entry.copy)) {
-        held_.push_back(qHash(entry.file));
+        held_.push_back(qHash(GeneralModule::AbsolutePath(entry.file)));
         return;
     }
     ++counts.missing;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/MovedPictures.h"
 
+#include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 #include "platform/data/Statement.h"
@@ -63,10 +64,11 @@ private:
 
     void Repoint(const QString& oldPath, WriteBatch& batch)
     {
-        const QString path = PathIn(newFolder_, FileNameOf(oldPath));
-        if (!QFileInfo(path).isFile())
+        const QString newFile = PathIn(newFolder_, FileNameOf(oldPath));
+        if (!QFileInfo(newFile).isFile())
             return;
-        if (path != oldPath && IsHeld(path)) {
+        const QString path = PathLike(oldPath, newFile);
+        if (path != oldPath && (IsHeld(newFile) || IsHeld(RelativePath(newFile)))) {
             ++done_.alreadyHeld;
             return;
         }
@@ -92,7 +94,7 @@ private:
     {
         const QByteArray file = path.toUtf8();
         findHolder_.BindUtf8(1, file);
-        const bool isHeld = findHolder_.Step();
+        const bool isHeld = !path.isEmpty() && findHolder_.Step();
         findHolder_.Reset();
         return isHeld;
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/Picture.h"
 
+#include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
 #include "core/EditConflict.h"
 #include "core/TextRoutines.h"
@@ -135,7 +136,7 @@ QString TakeOutPicture(const QString& file, bool deleteFile)
 {
     // Begins before the file is deleted: this fails if the album cannot be changed.
     WriteBatch batch(AlbumDatabase);
-    const QString trouble = deleteFile ? DeleteFile(file) : QString();
+    const QString trouble = deleteFile ? DeleteFile(GeneralModule::AbsolutePath(file)) : QString();
     if (trouble.isEmpty() && FindPicture(file))
         ImageSet->Delete();
     batch.Finish();

@@ -2,6 +2,7 @@
 #include "catalogue/PictureLoading.h"
 
 #include "catalogue/CharacteristicModel.h"
+#include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
@@ -58,7 +59,9 @@ public:
         for (qsizetype i = 0; i < names.size(); ++i) {
             if (i % filesPerLook == 0)
                 RequireFolder(folder);
-            AddUnlessHeld(PathIn(folder, names[i]));
+            const QString path = PathIn(folder, names[i]);
+            if (!IsHeld(GeneralModule::RelativePath(path)))
+                AddUnlessHeld(path);
             batch_.RowDone();
             if (!goesOn())
                 return false;
@@ -69,14 +72,20 @@ public:
     void Finish() { batch_.Finish(); }
 
 private:
-    void AddUnlessHeld(const QString& path)
+    bool IsHeld(const QString& path)
     {
         const QByteArray file = path.toUtf8();
         find_.BindUtf8(1, file);
-        const bool isHeld = find_.Step();
+        const bool isHeld = !path.isEmpty() && find_.Step();
         find_.Reset();
-        if (isHeld)
+        return isHeld;
+    }
+
+    void AddUnlessHeld(const QString& path)
+    {
+        if (IsHeld(path))
             return;
+        const QByteArray file = path.toUtf8();
         insert_.BindUtf8(1, file);
         insert_.Run();
     }

@@ -4,6 +4,7 @@
 
 #include "catalogue/MovedPictures.h"
 #include "catalogue/frmMissingPictures.h"
+#include "core/AlbumPaths.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
@@ -67,7 +68,7 @@ void frmReloadPictures::ShowFolders()
     for (const QString& folder : PictureFolders()) {
         auto* item = new QListWidgetItem(folder, ui_->lstOldReferences);
         if (!isThere.contains(folder))
-            isThere.insert(folder, QFileInfo(folder).isDir());
+            isThere.insert(folder, QFileInfo(GeneralModule::AbsolutePath(folder)).isDir());
         if (isThere.value(folder))
             continue;
         QFont font = ui_->lstOldReferences->font();

@@ -2,6 +2,7 @@
 #include "core/LocalCopy.h"
 
 #include "core/Album.h"
+#include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 
@@ -24,7 +25,7 @@ namespace GeneralModule {
 
 QString PictureFileOf(const QString& file, const QString& copy)
 {
-    return !copy.isEmpty() && QFileInfo::exists(copy) ? copy : file;
+    return !copy.isEmpty() && QFileInfo::exists(copy) ? copy : AbsolutePath(file);
 }
 
 QString FindPictureFile(const QString& file)
@@ -36,7 +37,7 @@ QString ResolvePictureFile(const QString& file)
 {
     const QString copy = LocalCopyOf(file);
     if (copy.isEmpty())
-        return file;
+        return AbsolutePath(file);
     if (QFileInfo::exists(copy))
         return copy;
     if (!IsAlbumReadOnly()) {
@@ -44,12 +45,12 @@ QString ResolvePictureFile(const QString& file)
         ImageSet->Set(u"SourceFile", QString());
         ImageSet->Update();
     }
-    return file;
+    return AbsolutePath(file);
 }
 
 bool IsPictureThere(const QString& file, const QString& copy)
 {
-    return (!copy.isEmpty() && QFileInfo::exists(copy)) || QFileInfo::exists(file);
+    return (!copy.isEmpty() && QFileInfo::exists(copy)) || QFileInfo::exists(AbsolutePath(file));
 }
 
 } // namespace GeneralModule

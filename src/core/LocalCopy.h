@@ -6,8 +6,9 @@
 namespace GeneralModule {
 
 // The path from which to read a picture of the album: its local copy while that exists, else the
-// file itself. A missing copy is removed from the album, unless that is read-only. Moves the
-// current row of ImageSet. Throws DatabaseError, NoAlbum while no album is open.
+// file itself, absolute (AlbumPaths.h). A missing copy is removed from the album, unless that is
+// read-only. Moves the current row of ImageSet. Throws DatabaseError, NoAlbum while no album is
+// open.
 QString ResolvePictureFile(const QString& file);
 
 // The same path, but a missing copy stays in the album.

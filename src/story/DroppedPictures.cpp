@@ -2,8 +2,10 @@
 #include "story/DroppedPictures.h"
 
 #include "catalogue/DroppedFiles.h"
+#include "catalogue/Picture.h"
 #include "catalogue/PictureLoading.h"
 #include "core/Album.h"
+#include "core/AlbumPaths.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/FolderListing.h"
 #include "platform/widgets/BusyPointer.h"
@@ -19,12 +21,19 @@ struct DroppedPictures
     Q_DECLARE_TR_FUNCTIONS(DroppedPictures)
 };
 
+// As the album holds the picture, which may be relative.
+QString HeldPath(const QString& path)
+{
+    const QString relative = GeneralModule::RelativePath(path);
+    return !relative.isEmpty() && ReadPicture(relative) ? relative : path;
+}
+
 QStringList PathsOf(const DroppedFiles& files)
 {
     QStringList paths;
     for (auto folder = files.pictures.begin(); folder != files.pictures.end(); ++folder) {
         for (const QString& name : folder.value())
-            paths += PathIn(folder.key(), name);
+            paths += HeldPath(PathIn(folder.key(), name));
     }
     return paths;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "story/PictureFilter.h"
 
+#include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
 #include "platform/files/FilePatterns.h"
@@ -92,8 +93,11 @@ QString BuildFileFilter(const QString& selection)
 {
     const QString folder = FolderOf(selection);
     QStringList conditions;
-    for (const QString& pattern : SplitPatterns(FileNameOf(selection)))
+    for (const QString& pattern : SplitPatterns(FileNameOf(selection))) {
         conditions += QStringLiteral("[File] LIKE ") + GeneralModule::Quoted(folder + pattern);
+        conditions += GeneralModule::RelativeFilter(folder, pattern);
+    }
+    conditions.removeAll(QString());
     return QLatin1Char('(') + conditions.join(QLatin1String(" OR ")) + QLatin1Char(')');
 }
 

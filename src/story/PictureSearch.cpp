@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "story/PictureSearch.h"
 
+#include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
 #include "core/LocalCopy.h"
 #include "core/TextRoutines.h"
@@ -55,7 +56,11 @@ QString FilterOfFolder(QString folder)
     folder = QDir::toNativeSeparators(folder);
     if (!folder.endsWith(QDir::separator()))
         folder += QDir::separator();
-    return Contains(QStringLiteral("File"), EscapedForLike(folder) + QLatin1Char('*'));
+    const QString any = QStringLiteral("*");
+    const QString pattern = EscapedForLike(folder);
+    const QString filter = Contains(QStringLiteral("File"), pattern + any);
+    const QString relative = GeneralModule::RelativeFilter(pattern, any);
+    return relative.isEmpty() ? filter : filter + QLatin1String(" OR ") + relative;
 }
 
 } // namespace

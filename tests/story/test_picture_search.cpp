@@ -1,18 +1,24 @@
 // SPDX-License-Identifier: MIT
+#include "catalogue/MovedPictures.h"
+#include "catalogue/PictureLoading.h"
 #include "catalogue/ValueCounts.h"
 #include "core/Album.h"
 #include "core/AlbumSets.h"
+#include "core/LocalCopy.h"
 #include "platform/data/Database.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/shell/IdleWork.h"
 #include "story/FilterSentence.h"
+#include "story/PictureFilter.h"
 #include "story/PictureSearch.h"
 #include "support/AlbumFixture.h"
 #include "support/Rows.h"
+#include "support/TestFiles.h"
 
 #include <QFileInfo>
 
 using namespace std::chrono_literals;
+using namespace GeneralModule;
 
 namespace {
 
@@ -67,6 +73,48 @@ private slots:
                 found += QString::number(picture);
             QCOMPARE(found.join(u' '), expected);
         }
+    }
+
+    // The pictures of an album that travels with them are those beside it, wherever that is.
+    void RelativePathsCountFromTheAlbum()
+    {
+        AlbumFixture album;
+        for (const char* name : {"trip/a.png", "trip/in/b.png", "c.png"}) {
+            WriteFile(album.PathOf(name));
+            album.AddImageRow(name);
+        }
+        album.AddImageRow("C:\\Photos\\d.png");
+        album.AddImageRow("trip\\e.png"); // written by another system, and missing
+        QCOMPARE(FindPictureFile("trip/a.png"), album.PathOf("trip/a.png"));
+        QCOMPARE(FindPictureFile("trip\\e.png"), album.PathOf("trip/e.png"));
+        QCOMPARE(FindPictureFile("C:\\Photos\\d.png"), "C:\\Photos\\d.png");
+        const auto found = [](const SearchTerms& terms) {
+            PictureSearch search(terms);
+            CountSlices(search);
+            QStringList all;
+            for (const qint32 picture : search.GetFound())
+                all += QString::number(picture);
+            return all.join(u' ');
+        };
+        QCOMPARE(found({.isMissing = true}), "4 5");
+        QCOMPARE(found({.folder = album.PathOf("trip")}), "1 2");
+        QCOMPARE(found({.folder = album.PathOf("")}), "1 2 3 5");
+        QCOMPARE(found({.folder = QFileInfo(album.PathOf("")).path()}), "1 2 3 5");
+        for (const auto& [selection, expected] :
+             {std::pair("trip/*.*", 2), std::pair("c*", 1), std::pair("*.png", 4)}) {
+            PictureList pictures;
+            BuildPictureList({.fileSelection = PatternOfSelection(album.PathOf(selection))},
+                             pictures, 100, [](int) {});
+            QVERIFY2(pictures.Count() == expected, qPrintable(pictures.GetFiles().join(" ")));
+        }
+        // What is there is not added a second time, and stays relative.
+        LoadPictures(album.PathOf("trip"), {"a.png", "new.png"}, [](int) { return true; });
+        QCOMPARE(album.Joined("SELECT File FROM Image WHERE rowid>5"),
+                 album.PathOf("trip/new.png"));
+        WriteFile(album.PathOf("moved/a.png"));
+        QCOMPARE(RepointPictures("trip/", album.PathOf("moved"), [](int) { return true; }).updated,
+                 1);
+        QCOMPARE(album.Joined("SELECT File FROM Image WHERE rowid=1"), "moved/a.png");
     }
 
     // Rows far apart, and a change between two slices.

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "core/AlbumPaths.h"
+
+#include "core/Album.h"
+#include "core/TextRoutines.h"
+#include "platform/files/PathRoutines.h"
+#include "platform/text/LikePattern.h"
+
+#include <QDir>
+
+namespace {
+
+bool IsAbsolute(const QString& path)
+{
+    const bool hasDrive = path.size() > 1 && path[1] == u':' && path[0].isLetter();
+    return path.startsWith(u'/') || path.startsWith(u'\\') || hasDrive;
+}
+
+} // namespace
+
+namespace GeneralModule {
+
+QString AbsolutePath(const QString& file)
+{
+    if (file.isEmpty() || IsAbsolute(file) || !IsAlbumOpen())
+        return file;
+    return QDir::toNativeSeparators(
+        QDir::cleanPath(FolderOf(OpenAlbumPath()) + QString(file).replace(u'\\', u'/')));
+}
+
+QString RelativePath(const QString& path)
+{
+    const QString folder = FolderOf(OpenAlbumPath());
+    if (folder.isEmpty() || !path.startsWith(folder))
+        return {};
+    return QDir::fromNativeSeparators(path.sliced(folder.size()));
+}
+
+QString PathLike(const QString& former, const QString& path)
+{
+    const QString relative = IsAbsolute(former) ? QString() : RelativePath(path);
+    return relative.isEmpty() ? path : relative;
+}
+
+QString RelativeFilter(const QString& folder, const QString& pattern)
+{
+    const auto like = [](const QString& wanted) -> QString {
+        return QStringLiteral("[File] LIKE ") + Quoted(wanted);
+    };
+    const QString albums = EscapedForLike(FolderOf(OpenAlbumPath()));
+    if (albums.isEmpty() || folder.isEmpty())
+        return {};
+    if (folder.startsWith(albums) && folder.size() > albums.size())
+        return like(QDir::fromNativeSeparators(folder.sliced(albums.size())) + pattern);
+    const bool isAny = pattern.startsWith(u'*');
+    if (folder != albums && !(isAny && albums.startsWith(folder)))
+        return {};
+    const QString notAbsolute = QStringLiteral("[!/\\]");
+    return QLatin1Char('(') + like(isAny ? notAbsolute + pattern : pattern) +
+           QLatin1String(" AND NOT ") + like(QStringLiteral("?:*")) + QLatin1Char(')');
+}
+
+} // namespace GeneralModule
