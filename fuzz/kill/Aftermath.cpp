@@ -139,6 +139,7 @@ void OpenToWork(const Target& target, const QString& folder, const QString& pass
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder + "/../settings");
     qputenv("XDG_CACHE_HOME", (folder + "/../cache").toUtf8());
+    qputenv("XDG_DATA_HOME", (folder + "/../data").toUtf8());
     if (target.work.album == LongWork::Album::Open &&
         !OpenAlbum(folder + '/' + target.work.place, password))
         throw std::runtime_error("the album does not open");

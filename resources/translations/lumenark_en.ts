@@ -195,6 +195,16 @@
     </message>
 </context>
 <context>
+    <name>EarlierStates</name>
+    <message numerus="yes">
+        <source>Before the first change of each day the album is kept as it was, among its earlier states. This one is so large that it will take about %n second(s) each time. Shall its states be kept?</source>
+        <translation>
+            <numerusform>Before the first change of each day the album is kept as it was, among its earlier states. This one is so large that it will take about %n second each time. Shall its states be kept?</numerusform>
+            <numerusform>Before the first change of each day the album is kept as it was, among its earlier states. This one is so large that it will take about %n seconds each time. Shall its states be kept?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FileDrop</name>
     <message numerus="yes">
         <source>%n picture(s) loaded</source>

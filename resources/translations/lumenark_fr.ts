@@ -526,6 +526,10 @@
         <source>A part of the program does not work: %1</source>
         <translation>Une partie du programme ne fonctionne pas : %1</translation>
     </message>
+    <message>
+        <source>The folder &apos;%1&apos; cannot be made.</source>
+        <translation>Impossible de créer le dossier &apos;%1&apos;.</translation>
+    </message>
 </context>
 <context>
     <name>DescriptionCsv</name>
@@ -786,6 +790,44 @@
     <message>
         <source>There is no picture among these files.</source>
         <translation>Il n&apos;y a pas de photo parmi ces fichiers.</translation>
+    </message>
+</context>
+<context>
+    <name>EarlierStates</name>
+    <message>
+        <source>The state of the album cannot be kept: %1</source>
+        <translation>Impossible de garder l&apos;état de l&apos;album : %1</translation>
+    </message>
+    <message>
+        <source>There is no room for it on the disk.</source>
+        <translation>Il n&apos;y a plus de place sur le disque.</translation>
+    </message>
+    <message>
+        <source>The album is damaged, so today&apos;s state of it is not kept among the earlier ones.
+%1</source>
+        <translation>L&apos;album est endommagé ; son état d&apos;aujourd&apos;hui n&apos;est donc pas gardé parmi les états antérieurs.
+%1</translation>
+    </message>
+    <message>
+        <source>Today&apos;s state of the album could not be kept.
+%1</source>
+        <translation>L&apos;état d&apos;aujourd&apos;hui de l&apos;album n&apos;a pas pu être gardé.
+%1</translation>
+    </message>
+    <message>
+        <source>The file&apos;s contents do not fit together.</source>
+        <translation>Le contenu du fichier n&apos;est pas cohérent.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Before the first change of each day the album is kept as it was, among its earlier states. This one is so large that it will take about %n second(s) each time. Shall its states be kept?</source>
+        <translation>
+            <numerusform>Avant la première modification de chaque jour, l&apos;album est gardé tel qu&apos;il était, parmi ses états antérieurs. Celui-ci est si grand que cela prendra environ %n seconde à chaque fois. Faut-il garder ses états ?</numerusform>
+            <numerusform>Avant la première modification de chaque jour, l&apos;album est gardé tel qu&apos;il était, parmi ses états antérieurs. Celui-ci est si grand que cela prendra environ %n secondes à chaque fois. Faut-il garder ses états ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The state cannot be taken back: %1</source>
+        <translation>Impossible de reprendre cet état : %1</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "core/PasswordChange.h"
 #include "core/RecentAlbums.h"
 #include "core/Settings.h"
+#include "core/StateKeeping.h"
 #include "core/oldalbum/OldAlbum.h"
 #include "platform/data/DatabaseFile.h"
 #include "platform/data/WriteBatch.h"
@@ -135,7 +136,10 @@ bool OpenWithPassword(const QString& path, QString password)
         return false;
     while (true) {
         try {
-            SetOpenedAlbum(OpenCleaned(path, password));
+            std::unique_ptr<Album> album = OpenCleaned(path, password);
+            if (!album->database->IsReadOnly())
+                AskAboutLargeAlbum(path, !album->database->GetPassword().isEmpty());
+            SetOpenedAlbum(std::move(album));
             SaveLastAlbum(path);
             RememberRecentAlbum(path);
             return true;

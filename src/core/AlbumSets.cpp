@@ -2,6 +2,7 @@
 #include "core/AlbumSets.h"
 
 #include "core/Columns.h"
+#include "core/StateKeeping.h"
 
 #include <QCoreApplication>
 
@@ -51,6 +52,7 @@ Album::Album(const QString& path, const QString& password)
       linkedImages(database, QStringLiteral("LinkedImages"))
 {
     RequireSchema(*this);
+    KeepStatesOf(*database);
 }
 
 Album* FindOpenedAlbum()
