@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -136,6 +137,13 @@ QDateTime StateTime(const QString& path)
     EarlierState state;
     ReadName(QFileInfo(path).fileName(), state);
     return state.kept;
+}
+
+QString TimeText(const QDateTime& kept)
+{
+    const QLocale locale;
+    return locale.toString(kept.date(), QLocale::LongFormat) + u' ' +
+           locale.toString(kept.time(), QLocale::ShortFormat);
 }
 
 int StatesLimit()

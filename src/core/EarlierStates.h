@@ -39,6 +39,9 @@ bool IsEarlierState(const QString& path, QString* album = nullptr);
 // When the state at that path was kept; invalid for the path of anything else.
 QDateTime StateTime(const QString& path);
 
+// A state's time as users read it, with the day of the week.
+QString TimeText(const QDateTime& kept);
+
 // How many megabytes the states of one album may take; the newest always stays.
 int StatesLimit();
 void SetStatesLimit(int megabytes);

@@ -57,9 +57,14 @@ OpenState::OpenState(const QString& path, const QString& password)
 {
 }
 
-qint64 OpenState::CountPictures() const
+QString OpenState::GetPassword() const
 {
-    Statement count(database_->GetEngine(), "SELECT count(*) FROM Image");
+    return database_->GetPassword();
+}
+
+qint64 OpenState::Count(const char* table) const
+{
+    Statement count(database_->GetEngine(), QByteArray("SELECT count(*) FROM ") + table);
     return count.Step() ? count.GetInteger(0) : 0;
 }
 

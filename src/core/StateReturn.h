@@ -27,11 +27,16 @@ public:
 
     const std::shared_ptr<Database>& GetDatabase() const { return database_; }
 
-    qint64 CountPictures() const;
+    QString GetPassword() const;
+
+    qint64 CountChapters() const { return Count("Chapter"); }
+    qint64 CountPictures() const { return Count("Image"); }
     // In reading order; chapters that the first one does not lead to come where they are linked to.
     std::vector<StateChapter> Chapters() const;
 
 private:
+    qint64 Count(const char* table) const;
+
     std::shared_ptr<Database> database_;
 };
 
