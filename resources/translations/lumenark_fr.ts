@@ -390,16 +390,16 @@
         </translation>
     </message>
     <message>
-        <source>Plug in the disk that they are on, or point the album to where they are now (Pictures &gt; Reload Moved Pictures).</source>
-        <translation>Branchez le disque où elles sont, ou rattachez l&apos;album à leur emplacement actuel (Photos &gt; Retrouver les photos déplacées).</translation>
-    </message>
-    <message>
         <source>The check was stopped before its end.</source>
         <translation>La vérification a été arrêtée avant la fin.</translation>
     </message>
     <message>
         <source>The album is in order.</source>
         <translation>L&apos;album est en ordre.</translation>
+    </message>
+    <message>
+        <source>Plug in the disk, or point the album to the new place (Pictures &gt; Reload Moved Pictures).</source>
+        <translation>Branchez le disque, ou rattachez l&apos;album au nouvel emplacement (Photos &gt; Retrouver les photos déplacées).</translation>
     </message>
 </context>
 <context>

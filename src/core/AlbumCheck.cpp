@@ -263,9 +263,8 @@ private:
             Add(Kind::Missing,
                 CheckReport::tr("The files of %n picture(s) are not where they were.", nullptr,
                                 count),
-                CheckReport::tr(
-                    "Plug in the disk that they are on, or point the album to where they "
-                    "are now (Pictures > Reload Moved Pictures)."),
+                CheckReport::tr("Plug in the disk, or point the album to the new place (Pictures > "
+                                "Reload Moved Pictures)."),
                 missing, count);
     }
 

@@ -11,13 +11,16 @@ constexpr qint64 secondsWhole = 2 * 24 * 3600;
 constexpr int daysDaily = 2 + 14;
 constexpr int daysWeekly = daysDaily + 7 * 10;
 
-// The stretch of time of which one state stays; states of the last two days have one each.
+bool IsOfLastDays(const QDateTime& kept, const QDateTime& now)
+{
+    return kept.secsTo(now) < secondsWhole;
+}
+
+// The stretch of time of which one state stays.
 std::tuple<int, qint64, qint64> PeriodOf(const QDateTime& kept, const QDateTime& now)
 {
     const QDate day = kept.date();
     const qint64 age = day.daysTo(now.date());
-    if (kept.secsTo(now) < secondsWhole)
-        return {0, kept.toMSecsSinceEpoch(), 0};
     if (age <= daysDaily)
         return {1, day.toJulianDay(), 0};
     if (age <= daysWeekly)
@@ -42,7 +45,8 @@ std::vector<std::size_t> StatesToRemove(const std::vector<StateSize>& states, co
     const StateSize* last = nullptr; // that stays
     for (const std::size_t number : newestFirst) {
         const StateSize& state = states[number];
-        const bool isRepeated = last && PeriodOf(last->kept, now) == PeriodOf(state.kept, now);
+        const bool isRepeated = last && !IsOfLastDays(state.kept, now) &&
+                                PeriodOf(last->kept, now) == PeriodOf(state.kept, now);
         const bool isTooMuch = bytes + state.bytes > limit;
         const bool stays = !last || (state.isSound && !hasSound);
         if (!stays && (isRepeated || isTooMuch)) {

@@ -143,6 +143,8 @@ private slots:
         QCOMPARE(StatesToRemove(states, now, 120), Removed({1, 0}));
         QCOMPARE(StatesToRemove(states, now, 10), Removed({1, 0}));
         QCOMPARE(StatesToRemove({}, now, 10), Removed());
+        const StateSize twin = At("2024-05-05T09:00:00"); // in one second, as a quick user may
+        QCOMPARE(StatesToRemove({twin, twin, twin}, now, 10), Removed());
     }
 
     void TheFirstChangeOfADayKeepsTheAlbumAsItWas_data()
