@@ -1586,6 +1586,10 @@ Votre version :
         <source>States are kept in the new folder from now on. Those in the former folder stay there; move them to the new one if you want to see them here.</source>
         <translation>Les états sont désormais gardés dans le nouveau dossier. Ceux de l&apos;ancien dossier y restent ; déplacez-les dans le nouveau si vous voulez les voir ici.</translation>
     </message>
+    <message>
+        <source>The album had no password then, and will have none.</source>
+        <translation>L&apos;album n&apos;avait pas de mot de passe alors, et n&apos;en aura plus.</translation>
+    </message>
 </context>
 <context>
     <name>frmFindPictures</name>

@@ -16,6 +16,7 @@
 #include <QStorageInfo>
 
 #include <algorithm>
+#include <mutex>
 #include <system_error>
 #include <utility>
 
@@ -36,6 +37,8 @@ constexpr qint64 roomLeft = 50'000'000;        // bytes that a state leaves free
 const QString wishSection = QStringLiteral("EarlierStatesWanted");
 const QString rateSection = QStringLiteral("EarlierStates");
 
+// Also of an album that another thread opens.
+std::mutex troubleLock;
 std::optional<StateTrouble> trouble;
 
 QString RateKey(bool isEncrypted)
@@ -176,6 +179,7 @@ void KeepStateOfDay(Database& database)
         StateOfDay(database).Keep();
     } catch (const DatabaseError& error) {
         const bool isDamaged = error.GetNumber() == DatabaseError::Damaged;
+        const std::lock_guard guard(troubleLock);
         trouble = {isDamaged
                        ? StateTexts::tr("The album is damaged, so today's state of it is not kept "
                                         "among the earlier ones.\n%1")
@@ -253,6 +257,7 @@ void RequireSound(const QString& state, const QString& password)
 
 std::optional<StateTrouble> TakeStateTrouble()
 {
+    const std::lock_guard guard(troubleLock);
     return std::exchange(trouble, std::nullopt);
 }
 

@@ -3,6 +3,7 @@
 #include "ui_frmEarlierStates.h"
 
 #include "core/Album.h"
+#include "core/AlbumPassword.h"
 #include "core/StateKeeping.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
@@ -186,10 +187,15 @@ void frmEarlierStates::cmdTakeBack_Click()
         return;
     const EarlierState state = *Selected();
     const auto opened = passwords_.Open(state.path);
-    if (!opened ||
-        !AgreesTo(tr("Make the album as it was on %1? What it is now is kept among its earlier "
-                     "states first, so that it can be taken back too.")
-                      .arg(TimeText(state.kept))))
+    if (!opened)
+        return;
+    QString question =
+        tr("Make the album as it was on %1? What it is now is kept among its earlier "
+           "states first, so that it can be taken back too.")
+            .arg(TimeText(state.kept));
+    if (opened->GetPassword().isEmpty() && IsOpenHere() && AlbumHasPassword())
+        question += u'\n' + tr("The album had no password then, and will have none.");
+    if (!AgreesTo(question))
         return;
     const auto showAll = qScopeGuard([this] { ShowStates(); });
     bool isOpen = false;
