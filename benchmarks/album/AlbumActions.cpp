@@ -7,10 +7,13 @@
 #include "core/AlbumPassword.h"
 #include "core/AlbumRepair.h"
 #include "core/AlbumSets.h"
+#include "core/StateKeeping.h"
 #include "platform/data/CipherFile.h"
 #include "platform/data/Statement.h"
 
 #include <QFile>
+
+#include <unistd.h>
 
 using namespace GeneralModule;
 using Lock = LargeAlbum::Lock;
@@ -57,6 +60,31 @@ Action Locking(const char* name, Lock before, const QString& password)
         }};
 }
 
+// Both write the copy through to the disk.
+Action Copying(const char* name, Lock lock)
+{
+    return {name, [lock](LargeAlbum& album) { album.OpenToChange(lock); },
+            [](LargeAlbum& album) {
+                QFile target(album.FreePath());
+                if (!target.open(QIODevice::WriteOnly))
+                    qFatal("the copy was not made");
+                CloneDatabaseFile(*AlbumDatabase, target.fileName(), [](int) { return true; });
+                fdatasync(target.handle());
+                target.remove();
+            },
+            [](LargeAlbum& album) {
+                const QString target = album.FreePath();
+                QFile::copy(OpenAlbumPath(), target);
+                QFile::remove(target);
+            }};
+}
+
+Action Keeping(const char* name, Lock lock)
+{
+    return {name, [lock](LargeAlbum& album) { album.OpenToChange(lock); },
+            [](LargeAlbum&) { QFile::remove(KeepState(false)); }};
+}
+
 void BreakLink(LargeAlbum& album)
 {
     album.OpenToChange();
@@ -82,6 +110,10 @@ std::vector<Action> AlbumActions()
          }},
         {"repair a broken link, with the copy", BreakLink,
          [](LargeAlbum&) { QFile::remove(RepairAlbum().copy); }},
+        Copying("copy the file", Lock::None),
+        Copying("copy the file with a password", Lock::Password),
+        Keeping("keep a state, with its check", Lock::None),
+        Keeping("keep a state with a password", Lock::Password),
         {"copy beside the album", [](LargeAlbum& album) { album.OpenToRead(); },
          [](LargeAlbum&) {
              QFile::remove(CopyAlbumBeside(QStringLiteral("measured"), [](int) { return true; }));

@@ -58,6 +58,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir settings;
     qputenv("XDG_CACHE_HOME", QFile::encodeName(settings.path()));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(settings.path()));
     const QApplication application(argc, argv);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     Confirming dialogs;

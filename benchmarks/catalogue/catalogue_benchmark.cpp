@@ -312,6 +312,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+    qputenv("XDG_DATA_HOME", QFile::encodeName(settings.path()));
     benchmark::Initialize(&argc, argv);
     RegisterPair("load 100,000 files", Load_Ours, Load_Bare);
     RegisterPair("load a tree of 100,000 files", LoadTree_Ours, LoadTree_Bare);

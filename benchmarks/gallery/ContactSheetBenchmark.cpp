@@ -281,6 +281,7 @@ int main(int argc, char** argv)
     QTemporaryDir folder;
     qputenv("XDG_CACHE_HOME", QFile::encodeName(folder.filePath(QStringLiteral("cache"))));
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
     const QString path = folder.filePath(QStringLiteral("sheet.alb"));
     QFile::copy(QStringLiteral(TEMPLATE_FILE), path);
     QDir(folder.path()).mkdir(QStringLiteral("painted"));

@@ -91,6 +91,7 @@ sqlite3* Engine()
             const QString path = folder.filePath(QStringLiteral("story.alb"));
             QFile::copy(QStringLiteral(TEMPLATE_FILE), path);
             QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+            qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
             OpenAlbum(path);
             AlbumDatabase->Execute("BEGIN");
             FillPictures(AlbumDatabase->GetEngine());

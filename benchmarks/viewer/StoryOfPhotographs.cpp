@@ -38,6 +38,7 @@ void AddChapter(const QString& name, int paragraphs)
 StoryOfPhotographs::StoryOfPhotographs()
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder_.path()));
     const QString album = folder_.filePath(QStringLiteral("story.alb"));
     isThere_ = folder_.isValid() && CreateAlbumFile(album) && OpenAlbum(album) && AddPictures();
     if (!isThere_)

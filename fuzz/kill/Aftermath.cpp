@@ -3,6 +3,8 @@
 
 #include "core/Album.h"
 #include "core/AlbumSets.h"
+#include "core/EarlierStates.h"
+#include "core/StateKeeping.h"
 #include "fuzz/AlbumState.h"
 #include "platform/files/FileReplacement.h"
 #include "support/AlbumFixture.h"
@@ -65,6 +67,29 @@ void LookAtLeftovers(const Target& target, const QString& folder, Finding& findi
     }
 }
 
+// Whole albums as they were at some step, and nothing else but what nobody else may open.
+void LookAtStates(const Target& target, const QString& folder, Finding& finding)
+{
+    const QString place = folder + '/' + target.work.place;
+    for (const EarlierState& state : EarlierStatesOf(place)) {
+        const QByteArray held = StateOf(state.path, {oldPassword, newPassword});
+        const bool isBetween = target.work.commits == LongWork::Commits::OnItsWay &&
+                               IsBetween(held, target.states.first(), target.states.last());
+        if (!target.states.contains(held) && !isBetween)
+            throw std::runtime_error("a state holds something else");
+        if (RightsOfOthers(state.path))
+            throw std::runtime_error("others may read a state");
+    }
+    const QString states = StatesFolderOf(place);
+    if (QFileInfo::exists(states) && RightsOfOthers(states))
+        throw std::runtime_error("others may list the states");
+    for (const QString& name : EntriesOf(states)) {
+        finding.hasFolder = finding.hasFolder || name.startsWith(u'.');
+        if (finding.fault.isEmpty())
+            finding.fault = FaultOfLeftover(target, states, name);
+    }
+}
+
 // From the acknowledged step on, because earlier states may come again.
 void LookAtAlbum(const Target& target, const QString& folder, int acknowledged, Finding& finding)
 {
@@ -109,10 +134,14 @@ QString FaultAtEnd(const Target& target, const QString& folder)
         return QStringLiteral("the album does not open");
     const QString fault = FaultOfChains(1);
     AlbumDatabase->Execute("PRAGMA user_version=1");
+    KeepState(false);
     ReleaseAlbum();
     if (!fault.isEmpty())
         return fault;
     FileReplacement(place).GetPath();
+    const QStringList states = EntriesOf(StatesFolderOf(place));
+    if (states.size() != qsizetype(EarlierStatesOf(place).size()) + 1) // and the note
+        return QStringLiteral("left with the states: ") + states.join(QLatin1String(", "));
     const QStringList atEnd = EntriesAtEnd(folder);
     return atEnd == target.atEnd
                ? QString()
@@ -135,10 +164,21 @@ QStringList EntriesAtEnd(const QString& folder)
     return names;
 }
 
+void KeepStatesBeside(const QString& folder)
+{
+    qputenv("XDG_DATA_HOME", (folder + "/../data").toUtf8());
+}
+
+void ForgetStates(const QString& folder)
+{
+    QDir(folder + "/../data").removeRecursively();
+}
+
 void OpenToWork(const Target& target, const QString& folder, const QString& password)
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder + "/../settings");
     qputenv("XDG_CACHE_HOME", (folder + "/../cache").toUtf8());
+    KeepStatesBeside(folder);
     if (target.work.album == LongWork::Album::Open &&
         !OpenAlbum(folder + '/' + target.work.place, password))
         throw std::runtime_error("the album does not open");
@@ -161,7 +201,10 @@ Finding Look(const Target& target, const QString& folder, int acknowledged)
     Finding finding;
     const auto goOn = [&finding] { return finding.fault.isEmpty(); };
     try {
+        KeepStatesBeside(folder);
         LookAtLeftovers(target, folder, finding);
+        if (goOn())
+            LookAtStates(target, folder, finding);
         if (goOn())
             LookAtAlbum(target, folder, acknowledged, finding);
         if (goOn())

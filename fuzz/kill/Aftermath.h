@@ -43,6 +43,11 @@ QStringList EntriesOf(const QString& folder);
 // The same when all is done, without a repair's copies: how often one was begun does not matter.
 QStringList EntriesAtEnd(const QString& folder);
 
+// Where the earlier states of the folder's album are kept, in a folder of its own.
+void KeepStatesBeside(const QString& folder);
+// Leaves none of them.
+void ForgetStates(const QString& folder);
+
 // Opens the album that the work takes open. Throws std::runtime_error when it does not open.
 void OpenToWork(const Target& target, const QString& folder, const QString& password);
 

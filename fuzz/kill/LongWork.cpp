@@ -11,7 +11,10 @@
 #include "core/AlbumRepair.h"
 #include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
+#include "core/EarlierStates.h"
 #include "core/Parameters.h"
+#include "core/StateKeeping.h"
+#include "core/StateReturn.h"
 #include "core/oldalbum/OldAlbumConversion.h"
 #include "story/ParagraphLinks.h"
 #include "story/ParagraphMoves.h"
@@ -285,6 +288,42 @@ LongWork SettingPassword(const QString& name, const QString& before, const QStri
     return work;
 }
 
+// The newest state that no earlier one has replaced.
+QString LastKept(const QString& album)
+{
+    for (const EarlierState& state : EarlierStatesOf(album)) {
+        if (!state.isReplaced)
+            return state.path;
+    }
+    return {};
+}
+
+// A state is kept, the album changes, and the state is taken back whole or in part.
+void ComeAndGo(const QString&, int step)
+{
+    const QString album = OpenAlbumPath();
+    const QString password = AlbumDatabase->GetPassword();
+    switch (step % 6) {
+    case 0:
+        KeepState(false);
+        break;
+    case 1:
+    case 3:
+        CreateChapter(QStringLiteral("New %1").arg(step), ChapterNames().first());
+        break;
+    case 2:
+        Require(TakeBackState(LastKept(album), password, album));
+        break;
+    case 4: {
+        const OpenState state(LastKept(album), password);
+        TakeBackChapters(state, {state.Chapters().back().id}, ChapterPlace::InPlaceOfSame);
+        break;
+    }
+    default:
+        CreateChapter(QStringLiteral("Newer %1").arg(step), ChapterNames().last());
+    }
+}
+
 LongWork Creating(const QString& name, bool isOver)
 {
     LongWork work = OfAlbum(name, Pictures(50, "'/p/'||i"), [](const QString& folder, int) {
@@ -334,6 +373,9 @@ std::vector<LongWork> EveryLongWork(const QString& oldAlbum)
     addSteps("changing chapters", Chapters(40) + Paragraphs(12, 2), ChangeChapters);
     addSteps("changing paragraphs", Chapters(8) + Paragraphs(6, 4), ChangeParagraphs);
     addSteps("describing pictures", Pictures(100, "'/p/'||i||'.jpg'"), Describe);
+    addSteps("keeping and taking back states",
+             Chapters(6) + Paragraphs(6, 30) + Pictures(rows, "'/p/'||i||'.jpg'"), ComeAndGo);
+    all.back().steps = 18;
     all.push_back(SettingPassword("setting a password", {}, newPassword));
     all.push_back(SettingPassword("changing a password", oldPassword, newPassword));
     all.push_back(SettingPassword("removing a password", oldPassword, {}));

@@ -3,7 +3,9 @@
 // holds everything that was acknowledged, and the work can be done again; nothing else stays lying
 // about.
 //
-//   kill_fuzz [--seconds N] [--seed N] [--trial N] [OLD-ALBUM]
+//   kill_fuzz [--seconds N] [--seed N] [--trial N] [OLD-ALBUM | WORK]
+//
+// WORK, which is no file, stands for the kinds of work with that in their name.
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
 #include "fuzz/AlbumState.h"
@@ -16,6 +18,7 @@
 #include <QDataStream>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -105,6 +108,7 @@ void Prepare(Target& target, const QString& trial)
             ReleaseAlbum();
         }
         CopyFiles(target.folder, trial);
+        ForgetStates(trial);
         QByteArrayList states{StateAt(target, trial)};
         OpenToWork(target, trial, PasswordIn(states.first()));
         for (int step = 0; step < target.work.steps; ++step) {
@@ -120,6 +124,7 @@ void Prepare(Target& target, const QString& trial)
         throw std::runtime_error("the work changes nothing");
 
     CopyFiles(target.folder, trial);
+    ForgetStates(trial);
     Fork undisturbed([&target, &trial](int out) { Work(target, trial, out); });
     undisturbed.WaitForByte();
     QElapsedTimer time;
@@ -131,6 +136,7 @@ void Prepare(Target& target, const QString& trial)
 void Kill(Trials& trials, Target& target, const QString& trial)
 {
     CopyFiles(target.folder, trial);
+    ForgetStates(trial);
     Fork worker([&target, &trial](int out) { Work(target, trial, out); });
     const bool hasBegun = worker.WaitForByte();
     const double moment = target.milliseconds * 1.05 * double(trials.Below(1 << 20)) / (1 << 20);
@@ -171,10 +177,13 @@ void Report(const std::vector<Target>& targets)
     }
 }
 
-std::vector<Target> EveryTarget(const QString& oldAlbum, const QTemporaryDir& root)
+std::vector<Target> EveryTarget(const QString& given, const QTemporaryDir& root)
 {
     std::vector<Target> targets;
-    for (const LongWork& work : EveryLongWork(oldAlbum)) {
+    const bool isFile = QFileInfo::exists(given);
+    for (const LongWork& work : EveryLongWork(isFile ? given : QString())) {
+        if (!isFile && !work.name.contains(given))
+            continue;
         for (const bool isLocked : {false, true}) {
             if (isLocked && !work.canBeLocked)
                 continue;
@@ -199,6 +208,8 @@ int main(int argc, char** argv)
     const QTemporaryDir root;
     const QString trial = root.filePath(QStringLiteral("trial"));
     std::vector<Target> targets = EveryTarget(trials.GetFiles().value(0), root);
+    if (targets.empty())
+        qFatal("there is no such work");
     while (trials.Next()) {
         Target& target = targets[std::size_t(trials.Below(qsizetype(targets.size())))];
         try {

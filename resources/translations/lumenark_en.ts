@@ -2,6 +2,23 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
+    <name>AlbumPassword</name>
+    <message numerus="yes">
+        <source>%n earlier state(s) of this album have no password: whoever gets at your files can read what the album held then. Shall they be deleted?</source>
+        <translation>
+            <numerusform>%n earlier state of this album has no password: whoever gets at your files can read what the album held then. Shall it be deleted?</numerusform>
+            <numerusform>%n earlier states of this album have no password: whoever gets at your files can read what the album held then. Shall they be deleted?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them could not be deleted.</source>
+        <translation>
+            <numerusform>%n of them could not be deleted.</numerusform>
+            <numerusform>%n of them could not be deleted.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>AlbumStatus</name>
     <message numerus="yes">
         <source>%Ln picture(s)</source>
@@ -77,6 +94,44 @@
         <translation>
             <numerusform>%Ln paragraph</numerusform>
             <numerusform>%Ln paragraphs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CheckReport</name>
+    <message numerus="yes">
+        <source>%n link(s) to pictures belong to paragraphs that are gone.</source>
+        <translation>
+            <numerusform>%n link to a picture belongs to a paragraph that is gone.</numerusform>
+            <numerusform>%n links to pictures belong to paragraphs that are gone.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Paragraphs are linked with %n picture(s) that the album does not hold.</source>
+        <translation>
+            <numerusform>Paragraphs are linked with %n picture that the album does not hold.</numerusform>
+            <numerusform>Paragraphs are linked with %n pictures that the album does not hold.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Pictures have %n value(s) that the tables do not list.</source>
+        <translation>
+            <numerusform>Pictures have %n value that the tables do not list.</numerusform>
+            <numerusform>Pictures have %n values that the tables do not list.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are in the album more than once.</source>
+        <translation>
+            <numerusform>%n picture is in the album more than once.</numerusform>
+            <numerusform>%n pictures are in the album more than once.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The files of %n picture(s) are not where they were.</source>
+        <translation>
+            <numerusform>The file of %n picture is not where it was.</numerusform>
+            <numerusform>The files of %n pictures are not where they were.</numerusform>
         </translation>
     </message>
 </context>
@@ -195,6 +250,16 @@
     </message>
 </context>
 <context>
+    <name>EarlierStates</name>
+    <message numerus="yes">
+        <source>Before the first change of each day the album is kept as it was, among its earlier states. This one is so large that it will take about %n second(s) each time. Shall its states be kept?</source>
+        <translation>
+            <numerusform>Before the first change of each day the album is kept as it was, among its earlier states. This one is so large that it will take about %n second each time. Shall its states be kept?</numerusform>
+            <numerusform>Before the first change of each day the album is kept as it was, among its earlier states. This one is so large that it will take about %n seconds each time. Shall its states be kept?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FileDrop</name>
     <message numerus="yes">
         <source>%n picture(s) loaded</source>
@@ -253,6 +318,16 @@
     </message>
 </context>
 <context>
+    <name>frmCheckAlbum</name>
+    <message numerus="yes">
+        <source>%n finding(s); each tells what mends it.</source>
+        <translation>
+            <numerusform>%n finding; it tells what mends it.</numerusform>
+            <numerusform>%n findings; each tells what mends it.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>frmDescribePictures</name>
     <message numerus="yes">
         <source>%1 of %n pictures chosen</source>
@@ -287,6 +362,16 @@
         <translation>
             <numerusform>Apply what you have entered to %n picture ?</numerusform>
             <numerusform>Apply what you have entered to %n pictures ?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>frmEarlierStates</name>
+    <message numerus="yes">
+        <source>%1 as it was, %n time(s), in %2 :</source>
+        <translation>
+            <numerusform>%1 as it was, once, in %2 :</numerusform>
+            <numerusform>%1 as it was, %n times, in %2 :</numerusform>
         </translation>
     </message>
 </context>
@@ -373,6 +458,37 @@
         <translation>
             <numerusform>%n already in the album</numerusform>
             <numerusform>%n already in the album</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>frmTakeChapters</name>
+    <message numerus="yes">
+        <source>%n chapter(s) taken back.</source>
+        <translation>
+            <numerusform>%n chapter taken back.</numerusform>
+            <numerusform>%n chapters taken back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraph(s) in all.</source>
+        <translation>
+            <numerusform>%n paragraph in all.</numerusform>
+            <numerusform>%n paragraphs in all.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) to pictures came with them.</source>
+        <translation>
+            <numerusform>%n link to a picture came with them.</numerusform>
+            <numerusform>%n links to pictures came with them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) that the album did not hold any more came back with them.</source>
+        <translation>
+            <numerusform>%n picture that the album did not hold any more came back with them.</numerusform>
+            <numerusform>%n pictures that the album did not hold any more came back with them.</numerusform>
         </translation>
     </message>
 </context>

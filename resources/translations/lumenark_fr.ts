@@ -71,6 +71,18 @@
         <source>Please give the password for : %1</source>
         <translation>Mot de passe de l&apos;album : %1</translation>
     </message>
+    <message>
+        <source>Earlier states of this album are kept, the newest of %1. Do you want to see them?</source>
+        <translation>Des états antérieurs de cet album sont gardés, le plus récent du %1. Voulez-vous les voir ?</translation>
+    </message>
+    <message>
+        <source>%1 as it was on %2</source>
+        <translation>%1 tel qu&apos;il était le %2</translation>
+    </message>
+    <message>
+        <source>This is an earlier state of an album: it can be read, but not changed.</source>
+        <translation>Ceci est un état antérieur d&apos;un album : on peut le lire, mais pas le modifier.</translation>
+    </message>
 </context>
 <context>
     <name>AlbumOpener</name>
@@ -97,6 +109,10 @@
     <message>
         <source>The sample story is being copied...</source>
         <translation>L&apos;histoire d&apos;exemple est en cours de copie...</translation>
+    </message>
+    <message>
+        <source>Earlier states of it are kept. Do you want to see them?</source>
+        <translation>Des états antérieurs en sont gardés. Voulez-vous les voir ?</translation>
     </message>
 </context>
 <context>
@@ -132,6 +148,20 @@
     <message>
         <source>Change Password</source>
         <translation>Changer le mot de passe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n earlier state(s) of this album have no password: whoever gets at your files can read what the album held then. Shall they be deleted?</source>
+        <translation>
+            <numerusform>%n état antérieur de cet album n&apos;a pas de mot de passe : qui accède à vos fichiers peut lire ce que l&apos;album contenait alors. Faut-il le supprimer ?</numerusform>
+            <numerusform>%n états antérieurs de cet album n&apos;ont pas de mot de passe : qui accède à vos fichiers peut lire ce que l&apos;album contenait alors. Faut-il les supprimer ?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them could not be deleted.</source>
+        <translation>
+            <numerusform>%n d&apos;entre eux n&apos;a pas pu être supprimé.</numerusform>
+            <numerusform>%n d&apos;entre eux n&apos;ont pas pu être supprimés.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -269,6 +299,107 @@
             <numerusform>%Ln paragraphe</numerusform>
             <numerusform>%Ln paragraphes</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Check</name>
+    <message>
+        <source>Tell what is wrong with the album, without windows; nothing is changed. The exit status is 0 when it is in order, 1 when it cannot be opened or its file is damaged, 3 when something else was found.</source>
+        <translation>Dire ce qui ne va pas dans l&apos;album, sans fenêtres ; rien n&apos;est modifié. Le code de sortie est 0 quand il est en ordre, 1 quand il ne peut être ouvert ou que son fichier est endommagé, 3 quand autre chose a été trouvé.</translation>
+    </message>
+    <message>
+        <source>The album.</source>
+        <translation>L&apos;album.</translation>
+    </message>
+    <message>
+        <source>--check takes one album</source>
+        <translation>--check prend un album</translation>
+    </message>
+    <message>
+        <source>usage: lumenark --check ALBUM [--password-file FILE]</source>
+        <translation>utilisation : lumenark --check ALBUM [--password-file FILE]</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReport</name>
+    <message>
+        <source>The album&apos;s file is damaged.</source>
+        <translation>Le fichier de l&apos;album est endommagé.</translation>
+    </message>
+    <message>
+        <source>Take back an earlier state of it (Tools &gt; Earlier States).</source>
+        <translation>Reprenez-en un état antérieur (Outils &gt; États antérieurs).</translation>
+    </message>
+    <message>
+        <source>Chapters or paragraphs do not hang together as they should.</source>
+        <translation>Des chapitres ou des paragraphes ne se tiennent pas comme il faut.</translation>
+    </message>
+    <message>
+        <source>Tools &gt; Repair Album mends that. It would change this:</source>
+        <translation>Outils &gt; Réparer l&apos;album y remédie. Voici ce qui changerait :</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) to pictures belong to paragraphs that are gone.</source>
+        <translation>
+            <numerusform>%n lien vers une photo appartient à un paragraphe qui n&apos;est plus là.</numerusform>
+            <numerusform>%n liens vers des photos appartiennent à des paragraphes qui ne sont plus là.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing shows them, and nothing has to be done.</source>
+        <translation>Rien ne les montre, et il n&apos;y a rien à faire.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Paragraphs are linked with %n picture(s) that the album does not hold.</source>
+        <translation>
+            <numerusform>Des paragraphes sont liés à %n photo que l&apos;album ne contient pas.</numerusform>
+            <numerusform>Des paragraphes sont liés à %n photos que l&apos;album ne contient pas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Load these pictures (Pictures &gt; Load Picture Files in Album), or take the links out in the paragraph&apos;s Linked Pictures.</source>
+        <translation>Chargez ces photos (Photos &gt; Charger des fichiers de photos dans l&apos;album), ou enlevez les liens dans les photos liées du paragraphe.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Pictures have %n value(s) that the tables do not list.</source>
+        <translation>
+            <numerusform>Des photos ont %n valeur que les tables ne contiennent pas.</numerusform>
+            <numerusform>Des photos ont %n valeurs que les tables ne contiennent pas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add them in Options &gt; Edit Tables if you want them to be offered.</source>
+        <translation>Ajoutez-les dans Options &gt; Modifier les tables si vous voulez qu&apos;elles soient proposées.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) are in the album more than once.</source>
+        <translation>
+            <numerusform>%n photo est plus d&apos;une fois dans l&apos;album.</numerusform>
+            <numerusform>%n photos sont plus d&apos;une fois dans l&apos;album.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They may be shown twice; that does no harm.</source>
+        <translation>Elles peuvent être montrées deux fois ; cela ne fait pas de mal.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The files of %n picture(s) are not where they were.</source>
+        <translation>
+            <numerusform>Le fichier de %n photo n&apos;est plus à sa place.</numerusform>
+            <numerusform>Les fichiers de %n photos ne sont plus à leur place.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The check was stopped before its end.</source>
+        <translation>La vérification a été arrêtée avant la fin.</translation>
+    </message>
+    <message>
+        <source>The album is in order.</source>
+        <translation>L&apos;album est en ordre.</translation>
+    </message>
+    <message>
+        <source>Plug in the disk, or point the album to the new place (Pictures &gt; Reload Moved Pictures).</source>
+        <translation>Branchez le disque, ou rattachez l&apos;album au nouvel emplacement (Photos &gt; Retrouver les photos déplacées).</translation>
     </message>
 </context>
 <context>
@@ -525,6 +656,10 @@
     <message>
         <source>A part of the program does not work: %1</source>
         <translation>Une partie du programme ne fonctionne pas : %1</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; cannot be made.</source>
+        <translation>Impossible de créer le dossier &apos;%1&apos;.</translation>
     </message>
 </context>
 <context>
@@ -790,6 +925,48 @@
     <message>
         <source>There is no picture among these files.</source>
         <translation>Il n&apos;y a pas de photo parmi ces fichiers.</translation>
+    </message>
+</context>
+<context>
+    <name>EarlierStates</name>
+    <message>
+        <source>The state of the album cannot be kept: %1</source>
+        <translation>Impossible de garder l&apos;état de l&apos;album : %1</translation>
+    </message>
+    <message>
+        <source>There is no room for it on the disk.</source>
+        <translation>Il n&apos;y a plus de place sur le disque.</translation>
+    </message>
+    <message>
+        <source>The album is damaged, so today&apos;s state of it is not kept among the earlier ones.
+%1</source>
+        <translation>L&apos;album est endommagé ; son état d&apos;aujourd&apos;hui n&apos;est donc pas gardé parmi les états antérieurs.
+%1</translation>
+    </message>
+    <message>
+        <source>Today&apos;s state of the album could not be kept.
+%1</source>
+        <translation>L&apos;état d&apos;aujourd&apos;hui de l&apos;album n&apos;a pas pu être gardé.
+%1</translation>
+    </message>
+    <message>
+        <source>The file&apos;s contents do not fit together.</source>
+        <translation>Le contenu du fichier n&apos;est pas cohérent.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Before the first change of each day the album is kept as it was, among its earlier states. This one is so large that it will take about %n second(s) each time. Shall its states be kept?</source>
+        <translation>
+            <numerusform>Avant la première modification de chaque jour, l&apos;album est gardé tel qu&apos;il était, parmi ses états antérieurs. Celui-ci est si grand que cela prendra environ %n seconde à chaque fois. Faut-il garder ses états ?</numerusform>
+            <numerusform>Avant la première modification de chaque jour, l&apos;album est gardé tel qu&apos;il était, parmi ses états antérieurs. Celui-ci est si grand que cela prendra environ %n secondes à chaque fois. Faut-il garder ses états ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The state cannot be taken back: %1</source>
+        <translation>Impossible de reprendre cet état : %1</translation>
+    </message>
+    <message>
+        <source>Please give the password that the album had on %1</source>
+        <translation>Veuillez donner le mot de passe que l&apos;album avait le %1</translation>
     </message>
 </context>
 <context>
@@ -1103,6 +1280,80 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>frmCheckAlbum</name>
+    <message>
+        <source>Earlier States</source>
+        <translation>États antérieurs</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Check Album</source>
+        <translation>Vérifier l&apos;album</translation>
+    </message>
+    <message>
+        <source>The check changes nothing. It looks at the album&apos;s file, at how chapters and paragraphs hang together, and at the pictures.</source>
+        <translation>La vérification ne modifie rien. Elle regarde le fichier de l&apos;album, comment les chapitres et les paragraphes se tiennent, et les photos.</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Mend how chapters and paragraphs hang together</source>
+        <translation>Remettre en ordre comment les chapitres et les paragraphes se tiennent</translation>
+    </message>
+    <message>
+        <source>Repair Album</source>
+        <translation>Réparer l&apos;album</translation>
+    </message>
+    <message>
+        <source>Show the album as it was on earlier days</source>
+        <translation>Montrer l&apos;album tel qu&apos;il était les jours d&apos;avant</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Vérifier</translation>
+    </message>
+    <message>
+        <source>The album is being copied, so that nobody waits for the check...</source>
+        <translation>L&apos;album est copié, pour que personne n&apos;attende la vérification...</translation>
+    </message>
+    <message>
+        <source>The album&apos;s file is being checked...</source>
+        <translation>Le fichier de l&apos;album est vérifié...</translation>
+    </message>
+    <message>
+        <source>Chapters, paragraphs and links are being checked...</source>
+        <translation>Les chapitres, les paragraphes et les liens sont vérifiés...</translation>
+    </message>
+    <message>
+        <source>What pictures are described by is being checked...</source>
+        <translation>Ce qui décrit les photos est vérifié...</translation>
+    </message>
+    <message>
+        <source>The pictures&apos; files are being looked for...</source>
+        <translation>Les fichiers des photos sont recherchés...</translation>
+    </message>
+    <message>
+        <source>The check was stopped before its end.</source>
+        <translation>La vérification a été arrêtée avant la fin.</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>Rien à signaler.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n finding(s); each tells what mends it.</source>
+        <translation>
+            <numerusform>%n constat, avec ce qui y remédie.</numerusform>
+            <numerusform>%n constats, chacun avec ce qui y remédie.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>frmDescribePictures</name>
     <message numerus="yes">
         <source>%1 of %n pictures chosen</source>
@@ -1222,6 +1473,164 @@ Votre version :
     <message>
         <source>Edit &amp;Tables</source>
         <translation>Modifier les &amp;tables</translation>
+    </message>
+</context>
+<context>
+    <name>frmEarlierStates</name>
+    <message>
+        <source>Earlier States</source>
+        <translation>États antérieurs</translation>
+    </message>
+    <message>
+        <source>Earlier states</source>
+        <translation>États antérieurs</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>Gardé le</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Chapitres</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Open this state in a window of its own, only to read it</source>
+        <translation>Ouvrir cet état dans une fenêtre à part, seulement pour le lire</translation>
+    </message>
+    <message>
+        <source>Look Into</source>
+        <translation>Regarder</translation>
+    </message>
+    <message>
+        <source>Make the album as it was then; what it is now is kept first</source>
+        <translation>Remettre l&apos;album tel qu&apos;il était alors ; ce qu&apos;il est maintenant est d&apos;abord gardé</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Take only some chapters of this state into the album</source>
+        <translation>Reprendre dans l&apos;album seulement quelques chapitres de cet état</translation>
+    </message>
+    <message>
+        <source>Take Back Chapters</source>
+        <translation>Reprendre des chapitres</translation>
+    </message>
+    <message>
+        <source>Delete this state for ever; the album stays as it is</source>
+        <translation>Supprimer cet état pour toujours ; l&apos;album reste tel quel</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Keep the album as it is now among its earlier states</source>
+        <translation>Garder l&apos;album tel qu&apos;il est maintenant parmi ses états antérieurs</translation>
+    </message>
+    <message>
+        <source>Keep Now</source>
+        <translation>Garder maintenant</translation>
+    </message>
+    <message>
+        <source>Keep the album as it is before the first change of each day</source>
+        <translation>Garder l&apos;album tel qu&apos;il est avant la première modification de chaque jour</translation>
+    </message>
+    <message>
+        <source>For the states of one album, at most :</source>
+        <translation>Pour les états d&apos;un album, au maximum :</translation>
+    </message>
+    <message>
+        <source>Space for the states of one album</source>
+        <translation>Place pour les états d&apos;un album</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> Mo</translation>
+    </message>
+    <message>
+        <source>Choose where the states of all albums are kept, for instance on another disk</source>
+        <translation>Choisir où les états de tous les albums sont gardés, par exemple sur un autre disque</translation>
+    </message>
+    <message>
+        <source>Change Folder</source>
+        <translation>Changer de dossier</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Kept in %1</source>
+        <translation>Gardés dans %1</translation>
+    </message>
+    <message>
+        <source>replaced by an earlier state</source>
+        <translation>remplacé par un état antérieur</translation>
+    </message>
+    <message>
+        <source>No earlier state of %1 is kept so far.</source>
+        <translation>Aucun état antérieur de %1 n&apos;est encore gardé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 as it was, %n time(s), in %2 :</source>
+        <translation>
+            <numerusform>%1 tel qu&apos;il était, %n fois, en %2 :</numerusform>
+            <numerusform>%1 tel qu&apos;il était, %n fois, en %2 :</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>verrouillé</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>endommagé</translation>
+    </message>
+    <message>
+        <source>No other window of the program could be opened.</source>
+        <translation>Aucune autre fenêtre du programme n&apos;a pu être ouverte.</translation>
+    </message>
+    <message>
+        <source>Make the album as it was on %1? What it is now is kept among its earlier states first, so that it can be taken back too.</source>
+        <translation>Remettre l&apos;album tel qu&apos;il était le %1 ? Ce qu&apos;il est maintenant est d&apos;abord gardé parmi ses états antérieurs, et pourra être repris aussi.</translation>
+    </message>
+    <message>
+        <source>The album is as it was on %1.</source>
+        <translation>L&apos;album est tel qu&apos;il était le %1.</translation>
+    </message>
+    <message>
+        <source>Delete the state of %1 for ever? The album stays as it is.</source>
+        <translation>Supprimer pour toujours l&apos;état du %1 ? L&apos;album reste tel quel.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be deleted.</source>
+        <translation>Impossible de supprimer le fichier &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Folder for Earlier States</source>
+        <translation>Dossier des états antérieurs</translation>
+    </message>
+    <message>
+        <source>States are kept in the new folder from now on. Those in the former folder stay there; move them to the new one if you want to see them here.</source>
+        <translation>Les états sont désormais gardés dans le nouveau dossier. Ceux de l&apos;ancien dossier y restent ; déplacez-les dans le nouveau si vous voulez les voir ici.</translation>
+    </message>
+    <message>
+        <source>The album had no password then, and will have none.</source>
+        <translation>L&apos;album n&apos;avait pas de mot de passe alors, et n&apos;en aura plus.</translation>
     </message>
 </context>
 <context>
@@ -1600,6 +2009,81 @@ Votre version :
     <message>
         <source>(at the chapter&apos;s beginning)</source>
         <translation>(au début du chapitre)</translation>
+    </message>
+</context>
+<context>
+    <name>frmTakeChapters</name>
+    <message>
+        <source>Take Back Chapters</source>
+        <translation>Reprendre des chapitres</translation>
+    </message>
+    <message>
+        <source>Chapters to take back, as they were then :</source>
+        <translation>Chapitres à reprendre, tels qu&apos;ils étaient alors :</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Chapitres</translation>
+    </message>
+    <message>
+        <source>Chapter</source>
+        <translation>Chapitre</translation>
+    </message>
+    <message>
+        <source>Paragraphs</source>
+        <translation>Paragraphes</translation>
+    </message>
+    <message>
+        <source>As new chapters at the end of the story</source>
+        <translation>Comme nouveaux chapitres à la fin de l&apos;histoire</translation>
+    </message>
+    <message>
+        <source>In the place of the chapters of the same name</source>
+        <translation>À la place des chapitres du même nom</translation>
+    </message>
+    <message>
+        <source>Take the ticked chapters; the album as it is now is kept first</source>
+        <translation>Reprendre les chapitres cochés ; l&apos;album tel qu&apos;il est maintenant est d&apos;abord gardé</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n chapter(s) taken back.</source>
+        <translation>
+            <numerusform>%n chapitre repris.</numerusform>
+            <numerusform>%n chapitres repris.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraph(s) in all.</source>
+        <translation>
+            <numerusform>%n paragraphe en tout.</numerusform>
+            <numerusform>%n paragraphes en tout.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) to pictures came with them.</source>
+        <translation>
+            <numerusform>%n lien vers une photo est revenu avec.</numerusform>
+            <numerusform>%n liens vers des photos sont revenus avec.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) that the album did not hold any more came back with them.</source>
+        <translation>
+            <numerusform>%n photo que l&apos;album ne contenait plus est revenue avec.</numerusform>
+            <numerusform>%n photos que l&apos;album ne contenait plus sont revenues avec.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(no name)</source>
+        <translation>(sans nom)</translation>
     </message>
 </context>
 <context>
@@ -3693,6 +4177,14 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
     <message>
         <source>Missing Pictures</source>
         <translation>Photos manquantes</translation>
+    </message>
+    <message>
+        <source>Earlier States</source>
+        <translation>États antérieurs</translation>
+    </message>
+    <message>
+        <source>Check Album</source>
+        <translation>Vérifier l&apos;album</translation>
     </message>
 </context>
 <context>

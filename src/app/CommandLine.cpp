@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
+#include "platform/data/DatabaseError.h"
+#include "platform/data/DatabaseFile.h"
+
+#include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
 
@@ -10,6 +14,13 @@
 namespace {
 
 volatile std::sig_atomic_t caughtSignal = 0;
+
+const QString passwordFileOption = QStringLiteral("password-file");
+
+struct CommandTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(Descriptions)
+};
 
 } // namespace
 
@@ -65,4 +76,39 @@ QString ReadPassword(const QString& path)
     while (line.endsWith('\n') || line.endsWith('\r'))
         line.chop(1);
     return QString::fromUtf8(line);
+}
+
+void AddPasswordOption(QCommandLineParser& parser)
+{
+    parser.addOption({passwordFileOption,
+                      CommandTexts::tr("The first line of FILE is the album's password."),
+                      QStringLiteral("FILE")});
+}
+
+void OpenWithGivenPassword(const QString& album, const QCommandLineParser& parser,
+                           const std::function<void(const QString& password)>& open)
+{
+    switch (KindOfDatabaseFile(album)) {
+    case DatabaseFileKind::Missing:
+        throw Trouble{album, CommandTexts::tr("There is no such file.")};
+    case DatabaseFileKind::OldAlbum:
+        throw Trouble{album, CommandTexts::tr("It is an album of the former file format; make a "
+                                              "new one of it first, with --convert.")};
+    default:
+        break;
+    }
+    const QString password = parser.isSet(passwordFileOption)
+                                 ? ReadPassword(parser.value(passwordFileOption))
+                                 : QString();
+    try {
+        open(password);
+    } catch (const DatabaseError& error) {
+        if (error.GetNumber() != DatabaseError::WrongPassword)
+            throw;
+        throw Trouble{album, password.isEmpty()
+                                 ? CommandTexts::tr(
+                                       "It has a password; give the file that holds it with --%1.")
+                                       .arg(passwordFileOption)
+                                 : CommandTexts::tr("The password is wrong.")};
+    }
 }

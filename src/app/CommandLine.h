@@ -4,8 +4,11 @@
 #include <QString>
 
 #include <cstdio>
+#include <functional>
 #include <initializer_list>
 #include <string_view>
+
+class QCommandLineParser;
 
 // What the ways to use the program without windows share.
 
@@ -27,6 +30,15 @@ struct Trouble
 
 // The file's first line, without its line end. Throws Trouble.
 QString ReadPassword(const QString& path);
+
+// --password-file FILE
+void AddPasswordOption(QCommandLineParser& parser);
+
+// Calls open with the password in the file that the option names, empty without one. Throws Trouble
+// where there is no such album, where it is one of the former file format, and where the password
+// does not fit; and what open throws else.
+void OpenWithGivenPassword(const QString& album, const QCommandLineParser& parser,
+                           const std::function<void(const QString& password)>& open);
 
 // Thrown by CheckSignals once the user has ended the program, so that what is not complete is
 // removed first.

@@ -7,7 +7,6 @@
 #include "catalogue/DescriptionCsv.h"
 #include "catalogue/DescriptionSidecars.h"
 #include "core/AlbumSets.h"
-#include "platform/data/DatabaseFile.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -33,37 +32,8 @@ struct TransferOptions
     QString to = QStringLiteral("to");
     QString from = QStringLiteral("from");
     QString dryRun = QStringLiteral("dry-run");
-    QString password = QStringLiteral("password-file");
     QString force = QStringLiteral("force");
 };
-
-void OpenForTransfer(const QString& path, const QCommandLineParser& parser)
-{
-    const TransferOptions options;
-    switch (KindOfDatabaseFile(path)) {
-    case DatabaseFileKind::Missing:
-        throw Trouble{path, DescriptionsTexts::tr("There is no such file.")};
-    case DatabaseFileKind::OldAlbum:
-        throw Trouble{path,
-                      DescriptionsTexts::tr("It is an album of the former file format; make a "
-                                            "new one of it first, with --convert.")};
-    default:
-        break;
-    }
-    const QString password =
-        parser.isSet(options.password) ? ReadPassword(parser.value(options.password)) : QString();
-    try {
-        SetOpenedAlbum(std::make_unique<Album>(path, password));
-    } catch (const DatabaseError& error) {
-        if (error.GetNumber() != DatabaseError::WrongPassword)
-            throw;
-        throw Trouble{path, password.isEmpty()
-                                ? DescriptionsTexts::tr(
-                                      "It has a password; give the file that holds it with --%1.")
-                                      .arg(options.password)
-                                : DescriptionsTexts::tr("The password is wrong.")};
-    }
-}
 
 template<typename SidecarWork>
 void WorkToTheEnd(SidecarWork& work)
@@ -164,7 +134,9 @@ int ImportDescriptions(const QCommandLineParser& parser)
 int Transfer(const QString& album, const QCommandLineParser& parser)
 {
     const TransferOptions options;
-    OpenForTransfer(album, parser);
+    OpenWithGivenPassword(album, parser, [&album](const QString& password) {
+        SetOpenedAlbum(std::make_unique<Album>(album, password));
+    });
     if (parser.isSet(options.imports))
         return ImportDescriptions(parser);
     return parser.isSet(options.toSidecars) ? ExportSidecars() : ExportTable(parser);
@@ -231,9 +203,7 @@ int RunDescriptionTransfer(int& argc, char** argv)
     const TransferOptions options;
     QCommandLineParser parser;
     AddDescriptionOptions(parser);
-    parser.addOption({options.password,
-                      DescriptionsTexts::tr("The first line of FILE is the album's password."),
-                      QStringLiteral("FILE")});
+    AddPasswordOption(parser);
     parser.addOption({options.force, DescriptionsTexts::tr("Replace a table that exists.")});
     const QCommandLineOption help = parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("ALBUM"), DescriptionsTexts::tr("The album."));

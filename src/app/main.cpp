@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Application.h"
+#include "Check.h"
 #include "CommandLine.h"
 #include "Convert.h"
 #include "Descriptions.h"
@@ -29,6 +30,7 @@ QString ReadArguments()
     parser.addVersionOption();
     AddConversionOptions(parser);
     AddDescriptionOptions(parser);
+    AddCheckOptions(parser);
     parser.addPositionalArgument(
         QStringLiteral("album"),
         QApplication::tr("The album to open; the last one when not given."),
@@ -47,6 +49,8 @@ int main(int argc, char** argv)
         return RunConversion(argc, argv);
     if (IsDescriptionTransfer(argc, argv))
         return RunDescriptionTransfer(argc, argv);
+    if (IsCheck(argc, argv))
+        return RunCheck(argc, argv);
     if (AsksOnly(argc, argv)) {
         QCoreApplication application(argc, argv);
         NameProgram();

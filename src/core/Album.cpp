@@ -2,23 +2,29 @@
 #include "core/Album.h"
 
 #include "core/AlbumSets.h"
+#include "core/EarlierStates.h"
 #include "core/PasswordChange.h"
 #include "core/RecentAlbums.h"
 #include "core/Settings.h"
+#include "core/StateKeeping.h"
 #include "core/oldalbum/OldAlbum.h"
 #include "platform/data/DatabaseFile.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/FileClaim.h"
 #include "platform/files/FileReplacement.h"
+#include "platform/files/PathRoutines.h"
 #include "platform/shell/ProgramFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 namespace {
 
@@ -116,8 +122,38 @@ bool ClaimAlbum(const QString& path)
     return answer == Answer::No;
 }
 
-void TellWhyNot(const DatabaseError& error)
+QString albumToReturn;
+
+// Whether the album's file is gone or cannot be used, and an earlier state of it is there instead.
+bool CanReturn(const QString& path, const DatabaseError& error)
 {
+    constexpr std::array numbers{DatabaseError::NoSuchFile, DatabaseError::Damaged,
+                                 DatabaseError::NotADatabase, DatabaseError::DiskError};
+    return std::find(numbers.begin(), numbers.end(), error.GetNumber()) != numbers.end() &&
+           !EarlierStatesOf(path).empty();
+}
+
+void OfferReturn(const QString& path, const DatabaseError& error)
+{
+    using Answer = Dialogs::Answer;
+    const Answer answer = Dialogs::Door().Ask(
+        {.text = AlbumTexts::tr("Error %1 %2\n%3")
+                     .arg(error.GetNumber())
+                     .arg(error.GetDescription(),
+                          AlbumTexts::tr("Earlier states of this album are kept, the newest of "
+                                         "%1. Do you want to see them?")
+                              .arg(TimeText(EarlierStatesOf(path).front().kept))),
+         .icon = Dialogs::Icon::Warning,
+         .buttons = Dialogs::Buttons::YesNo,
+         .defaultAnswer = Answer::Yes});
+    if (answer == Answer::Yes)
+        albumToReturn = path;
+}
+
+void TellWhyNot(const QString& path, const DatabaseError& error)
+{
+    if (CanReturn(path, error))
+        return OfferReturn(path, error);
     Tell(AlbumTexts::tr("Error %1 %2\n%3")
              .arg(error.GetNumber())
              .arg(error.GetDescription(),
@@ -135,13 +171,18 @@ bool OpenWithPassword(const QString& path, QString password)
         return false;
     while (true) {
         try {
-            SetOpenedAlbum(OpenCleaned(path, password));
-            SaveLastAlbum(path);
-            RememberRecentAlbum(path);
+            std::unique_ptr<Album> album = OpenCleaned(path, password);
+            if (!album->database->IsReadOnly())
+                AskAboutLargeAlbum(path, !album->database->GetPassword().isEmpty());
+            SetOpenedAlbum(std::move(album));
+            if (!IsEarlierState(path)) {
+                SaveLastAlbum(path);
+                RememberRecentAlbum(path);
+            }
             return true;
         } catch (const DatabaseError& error) {
             if (error.GetNumber() != DatabaseError::WrongPassword) {
-                TellWhyNot(error);
+                TellWhyNot(path, error);
                 return false;
             }
         }
@@ -165,7 +206,7 @@ bool OpenOldAlbum(const QString& path)
         Tell(made->report, made->isWhole ? Dialogs::Icon::Information : Dialogs::Icon::Warning);
         return isOpen;
     } catch (const DatabaseError& error) {
-        TellWhyNot(error);
+        TellWhyNot(path, error);
         return false;
     }
 }
@@ -183,6 +224,20 @@ QString OpenAlbumPath()
 {
     const Album* album = FindOpenedAlbum();
     return album ? album->database->GetPath() : QString();
+}
+
+QString OpenAlbumTitle()
+{
+    const QString path = OpenAlbumPath();
+    QString album;
+    if (!IsEarlierState(path, &album))
+        return FileNameOf(path);
+    return AlbumTexts::tr("%1 as it was on %2").arg(FileNameOf(album), TimeText(StateTime(path)));
+}
+
+QString TakeAlbumToReturn()
+{
+    return std::exchange(albumToReturn, {});
 }
 
 AlbumVersion GetAlbumVersion()
@@ -205,6 +260,9 @@ bool IsAlbumReadOnly()
 
 QString ReadOnlyReason()
 {
+    if (IsEarlierState(OpenAlbumPath()))
+        return AlbumTexts::tr(
+            "This is an earlier state of an album: it can be read, but not changed.");
     return AlbumTexts::tr(
         "This album can be read, but not changed: its file or its folder is read-only.");
 }

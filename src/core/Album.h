@@ -24,6 +24,9 @@ struct AlbumVersion
     bool operator==(const AlbumVersion&) const = default;
 };
 
+// What to call it: the file's name, or which earlier state of which album it is.
+QString OpenAlbumTitle();
+
 // Throws DatabaseError, NoAlbum while none is open.
 AlbumVersion GetAlbumVersion();
 
@@ -55,6 +58,10 @@ QString ReadOnlyReason();
 // one is opened and remembered. If another copy of the program has the album open, the user may go
 // there instead.
 bool OpenAlbum(const QString& path, const QString& password = {});
+
+// The album for which the user wants to see the earlier states, because it could not be opened, or
+// empty; once.
+QString TakeAlbumToReturn();
 
 // Whether the last OpenAlbum ended with the user going to another window that has the album open.
 bool HasGoneToOtherWindow();

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/AlbumRepair.h"
 
-#include "core/AlbumChains.h"
 #include "core/AlbumCopy.h"
 #include "core/AlbumSets.h"
+#include "core/Chain.h"
 #include "core/ChainMending.h"
-#include "core/ChapterChain.h"
 #include "core/Renumbering.h"
 #include "platform/data/WriteBatch.h"
 
@@ -41,9 +40,11 @@ qint32 LinkOrBroken(RecordSet& set, Field field)
 class Repair
 {
 public:
+    explicit Repair(Album& album) : album_(album) {}
+
     RepairReport Run()
     {
-        report_.renumbered = RenumberRows(AlbumDatabase->GetEngine());
+        report_.renumbered = RenumberRows(album_.database->GetEngine());
         RepairChapters();
         ReadParagraphs();
         AdoptByLinks();
@@ -56,13 +57,13 @@ private:
     void RepairChapters()
     {
         std::vector<ChainLink> links;
-        const RecordSet::Walk walk(*ChapterSet);
-        for (ChapterSet->MoveFirst(); !ChapterSet->AtEnd(); ChapterSet->MoveNext())
-            links.push_back({ChapterSet->Number(u"Id"),
-                             LinkOrBroken(*ChapterSet, u"PreviousChapter"),
-                             LinkOrBroken(*ChapterSet, u"NextChapter")});
+        const RecordSet::Walk walk(album_.chapters);
+        for (album_.chapters.MoveFirst(); !album_.chapters.AtEnd(); album_.chapters.MoveNext())
+            links.push_back({album_.chapters.Number(u"Id"),
+                             LinkOrBroken(album_.chapters, u"PreviousChapter"),
+                             LinkOrBroken(album_.chapters, u"NextChapter")});
         const std::vector<ChainLink> mended = MendChain(links);
-        report_.chapterLinks += WriteLinks(ChainOfChapters(), links, mended);
+        report_.chapterLinks += WriteLinks(ChapterLinks(), links, mended);
         for (const ChainLink& link : mended)
             chapters_.append(link.id);
     }
@@ -70,15 +71,17 @@ private:
     void ReadParagraphs()
     {
         const QSet<qint32> known(chapters_.begin(), chapters_.end());
-        const int id = ParagraphSet->FieldNumber(u"Id");
-        const int previous = ParagraphSet->FieldNumber(u"PreviousParagraph");
-        const int next = ParagraphSet->FieldNumber(u"NextParagraph");
-        const int owner = ParagraphSet->FieldNumber(u"Chapter");
-        const RecordSet::Walk walk(*ParagraphSet);
-        for (ParagraphSet->MoveFirst(); !ParagraphSet->AtEnd(); ParagraphSet->MoveNext()) {
-            const ChainLink link{ParagraphSet->Number(id), LinkOrBroken(*ParagraphSet, previous),
-                                 LinkOrBroken(*ParagraphSet, next)};
-            const qint32 chapter = LinkOrBroken(*ParagraphSet, owner);
+        const int id = album_.paragraphs.FieldNumber(u"Id");
+        const int previous = album_.paragraphs.FieldNumber(u"PreviousParagraph");
+        const int next = album_.paragraphs.FieldNumber(u"NextParagraph");
+        const int owner = album_.paragraphs.FieldNumber(u"Chapter");
+        const RecordSet::Walk walk(album_.paragraphs);
+        for (album_.paragraphs.MoveFirst(); !album_.paragraphs.AtEnd();
+             album_.paragraphs.MoveNext()) {
+            const ChainLink link{album_.paragraphs.Number(id),
+                                 LinkOrBroken(album_.paragraphs, previous),
+                                 LinkOrBroken(album_.paragraphs, next)};
+            const qint32 chapter = LinkOrBroken(album_.paragraphs, owner);
             paragraphs_.push_back(link);
             owners_.insert(link.id, known.contains(chapter) ? chapter : 0);
         }
@@ -114,10 +117,10 @@ private:
         if (owners_.value(paragraph) != 0)
             return false;
         owners_.insert(paragraph, chapter);
-        FindById(*ParagraphSet, paragraph);
-        ParagraphSet->Edit();
-        ParagraphSet->Set(u"Chapter", chapter);
-        ParagraphSet->Update();
+        FindById(album_.paragraphs, paragraph);
+        album_.paragraphs.Edit();
+        album_.paragraphs.Set(u"Chapter", chapter);
+        album_.paragraphs.Update();
         ++report_.adopted;
         return true;
     }
@@ -135,11 +138,30 @@ private:
     {
         const QString base = RepairReport::tr("Found again");
         QString name = base;
-        for (int number = 2; FindChapter(name); ++number)
+        for (int number = 2; IsTaken(name); ++number)
             name = QStringLiteral("%1 %2").arg(base, QString::number(number));
-        const QString last = chapters_.isEmpty() ? QString() : ChapterTitle(chapters_.last());
-        chapters_.append(CreateChapter(name, last));
+        const qint32 last = chapters_.isEmpty() ? 0 : chapters_.last();
+        RecordSet& set = album_.chapters;
+        set.AddNew();
+        chapters_.append(set.Number(u"Id"));
+        set.Set(u"Name", name);
+        set.Set(u"PreviousChapter", last);
+        set.Update();
+        SetLink(set, last, u"NextChapter", chapters_.last());
         return chapters_.last();
+    }
+
+    bool IsTaken(const QString& name) const
+    {
+        Statement taken(album_.database->GetEngine(), "SELECT 1 FROM Chapter WHERE Name=?1");
+        taken.Bind(1, name);
+        return taken.Step();
+    }
+
+    Chain ChapterLinks() const { return {album_.chapters, u"PreviousChapter", u"NextChapter"}; }
+    Chain ParagraphLinks() const
+    {
+        return {album_.paragraphs, u"PreviousParagraph", u"NextParagraph"};
     }
 
     void RepairParagraphs()
@@ -153,17 +175,17 @@ private:
 
     void RepairParagraphsOf(qint32 chapter, const std::vector<ChainLink>& links)
     {
-        FindById(*ChapterSet, chapter);
-        const qint32 first = LinkOrBroken(*ChapterSet, u"FirstParagraph");
+        FindById(album_.chapters, chapter);
+        const qint32 first = LinkOrBroken(album_.chapters, u"FirstParagraph");
         const std::vector<ChainLink> mended = MendChain(links, first);
         const qint32 head = mended.empty() ? 0 : mended.front().id;
         if (first != head) {
-            ChapterSet->Edit();
-            ChapterSet->Set(u"FirstParagraph", head);
-            ChapterSet->Update();
+            album_.chapters.Edit();
+            album_.chapters.Set(u"FirstParagraph", head);
+            album_.chapters.Update();
             ++report_.firstParagraphs;
         }
-        report_.paragraphLinks += WriteLinks(ChainOfParagraphs(), links, mended);
+        report_.paragraphLinks += WriteLinks(ParagraphLinks(), links, mended);
     }
 
     // Writes the rows that differ and returns their number.
@@ -183,6 +205,7 @@ private:
         return written;
     }
 
+    Album& album_;
     RepairReport report_;
     QList<qint32> chapters_; // in their order
     std::vector<ChainLink> paragraphs_;
@@ -199,7 +222,7 @@ RepairReport RepairAlbum(const CopyProgress& progress)
 {
     {
         const WriteBatch trial(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
-        const RepairReport report = Repair().Run();
+        const RepairReport report = Repair(OpenedAlbum()).Run();
         if (report.IsEmpty())
             return report;
     }
@@ -211,11 +234,19 @@ RepairReport RepairAlbum(const CopyProgress& progress)
         return stopped;
     }
     auto removeCopy = qScopeGuard([&copy] { QFile::remove(copy); });
-    RepairReport report = Repair().Run();
+    RepairReport report = Repair(OpenedAlbum()).Run();
     batch.Finish();
     removeCopy.dismiss();
     report.copy = copy;
     return report;
+}
+
+RepairReport TryRepair(const QString& album, const QString& password)
+{
+    Album tried(album, password);
+    tried.database->SetBeforeChange({}); // nothing stays changed
+    const WriteBatch trial(tried.database, WriteBatch::Commits::AtItsEnd);
+    return Repair(tried).Run();
 }
 
 QString DescribeRepair(const RepairReport& report)

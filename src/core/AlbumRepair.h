@@ -38,6 +38,10 @@ public:
 // album is open; then nothing is changed and no copy is left.
 RepairReport RepairAlbum(const CopyProgress& progress = [](int) { return true; });
 
+// What a repair of the album in that file would mend. Nothing is changed; nobody else may use the
+// file meanwhile. Throws DatabaseError.
+RepairReport TryRepair(const QString& album, const QString& password);
+
 // The report as sentences for the user.
 QString DescribeRepair(const RepairReport& report);
 

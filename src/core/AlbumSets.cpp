@@ -2,6 +2,8 @@
 #include "core/AlbumSets.h"
 
 #include "core/Columns.h"
+#include "core/EarlierStates.h"
+#include "core/StateKeeping.h"
 
 #include <QCoreApplication>
 
@@ -43,7 +45,8 @@ void RequireSchema(const Album& album)
 namespace GeneralModule {
 
 Album::Album(const QString& path, const QString& password)
-    : database(Database::Open(path, password)),
+    : database(Database::Open(
+          path, password, IsEarlierState(path) ? Database::Use::Reading : Database::Use::Changing)),
       params(database, QStringLiteral("Params")),
       paragraphs(database, QStringLiteral("Paragraph")),
       images(database, QStringLiteral("Image")),
@@ -51,6 +54,7 @@ Album::Album(const QString& path, const QString& password)
       linkedImages(database, QStringLiteral("LinkedImages"))
 {
     RequireSchema(*this);
+    KeepStatesOf(*database);
 }
 
 Album* FindOpenedAlbum()

@@ -13,7 +13,7 @@ namespace GeneralModule {
 // current row that all windows share, so a routine positions a set before it reads or writes.
 struct Album
 {
-    // Opens all of it or throws DatabaseError.
+    // Opens all of it or throws DatabaseError; an earlier state of an album only for reading.
     Album(const QString& path, const QString& password);
 
     std::shared_ptr<Database> database;

@@ -20,8 +20,11 @@
 #include "story/frmOrganizeParagraphs.h"
 #include "support/AlbumTest.h"
 #include "ui/main/frmAbout.h"
+#include "ui/main/frmCheckAlbum.h"
+#include "ui/main/frmEarlierStates.h"
 #include "ui/main/frmOpenChapter.h"
 #include "ui/main/frmRepairAlbum.h"
+#include "ui/main/frmTakeChapters.h"
 #include "viewer/frmFullScreen.h"
 #include "viewer/frmReelvane.h"
 #include "viewer/frmSelectImages.h"
@@ -33,7 +36,8 @@ inline constexpr std::array everyWindow{
     "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",     "frmEditLabels",
     "frmLoadFiles",          "frmReloadPictures", "frmSelectImages",   "frmAbout",
     "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures", "frmDescribePictures",
-    "frmTakeFromFiles",      "frmMissingPictures"};
+    "frmTakeFromFiles",      "frmEarlierStates",  "frmTakeChapters",   "frmCheckAlbum",
+    "frmMissingPictures"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -86,13 +90,23 @@ protected:
             window->CurrentImage = picture_;
             return window;
         }
+        if (name == "frmEarlierStates") {
+            auto* window = Make<frmEarlierStates>();
+            window->LookInto = [](const QString&) { return true; };
+            return window;
+        }
+        if (name == "frmTakeChapters") {
+            auto* window = Make<frmTakeChapters>();
+            window->State = std::make_shared<GeneralModule::OpenState>(album_->GetAlbum(), "");
+            return window;
+        }
         if (name == "frmTakeFromFiles") {
             auto* window = Make<frmTakeFromFiles>();
             window->Pictures = AllPictureIds();
             return window;
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
-                       frmAbout, frmRepairAlbum, frmFindPictures, frmPlaceParagraph,
+                       frmAbout, frmRepairAlbum, frmCheckAlbum, frmFindPictures, frmPlaceParagraph,
                        frmLinkedPictures, frmDescribePictures, frmMissingPictures>(name);
     }
 

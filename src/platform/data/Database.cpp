@@ -15,6 +15,9 @@
 
 #include <utility>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 constexpr int busyMilliseconds = 3000; // longer than any commit of another program should take
@@ -65,10 +68,10 @@ bool IsHalfChanged(const QString& path)
 
 } // namespace
 
-std::shared_ptr<Database> Database::Open(const QString& path, const QString& password)
+std::shared_ptr<Database> Database::Open(const QString& path, const QString& password, Use use)
 {
     const bool locked = NeedsPassword(path);
-    std::shared_ptr<Database> database(new Database(path));
+    std::shared_ptr<Database> database(new Database(path, use));
     try {
         database->Connect();
         if (locked)
@@ -89,11 +92,16 @@ std::shared_ptr<Database> Database::Open(const QString& path, const QString& pas
     return database;
 }
 
-Database::Database(const QString& path) : path_(path), isReadOnly_(IsReadOnlyDatabaseFile(path)) {}
+Database::Database(const QString& path, Use use)
+    : path_(path), isReadOnly_(use == Use::Reading || IsReadOnlyDatabaseFile(path))
+{
+}
 
 Database::~Database()
 {
     sqlite3_close_v2(engine_);
+    if (readHandle_ >= 0)
+        close(readHandle_);
 }
 
 void Database::Connect()
@@ -199,6 +207,33 @@ void Database::RequireUnmoved() const
     sqlite3_file_control(engine_, "main", SQLITE_FCNTL_HAS_MOVED, &isMoved);
     if (isMoved)
         ThrowMoved();
+}
+
+bool Database::IsOutsideTransaction() const
+{
+    return sqlite3_get_autocommit(engine_) != 0;
+}
+
+void Database::BeforeChange() const
+{
+    if (beforeChange_)
+        beforeChange_();
+}
+
+void Database::BeforeLoneChange() const
+{
+    if (openBatches_ == 0)
+        BeforeChange();
+}
+
+// Opened between two looks at the path, so that it is the engine's file.
+int Database::GetReadHandle() const
+{
+    RequireUnmoved();
+    if (readHandle_ < 0)
+        readHandle_ = open(QFile::encodeName(path_).constData(), O_RDONLY | O_CLOEXEC);
+    RequireUnmoved();
+    return readHandle_;
 }
 
 int Database::ChangeCount() const

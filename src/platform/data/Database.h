@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 struct sqlite3;
@@ -13,11 +14,15 @@ struct sqlite3;
 class Database
 {
 public:
+    enum class Use { Changing, Reading };
+
     // Opens an existing file for reading and writing, or only for reading if it or its folder is
-    // read-only. The password is ignored for a file without one. Throws DatabaseError: NoSuchFile,
-    // CannotOpen, ReadOnly (when an interrupted change must be undone first), NotADatabase,
-    // WrongPassword (also when the password is missing), Damaged, InUse. Never creates a file.
-    static std::shared_ptr<Database> Open(const QString& path, const QString& password = {});
+    // read-only or only to be read. The password is ignored for a file without one. Throws
+    // DatabaseError: NoSuchFile, CannotOpen, ReadOnly (when an interrupted change must be undone
+    // first), NotADatabase, WrongPassword (also when the password is missing), Damaged, InUse.
+    // Never creates a file.
+    static std::shared_ptr<Database> Open(const QString& path, const QString& password = {},
+                                          Use use = Use::Changing);
 
     ~Database();
     Database(const Database&) = delete;
@@ -45,15 +50,27 @@ public:
     bool SetWaiting(bool isWaiting);
 
     void Execute(const QByteArray& sql);
+    bool IsOutsideTransaction() const;
 
     // Throws DatabaseError NoSuchFile when the path now holds another file or none. Changes check
     // this by themselves.
     void RequireUnmoved() const;
 
+    // Runs before each change of rows, once for a WriteBatch: in its transaction, with nothing
+    // written. Outside a batch there is no transaction yet. What it throws keeps the change from
+    // being made.
+    void SetBeforeChange(std::function<void()> act) { beforeChange_ = std::move(act); }
+    // For changes that may stand outside a batch; inside one nothing happens.
+    void BeforeLoneChange() const;
+
+    // Another descriptor of the file, for reading; negative when there is none. Open as long as the
+    // database: closing it would drop the locks that the engine holds.
+    int GetReadHandle() const;
+
 private:
     friend class WriteBatch;
 
-    explicit Database(const QString& path);
+    Database(const QString& path, Use use);
 
     void Connect();
     void Unlock(const QString& password);
@@ -62,6 +79,7 @@ private:
     void CheckSize();
     qint64 GetPragma(const QByteArray& name) const;
     void Prepare();
+    void BeforeChange() const;
 
     QString path_;
     QString password_;
@@ -71,4 +89,6 @@ private:
     int cipherFormat_ = 0;
     sqlite3* engine_ = nullptr;
     int openBatches_ = 0;
+    std::function<void()> beforeChange_;
+    mutable int readHandle_ = -1;
 };

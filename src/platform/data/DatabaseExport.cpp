@@ -3,6 +3,7 @@
 
 #include "platform/data/CipherFile.h"
 #include "platform/data/Database.h"
+#include "platform/data/EngineCheck.h"
 #include "platform/data/Statement.h"
 #include "platform/data/TableLayout.h"
 
@@ -25,33 +26,6 @@ QMap<QString, qint64> CountRows(sqlite3* engine)
     return rows;
 }
 
-// With the indexes: the engine copies one that lacks a row as it is.
-bool IsSound(const Database& database)
-{
-    Statement check(database.GetEngine(), "PRAGMA integrity_check");
-    return check.Step() && check.GetUtf8(0) == "ok";
-}
-
-// While one lives, a statement of the connection fails soon after isStopped returns true.
-class Interruption
-{
-public:
-    Interruption(sqlite3* engine, const std::function<bool()>& isStopped) : engine_(engine)
-    {
-        constexpr int stepsPerLook = 1000; // of the engine: less than a millisecond
-        const auto look = [](void* asked) {
-            return int((*static_cast<const std::function<bool()>*>(asked))());
-        };
-        sqlite3_progress_handler(engine_, stepsPerLook, look,
-                                 const_cast<std::function<bool()>*>(&isStopped));
-    }
-    ~Interruption() { sqlite3_progress_handler(engine_, 0, nullptr, nullptr); }
-    Q_DISABLE_COPY_MOVE(Interruption)
-
-private:
-    sqlite3* engine_;
-};
-
 void Export(const Database& database, const QString& target, const QString& password,
             const std::function<bool()>& isStopped)
 {
@@ -69,8 +43,9 @@ void Export(const Database& database, const QString& target, const QString& pass
         source.ExportTo(target, password);
     }
     const std::shared_ptr<Database> copy = Database::Open(target, password);
-    const Interruption interruption(copy->GetEngine(), isStopped);
-    if (!IsSound(*copy) || CountRows(copy->GetEngine()) != CountRows(lock.Get())) {
+    // With the indexes: the engine copies one that lacks a row as it is.
+    const std::optional<QStringList> faults = FaultsOfFile(*copy, isStopped);
+    if (!faults || !faults->isEmpty() || CountRows(copy->GetEngine()) != CountRows(lock.Get())) {
         throw DatabaseError(DatabaseError::DiskError,
                             DatabaseError::tr("The album could not be written anew."));
     }

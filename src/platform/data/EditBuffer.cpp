@@ -70,6 +70,8 @@ const FieldValue* EditBuffer::Find(int field) const
 void EditBuffer::Write()
 {
     RequireOpen();
+    if (state_ == State::NewRow || !values_.empty())
+        database_.BeforeLoneChange();
     if (state_ == State::NewRow)
         InsertRow();
     else if (!values_.empty())

@@ -172,6 +172,7 @@ void RecordSet::Delete()
 {
     buffer_.Close();
     cursor_.RequireRow();
+    database_->BeforeLoneChange();
     Statement remove(database_->GetEngine(), "DELETE FROM " + table_ + " WHERE rowid=?1");
     remove.Bind(1, cursor_.GetRow());
     remove.Run();

@@ -44,6 +44,12 @@ bool WriteBatch::IsOutermost() const
 void WriteBatch::Begin()
 {
     database_->Execute("BEGIN IMMEDIATE");
+    try {
+        database_->BeforeChange();
+    } catch (...) {
+        RollBackAll();
+        throw;
+    }
     sinceCommit_.start();
     rows_ = 0;
 }
@@ -87,6 +93,12 @@ void WriteBatch::RollBack() noexcept
 {
     const bool outermost = IsOutermost();
     --database_->openBatches_;
-    if (outermost && !sqlite3_get_autocommit(database_->GetEngine()))
+    if (outermost)
+        RollBackAll();
+}
+
+void WriteBatch::RollBackAll() noexcept
+{
+    if (!sqlite3_get_autocommit(database_->GetEngine()))
         sqlite3_exec(database_->GetEngine(), "ROLLBACK", nullptr, nullptr, nullptr);
 }

@@ -37,6 +37,7 @@ private:
     void Begin();
     void Commit();
     void RollBack() noexcept;
+    void RollBackAll() noexcept;
 
     std::shared_ptr<Database> database_;
     Commits commits_;

@@ -2,13 +2,17 @@
 #include "ui/main/AlbumOpener.h"
 
 #include "core/Album.h"
+#include "core/EarlierStates.h"
 #include "core/InstalledSample.h"
 #include "core/Settings.h"
+#include "core/StateKeeping.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/FolderListing.h"
 #include "platform/files/PathRoutines.h"
 #include "ui/main/ChapterList.h"
+#include "ui/main/frmEarlierStates.h"
 
+#include <QApplication>
 #include <QDir>
 
 using namespace GeneralModule;
@@ -46,6 +50,9 @@ void AlbumOpener::OpenFirst(const QString& path)
     if (!chosen.isEmpty())
         OpenAlbum(chosen);
     recent_.Fill();
+    const QString returning = TakeAlbumToReturn();
+    if (!returning.isEmpty())
+        LetReturn(returning);
 }
 
 void AlbumOpener::Open(const QString& path)
@@ -56,6 +63,44 @@ void AlbumOpener::Open(const QString& path)
     if (isOpen)
         chapters_->Fill();
     onDone_();
+    const QString returning = TakeAlbumToReturn();
+    if (!returning.isEmpty())
+        ShowEarlierStates(returning);
+}
+
+void AlbumOpener::LetReturn(const QString& album)
+{
+    frmEarlierStates states(QApplication::activeWindow());
+    states.AlbumPath = album;
+    states.exec();
+}
+
+void AlbumOpener::ShowEarlierStates(const QString& album)
+{
+    LetReturn(album);
+    recent_.Fill();
+    chapters_->Clear();
+    if (IsAlbumOpen())
+        chapters_->Fill();
+    onDone_();
+}
+
+void AlbumOpener::TellStateTrouble()
+{
+    using Answer = Dialogs::Answer;
+    const std::optional<StateTrouble> trouble = TakeStateTrouble();
+    if (!trouble)
+        return;
+    if (!trouble->isDamaged || EarlierStatesOf(OpenAlbumPath()).empty())
+        return Tell(trouble->text, Dialogs::Icon::Warning);
+    const Answer answer =
+        Dialogs::Door().Ask({.text = trouble->text + u'\n' +
+                                     tr("Earlier states of it are kept. Do you want to see them?"),
+                             .icon = Dialogs::Icon::Warning,
+                             .buttons = Dialogs::Buttons::YesNo,
+                             .defaultAnswer = Answer::Yes});
+    if (answer == Answer::Yes)
+        ShowEarlierStates(OpenAlbumPath());
 }
 
 void AlbumOpener::AskAndOpen()

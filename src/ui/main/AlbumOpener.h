@@ -29,8 +29,14 @@ public:
     void OpenSample(const QString& sample);
     // Opens the album however it was chosen. After a failure none is open.
     void Open(const QString& path);
+    // Shows those of that album, which need not be open. One of them may be open afterwards.
+    void ShowEarlierStates(const QString& album);
+    // Why no state of the album was kept today, if something was in the way.
+    void TellStateTrouble();
 
 private:
+    static void LetReturn(const QString& album);
+
     RecentMenu recent_;
     ChapterList* chapters_;
     std::function<void()> onDone_;

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/PasswordQuestions.h"
 
+#include "core/Album.h"
 #include "core/AlbumPassword.h"
+#include "core/EarlierStates.h"
 #include "platform/dialogs/Dialogs.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
+#include <vector>
 
 using namespace GeneralModule;
 
@@ -34,6 +39,30 @@ QString AskTwice()
     }
 }
 
+// They hold what the password now shuts off.
+void AskAboutPlainStates()
+{
+    using Answer = Dialogs::Answer;
+    const std::vector<EarlierState> plain = PlainStatesOf(OpenAlbumPath());
+    if (plain.empty())
+        return;
+    const Answer answer = Dialogs::Door().Ask(
+        {.text = PasswordTexts::tr("%n earlier state(s) of this album have no password: whoever "
+                                   "gets at your files can read what the album held then. Shall "
+                                   "they be deleted?",
+                                   nullptr, int(plain.size())),
+         .icon = Dialogs::Icon::Question,
+         .buttons = Dialogs::Buttons::YesNo,
+         .defaultAnswer = Answer::No});
+    if (answer != Answer::Yes)
+        return;
+    const auto left = std::count_if(plain.begin(), plain.end(),
+                                    [](const EarlierState& state) { return !RemoveState(state); });
+    if (left > 0)
+        Tell(PasswordTexts::tr("%n of them could not be deleted.", nullptr, int(left)),
+             Dialogs::Icon::Warning);
+}
+
 } // namespace
 
 void AskForNewPassword()
@@ -60,4 +89,6 @@ void AskForNewPassword()
              ? PasswordTexts::tr("The album has no password any more.")
              : PasswordTexts::tr("The album has its new password. Without it nobody can open the "
                                  "album, so keep it well."));
+    if (!password.isEmpty())
+        AskAboutPlainStates();
 }

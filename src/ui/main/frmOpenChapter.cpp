@@ -12,7 +12,6 @@
 #include "core/ChapterChain.h"
 #include "core/StartUp.h"
 #include "platform/dialogs/Guard.h"
-#include "platform/files/PathRoutines.h"
 #include "platform/widgets/DropTarget.h"
 #include "platform/widgets/FrontWindow.h"
 #include "platform/widgets/HelpWindow.h"
@@ -31,6 +30,7 @@
 #include "ui/main/TransitionOption.h"
 #include "ui/main/ViewerWindows.h"
 #include "ui/main/frmAbout.h"
+#include "ui/main/frmCheckAlbum.h"
 #include "ui/main/frmRepairAlbum.h"
 #include "viewer/ViewerFlags.h"
 
@@ -168,6 +168,9 @@ std::vector<MainWindowCommand> frmOpenChapter::OtherCommands()
     return {
         {on(&Form::mnuRepair_Click), "repair", nullptr, ui.mnuRepair, &State::offersAlbumCommands,
          true},
+        {on(&Form::mnuCheck_Click), "", nullptr, ui.mnuCheck, &State::offersAlbumCommands},
+        {on(&Form::mnuEarlierStates_Click), "as-before", nullptr, ui.mnuEarlierStates,
+         &State::offersAlbumCommands},
         {on(&Form::mnuPassword_Click), "", nullptr, ui.mnuPassword, &State::offersAlbumCommands,
          true},
         {on(&Form::mnuEditTables_Click), "", nullptr, ui.mnuEditTables, &State::offersAlbumCommands,
@@ -236,7 +239,7 @@ void frmOpenChapter::RefreshState()
 {
     const MainWindowState state = DescribeMainWindow(
         {AlbumOpen(), IsAlbumReadOnly(), AlbumOpen() && HasPictures(), ui_->lstChapter->count(),
-         ui_->lstChapter->currentRow(), FileNameOf(OpenAlbumPath())});
+         ui_->lstChapter->currentRow(), OpenAlbumTitle()});
     setWindowTitle(AsWindowTitle(state.caption));
     ui_->lblWarning->setText(state.warning);
     ui_->lblWarning->setVisible(!state.warning.isEmpty());
@@ -257,6 +260,7 @@ void frmOpenChapter::RefreshState()
         menu->setToolTipsVisible(state.isReadOnly);
     if (ui_->lstChapter->isVisible())
         ui_->lstChapter->setFocus();
+    albums_->TellStateTrouble();
 }
 
 void frmOpenChapter::mnuOpenScript_Click()
@@ -400,6 +404,22 @@ void frmOpenChapter::mnuRepair_Click()
     if (AlbumOpen())
         chapters_->Fill();
     RefreshState();
+}
+
+void frmOpenChapter::mnuCheck_Click()
+{
+    frmCheckAlbum checking(this);
+    checking.exec();
+    if (checking.WantsEarlierStates)
+        return albums_->ShowEarlierStates(OpenAlbumPath());
+    if (AlbumOpen())
+        chapters_->Fill();
+    RefreshState();
+}
+
+void frmOpenChapter::mnuEarlierStates_Click()
+{
+    albums_->ShowEarlierStates(OpenAlbumPath());
 }
 
 void frmOpenChapter::mnuPassword_Click()

@@ -62,6 +62,8 @@ private:
     void mnuAllPictures_Click();
     void mnuSelectedPictures_Click();
     void mnuRepair_Click();
+    void mnuCheck_Click();
+    void mnuEarlierStates_Click();
     void mnuPassword_Click();
     void mnuEditTables_Click();
     void mnuEditLabels_Click();
