@@ -398,8 +398,8 @@
         <translation>L&apos;album est en ordre.</translation>
     </message>
     <message>
-        <source>Plug in the disk, or point the album to the new place (Pictures &gt; Reload Moved Pictures).</source>
-        <translation>Branchez le disque, ou rattachez l&apos;album au nouvel emplacement (Photos &gt; Retrouver les photos déplacées).</translation>
+        <source>Plug in the disk, or look for them where they are now (Pictures &gt; Missing Pictures).</source>
+        <translation>Branchez le disque, ou cherchez-les là où elles sont à présent (Photos &gt; Photos manquantes).</translation>
     </message>
 </context>
 <context>

@@ -70,8 +70,9 @@ QString FolderForCopies()
 class Check
 {
 public:
-    Check(const QString& path, const QString& password, const CheckProgress& progress)
-        : path_(path), password_(password), progress_(progress)
+    Check(const QString& path, const QString& album, const QString& password,
+          const CheckProgress& progress)
+        : path_(path), album_(album), password_(password), progress_(progress)
     {
     }
 
@@ -254,7 +255,8 @@ private:
             const std::string_view copy = rows.GetUtf8(1);
             const QString path = QString::fromUtf8(file.data(), qsizetype(file.size()));
             GoOn(CheckStep::Files, seen / all);
-            if (IsPictureThere(path, QString::fromUtf8(copy.data(), qsizetype(copy.size()))))
+            if (IsPictureThere(path, QString::fromUtf8(copy.data(), qsizetype(copy.size())),
+                               album_))
                 continue;
             if (count++ < mostExamples)
                 missing += path;
@@ -263,12 +265,13 @@ private:
             Add(Kind::Missing,
                 CheckReport::tr("The files of %n picture(s) are not where they were.", nullptr,
                                 count),
-                CheckReport::tr("Plug in the disk, or point the album to the new place (Pictures > "
-                                "Reload Moved Pictures)."),
+                CheckReport::tr("Plug in the disk, or look for them where they are now (Pictures > "
+                                "Missing Pictures)."),
                 missing, count);
     }
 
     QString path_;
+    QString album_; // of which it is a copy
     QString password_;
     const CheckProgress& progress_;
     std::shared_ptr<Database> database_;
@@ -285,13 +288,14 @@ bool CheckReport::Has(Kind kind) const
                        [kind](const Finding& finding) { return finding.kind == kind; });
 }
 
-AlbumCheck::AlbumCheck(const CheckProgress& progress) : password_(AlbumDatabase->GetPassword())
+AlbumCheck::AlbumCheck(const CheckProgress& progress)
+    : album_(AlbumDatabase->GetPath()), password_(AlbumDatabase->GetPassword())
 {
     Copy(*AlbumDatabase, progress);
 }
 
 AlbumCheck::AlbumCheck(const QString& album, const QString& password, const CheckProgress& progress)
-    : password_(password)
+    : album_(album), password_(password)
 {
     Copy(*Database::Open(album, password, Database::Use::Reading), progress);
 }
@@ -324,7 +328,7 @@ CheckReport AlbumCheck::Run(const CheckProgress& progress)
         stopped.isStopped = true;
         return stopped;
     }
-    return Check(copy_.fileName(), password_, progress).Run();
+    return Check(copy_.fileName(), album_, password_, progress).Run();
 }
 
 QString DescribeCheck(const CheckReport& report)

@@ -67,6 +67,7 @@ private:
     void Copy(const Database& album, const CheckProgress& progress);
 
     QTemporaryFile copy_;
+    QString album_;
     QString password_;
     bool isCopied_ = false;
 };

@@ -22,10 +22,15 @@ namespace GeneralModule {
 
 QString AbsolutePath(const QString& file)
 {
-    if (file.isEmpty() || IsAbsolute(file) || !IsAlbumOpen())
+    return IsAbsolute(file) ? file : AbsolutePath(file, OpenAlbumPath());
+}
+
+QString AbsolutePath(const QString& file, const QString& album)
+{
+    if (file.isEmpty() || album.isEmpty() || IsAbsolute(file))
         return file;
     return QDir::toNativeSeparators(
-        QDir::cleanPath(FolderOf(OpenAlbumPath()) + QString(file).replace(u'\\', u'/')));
+        QDir::cleanPath(FolderOf(album) + QString(file).replace(u'\\', u'/')));
 }
 
 QString RelativePath(const QString& path)

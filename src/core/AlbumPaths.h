@@ -10,6 +10,8 @@ namespace GeneralModule {
 
 // The path on disk. Paths of other systems ("C:\Photos") are absolute too.
 QString AbsolutePath(const QString& file);
+// The same for a picture of the album at that path, whether it is open or not.
+QString AbsolutePath(const QString& file, const QString& album);
 
 // How an album that travels with its pictures holds an absolute path; empty for one that is not in
 // the album's folder or in one inside.

@@ -53,4 +53,9 @@ bool IsPictureThere(const QString& file, const QString& copy)
     return (!copy.isEmpty() && QFileInfo::exists(copy)) || QFileInfo::exists(AbsolutePath(file));
 }
 
+bool IsPictureThere(const QString& file, const QString& copy, const QString& album)
+{
+    return IsPictureThere(AbsolutePath(file, album), copy);
+}
+
 } // namespace GeneralModule

@@ -20,5 +20,7 @@ QString PictureFileOf(const QString& file, const QString& copy);
 // Whether the picture can be read from its file or from that copy (empty for none), the two paths
 // that its row holds.
 bool IsPictureThere(const QString& file, const QString& copy);
+// The same for a picture of the album at that path, whether it is open or not.
+bool IsPictureThere(const QString& file, const QString& copy, const QString& album);
 
 } // namespace GeneralModule

@@ -38,6 +38,14 @@ void RunLong(const QString& text, bool canStop, const Dialogs::Work& work)
         work([] { return false; });
 }
 
+bool AgreesTo(const QString& question)
+{
+    return Dialogs::Door().Ask({.text = question,
+                                .icon = Dialogs::Icon::Question,
+                                .buttons = Dialogs::Buttons::YesNo,
+                                .defaultAnswer = Dialogs::Answer::Yes}) == Dialogs::Answer::Yes;
+}
+
 void Tell(const QString& text, Dialogs::Icon icon)
 {
     Dialogs::Door().Ask({text, icon});

@@ -75,5 +75,8 @@ public:
 // The same by the installed dialogs; in the caller's thread where none are.
 void RunLong(const QString& text, bool canStop, const Dialogs::Work& work);
 
+// A question with Yes and No, of which Yes is proposed.
+bool AgreesTo(const QString& question);
+
 // A message with an Ok button.
 void Tell(const QString& text, Dialogs::Icon icon = Dialogs::Icon::Information);

@@ -44,14 +44,6 @@ void TellTroubleOf(const std::function<void()>& action)
     }
 }
 
-bool AgreesTo(const QString& question)
-{
-    return Dialogs::Door().Ask({.text = question,
-                                .icon = Dialogs::Icon::Question,
-                                .buttons = Dialogs::Buttons::YesNo,
-                                .defaultAnswer = Dialogs::Answer::Yes}) == Dialogs::Answer::Yes;
-}
-
 } // namespace
 
 template<typename SidecarWork>

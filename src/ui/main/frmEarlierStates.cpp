@@ -33,14 +33,6 @@ bool StartProgramOn(const QString& state)
     return QProcess::startDetached(ProgramFile(QStringLiteral("lumenark")), {state});
 }
 
-bool AgreesTo(const QString& question)
-{
-    return Dialogs::Door().Ask({.text = question,
-                                .icon = Dialogs::Icon::Question,
-                                .buttons = Dialogs::Buttons::YesNo,
-                                .defaultAnswer = Dialogs::Answer::Yes}) == Dialogs::Answer::Yes;
-}
-
 } // namespace
 
 frmEarlierStates::frmEarlierStates(QWidget* parent)
