@@ -2436,6 +2436,181 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Change</source>
+        <translation>Modification</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n photo</numerusform>
+            <numerusform>%n photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphs</source>
+        <translation>
+            <numerusform>%n paragraphe</numerusform>
+            <numerusform>%n paragraphes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UndoStep</name>
+    <message>
+        <source>Move Chapter</source>
+        <translation>Déplacer le chapitre</translation>
+    </message>
+    <message>
+        <source>Create Chapter</source>
+        <translation>Créer le chapitre</translation>
+    </message>
+    <message>
+        <source>Rename Chapter to</source>
+        <translation>Renommer le chapitre en</translation>
+    </message>
+    <message>
+        <source>Delete Chapter</source>
+        <translation>Supprimer le chapitre</translation>
+    </message>
+    <message>
+        <source>Change Settings</source>
+        <translation>Modifier les réglages</translation>
+    </message>
+    <message>
+        <source>Set Delay of Autoview</source>
+        <translation>Régler le délai du défilement</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Choisir le dossier</translation>
+    </message>
+    <message>
+        <source>Repair Album</source>
+        <translation>Réparer l&apos;album</translation>
+    </message>
+    <message>
+        <source>Save Paragraph</source>
+        <translation>Enregistrer le paragraphe</translation>
+    </message>
+    <message>
+        <source>Create Paragraph</source>
+        <translation>Créer un paragraphe</translation>
+    </message>
+    <message>
+        <source>Create Paragraph after</source>
+        <translation>Créer un paragraphe après</translation>
+    </message>
+    <message>
+        <source>Delete Paragraph</source>
+        <translation>Supprimer le paragraphe</translation>
+    </message>
+    <message>
+        <source>Move Paragraph</source>
+        <translation>Déplacer le paragraphe</translation>
+    </message>
+    <message numerus="yes">
+        <source>Link %n Pictures</source>
+        <translation>
+            <numerusform>Lier %n photo</numerusform>
+            <numerusform>Lier %n photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Unlink %n Pictures</source>
+        <translation>
+            <numerusform>Délier %n photo</numerusform>
+            <numerusform>Délier %n photos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Order Linked Pictures</source>
+        <translation>Ordonner les photos liées</translation>
+    </message>
+    <message>
+        <source>Describe</source>
+        <translation>Décrire</translation>
+    </message>
+    <message>
+        <source>Take out</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Describe Together</source>
+        <translation>Décrire ensemble</translation>
+    </message>
+    <message>
+        <source>Take Descriptions</source>
+        <translation>Reprendre les descriptions</translation>
+    </message>
+    <message>
+        <source>Add Value</source>
+        <translation>Ajouter la valeur</translation>
+    </message>
+    <message>
+        <source>Delete Value</source>
+        <translation>Supprimer la valeur</translation>
+    </message>
+    <message>
+        <source>Replace %1 by %2</source>
+        <translation>Remplacer %1 par %2</translation>
+    </message>
+    <message>
+        <source>Load Pictures</source>
+        <translation>Charger les photos</translation>
+    </message>
+    <message>
+        <source>Reload Moved Pictures</source>
+        <translation>Recharger les photos déplacées</translation>
+    </message>
+    <message>
+        <source>Edit Labels</source>
+        <translation>Modifier les libellés</translation>
+    </message>
+    <message>
+        <source>Take from Files</source>
+        <translation>Reprendre des fichiers</translation>
+    </message>
+</context>
+<context>
+    <name>UndoSteps</name>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Annulé : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n steps undone</source>
+        <translation>
+            <numerusform>%n étape annulée</numerusform>
+            <numerusform>%n étapes annulées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rétabli : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n steps redone</source>
+        <translation>
+            <numerusform>%n étape rétablie</numerusform>
+            <numerusform>%n étapes rétablies</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 « %2 »</translation>
+    </message>
+    <message>
+        <source>Another program has changed the album. What was done before that cannot be undone any more.</source>
+        <translation>Un autre programme a modifié l&apos;album. Ce qui a été fait auparavant ne peut plus être annulé.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Il n&apos;y a rien à annuler.</translation>
+    </message>
+</context>
+<context>
     <name>ValueEntry</name>
     <message>
         <source>Caracteristics must begin with a letter or a figure</source>

@@ -4,7 +4,9 @@
 #include "core/AlbumSets.h"
 #include "core/EditConflict.h"
 #include "core/TextRoutines.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
+#include "platform/files/PathRoutines.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,6 +17,8 @@ using GeneralModule::AlbumDatabase;
 using GeneralModule::ImageSet;
 using GeneralModule::MergeEdit;
 using GeneralModule::Quoted;
+using GeneralModule::StepAbout;
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -112,6 +116,7 @@ Picture StorePicture(const QString& file, const Picture& shown, const Picture& e
     }
     if (saved == shown || !FindPicture(file))
         return saved;
+    const UndoStep step(StepAbout(UndoStep::tr("Describe"), FileNameOf(file)));
     WriteBatch batch(AlbumDatabase);
     for (int column = 0; column < columnCount; ++column) {
         QString& value = saved.values[std::size_t(column)];
@@ -133,6 +138,7 @@ Picture StorePicture(const QString& file, const Picture& shown, const Picture& e
 
 QString TakeOutPicture(const QString& file, bool deleteFile)
 {
+    const UndoStep step(StepAbout(UndoStep::tr("Take out"), FileNameOf(file)));
     // Begins before the file is deleted: this fails if the album cannot be changed.
     WriteBatch batch(AlbumDatabase);
     const QString trouble = deleteFile ? DeleteFile(file) : QString();

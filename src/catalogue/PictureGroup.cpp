@@ -4,6 +4,7 @@
 #include "catalogue/Picture.h"
 #include "core/Album.h"
 #include "core/AlbumSets.h"
+#include "core/UndoSteps.h"
 #include "platform/data/ReadLock.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
@@ -15,6 +16,7 @@
 #include <iterator>
 
 using GeneralModule::AlbumDatabase;
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -166,6 +168,7 @@ GroupChange ApplyToGroup(const std::vector<qint32>& pictures, const GroupChange&
         return stored;
     std::vector<qint32> rows = pictures;
     std::ranges::sort(rows);
+    const UndoStep step(UndoStep::tr("Describe Together"), GeneralModule::StepCounts::Shown);
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     for (int column = 0; column < columnCount; ++column) {
         if (auto& value = stored.values[std::size_t(column)])

@@ -5,6 +5,7 @@
 #include "catalogue/CharacteristicModel.h"
 #include "core/EditConflict.h"
 #include "core/Parameters.h"
+#include "core/UndoSteps.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
@@ -124,7 +125,9 @@ void frmEditLabels::cmdExit_Click()
     QMap<QString, QString> labels;
     for (const Label& label : edited)
         labels.insert(label.parameter, label.box->text());
-    if (!labels.isEmpty())
+    if (!labels.isEmpty()) {
+        const UndoStep step(UndoStep::tr("Edit Labels"));
         SetParams(labels);
+    }
     close();
 }

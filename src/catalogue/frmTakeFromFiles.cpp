@@ -5,6 +5,7 @@
 #include "catalogue/ChangeText.h"
 #include "catalogue/ColumnTitles.h"
 #include "core/Album.h"
+#include "core/UndoSteps.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
@@ -13,6 +14,8 @@
 #include "platform/widgets/WindowSize.h"
 
 #include <QHeaderView>
+
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -181,6 +184,7 @@ void frmTakeFromFiles::cmdStop_Click()
 void frmTakeFromFiles::cmdTake_Click()
 {
     const BusyPointer busy;
+    const UndoStep step(UndoStep::tr("Take from Files"), GeneralModule::StepCounts::Shown);
     const auto result = ApplyChanges(plan_.changes);
     if (!result)
         return;

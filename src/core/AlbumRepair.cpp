@@ -7,6 +7,7 @@
 #include "core/ChainMending.h"
 #include "core/ChapterChain.h"
 #include "core/Renumbering.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
 
 #include <QDir>
@@ -197,6 +198,7 @@ namespace GeneralModule {
 // have begun.
 RepairReport RepairAlbum(const CopyProgress& progress)
 {
+    const UndoStep step(UndoStep::tr("Repair Album"));
     {
         const WriteBatch trial(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
         const RepairReport report = Repair().Run();

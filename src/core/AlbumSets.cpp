@@ -2,6 +2,7 @@
 #include "core/AlbumSets.h"
 
 #include "core/Columns.h"
+#include "core/UndoHistory.h"
 
 #include <QCoreApplication>
 
@@ -44,6 +45,7 @@ namespace GeneralModule {
 
 Album::Album(const QString& path, const QString& password)
     : database(Database::Open(path, password)),
+      history(std::make_shared<UndoHistory>(database)),
       params(database, QStringLiteral("Params")),
       paragraphs(database, QStringLiteral("Paragraph")),
       images(database, QStringLiteral("Image")),
