@@ -471,4 +471,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>frmUndo</name>
+    <message numerus="yes">
+        <source>Undo %n Steps</source>
+        <translation>
+            <numerusform>Undo %n Step</numerusform>
+            <numerusform>Undo %n Steps</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -133,6 +133,10 @@
         <source>Change Password</source>
         <translation>Changer le mot de passe</translation>
     </message>
+    <message>
+        <source>What you have done up to now cannot be undone any more after that.</source>
+        <translation>Ce que vous avez fait jusqu&apos;ici ne pourra plus être annulé ensuite.</translation>
+    </message>
 </context>
 <context>
     <name>AlbumStatus</name>
@@ -1764,6 +1768,14 @@ Votre version :
         <source>Find pictures</source>
         <translation>Chercher des photos</translation>
     </message>
+    <message>
+        <source>In every window: undo what was done last</source>
+        <translation>Dans toutes les fenêtres : annuler la dernière action</translation>
+    </message>
+    <message>
+        <source>In every window: redo it</source>
+        <translation>Dans toutes les fenêtres : la rétablir</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowState</name>
@@ -2457,6 +2469,25 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>UndoMenu</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rétablir : %1</translation>
+    </message>
+</context>
+<context>
     <name>UndoStep</name>
     <message>
         <source>Move Chapter</source>
@@ -2608,6 +2639,25 @@ Le supprimer quand même ?</translation>
     <message>
         <source>There is nothing to undo.</source>
         <translation>Il n&apos;y a rien à annuler.</translation>
+    </message>
+    <message>
+        <source>What was done last is too large to be undone.</source>
+        <translation>Ce qui a été fait en dernier est trop volumineux pour être annulé.</translation>
+    </message>
+</context>
+<context>
+    <name>UndoTurn</name>
+    <message>
+        <source>The album is being taken back...</source>
+        <translation>L&apos;album revient en arrière...</translation>
+    </message>
+    <message>
+        <source>Stopped: nothing was changed</source>
+        <translation>Arrêté : rien n&apos;a été changé</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation>Il n&apos;y a rien à rétablir.</translation>
     </message>
 </context>
 <context>
@@ -2874,6 +2924,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Previous Picture</source>
         <translation>Photo précédente</translation>
+    </message>
+    <message>
+        <source>The file goes to the desktop&apos;s trash, or where there is none, it is deleted for good. Undo brings back the album&apos;s entry, not the file.</source>
+        <translation>Le fichier va dans la corbeille du bureau ; s&apos;il n&apos;y en a pas, il est supprimé pour de bon. Annuler ramène l&apos;entrée de l&apos;album, pas le fichier.</translation>
     </message>
 </context>
 <context>
@@ -3633,6 +3687,18 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
         <source>Import XMP Files</source>
         <translation>Importer des fichiers XMP</translation>
     </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Undo Several...</source>
+        <translation>Annuler plusieurs étapes...</translation>
+    </message>
 </context>
 <context>
     <name>frmOrganizeParagraphs</name>
@@ -3961,6 +4027,36 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>frmUndo</name>
+    <message>
+        <source>Undo Several Steps</source>
+        <translation>Annuler plusieurs étapes</translation>
+    </message>
+    <message>
+        <source>What was done since the album was opened, the newest first. The chosen step is undone with all those above it :</source>
+        <translation>Ce qui a été fait depuis l&apos;ouverture de l&apos;album, le plus récent d&apos;abord. L&apos;étape choisie est annulée avec toutes celles au-dessus :</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>Étapes</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo %n Steps</source>
+        <translation>
+            <numerusform>Annuler %n étape</numerusform>
+            <numerusform>Annuler %n étapes</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 using GeneralModule::AlbumDatabase;
 using GeneralModule::ImageSet;
@@ -35,9 +36,21 @@ bool FindPicture(const QString& file)
     return !ImageSet->NoMatch();
 }
 
+// False where there is no trash for the file. A folder of that name is no picture.
+bool PutIntoTrash(const QString& path)
+{
+    if (!QFileInfo(path).isFile())
+        return false;
+    // The user's trash lies in this folder, which a new user does not have yet.
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    return QFile::moveToTrash(path);
+}
+
 // Why the file could not be deleted; empty when it is gone.
 QString DeleteFile(const QString& path)
 {
+    if (PutIntoTrash(path))
+        return {};
     QFile file(path);
     if (file.remove() || !QFileInfo::exists(path))
         return {};

@@ -3,6 +3,7 @@
 #include "ui_frmReloadPictures.h"
 
 #include "catalogue/MovedPictures.h"
+#include "catalogue/UndoWindow.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
@@ -31,6 +32,7 @@ frmReloadPictures::frmReloadPictures(QWidget* parent)
     connect(ui_->lstOldReferences, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmReloadPictures::lstOldReferences_Click));
     RunGuarded([this] { Form_Load(); });
+    new UndoWindow(this, [this] { ShowOldFolders(); });
     chooser_->Connect(this, &frmReloadPictures::drvNewReferences_Change,
                       &frmReloadPictures::dirNewReferences_Change);
     connect(ui_->cmdReloadPictures, &QPushButton::clicked, this,
@@ -46,7 +48,14 @@ void frmReloadPictures::Form_Load()
     const QString folder = UsersPictureFolder();
     ui_->drvNewReferences->ShowVolumeOf(folder);
     ui_->dirNewReferences->SetPath(folder);
-    ui_->lstOldReferences->addItems(PictureFolders());
+    ShowOldFolders();
+}
+
+void frmReloadPictures::ShowOldFolders()
+{
+    const QStringList folders = PictureFolders();
+    ui_->lstOldReferences->clear();
+    ui_->lstOldReferences->addItems(folders);
     ui_->lstOldReferences->setCurrentRow(0);
 }
 

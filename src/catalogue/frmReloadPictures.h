@@ -23,6 +23,7 @@ public:
 
 private:
     void Form_Load();
+    void ShowOldFolders();
     void lstOldReferences_Click();
     void drvNewReferences_Change();
     void dirNewReferences_Change();

@@ -4,6 +4,7 @@
 
 #include "catalogue/ChangeText.h"
 #include "catalogue/ColumnTitles.h"
+#include "catalogue/UndoWindow.h"
 #include "core/Album.h"
 #include "core/UndoSteps.h"
 #include "platform/dialogs/Dialogs.h"
@@ -42,6 +43,7 @@ frmTakeFromFiles::frmTakeFromFiles(QWidget* parent)
                                    {ui_->cmdTake, "index-pictures", &Form::cmdTake_Click},
                                    {ui_->cmdExit, "exit", &Form::cmdExit_Click},
                                });
+    new UndoWindow(this);
     const auto show = Guarded(this, &Form::ShowPlan);
     connect(ui_->chkCaptions, &QCheckBox::toggled, this, show);
     for (QComboBox* box : {ui_->cboKeywords, ui_->cboDatePart, ui_->cboDateColumn})

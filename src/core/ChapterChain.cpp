@@ -109,6 +109,11 @@ qint32 FirstChapter()
     return ChapterSet->NoMatch() ? 0 : ChapterSet->Number(u"Id");
 }
 
+bool HasChapter(qint32 chapter)
+{
+    return FindById(*ChapterSet, chapter);
+}
+
 qint32 ChapterLeadingTo(qint32 chapter)
 {
     const Chain chain = ChainOfChapters();

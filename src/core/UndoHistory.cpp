@@ -15,8 +15,6 @@ using GeneralModule::columnCount;
 
 namespace {
 
-constexpr qint64 entriesPerLook = 1000; // between two looks at the log's size
-
 struct HistoryTexts
 {
     Q_DECLARE_TR_FUNCTIONS(UndoHistory)
@@ -39,8 +37,10 @@ void UndoHistory::Begin()
 {
     // A picture whose copy is gone is shown from its own place, which is noted when it is shown.
     database_->BeginLog(LoggedTables(), {QStringLiteral("SourceFile")});
-    if (IsKept())
-        elsewhere_ = database_->VersionElsewhere();
+    if (!IsKept())
+        return;
+    version_ = Statement(database_->GetEngine(), "PRAGMA data_version");
+    elsewhere_ = ReadVersion();
 }
 
 void UndoHistory::Drop() noexcept
@@ -55,13 +55,23 @@ void UndoHistory::Drop() noexcept
     }
 }
 
+// Kept prepared: each step asks for it.
+qint64 UndoHistory::ReadVersion()
+{
+    version_.Step();
+    const qint64 version = version_.GetInteger(0);
+    version_.Reset();
+    return version;
+}
+
 // What was logged before another program's change says nothing about the album as it is now.
 void UndoHistory::DropWhatOthersChanged()
 {
-    const qint64 elsewhere = database_->VersionElsewhere();
+    const qint64 elsewhere = ReadVersion();
     if (std::exchange(elsewhere_, elsewhere) == elsewhere)
         return;
-    isVoid_ = !undo_.empty() || !redo_.empty() || Log().LastEntry() > end_;
+    if (!undo_.empty() || !redo_.empty() || Log().LastEntry() > end_)
+        loss_ = Loss::OthersChanged;
     Drop();
 }
 
@@ -71,14 +81,14 @@ void UndoHistory::Refresh()
         return;
     DropWhatOthersChanged();
     if (const qint64 last = Log().LastEntry(); last > end_)
-        AddStep({HistoryTexts::tr("Change"), GeneralModule::StepCounts::Shown, {end_, last}});
+        AddStep({HistoryTexts::tr("Change"), GeneralModule::StepCounts::Shown, {end_, last, {}}});
 }
 
 void UndoHistory::BeginStep(const QString& name, GeneralModule::StepCounts counts)
 {
     if (depth_ == 0 && IsKept() && !database_->IsInTransaction()) {
         Refresh();
-        open_ = {name, counts, {end_, end_}};
+        open_ = {name, counts, {end_, end_, {}}};
         isOpen_ = true;
     }
     ++depth_;
@@ -91,7 +101,6 @@ void UndoHistory::EndStep()
     open_.entries.last = Log().LastEntry();
     if (open_.entries.IsEmpty())
         return;
-    isVoid_ = false;
     AddStep(std::move(open_));
 }
 
@@ -99,9 +108,29 @@ void UndoHistory::AddStep(Step step)
 {
     DropRedo();
     end_ = step.entries.last;
-    sinceBudget_ += step.entries.last - step.entries.after;
     undo_.push_back(std::move(step));
+    loss_ = Loss::None;
+    PutAside();
     KeepBudget();
+}
+
+// A log that is large slows each commit. When this fails, it stays as it is.
+void UndoHistory::PutAside()
+{
+    if (end_ < shelfSize_)
+        return;
+    try {
+        const std::shared_ptr<const LogShelf> shelf = Log().PutAside();
+        for (Steps* steps : {&undo_, &redo_}) {
+            for (Step& step : *steps) {
+                if (!step.entries.shelf)
+                    step.entries.shelf = shelf;
+            }
+        }
+        end_ = 0;
+    } catch (const DatabaseError&) {
+        end_ = Log().LastEntry();
+    }
 }
 
 void UndoHistory::DropRedo()
@@ -114,13 +143,14 @@ void UndoHistory::DropRedo()
 // A single step may take more than all the memory: then it cannot be taken back.
 void UndoHistory::KeepBudget()
 {
-    if (sinceBudget_ < entriesPerLook && undo_.size() % 64 != 0)
+    if (Log().GetBytes() <= budget_)
         return;
-    sinceBudget_ = 0;
     auto kept = undo_.begin();
     for (; kept != undo_.end() && Log().GetBytes() > budget_; ++kept)
         Log().Forget(kept->entries);
     undo_.erase(undo_.begin(), kept);
+    if (undo_.empty() && redo_.empty())
+        loss_ = Loss::TooLarge;
     end_ = Log().LastEntry();
 }
 
@@ -167,7 +197,7 @@ bool UndoHistory::Turn(Direction direction, int steps, const ChangeLog::Progress
     Refresh();
     WriteBatch batch(database_, WriteBatch::Commits::AtItsEnd);
     // From here on no other program can come in between.
-    if (database_->VersionElsewhere() != elsewhere_)
+    if (ReadVersion() != elsewhere_)
         return false;
     if (steps < 1 || std::size_t(steps) > Of(direction).size())
         return false;
@@ -181,7 +211,7 @@ bool UndoHistory::Turn(Direction direction, int steps, const ChangeLog::Progress
     undo_ = std::move(undo);
     redo_ = std::move(redo);
     end_ = end;
-    sinceBudget_ = entriesPerLook;
+    PutAside();
     KeepBudget();
     return true;
 }

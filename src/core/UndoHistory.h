@@ -44,8 +44,13 @@ public:
     }
     // What the step's entries are about: "Load Pictures, 12 pictures".
     QString Describe(const Step& step) const;
-    // Whether steps were dropped because of another program's changes since the last step.
-    bool IsVoid() const { return isVoid_; }
+    // What has become of the steps when there is none to take back.
+    enum class Loss {
+        None,          // nothing was done
+        OthersChanged, // another program has changed the album since
+        TooLarge       // the last one took more than all the memory
+    };
+    Loss GetLoss() const { return loss_; }
 
     // Takes back the last steps, or makes them again: all or none. False when progress has stopped
     // it or there are not so many any more. Throws DatabaseError.
@@ -53,18 +58,23 @@ public:
 
     // Memory for the log; older steps go first. In bytes.
     void SetBudget(qint64 bytes) { budget_ = bytes; }
+    // Entries that are put aside when there are so many.
+    void SetShelfSize(qint64 entries) { shelfSize_ = entries; }
 
     void Drop() noexcept;
 
 private:
     ChangeLog& Log() { return *database_->GetLog(); }
+    qint64 ReadVersion();
     void DropWhatOthersChanged();
     void AddStep(Step step);
     void DropRedo();
+    void PutAside();
     void KeepBudget();
     bool TurnSteps(Steps& from, Steps& to, int steps, const ChangeLog::Progress& progress);
 
     std::shared_ptr<Database> database_;
+    Statement version_; // of what other programs have committed
     Steps undo_;
     Steps redo_;
     Step open_; // while isOpen_
@@ -72,7 +82,7 @@ private:
     int depth_ = 0;  // of nested steps
     qint64 end_ = 0; // the last entry that belongs to a step
     qint64 elsewhere_ = 0;
-    qint64 sinceBudget_ = 0; // entries since the log's size was looked at
-    bool isVoid_ = false;
+    Loss loss_ = Loss::None;
+    qint64 shelfSize_ = 20'000;
     qint64 budget_ = qint64(256) * 1024 * 1024;
 };

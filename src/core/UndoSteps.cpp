@@ -153,10 +153,16 @@ QString RedoName()
 QString WhyNoUndo()
 {
     const auto history = RestingHistory();
-    return history && history->IsVoid()
-               ? StepTexts::tr("Another program has changed the album. What was done before that "
-                               "cannot be undone any more.")
-               : StepTexts::tr("There is nothing to undo.");
+    switch (history ? history->GetLoss() : UndoHistory::Loss::None) {
+    case UndoHistory::Loss::OthersChanged:
+        return StepTexts::tr("Another program has changed the album. What was done before that "
+                             "cannot be undone any more.");
+    case UndoHistory::Loss::TooLarge:
+        return StepTexts::tr("What was done last is too large to be undone.");
+    case UndoHistory::Loss::None:
+        break;
+    }
+    return StepTexts::tr("There is nothing to undo.");
 }
 
 QString Undo(int steps, const UndoProgress& progress)

@@ -4,6 +4,7 @@
 
 #include "catalogue/LastDescribed.h"
 #include "catalogue/PictureCards.h"
+#include "catalogue/UndoWindow.h"
 #include "core/Album.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
@@ -59,6 +60,7 @@ void frmDescribePictures::ConnectControls()
     connect(ui_->sheet, &ContactSheet::SelectionChanged, this, Guarded(this, &Form::ChoiceChanged));
     connect(ui_->sheet, &ContactSheet::CurrentChanged, this, Guarded(this, &Form::ChoiceChanged));
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
+    new UndoWindow(this, [this] { ShowAfterUndo(); });
 }
 
 void frmDescribePictures::ConnectFields()
@@ -90,6 +92,16 @@ void frmDescribePictures::Form_Load()
     ui_->sheet->ShowPictures(Pictures);
     if (ui_->sheet->GetCurrent() == 0 && !Pictures.empty())
         ui_->sheet->GoTo(Pictures.front());
+    ChoiceChanged();
+}
+
+// What was typed and not applied stays.
+void frmDescribePictures::ShowAfterUndo()
+{
+    for (int column = 0; column < columnCount; ++column)
+        allowed_[std::size_t(column)] = ValuesOf(column);
+    ui_->sheet->MarksChanged();
+    ui_->lblFeedback->clear();
     ChoiceChanged();
 }
 

@@ -36,6 +36,7 @@ private:
     void ConnectControls();
     void ConnectFields();
     void Form_Load();
+    void ShowAfterUndo();
     bool Form_KeyDown(const QKeyEvent& key);
     void RefreshState();
 

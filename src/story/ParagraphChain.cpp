@@ -196,6 +196,33 @@ void DeleteParagraph(ParagraphPlace& place)
     place.paragraph = next > 0 ? next : previous;
 }
 
+std::vector<qint32> NearbyParagraphs(const ParagraphPlace& place)
+{
+    constexpr std::size_t before = 50;
+    const Chain chain = ChainOfParagraphs();
+    std::vector<qint32> nearby;
+    chain.Walk(chain.Neighbour(place.paragraph, ChainDirection::Previous), ChainDirection::Previous,
+               [&](qint32 paragraph) {
+                   nearby.push_back(paragraph);
+                   return nearby.size() < before;
+               });
+    nearby.push_back(chain.Neighbour(place.paragraph, ChainDirection::Next));
+    return nearby;
+}
+
+ParagraphPlace NearestPlace(const ParagraphPlace& place, const std::vector<qint32>& nearby)
+{
+    std::vector<qint32> candidates{place.paragraph};
+    candidates.insert(candidates.end(), nearby.begin(), nearby.end());
+    candidates.push_back(FirstParagraphOf(place.chapter));
+    for (const qint32 candidate : candidates) {
+        const std::optional<Paragraph> found = ReadParagraph(candidate);
+        if (found && FindById(*ChapterSet, found->chapter))
+            return {found->chapter, candidate};
+    }
+    return {place.chapter, 0};
+}
+
 void SaveAndStep(ParagraphPlace& place, const ParagraphDraft& draft, ChainStep step)
 {
     SaveParagraph(place, draft);

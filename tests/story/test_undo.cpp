@@ -2,6 +2,7 @@
 #include "RandomAuthor.h"
 
 #include "core/AlbumPassword.h"
+#include "core/AlbumRepair.h"
 #include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 #include "core/Parameters.h"
@@ -42,6 +43,7 @@ private slots:
             OpenAlbum(album_->GetAlbum());
         else
             SetAlbumPassword(password);
+        OpenedAlbum().history->SetShelfSize(500);
         RandomAuthor author(*album_, 7);
         QList<QByteArrayList> states{StateOfOpenAlbum()};
         const auto steps = [] {
@@ -102,14 +104,28 @@ private slots:
         QCOMPARE(CreateChapter("D", {}), 2);
     }
 
+    // Rows get other numbers then.
+    void TakesBackARepair()
+    {
+        AlbumDatabase->Execute("INSERT INTO Chapter (Id,Name) VALUES (-5,'A'),(7000000000,'B')");
+        AlbumDatabase->Execute("INSERT INTO Paragraph (Chapter,Text) VALUES (-5,'a')");
+        const QByteArrayList state = StateOfOpenAlbum();
+        const RepairReport report = RepairAlbum();
+        QCOMPARE(report.renumbered, 2);
+        QCOMPARE(Undo(), "Undone: Repair Album");
+        QCOMPARE(StateOfOpenAlbum(), state);
+    }
+
     void GivesUpWhatOthersChanged()
     {
         Name("One", "1");
         Name("Two", "2");
         Undo();
         album_->Execute("INSERT INTO Car0 VALUES ('theirs')");
+        const int changes = GetAlbumVersion().changesHere;
         QVERIFY(Undo().isEmpty());
         QVERIFY(WhyNoUndo().startsWith("Another program"));
+        QCOMPARE(GetAlbumVersion().changesHere, changes); // the log is no part of the album
         QCOMPARE(GetParam("Title"), "1");
         Name("Three", "3");
         QCOMPARE(UndoNames(), QStringList{"Three"});
@@ -151,11 +167,13 @@ private slots:
         const QStringList names = UndoNames();
         QVERIFY(names.size() > 100 && names.size() < 300);
         QCOMPARE(names.first(), "599");
-        const int version = GetAlbumVersion().changesHere;
         QVERIFY(OpenedAlbum().database->GetLog()->GetBytes() < 3'000'000);
-        QCOMPARE(GetAlbumVersion().changesHere, version);
         Undo(int(names.size()));
         QVERIFY(GetParam("Title").startsWith(QString::number(600 - names.size() - 1) + 'x'));
+        Name("Large", QString(5'000'000, 'x'));
+        Name("Too Large", "1");
+        QVERIFY(Undo().isEmpty() && UndoNames().isEmpty());
+        QCOMPARE(WhyNoUndo(), "What was done last is too large to be undone.");
     }
 
     // A trigger that another program puts into the open album, under whatever name.

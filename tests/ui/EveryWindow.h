@@ -21,6 +21,7 @@
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmOpenChapter.h"
 #include "ui/main/frmRepairAlbum.h"
+#include "ui/main/frmUndo.h"
 #include "viewer/frmFullScreen.h"
 #include "viewer/frmReelvane.h"
 #include "viewer/frmSelectImages.h"
@@ -28,11 +29,12 @@
 #include <array>
 
 inline constexpr std::array everyWindow{
-    "frmOpenChapter",        "frmReelvane",       "frmFullScreen",     "frmEditParagraph",
-    "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",     "frmEditLabels",
-    "frmLoadFiles",          "frmReloadPictures", "frmSelectImages",   "frmAbout",
-    "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures", "frmDescribePictures",
-    "frmTakeFromFiles"};
+    "frmOpenChapter",      "frmReelvane",           "frmFullScreen",
+    "frmEditParagraph",    "frmOrganizeParagraphs", "frmEditImage",
+    "frmEditTables",       "frmEditLabels",         "frmLoadFiles",
+    "frmReloadPictures",   "frmSelectImages",       "frmAbout",
+    "frmRepairAlbum",      "frmFindPictures",       "frmLinkedPictures",
+    "frmDescribePictures", "frmTakeFromFiles",      "frmUndo"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -92,7 +94,7 @@ protected:
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
                        frmAbout, frmRepairAlbum, frmFindPictures, frmPlaceParagraph,
-                       frmLinkedPictures, frmDescribePictures>(name);
+                       frmLinkedPictures, frmDescribePictures, frmUndo>(name);
     }
 
     frmReelvane* MakeViewer()

@@ -4,11 +4,8 @@
 #include <sqlcipher/sqlite3.h>
 
 #include <algorithm>
-#include <limits>
 
 namespace {
-
-constexpr ChangeLog::Range everything{0, std::numeric_limits<qint64>::max()};
 
 bool HasTable(sqlite3* engine, const QString& table)
 {
@@ -30,6 +27,14 @@ std::vector<TableLayout> LayoutsOf(sqlite3* engine, const QStringList& tables)
     return layouts;
 }
 
+// The one that the statement returns; 0 for none.
+qint64 NumberOf(Statement& statement)
+{
+    const qint64 number = statement.Step() ? statement.GetInteger(0) : 0;
+    statement.Reset();
+    return number;
+}
+
 } // namespace
 
 ChangeLog::ChangeLog(sqlite3* engine, const QStringList& tables, const QStringList& leftOut)
@@ -41,14 +46,14 @@ ChangeLog::ChangeLog(sqlite3* engine, const QStringList& tables, const QStringLi
     for (const QByteArray& sql : ChangeLogSql(layouts_, changes_))
         Statement(engine_, sql).Run();
     last_ = Statement(engine_, "SELECT max(seq) FROM temp.undo_log");
+    pages_ = Statement(engine_, "PRAGMA temp.page_count");
+    Statement size(engine_, "PRAGMA temp.page_size");
+    pageSize_ = NumberOf(size);
 }
 
 qint64 ChangeLog::LastEntry() const
 {
-    last_.Step();
-    const qint64 last = last_.GetInteger(0);
-    last_.Reset();
-    return last;
+    return NumberOf(last_);
 }
 
 Statement& ChangeLog::Reversal(std::size_t change)
@@ -80,7 +85,7 @@ std::optional<ChangeLog::Range> ChangeLog::TakeBack(const Range& entries, const 
 {
     const qint64 before = LastEntry();
     // The columns are change, row and the values, after the number.
-    Statement each(engine_,
+    Statement each(EngineOf(entries),
                    "SELECT * FROM temp.undo_log WHERE seq>?1 AND seq<=?2 ORDER BY seq DESC");
     each.Bind(1, entries.after);
     each.Bind(2, entries.last);
@@ -90,44 +95,56 @@ std::optional<ChangeLog::Range> ChangeLog::TakeBack(const Range& entries, const 
         if (!progress(++done))
             return std::nullopt;
     }
-    const Range made{before, LastEntry()};
+    Range made{before, LastEntry()};
     Forget(entries);
     return made;
 }
 
-void ChangeLog::Run(const QByteArray& sql, const Range& entries)
+sqlite3* ChangeLog::EngineOf(const Range& entries) const
 {
-    Statement statement(engine_, sql);
-    statement.Bind(1, entries.after);
-    statement.Bind(2, entries.last);
+    return entries.shelf ? entries.shelf->GetEngine() : engine_;
+}
+
+void ChangeLog::Run(Statement& deletion)
+{
     const int before = sqlite3_total_changes(engine_);
-    statement.Run();
+    deletion.Run();
     forgotten_ += sqlite3_total_changes(engine_) - before;
 }
 
 void ChangeLog::Forget(const Range& entries)
 {
-    Run("DELETE FROM temp.undo_log WHERE seq>?1 AND seq<=?2", entries);
+    if (entries.shelf)
+        return;
+    Statement deletion(engine_, "DELETE FROM temp.undo_log WHERE seq>?1 AND seq<=?2");
+    deletion.Bind(1, entries.after);
+    deletion.Bind(2, entries.last);
+    Run(deletion);
 }
 
 void ChangeLog::ForgetAll()
 {
-    Forget(everything);
+    Statement deletion(engine_, "DELETE FROM temp.undo_log");
+    Run(deletion);
 }
 
-qint64 ChangeLog::GetNumber(const QByteArray& sql, const Range& entries) const
+std::shared_ptr<const LogShelf> ChangeLog::PutAside()
 {
-    Statement statement(engine_, sql);
-    statement.Bind(1, entries.after);
-    statement.Bind(2, entries.last);
-    return statement.Step() ? statement.GetInteger(0) : 0;
+    auto shelf = std::make_shared<const LogShelf>(engine_);
+    ForgetAll();
+    std::erase_if(shelves_, [](const auto& each) { return each.expired(); });
+    shelves_.push_back(shelf);
+    return shelf;
 }
 
 qint64 ChangeLog::GetBytes() const
 {
-    Statement pages(engine_, "PRAGMA temp.page_count");
-    Statement size(engine_, "PRAGMA temp.page_size");
-    return pages.Step() && size.Step() ? pages.GetInteger(0) * size.GetInteger(0) : 0;
+    qint64 bytes = NumberOf(pages_) * pageSize_;
+    for (const auto& each : shelves_) {
+        if (const auto shelf = each.lock())
+            bytes += shelf->GetBytes();
+    }
+    return bytes;
 }
 
 int ChangeLog::CountRows(const QString& table, const Range& entries) const
@@ -137,13 +154,11 @@ int ChangeLog::CountRows(const QString& table, const Range& entries) const
         if (layouts_[changes_[i].table].GetTable() == table.toUtf8())
             numbers += QByteArray::number(qulonglong(i));
     }
-    return int(GetNumber("SELECT count(DISTINCT row) FROM temp.undo_log WHERE seq>?1 AND seq<=?2 "
-                         "AND change IN (" +
-                             numbers.join(',') + ')',
-                         entries));
-}
-
-int ChangeLog::CountEntries(const Range& entries) const
-{
-    return int(GetNumber("SELECT count(*) FROM temp.undo_log WHERE seq>?1 AND seq<=?2", entries));
+    Statement count(EngineOf(entries),
+                    "SELECT count(DISTINCT row) FROM temp.undo_log WHERE seq>?1 AND seq<=?2 "
+                    "AND change IN (" +
+                        numbers.join(',') + ')');
+    count.Bind(1, entries.after);
+    count.Bind(2, entries.last);
+    return int(NumberOf(count));
 }

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "platform/data/ChangeTriggers.h"
+#include "platform/data/LogShelf.h"
 #include "platform/data/Statement.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -19,9 +21,9 @@ public:
     {
         qint64 after = 0;
         qint64 last = 0;
+        std::shared_ptr<const LogShelf> shelf = {}; // where they were put aside; null: not yet
 
         bool IsEmpty() const { return last <= after; }
-        bool operator==(const Range&) const = default;
     };
 
     // Called with the number of entries done; returns false to stop.
@@ -35,8 +37,8 @@ public:
     // triggers. Throws DatabaseError, TooComplex for a table with too many fields.
     ChangeLog(sqlite3* engine, const QStringList& tables, const QStringList& leftOut);
 
-    // The last entry's number, 0 when there is none. Numbers of entries that are no longer there
-    // may come again.
+    // The last entry's number, 0 when there is none that is not put aside. Numbers of entries that
+    // are no longer there may come again.
     qint64 LastEntry() const;
 
     // Takes back what the entries record, last first, and forgets them. What that changes is logged
@@ -45,15 +47,19 @@ public:
     // is all or nothing, and roll that back after a stop. Throws DatabaseError.
     std::optional<Range> TakeBack(const Range& entries, const Progress& progress);
 
-    // Both throw DatabaseError.
+    // Those that were put aside go with the last range that names their shelf. Both throw
+    // DatabaseError.
     void Forget(const Range& entries);
     void ForgetAll();
 
-    // Memory that the log takes, right between two transactions.
+    // Moves all entries that are not put aside to a shelf, which all their ranges must name from
+    // then on. Call outside a transaction. Throws DatabaseError; then nothing has changed.
+    std::shared_ptr<const LogShelf> PutAside();
+
+    // Memory that the log takes with its shelves, right between two transactions.
     qint64 GetBytes() const;
     // How many rows of the table the entries are about.
     int CountRows(const QString& table, const Range& entries) const;
-    int CountEntries(const Range& entries) const;
 
     // How many entries were forgotten since the beginning; the engine counts these as changes.
     int GetForgotten() const { return forgotten_; }
@@ -61,13 +67,16 @@ public:
 private:
     Statement& Reversal(std::size_t change);
     void TakeBackEntry(const Statement& entry);
-    qint64 GetNumber(const QByteArray& sql, const Range& entries) const;
-    void Run(const QByteArray& sql, const Range& entries);
+    sqlite3* EngineOf(const Range& entries) const;
+    void Run(Statement& deletion);
 
     sqlite3* engine_;
     std::vector<TableLayout> layouts_;
     std::vector<LoggedChange> changes_;
     std::vector<Statement> reversals_; // by change, prepared when needed
-    mutable Statement last_;
+    mutable Statement last_;           // kept prepared, as each step asks for both
+    mutable Statement pages_;
+    qint64 pageSize_ = 0;
+    std::vector<std::weak_ptr<const LogShelf>> shelves_;
     int forgotten_ = 0;
 };

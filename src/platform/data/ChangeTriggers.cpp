@@ -10,7 +10,7 @@ namespace {
 constexpr char logTable[] = "undo_log";
 constexpr char triggerPrefix[] = "undo_log_";
 
-using Kind = LoggedChange::Kind;
+using ChangeKind = LoggedChange::Kind;
 
 // "v0,v1,v2"
 QByteArray ValueColumns(int count)
@@ -52,15 +52,15 @@ QByteArray TriggerSql(const TableLayout& layout, const LoggedChange& change, std
     const QByteArray table = " ON main." + QuotedName(layout.GetTable());
     const QByteArray create = QByteArray("CREATE TEMP TRIGGER ") + triggerPrefix + number;
     switch (change.kind) {
-    case Kind::Insert:
+    case ChangeKind::Insert:
         return create + " AFTER INSERT" + table + " BEGIN " +
                EntrySql(number, "new.rowid", {}, {}) + " END";
-    case Kind::Delete:
+    case ChangeKind::Delete:
         return create + " AFTER DELETE" + table + " BEGIN " +
                EntrySql(number, "old.rowid", ',' + ValueColumns(layout.Count()),
                         AllFields(layout, "old.")) +
                " END";
-    case Kind::Update:
+    case ChangeKind::Update:
         break;
     }
     const QByteArray field = QuotedName(layout.At(change.field).name);
@@ -77,11 +77,11 @@ std::vector<LoggedChange> LoggedChanges(const std::vector<TableLayout>& layouts,
 {
     std::vector<LoggedChange> changes;
     for (std::size_t table = 0; table < layouts.size(); ++table) {
-        changes.push_back({table, Kind::Insert, 0});
-        changes.push_back({table, Kind::Delete, 0});
+        changes.push_back({table, ChangeKind::Insert, 0});
+        changes.push_back({table, ChangeKind::Delete, 0});
         for (int field = 0; field < layouts[table].Count(); ++field) {
             if (!leftOut.contains(layouts[table].At(field).text))
-                changes.push_back({table, Kind::Update, field});
+                changes.push_back({table, ChangeKind::Update, field});
         }
     }
     return changes;
@@ -108,16 +108,16 @@ QByteArray ReverseSql(const TableLayout& layout, const LoggedChange& change)
 {
     const QByteArray table = QuotedName(layout.GetTable());
     switch (change.kind) {
-    case Kind::Insert:
+    case ChangeKind::Insert:
         return "DELETE FROM " + table + " WHERE rowid=?1";
-    case Kind::Delete: {
+    case ChangeKind::Delete: {
         QByteArray parameters = "?1";
         for (int i = 0; i < layout.Count(); ++i)
             parameters += ",?" + QByteArray::number(i + 2);
         return "INSERT OR ROLLBACK INTO " + table + "(rowid" + AllFields(layout, {}) +
                ") VALUES (" + parameters + ')';
     }
-    case Kind::Update:
+    case ChangeKind::Update:
         break;
     }
     return "UPDATE OR ROLLBACK " + table + " SET " + QuotedName(layout.At(change.field).name) +

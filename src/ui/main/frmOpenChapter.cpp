@@ -3,6 +3,7 @@
 #include "ui_frmOpenChapter.h"
 
 #include "catalogue/Picture.h"
+#include "catalogue/UndoWindow.h"
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "catalogue/frmLoadFiles.h"
@@ -28,6 +29,7 @@
 #include "ui/main/MainWindowKeys.h"
 #include "ui/main/PasswordQuestions.h"
 #include "ui/main/TransitionOption.h"
+#include "ui/main/UndoMenu.h"
 #include "ui/main/ViewerWindows.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmRepairAlbum.h"
@@ -165,6 +167,8 @@ void frmOpenChapter::ConnectControls()
     connect(drag_, &RowDrag::Dropped, this,
             [this](int from, int to) { RunGuarded([&] { MoveRow(from, to); }); });
     new WindowKeys(this, MainWindowKeys());
+    new UndoWindow(this, [this] { ShowAlbumAgain(); });
+    new UndoMenu({ui_->mnuTools, ui_->mnuUndo, ui_->mnuRedo, ui_->mnuUndoSeveral}, this);
     connect(ui_->cmdNotIndexed, &QPushButton::clicked, ui_->mnuUndefined, &QAction::trigger);
     connect(ui_->cmdMissing, &QPushButton::clicked, this,
             Guarded(this, &frmOpenChapter::ShowMissing));
@@ -193,6 +197,13 @@ void frmOpenChapter::resizeEvent(QResizeEvent* event)
             chapters_->Fill();
         RefreshState();
     });
+}
+
+void frmOpenChapter::ShowAlbumAgain()
+{
+    if (AlbumOpen())
+        chapters_->Fill();
+    RefreshState();
 }
 
 void frmOpenChapter::RefreshState()
@@ -356,9 +367,7 @@ void frmOpenChapter::mnuSelectedPictures_Click()
 void frmOpenChapter::mnuRepair_Click()
 {
     frmRepairAlbum(this).exec();
-    if (AlbumOpen())
-        chapters_->Fill();
-    RefreshState();
+    ShowAlbumAgain();
 }
 
 void frmOpenChapter::mnuPassword_Click()
