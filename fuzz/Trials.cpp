@@ -131,6 +131,8 @@ Trials::Trials(int argc, char** argv, int maxSeconds) : maxSeconds_(maxSeconds)
     for (qsizetype i = 1; i < arguments.size(); ++i) {
         if (arguments[i] == QLatin1String("--seconds"))
             seconds_ = NumberAfter(arguments, i);
+        else if (arguments[i] == QLatin1String("--trials"))
+            trials_ = NumberAfter(arguments, i);
         else if (arguments[i] == QLatin1String("--seed"))
             seed = quint64(NumberAfter(arguments, i));
         else if (arguments[i] == QLatin1String("--trial"))
@@ -158,6 +160,11 @@ qint64 Trials::ProcessorMilliseconds()
     return MillisecondsOf(RUSAGE_SELF) + MillisecondsOf(RUSAGE_CHILDREN);
 }
 
+bool Trials::IsEnough() const
+{
+    return trials_ >= 0 ? trial_ >= trials_ : time_.elapsed() >= seconds_ * 1000;
+}
+
 bool Trials::Next()
 {
     const bool isFirst = trial_ < 0;
@@ -165,8 +172,7 @@ bool Trials::Next()
         time_.start(); // what is made ready before is not counted
     trial_ = isFirst && onlyTrial_ >= 0 ? onlyTrial_ : trial_ + 1;
     LimitTime(0);
-    if (faults_ >= maxFaults || (!isFirst && onlyTrial_ >= 0) ||
-        (onlyTrial_ < 0 && time_.elapsed() >= seconds_ * 1000))
+    if (faults_ >= maxFaults || (!isFirst && onlyTrial_ >= 0) || (onlyTrial_ < 0 && IsEnough()))
         return false;
     currentTrial = trial_;
     currentInput.clear();

@@ -11,7 +11,9 @@
 
 // What the programs of this folder share: arguments, clock, random numbers, and the report.
 //
-//   PROGRAM [--seconds N] [--seed N] [--trial N] [FILE...]
+//   PROGRAM [--seconds N | --trials N] [--seed N] [--trial N] [FILE...]
+//
+// --trials runs so many, however long they take.
 //
 // Trials are numbered from 0, and each has random numbers of its own that follow from the seed and
 // its number. So --trial runs one of them alone, with the same input as before.
@@ -58,10 +60,13 @@ public:
     int Finish() const;
 
 private:
+    bool IsEnough() const;
+
     QStringList files_;
     QElapsedTimer time_;
     std::mt19937 random_;
     qint64 seconds_ = 20;
+    qint64 trials_ = -1; // to be run; -1: until the time is up
     qint64 trial_ = -1;
     qint64 onlyTrial_ = -1;
     qint64 accepted_ = 0;

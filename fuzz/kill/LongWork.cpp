@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/kill/LongWork.h"
 
+#include "catalogue/FoundPictures.h"
 #include "catalogue/MovedPictures.h"
 #include "catalogue/Picture.h"
 #include "catalogue/PictureLoading.h"
@@ -223,6 +224,26 @@ LongWork Repointing()
     return work;
 }
 
+// With links to the pictures, and paragraphs that name their folder.
+LongWork TakingFound()
+{
+    const QString links = Numbers(movedPictures) +
+                          "INSERT INTO LinkedImages SELECT i%9,'/gone/'||i||'.jpg' FROM n;"
+                          "UPDATE Paragraph SET FileSelection='/gone/*.*' WHERE Id%2=0;";
+    return OfAlbum("taking found paths",
+                   Pictures(movedPictures, "'/gone/'||i||'.jpg'") + Chapters(3) +
+                       Paragraphs(3, 20) + links,
+                   [](const QString&, int) {
+                       std::vector<FoundPicture> found;
+                       for (int i = 1; i <= movedPictures; ++i)
+                           found.push_back({{i, QStringLiteral("/gone/%1.jpg").arg(i)},
+                                            {QStringLiteral("/found/%1.jpg").arg(i)},
+                                            0});
+                       const auto taken = TakeFound(found, [](int) { return true; });
+                       Require(taken && taken->links == movedPictures && taken->patterns > 0);
+                   });
+}
+
 // The clean-up of an album that an older program wrote.
 LongWork Opening()
 {
@@ -299,7 +320,7 @@ LongWork Converting(const QString& oldAlbum, const QString& password)
 
 std::vector<LongWork> EveryLongWork(const QString& oldAlbum)
 {
-    std::vector<LongWork> all{Loading(), Repointing(), Opening(), Repairing()};
+    std::vector<LongWork> all{Loading(), Repointing(), TakingFound(), Opening(), Repairing()};
     all.push_back(OfAlbum(
         "replacing a value", Pictures(rows, "'/p/'||i||'.jpg'") + Chapters(10) + Paragraphs(10, 40),
         [](const QString&, int) {

@@ -243,6 +243,16 @@
     </message>
 </context>
 <context>
+    <name>FoundModel</name>
+    <message numerus="yes">
+        <source>%n files to choose from</source>
+        <translation>
+            <numerusform>%n file to choose from</numerusform>
+            <numerusform>%n files to choose from</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>frmDescribePictures</name>
     <message numerus="yes">
         <source>%1 of %n pictures chosen</source>
@@ -304,6 +314,65 @@
         <translation>
             <numerusform>%n linked file is not in the album.</numerusform>
             <numerusform>%n linked files are not in the album.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>frmMissingPictures</name>
+    <message numerus="yes">
+        <source>%1 of %n picture(s) missing</source>
+        <translation>
+            <numerusform>%1 of %n picture missing</numerusform>
+            <numerusform>%1 of %n pictures missing</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>you stopped after %n files</source>
+        <translation>
+            <numerusform>you stopped after %n file</numerusform>
+            <numerusform>you stopped after %n files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders cannot be read</source>
+        <translation>
+            <numerusform>%n folder cannot be read</numerusform>
+            <numerusform>%n folders cannot be read</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) found again</source>
+        <translation>
+            <numerusform>%n picture found again</numerusform>
+            <numerusform>%n pictures found again</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links follow</source>
+        <translation>
+            <numerusform>%n link follows</numerusform>
+            <numerusform>%n links follow</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file patterns of paragraphs follow</source>
+        <translation>
+            <numerusform>the file pattern of %n paragraph follows</numerusform>
+            <numerusform>the file patterns of %n paragraphs follow</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file patterns stay, as not all pictures of their folders are in one place</source>
+        <translation>
+            <numerusform>%n file pattern stays, as not all pictures of its folder are in one place</numerusform>
+            <numerusform>%n file patterns stay, as not all pictures of their folders are in one place</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already in the album</source>
+        <translation>
+            <numerusform>%n already in the album</numerusform>
+            <numerusform>%n already in the album</numerusform>
         </translation>
     </message>
 </context>
@@ -417,6 +486,13 @@
         <translation>
             <numerusform>%n already in the album</numerusform>
             <numerusform>%n already in the album</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links made by hand keep the old path</source>
+        <translation>
+            <numerusform>%n link made by hand keeps the old path</numerusform>
+            <numerusform>%n links made by hand keep the old path</numerusform>
         </translation>
     </message>
 </context>

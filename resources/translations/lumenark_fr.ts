@@ -784,6 +784,10 @@
             <numerusform>%n fichiers laissés de côté : pas des photos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Load the pictures of the folders inside, too ?</source>
+        <translation>Charger aussi les photos des dossiers contenus ?</translation>
+    </message>
 </context>
 <context>
     <name>DroppedPictures</name>
@@ -1081,6 +1085,28 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>FoundModel</name>
+    <message numerus="yes">
+        <source>%n files to choose from</source>
+        <translation>
+            <numerusform>%n fichier au choix</numerusform>
+            <numerusform>%n fichiers au choix</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>non trouvée</translation>
+    </message>
+    <message>
+        <source>Missing file</source>
+        <translation>Fichier manquant</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Trouvé</translation>
+    </message>
+</context>
+<context>
     <name>frmDescribePictures</name>
     <message numerus="yes">
         <source>%1 of %n pictures chosen</source>
@@ -1184,6 +1210,22 @@ Votre version :
     <message>
         <source>Exit</source>
         <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Choose all pictures taken on the day of the current one, as their files say</source>
+        <translation>Choisir toutes les photos prises le même jour que celle-ci, d&apos;après leurs fichiers</translation>
+    </message>
+    <message>
+        <source>Same Day</source>
+        <translation>Même jour</translation>
+    </message>
+    <message>
+        <source>Change the values and names of the caracteristics</source>
+        <translation>Modifier les valeurs et les noms des caractéristiques</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Tables</source>
+        <translation>Modifier les &amp;tables</translation>
     </message>
 </context>
 <context>
@@ -1375,6 +1417,165 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>frmMissingPictures</name>
+    <message numerus="yes">
+        <source>%1 of %n picture(s) missing</source>
+        <translation>
+            <numerusform>%1 photo manquante sur %n</numerusform>
+            <numerusform>%1 photos manquantes sur %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>you stopped after %n files</source>
+        <translation>
+            <numerusform>vous avez arrêté après %n fichier</numerusform>
+            <numerusform>vous avez arrêté après %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders cannot be read</source>
+        <translation>
+            <numerusform>%n dossier ne peut pas être lu</numerusform>
+            <numerusform>%n dossiers ne peuvent pas être lus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) found again</source>
+        <translation>
+            <numerusform>%n photo retrouvée</numerusform>
+            <numerusform>%n photos retrouvées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links follow</source>
+        <translation>
+            <numerusform>%n lien suit</numerusform>
+            <numerusform>%n liens suivent</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file patterns of paragraphs follow</source>
+        <translation>
+            <numerusform>le modèle de fichiers de %n paragraphe suit</numerusform>
+            <numerusform>les modèles de fichiers de %n paragraphes suivent</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file patterns stay, as not all pictures of their folders are in one place</source>
+        <translation>
+            <numerusform>%n modèle de fichiers reste, car les photos de son dossier ne sont pas toutes au même endroit</numerusform>
+            <numerusform>%n modèles de fichiers restent, car les photos de leurs dossiers ne sont pas toutes au même endroit</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already in the album</source>
+        <translation>
+            <numerusform>%n déjà dans l&apos;album</numerusform>
+            <numerusform>%n déjà dans l&apos;album</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Folder to Look In</source>
+        <translation>Dossier où chercher</translation>
+    </message>
+    <message>
+        <source>There is no folder &apos;%1&apos;.</source>
+        <translation>Il n&apos;y a pas de dossier « %1 ».</translation>
+    </message>
+    <message>
+        <source>%1 of %2 found, %3 doubtful, %4 not found</source>
+        <translation>%1 trouvées sur %2, %3 douteuses, %4 non trouvées</translation>
+    </message>
+    <message>
+        <source>Stopped: nothing was changed</source>
+        <translation>Arrêté : rien n&apos;a été changé</translation>
+    </message>
+    <message>
+        <source>Missing Pictures</source>
+        <translation>Photos manquantes</translation>
+    </message>
+    <message>
+        <source>Folders with missing pictures</source>
+        <translation>Dossiers avec des photos manquantes</translation>
+    </message>
+    <message>
+        <source>Choose the folders whose pictures are to be found; none means all</source>
+        <translation>Choisissez les dossiers dont il faut retrouver les photos ; aucun veut dire tous</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Manquantes</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Look in :</source>
+        <translation>Chercher dans :</translation>
+    </message>
+    <message>
+        <source>Folder to look in, with all folders inside</source>
+        <translation>Dossier où chercher, avec tous les dossiers contenus</translation>
+    </message>
+    <message>
+        <source>Choose the folder or the disk in which the pictures may be now</source>
+        <translation>Choisir le dossier ou le disque où les photos peuvent être à présent</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choisir</translation>
+    </message>
+    <message>
+        <source>Look for the missing pictures in this folder and all folders inside; nothing is changed yet</source>
+        <translation>Chercher les photos manquantes dans ce dossier et tous les dossiers contenus ; rien n&apos;est encore changé</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Chercher</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Ce qui a été trouvé</translation>
+    </message>
+    <message>
+        <source>Files that may be this picture</source>
+        <translation>Fichiers qui peuvent être cette photo</translation>
+    </message>
+    <message>
+        <source>Choose the file that is this picture</source>
+        <translation>Choisir le fichier qui est cette photo</translation>
+    </message>
+    <message>
+        <source>Give the pictures that were found their new paths, with their links and the file patterns of paragraphs</source>
+        <translation>Donner aux photos trouvées leurs nouveaux chemins, avec leurs liens et les modèles de fichiers des paragraphes</translation>
+    </message>
+    <message>
+        <source>Take New Paths</source>
+        <translation>Reprendre les nouveaux chemins</translation>
+    </message>
+    <message>
+        <source>Show the missing pictures in the album</source>
+        <translation>Montrer les photos manquantes de l&apos;album</translation>
+    </message>
+    <message>
+        <source>Show in Find Pictures</source>
+        <translation>Montrer dans Chercher des photos</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Say where the pictures may be now, and press Search. Nothing is changed before you take the new paths.</source>
+        <translation>Dites où les photos peuvent être à présent, puis appuyez sur Chercher. Rien n&apos;est changé avant que vous ne repreniez les nouveaux chemins.</translation>
+    </message>
+</context>
+<context>
     <name>frmPlaceParagraph</name>
     <message>
         <source>Make Paragraph</source>
@@ -1535,6 +1736,21 @@ Votre version :
             <numerusform>%n mot-clé ne trouve pas de place.</numerusform>
             <numerusform>%n mots-clés ne trouvent pas de place.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>of the last change of the file</source>
+        <translation>de la dernière modification du fichier</translation>
+    </message>
+</context>
+<context>
+    <name>GroupChoice</name>
+    <message>
+        <source>Dates read: %1 of %2</source>
+        <translation>Dates lues : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>The day of this picture is not known</source>
+        <translation>Le jour de cette photo n&apos;est pas connu</translation>
     </message>
 </context>
 <context>
@@ -2603,6 +2819,10 @@ Le supprimer quand même ?</translation>
         <source>Take from Files</source>
         <translation>Reprendre des fichiers</translation>
     </message>
+    <message>
+        <source>Take Found Pictures</source>
+        <translation>Reprendre les photos retrouvées</translation>
+    </message>
 </context>
 <context>
     <name>UndoSteps</name>
@@ -3283,6 +3503,14 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
         <source>&apos;%1&apos; and &apos;%2&apos; are one value now.</source>
         <translation>« %1 » et « %2 » sont maintenant une seule valeur.</translation>
     </message>
+    <message>
+        <source>Sorted</source>
+        <translation>Triées</translation>
+    </message>
+    <message>
+        <source>Show the values in alphabetical order; the table keeps its own</source>
+        <translation>Montrer les valeurs par ordre alphabétique ; la table garde le sien</translation>
+    </message>
 </context>
 <context>
     <name>frmFullScreen</name>
@@ -3403,6 +3631,14 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
     <message>
         <source>Load Marked</source>
         <translation>Charger les marqués</translation>
+    </message>
+    <message>
+        <source>Take what the files say</source>
+        <translation>Reprendre ce que disent les fichiers</translation>
+    </message>
+    <message>
+        <source>After loading, show which captions, keywords and dates the new pictures&apos; files hold, to take them into the album</source>
+        <translation>Après le chargement, montrer quels textes, mots-clés et dates contiennent les fichiers des nouvelles photos, pour les reprendre dans l&apos;album</translation>
     </message>
 </context>
 <context>
@@ -3699,6 +3935,10 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
         <source>Undo Several...</source>
         <translation>Annuler plusieurs étapes...</translation>
     </message>
+    <message>
+        <source>Missing Pictures</source>
+        <translation>Photos manquantes</translation>
+    </message>
 </context>
 <context>
     <name>frmOrganizeParagraphs</name>
@@ -3957,6 +4197,25 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
             <numerusform>%n déjà dans l&apos;album</numerusform>
             <numerusform>%n déjà dans l&apos;album</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links made by hand keep the old path</source>
+        <translation>
+            <numerusform>%n lien fait à la main garde l&apos;ancien chemin</numerusform>
+            <numerusform>%n liens faits à la main gardent l&apos;ancien chemin</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This folder is gone</source>
+        <translation>Ce dossier n&apos;existe plus</translation>
+    </message>
+    <message>
+        <source>Missing Pictures</source>
+        <translation>Photos manquantes</translation>
+    </message>
+    <message>
+        <source>Look for the files of all missing pictures at once, in a folder and all folders inside</source>
+        <translation>Chercher les fichiers de toutes les photos manquantes à la fois, dans un dossier et tous les dossiers contenus</translation>
     </message>
 </context>
 <context>

@@ -182,6 +182,18 @@ bool IsSound(const QCommandLineParser& parser)
            !(isExport && parser.isSet(options.dryRun));
 }
 
+// "--to --sidecars" is how many will read the usage; it must not make a file of that name.
+QStringList ArgumentsAsMeant()
+{
+    QStringList arguments = QCoreApplication::arguments();
+    for (const char* place : {"--to", "--from"}) {
+        const qsizetype at = arguments.indexOf(QLatin1String(place));
+        if (at >= 0 && arguments.value(at + 1) == QLatin1String("--sidecars"))
+            arguments.removeAt(at);
+    }
+    return arguments;
+}
+
 } // namespace
 
 bool IsDescriptionTransfer(int argc, char** argv)
@@ -225,7 +237,7 @@ int RunDescriptionTransfer(int& argc, char** argv)
     parser.addOption({options.force, DescriptionsTexts::tr("Replace a table that exists.")});
     const QCommandLineOption help = parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("ALBUM"), DescriptionsTexts::tr("The album."));
-    const bool isUnderstood = parser.parse(QCoreApplication::arguments());
+    const bool isUnderstood = parser.parse(ArgumentsAsMeant());
     if (isUnderstood && parser.isSet(help))
         parser.showHelp(Whole);
     if (!isUnderstood || !IsSound(parser)) {

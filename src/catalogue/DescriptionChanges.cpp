@@ -18,7 +18,7 @@ namespace {
 
 QByteArray Selection()
 {
-    QByteArray fields = "rowid,\"File\",\"Legend\"";
+    QByteArray fields = "rowid,\"File\",\"SourceFile\",\"Legend\"";
     for (int column = 0; column < columnCount; ++column)
         fields += ",\"" + CarField(column).toUtf8() + '"';
     return "SELECT " + fields + " FROM \"Image\" WHERE ";
@@ -26,10 +26,13 @@ QByteArray Selection()
 
 DescribedPicture PictureOf(const Statement& row)
 {
-    DescribedPicture picture{qint32(row.GetInteger(0)), QString::fromUtf8(row.GetUtf8(1)), {}};
-    picture.record.legend = QString::fromUtf8(row.GetUtf8(2));
+    DescribedPicture picture{qint32(row.GetInteger(0)),
+                             QString::fromUtf8(row.GetUtf8(1)),
+                             QString::fromUtf8(row.GetUtf8(2)),
+                             {}};
+    picture.record.legend = QString::fromUtf8(row.GetUtf8(3));
     for (int column = 0; column < columnCount; ++column)
-        picture.record.values[std::size_t(column)] = QString::fromUtf8(row.GetUtf8(3 + column));
+        picture.record.values[std::size_t(column)] = QString::fromUtf8(row.GetUtf8(4 + column));
     return picture;
 }
 

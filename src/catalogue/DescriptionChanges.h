@@ -17,6 +17,7 @@ struct DescribedPicture
 {
     qint32 id = 0;
     QString file;
+    QString copy;   // local, see core/LocalCopy.h; empty for none
     Picture record; // values as stored; "" for Null
 };
 

@@ -147,18 +147,6 @@ QString ReadTableText(const QString& path)
     return DecodeUtf8OrWindows1252(bytes);
 }
 
-} // namespace
-
-QStringList DescriptionTitles()
-{
-    QStringList titles{fileTitle, legendTitle};
-    for (int column = 0; column < columnCount; ++column)
-        titles += TitleOf(column);
-    return titles;
-}
-
-namespace {
-
 // A table that takes the place of an album would take everything with it.
 bool IsAlbum(const QString& path)
 {
@@ -174,6 +162,14 @@ bool IsAlbum(const QString& path)
 }
 
 } // namespace
+
+QStringList DescriptionTitles()
+{
+    QStringList titles{fileTitle, legendTitle};
+    for (int column = 0; column < columnCount; ++column)
+        titles += TitleOf(column);
+    return titles;
+}
 
 std::optional<int> ExportDescriptionTable(const QString& path, bool replaces,
                                           const std::function<bool(int done)>& progress)

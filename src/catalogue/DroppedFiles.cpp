@@ -2,11 +2,14 @@
 #include "catalogue/DroppedFiles.h"
 
 #include "catalogue/PictureTree.h"
+#include "platform/dialogs/Dialogs.h"
 #include "platform/files/FilePatterns.h"
 #include "platform/files/FolderListing.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace {
 
@@ -19,14 +22,23 @@ bool IsValidText(const QUrl& url)
     return QString::fromUtf8(bytes).toUtf8() == bytes;
 }
 
+bool HasFoldersInside(const QString& folder)
+{
+    return QDirIterator(folder, QDir::Dirs | QDir::NoDotAndDotDot).hasNext();
+}
+
 class Sorter
 {
 public:
+    explicit Sorter(FolderDepth depth) : depth_(depth) {}
+
     void Add(const QUrl& url)
     {
         // A URL that is not local gives an empty path, which is no file.
         const QFileInfo info(url.toLocalFile());
-        if (info.isDir())
+        if (info.isDir() && depth_ == FolderDepth::FoldersInside)
+            AddTree(QDir::toNativeSeparators(info.absoluteFilePath()));
+        else if (info.isDir())
             AddFolder(QDir::toNativeSeparators(info.absoluteFilePath()));
         else if (!info.isFile() && !IsValidText(url))
             ++files_.unusable;
@@ -52,6 +64,15 @@ private:
             files_.unreadable += listing.error;
     }
 
+    void AddTree(const QString& folder)
+    {
+        const auto found = FindPictureFiles(folder, readablePictures, [](int) { return true; });
+        for (auto inside = found->byFolder.begin(); inside != found->byFolder.end(); ++inside)
+            files_.pictures[inside.key()] += inside.value();
+        files_.pictureCount += found->count;
+        files_.unreadable += found->unreadable;
+    }
+
     void AddFile(const QFileInfo& info)
     {
         const QString name = info.fileName();
@@ -71,6 +92,7 @@ private:
 
     FilePatterns isAlbum_{albumPatterns};
     FilePatterns isPicture_{readablePictures};
+    FolderDepth depth_;
     DroppedFiles files_;
 };
 
@@ -92,9 +114,25 @@ QStringList DroppedFiles::DescribeLeftOut() const
     return lines + DescribeUnusable();
 }
 
-DroppedFiles SortDroppedFiles(const QList<QUrl>& urls)
+std::optional<FolderDepth> AskForDepth(const QList<QUrl>& urls)
 {
-    Sorter sorter;
+    if (std::ranges::none_of(urls, [](const QUrl& url) {
+            return QFileInfo(url.toLocalFile()).isDir() && HasFoldersInside(url.toLocalFile());
+        }))
+        return FolderDepth::Folder;
+    const Dialogs::Answer answer = Dialogs::Door().Ask(
+        {.text = DroppedFiles::tr("Load the pictures of the folders inside, too ?"),
+         .icon = Dialogs::Icon::Question,
+         .buttons = Dialogs::Buttons::YesNoCancel,
+         .defaultAnswer = Dialogs::Answer::Yes});
+    if (answer == Dialogs::Answer::Cancel)
+        return std::nullopt;
+    return answer == Dialogs::Answer::Yes ? FolderDepth::FoldersInside : FolderDepth::Folder;
+}
+
+DroppedFiles SortDroppedFiles(const QList<QUrl>& urls, FolderDepth depth)
+{
+    Sorter sorter(depth);
     for (const QUrl& url : urls)
         sorter.Add(url);
     return sorter.Take();

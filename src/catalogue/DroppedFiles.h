@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <optional>
+
 // Files that were dragged onto a window, told apart by their names.
 struct DroppedFiles
 {
@@ -27,5 +29,12 @@ public:
     QStringList unreadable; // a line for each folder that could not be read to its end
 };
 
-// A dropped folder stands for the picture files that lie directly in it.
-DroppedFiles SortDroppedFiles(const QList<QUrl>& urls);
+// Which pictures of a dropped folder are meant.
+enum class FolderDepth { Folder, FoldersInside };
+
+// Asks whether the folders inside are meant too, where one of those dropped has any. None when the
+// user gives up.
+std::optional<FolderDepth> AskForDepth(const QList<QUrl>& urls);
+
+// A dropped folder stands for the picture files that lie in it.
+DroppedFiles SortDroppedFiles(const QList<QUrl>& urls, FolderDepth depth);

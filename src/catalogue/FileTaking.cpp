@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/FileTaking.h"
 
+#include "core/LocalCopy.h"
 #include "platform/metadata/MetadataReader.h"
 
 #include <QHash>
@@ -184,10 +185,10 @@ std::vector<DescribedPicture> ReadAll(const std::vector<qint32>& ids)
 
 FileTaking::FileTaking(const std::vector<qint32>& pictures) : pictures_(ReadAll(pictures))
 {
-    QStringList paths;
-    for (const DescribedPicture& picture : pictures_)
-        paths += picture.file;
-    reader_ = std::make_unique<MetadataReader>(paths);
+    reader_ = std::make_unique<MetadataReader>(GetCount(), [this](int number) {
+        const DescribedPicture& picture = pictures_[std::size_t(number)];
+        return GeneralModule::PictureFileOf(picture.file, picture.copy);
+    });
 }
 
 FileTaking::~FileTaking() = default;

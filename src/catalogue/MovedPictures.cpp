@@ -37,6 +37,7 @@ public:
         if (Take(Turn::DirectlyInFolder, batch) && hasDeeper_)
             Take(Turn::Deeper, batch);
         batch.Finish();
+        CountLinksLeft();
         return done_;
     }
 
@@ -76,8 +77,17 @@ private:
         images_.Update();
         batch.RowDone();
         ++done_.updated;
+        if (path != oldPath)
+            left_.insert(oldPath);
         if (path.startsWith(oldFolder_, Qt::CaseInsensitive))
             moved_.insert(path);
+    }
+
+    void CountLinksLeft()
+    {
+        Statement links(AlbumDatabase->GetEngine(), "SELECT File FROM LinkedImages");
+        while (!left_.isEmpty() && links.Step())
+            done_.linksLeft += left_.contains(QString::fromUtf8(links.GetUtf8(0))) ? 1 : 0;
     }
 
     bool IsHeld(const QString& path)
@@ -97,6 +107,7 @@ private:
     int file_;
     Statement findHolder_;
     QSet<QString> moved_; // new paths that the second turn may find
+    QSet<QString> left_;  // former paths
     bool hasDeeper_ = false;
     RepointedPictures done_;
 };

@@ -17,6 +17,7 @@ struct RepointedPictures
 {
     int updated = 0;
     int alreadyHeld = 0; // path kept, because another picture of the album has the new one
+    int linksLeft = 0;   // made by hand, to the former paths of those updated
 };
 
 // Gives each picture of oldFolder (as PictureFolders returns it) and its subfolders whose file is

@@ -14,7 +14,6 @@ namespace {
 
 // Read in about a millisecond.
 constexpr int rowsAtOnce = 1000;
-constexpr int filesAtOnce = 200;
 
 Statement After(qint64 row, int count, const QString& sql)
 {
@@ -78,7 +77,7 @@ void PictureCensus::CountRows(const QDeadlineTimer& deadline)
         if (count == 0) {
             rows_ = rowsSoFar_;
             stage_ = Stage::Files;
-            lastRow_ = std::numeric_limits<qint64>::min();
+            paths_ = {};
             return;
         }
         rowsSoFar_.pictures += count;
@@ -91,27 +90,14 @@ void PictureCensus::CountMissing(const QDeadlineTimer& deadline)
 {
     do {
         if (files_.empty())
-            ReadFiles();
+            files_ = paths_.ReadMore();
         if (files_.empty()) {
             missing_ = missingSoFar_;
             stage_ = Stage::Done;
             return;
         }
-        const Files files = std::move(files_.back());
+        const PicturePaths::Entry files = std::move(files_.back());
         files_.pop_back();
         missingSoFar_ += IsPictureThere(files.file, files.copy) ? 0 : 1;
     } while (!deadline.hasExpired());
-}
-
-void PictureCensus::ReadFiles()
-{
-    Statement reading = After(
-        lastRow_, filesAtOnce,
-        QStringLiteral(
-            "SELECT rowid, File, SourceFile FROM Image WHERE rowid>?1 ORDER BY rowid LIMIT ?2"));
-    while (reading.Step()) {
-        lastRow_ = reading.GetInteger(0);
-        files_.push_back(
-            {QString::fromUtf8(reading.GetUtf8(1)), QString::fromUtf8(reading.GetUtf8(2))});
-    }
 }

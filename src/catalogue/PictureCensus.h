@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "catalogue/PicturePaths.h"
 #include "core/Album.h"
 
 #include <QDeadlineTimer>
@@ -34,16 +35,9 @@ public:
     std::optional<qint64> GetMissing() const { return missing_; }
 
 private:
-    struct Files
-    {
-        QString file;
-        QString copy; // empty for none
-    };
-
     void BeginIfChanged();
     void CountRows(const QDeadlineTimer& deadline);
     void CountMissing(const QDeadlineTimer& deadline);
-    void ReadFiles();
 
     std::weak_ptr<Database> album_;
     GeneralModule::AlbumVersion version_;
@@ -52,8 +46,9 @@ private:
 
     enum class Stage { Unknown, Rows, Files, Done };
     Stage stage_ = Stage::Unknown;
-    qint64 lastRow_ = 0; // all up to this one are counted or among the files below
+    qint64 lastRow_ = 0; // all up to this one are counted
     Rows rowsSoFar_;
     qint64 missingSoFar_ = 0;
-    std::vector<Files> files_; // read, but not looked for yet
+    PicturePaths paths_;
+    std::vector<PicturePaths::Entry> files_; // read, but not looked for yet
 };

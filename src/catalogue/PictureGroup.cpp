@@ -2,12 +2,14 @@
 #include "catalogue/PictureGroup.h"
 
 #include "catalogue/Picture.h"
+#include "catalogue/PictureCards.h"
 #include "core/Album.h"
 #include "core/AlbumSets.h"
 #include "core/UndoSteps.h"
 #include "platform/data/ReadLock.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
+#include "platform/files/PathRoutines.h"
 
 #include <QByteArrayList>
 #include <QStringList>
@@ -131,6 +133,20 @@ GroupDescription GroupReading::GetDescription() const
         description.columns[column] = FieldOf(counts_[column]);
     description.legend = FieldOf(counts_[legendPlace]);
     return description;
+}
+
+std::vector<qint32> PicturesOfFolderOf(qint32 picture, const std::vector<qint32>& pictures)
+{
+    const PictureCard wanted = ReadPictureCards({&picture, 1}).front();
+    std::vector<qint32> found;
+    if (wanted.id == 0)
+        return found;
+    const QString folder = FolderOf(wanted.file);
+    for (const PictureCard& card : ReadPictureCards(pictures)) {
+        if (card.id != 0 && FolderOf(card.file) == folder)
+            found.push_back(card.id);
+    }
+    return found;
 }
 
 std::vector<qint32> PicturesWithValuesOf(qint32 picture, const std::vector<qint32>& pictures)

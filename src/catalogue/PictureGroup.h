@@ -58,6 +58,10 @@ private:
     std::array<Counts, columnCount + 1> counts_; // of the columns, then of the legend
 };
 
+// Those of the pictures whose files lie in the same folder as that one's; none where the album does
+// not hold it. Throws DatabaseError.
+std::vector<qint32> PicturesOfFolderOf(qint32 picture, const std::vector<qint32>& pictures);
+
 // Those of the pictures that have the same values in all columns as that one; none where the album
 // does not hold it. Throws DatabaseError.
 std::vector<qint32> PicturesWithValuesOf(qint32 picture, const std::vector<qint32>& pictures);

@@ -1,36 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/ValueCompletion.h"
 
-#include <QCollator>
+#include "platform/text/ReadingOrder.h"
+
 #include <QKeyEvent>
 #include <QListView>
 #include <QStringListModel>
 
-#include <algorithm>
-#include <vector>
-
 namespace {
 
 constexpr int shownAtOnce = 12; // lines
-
-// By sort keys: comparing the texts themselves takes several times as long, noticeably with
-// thousands of values.
-QStringList Sorted(const QStringList& values)
-{
-    QCollator collator;
-    collator.setNumericMode(true);
-    std::vector<std::pair<QCollatorSortKey, QString>> keyed;
-    keyed.reserve(std::size_t(values.size()));
-    for (const QString& value : values)
-        keyed.emplace_back(collator.sortKey(value.toCaseFolded()), value);
-    std::sort(keyed.begin(), keyed.end(),
-              [](const auto& left, const auto& right) { return left.first < right.first; });
-    QStringList sorted;
-    sorted.reserve(values.size());
-    for (const auto& [key, value] : keyed)
-        sorted += value;
-    return sorted;
-}
 
 QStringList RecentFirst(QStringList values, const QStringList& recent)
 {
@@ -64,7 +43,7 @@ void ValueCompletion::SetValues(const QStringList& values, const QStringList& re
     if (values != source_ || recent != recent_) {
         source_ = values;
         recent_ = recent;
-        values_->setStringList(RecentFirst(Sorted(values), recent));
+        values_->setStringList(RecentFirst(SortedForReading(values), recent));
     }
     if (!list_)
         CreateList();

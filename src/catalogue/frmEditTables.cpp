@@ -9,8 +9,10 @@
 #include "catalogue/frmEditLabels.h"
 #include "core/LocalCopy.h"
 #include "core/Parameters.h"
+#include "core/Settings.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/text/ReadingOrder.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/CountDelegate.h"
 #include "platform/widgets/FormButtons.h"
@@ -30,6 +32,9 @@ constexpr QSize proposedSize(820, 600);
 
 // First column of each optCaracteristic; the twin groups are one choice.
 constexpr std::array firstColumns{0, 3, 9};
+
+const QString tablesSection = QStringLiteral("User");
+const QString sortedKey = QStringLiteral("SortedTables");
 
 constexpr int widestCaption = 200; // logical pixels
 
@@ -85,6 +90,7 @@ void frmEditTables::ConnectControls()
     new UndoWindow(this, [this] { ShowTable(true); });
     ui_->cmdClose->setIcon(ThemedIcon(QStringLiteral("exit")));
     connect(ui_->cmdClose, &QPushButton::clicked, this, &QDialog::close);
+    connect(ui_->chkSorted, &QCheckBox::toggled, this, Guarded(this, &Form::chkSorted_Click));
     for (QRadioButton* option :
          {ui_->optCaracteristic_1, ui_->optCaracteristic_2, ui_->optCaracteristic_3})
         connect(option, &QRadioButton::clicked, this,
@@ -96,6 +102,7 @@ void frmEditTables::ConnectControls()
 
 void frmEditTables::Form_Load(const QString& picture)
 {
+    ui_->chkSorted->setChecked(GetUserSetting(tablesSection, sortedKey) == QLatin1String("1"));
     ui_->stage->ShowPicture(picture, picture.isEmpty() ? picture : ResolvePictureFile(picture));
     optCaracteristic_Click();
 }
@@ -160,8 +167,29 @@ void frmEditTables::ShowTable(bool isGroupNew)
     if (!isChosen)
         return;
     ui_->lstCar->clear();
-    ui_->lstCar->addItems(values);
+    ui_->lstCar->addItems(ui_->chkSorted->isChecked() ? SortedForReading(values) : values);
     BeginCounting();
+}
+
+void frmEditTables::chkSorted_Click()
+{
+    const QString selected = SelectedValue();
+    SaveUserSetting(tablesSection, sortedKey,
+                    ui_->chkSorted->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
+    ShowTable(false);
+    ui_->lstCar->setCurrentItem(ListedItem(selected));
+}
+
+void frmEditTables::Insert(const QString& value)
+{
+    QStringList values;
+    for (int row = 0; row < ui_->lstCar->count(); ++row)
+        values += ui_->lstCar->item(row)->text();
+    const bool isSorted = ui_->chkSorted->isChecked();
+    const qsizetype row =
+        isSorted ? SortedForReading(values + QStringList(value)).lastIndexOf(value) : values.size();
+    ui_->lstCar->insertItem(int(row), value);
+    ui_->lstCar->setCurrentRow(int(row));
 }
 
 // How many pictures have each value, in one scan for all of them.
@@ -210,8 +238,7 @@ void frmEditTables::cmdAddNew_Click()
     const QString added = AddValueToTable(column_, value);
     if (added.isEmpty())
         return;
-    ui_->lstCar->addItem(added);
-    ui_->lstCar->setCurrentRow(ui_->lstCar->count() - 1);
+    Insert(added);
     BeginCounting(); // a picture may have it, from another program or an earlier table
 }
 
@@ -250,7 +277,7 @@ void frmEditTables::cmdReplace_Click()
                     tr("'%1' and '%2' are one value now.").arg(old, held->text()));
     delete ui_->lstCar->takeItem(ui_->lstCar->currentRow());
     if (!ListedItem(replacement))
-        ui_->lstCar->addItem(replacement);
+        Insert(replacement);
     ui_->lstCar->setCurrentItem(ListedItem(replacement));
     BeginCounting();
 }

@@ -35,6 +35,9 @@ private:
     void cmdDelete_Click();
     void cmdReplace_Click();
     void cmdEditLabels_Click();
+    void chkSorted_Click();
+    // Adds a value to the list, at its place, and selects it.
+    void Insert(const QString& value);
 
     void ConnectControls();
     std::array<QRadioButton*, columnsPerGroup> Groups() const;

@@ -5,6 +5,7 @@
 #include "catalogue/PictureCards.h"
 #include "catalogue/PictureLoading.h"
 #include "catalogue/UndoWindow.h"
+#include "catalogue/frmTakeFromFiles.h"
 #include "core/Settings.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
@@ -152,6 +153,13 @@ std::optional<PictureFiles> frmLoadFiles::FindFiles()
 
 void frmLoadFiles::Load(const PictureFiles& files)
 {
+    LoadFiles(files);
+    if (ui_->chkTakeFromFiles->isChecked() && !loaded_.empty())
+        TakeFromFiles();
+}
+
+void frmLoadFiles::LoadFiles(const PictureFiles& files)
+{
     const BusyPointer busy;
     ui_->lblFeedback->setText(tr("Loading pictures..."));
     ui_->lblDetails->hide();
@@ -190,6 +198,13 @@ void frmLoadFiles::TellWhatWasLoaded(const PictureFiles& files, int loaded)
     ui_->cmdDescribeNew->setVisible(DescribePictures && added > 0);
     if (!files.unreadable.isEmpty())
         Tell(files.unreadable.join(u'\n'), Dialogs::Icon::Warning);
+}
+
+void frmLoadFiles::TakeFromFiles()
+{
+    frmTakeFromFiles window(this);
+    window.Pictures = loaded_;
+    window.exec();
 }
 
 void frmLoadFiles::cmdDescribeNew_Click()

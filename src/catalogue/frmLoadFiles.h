@@ -40,6 +40,8 @@ private:
     // None when the user stopped the search.
     std::optional<PictureFiles> FindFiles();
     void Load(const PictureFiles& files);
+    void LoadFiles(const PictureFiles& files);
+    void TakeFromFiles();
     void TellWhatWasLoaded(const PictureFiles& files, int loaded);
 
     std::unique_ptr<Ui::frmLoadFiles> ui_;

@@ -4,6 +4,7 @@
 
 #include "catalogue/MovedPictures.h"
 #include "catalogue/UndoWindow.h"
+#include "catalogue/frmMissingPictures.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
@@ -12,7 +13,11 @@
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
 
+#include <QFileInfo>
+#include <QHash>
 #include <QScopeGuard>
+
+#include <algorithm>
 
 namespace {
 
@@ -32,11 +37,16 @@ frmReloadPictures::frmReloadPictures(QWidget* parent)
     connect(ui_->lstOldReferences, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmReloadPictures::lstOldReferences_Click));
     RunGuarded([this] { Form_Load(); });
-    new UndoWindow(this, [this] { ShowOldFolders(); });
+    new UndoWindow(this, [this] {
+        ShowFolders();
+        ui_->lstOldReferences->setCurrentRow(0);
+    });
     chooser_->Connect(this, &frmReloadPictures::drvNewReferences_Change,
                       &frmReloadPictures::dirNewReferences_Change);
     connect(ui_->cmdReloadPictures, &QPushButton::clicked, this,
             Guarded(this, &frmReloadPictures::cmdReloadPictures_Click));
+    connect(ui_->cmdMissing, &QPushButton::clicked, this,
+            Guarded(this, &frmReloadPictures::cmdMissing_Click));
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &QDialog::close);
 }
 
@@ -45,18 +55,31 @@ frmReloadPictures::~frmReloadPictures() = default;
 void frmReloadPictures::Form_Load()
 {
     const BusyPointer busy;
-    const QString folder = UsersPictureFolder();
-    ui_->drvNewReferences->ShowVolumeOf(folder);
-    ui_->dirNewReferences->SetPath(folder);
-    ShowOldFolders();
+    if (newFolder_.isEmpty()) {
+        const QString folder = UsersPictureFolder();
+        ui_->drvNewReferences->ShowVolumeOf(folder);
+        ui_->dirNewReferences->SetPath(folder);
+    }
+    ShowFolders();
+    ui_->lstOldReferences->setCurrentRow(0);
 }
 
-void frmReloadPictures::ShowOldFolders()
+// Those that are gone are marked, since they are the ones to look for.
+void frmReloadPictures::ShowFolders()
 {
-    const QStringList folders = PictureFolders();
     ui_->lstOldReferences->clear();
-    ui_->lstOldReferences->addItems(folders);
-    ui_->lstOldReferences->setCurrentRow(0);
+    QHash<QString, bool> isThere;
+    for (const QString& folder : PictureFolders()) {
+        auto* item = new QListWidgetItem(folder, ui_->lstOldReferences);
+        if (!isThere.contains(folder))
+            isThere.insert(folder, QFileInfo(folder).isDir());
+        if (isThere.value(folder))
+            continue;
+        QFont font = ui_->lstOldReferences->font();
+        font.setBold(true);
+        item->setFont(font);
+        item->setToolTip(tr("This folder is gone"));
+    }
 }
 
 void frmReloadPictures::lstOldReferences_Click()
@@ -85,6 +108,9 @@ void frmReloadPictures::ShowUpdated(const RepointedPictures& done)
     QString text = tr("%n picture references updated", nullptr, done.updated);
     if (done.alreadyHeld > 0)
         text += QLatin1Char('\n') + tr("%n already in the album", nullptr, done.alreadyHeld);
+    if (done.linksLeft > 0)
+        text += QLatin1Char('\n') +
+                tr("%n links made by hand keep the old path", nullptr, done.linksLeft);
     ui_->lblFeedback->setText(text);
     ui_->lblFeedback->repaint();
 }
@@ -101,11 +127,27 @@ void frmReloadPictures::cmdReloadPictures_Click()
     ShowUpdated({});
     ui_->progress->Begin(0, true);
     const auto end = qScopeGuard([this] { ui_->progress->End(); });
-    const RepointedPictures done = RepointPictures(old->text(), newFolder_, [this](int count) {
+    const int row = ui_->lstOldReferences->currentRow();
+    const QString folder = old->text();
+    const RepointedPictures done = RepointPictures(folder, newFolder_, [this](int count) {
         const bool goOn = ui_->progress->Advance(count);
         if (ui_->progress->HasShown())
             ShowUpdated({.updated = count});
         return goOn;
     });
+    ShowFolders();
+    const auto left = ui_->lstOldReferences->findItems(folder, Qt::MatchExactly);
+    if (left.isEmpty())
+        ui_->lstOldReferences->setCurrentRow(std::min(row, ui_->lstOldReferences->count() - 1));
+    else
+        ui_->lstOldReferences->setCurrentItem(left.front());
     ShowUpdated(done);
+}
+
+void frmReloadPictures::cmdMissing_Click()
+{
+    frmMissingPictures window(this);
+    window.ShowPictures = ShowPictures;
+    window.exec();
+    Form_Load();
 }

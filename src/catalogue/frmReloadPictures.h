@@ -3,6 +3,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
 
 class FolderChooser;
@@ -21,14 +22,18 @@ public:
     explicit frmReloadPictures(QWidget* parent = nullptr);
     ~frmReloadPictures() override;
 
+    // As in frmMissingPictures.
+    std::function<void(QWidget* window)> ShowPictures;
+
 private:
     void Form_Load();
-    void ShowOldFolders();
     void lstOldReferences_Click();
     void drvNewReferences_Change();
     void dirNewReferences_Change();
     void cmdReloadPictures_Click();
+    void cmdMissing_Click();
 
+    void ShowFolders();
     void ShowUpdated(const RepointedPictures& done);
 
     std::unique_ptr<Ui::frmReloadPictures> ui_;

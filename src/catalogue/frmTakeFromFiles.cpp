@@ -9,6 +9,7 @@
 #include "core/UndoSteps.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
+#include "platform/metadata/MetadataStream.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/FormButtons.h"
 #include "platform/widgets/OfferedControl.h"
@@ -34,6 +35,7 @@ frmTakeFromFiles::frmTakeFromFiles(QWidget* parent)
 {
     using Form = frmTakeFromFiles;
     ui_->setupUi(this);
+    leftOut_ = {QLatin1String(MetadataStream::fileTimeField)};
     KeepWindowSize(this, proposedSize);
     ui_->treFields->header()->setStretchLastSection(false);
     ui_->treFields->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -126,7 +128,8 @@ void frmTakeFromFiles::AddFields(const QString& kind, const std::map<QString, in
     for (const auto& [field, count] : held) {
         auto* item = new QTreeWidgetItem(ui_->treFields);
         const auto from = taken.find(field);
-        item->setText(0, kind.arg(field));
+        const bool isFileTime = field == QLatin1String(MetadataStream::fileTimeField);
+        item->setText(0, kind.arg(isFileTime ? tr("of the last change of the file") : field));
         item->setText(1, locale().toString(count));
         item->setText(2, locale().toString(from == taken.end() ? 0 : from->second));
         item->setData(0, Qt::UserRole, field);
@@ -156,11 +159,13 @@ void frmTakeFromFiles::ShowPlan()
     if (isFilling_ || !taking_)
         return;
     const BusyPointer busy;
-    leftOut_.clear();
     for (int row = 0; row < ui_->treFields->topLevelItemCount(); ++row) {
         const QTreeWidgetItem* item = ui_->treFields->topLevelItem(row);
+        const QString field = item->data(0, Qt::UserRole).toString();
         if (item->checkState(0) == Qt::Unchecked)
-            leftOut_.insert(item->data(0, Qt::UserRole).toString());
+            leftOut_.insert(field);
+        else
+            leftOut_.remove(field);
     }
     if (isDone_)
         plan_ = taking_->Plan(GetChoices());

@@ -47,7 +47,7 @@ private:
     std::unique_ptr<Ui::frmTakeFromFiles> ui_;
     std::unique_ptr<FileTaking> taking_;
     TakingPlan plan_;
-    QSet<QString> leftOut_;
+    QSet<QString> leftOut_; // at first what is often not the day of the picture
     IdleWork work_;
     bool isDone_ = false;
     bool isFilling_ = false; // the controls change by themselves

@@ -22,10 +22,14 @@ QString LocalCopyOf(const QString& file)
 
 namespace GeneralModule {
 
+QString PictureFileOf(const QString& file, const QString& copy)
+{
+    return !copy.isEmpty() && QFileInfo::exists(copy) ? copy : file;
+}
+
 QString FindPictureFile(const QString& file)
 {
-    const QString copy = LocalCopyOf(file);
-    return !copy.isEmpty() && QFileInfo::exists(copy) ? copy : file;
+    return PictureFileOf(file, LocalCopyOf(file));
 }
 
 QString ResolvePictureFile(const QString& file)

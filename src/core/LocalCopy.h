@@ -13,6 +13,9 @@ QString ResolvePictureFile(const QString& file);
 // The same path, but a missing copy stays in the album.
 QString FindPictureFile(const QString& file);
 
+// The same for the two paths that a picture's row holds, the copy's empty for none.
+QString PictureFileOf(const QString& file, const QString& copy);
+
 // Whether the picture can be read from its file or from that copy (empty for none), the two paths
 // that its row holds.
 bool IsPictureThere(const QString& file, const QString& copy);

@@ -5,10 +5,11 @@
 #include "catalogue/LastDescribed.h"
 #include "catalogue/PictureCards.h"
 #include "catalogue/UndoWindow.h"
+#include "catalogue/frmEditTables.h"
 #include "core/Album.h"
+#include "gallery/GroupChoice.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
-#include "platform/files/PathRoutines.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/ButtonMenu.h"
 #include "platform/widgets/FormButtons.h"
@@ -41,6 +42,9 @@ frmDescribePictures::frmDescribePictures(QWidget* parent)
     KeepWindowSize(this, describePicturesSize);
     ui_->descriptionFields->GetBoxes().SeparateLists();
     ui_->descriptionFields->TakeFocusBetween(ui_->cboLegendWay, ui_->cmdApply);
+    groups_ = new GroupChoice(
+        {ui_->sheet, ui_->cmdSameFolder, ui_->cmdSameDay, ui_->cmdSameValues, ui_->lblFeedback},
+        this);
     ConnectControls();
     ConnectFields();
 }
@@ -53,14 +57,16 @@ void frmDescribePictures::ConnectControls()
     ConnectButtons<Form>(this, {
                                    {ui_->cmdApply, "index-pictures", &Form::cmdApply_Click},
                                    {ui_->cmdAsBefore, "as-before", &Form::cmdAsBefore_Click},
-                                   {ui_->cmdSameFolder, "", &Form::cmdSameFolder_Click},
-                                   {ui_->cmdSameValues, "", &Form::cmdSameValues_Click},
+                                   {ui_->cmdEditTables, "rename", &Form::cmdEditTables_Click},
                                    {ui_->cmdExit, "exit", &Form::cmdExit_Click},
                                });
     connect(ui_->sheet, &ContactSheet::SelectionChanged, this, Guarded(this, &Form::ChoiceChanged));
     connect(ui_->sheet, &ContactSheet::CurrentChanged, this, Guarded(this, &Form::ChoiceChanged));
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
-    new UndoWindow(this, [this] { ShowAfterUndo(); });
+    new UndoWindow(this, [this] {
+        ui_->lblFeedback->clear();
+        ShowAlbumAgain();
+    });
 }
 
 void frmDescribePictures::ConnectFields()
@@ -85,9 +91,7 @@ void frmDescribePictures::showEvent(QShowEvent* event)
 
 void frmDescribePictures::Form_Load()
 {
-    ui_->descriptionFields->ShowLabelsAndValues();
-    for (int column = 0; column < columnCount; ++column)
-        allowed_[std::size_t(column)] = ValuesOf(column);
+    ShowTables();
     TouchNothing();
     ui_->sheet->ShowPictures(Pictures);
     if (ui_->sheet->GetCurrent() == 0 && !Pictures.empty())
@@ -95,13 +99,24 @@ void frmDescribePictures::Form_Load()
     ChoiceChanged();
 }
 
-// What was typed and not applied stays.
-void frmDescribePictures::ShowAfterUndo()
+void frmDescribePictures::ShowTables()
 {
+    ui_->descriptionFields->ShowLabelsAndValues();
     for (int column = 0; column < columnCount; ++column)
         allowed_[std::size_t(column)] = ValuesOf(column);
+}
+
+// What was typed and not applied stays.
+void frmDescribePictures::ShowAlbumAgain()
+{
+    ValueBoxes& boxes = ui_->descriptionFields->GetBoxes();
+    const ValueBoxes::Values typed = boxes.GetValues();
+    ShowTables();
+    for (int column = 0; column < columnCount; ++column) {
+        if (isTouched_[std::size_t(column)])
+            boxes.GetBox(column)->setEditText(typed[std::size_t(column)]);
+    }
     ui_->sheet->MarksChanged();
-    ui_->lblFeedback->clear();
     ChoiceChanged();
 }
 
@@ -109,8 +124,8 @@ void frmDescribePictures::contextMenuEvent(QContextMenuEvent* event)
 {
     ButtonMenu menu(this);
     menu.AddButtons({ui_->cmdApply, ui_->cmdAsBefore});
-    menu.AddButtons({ui_->cmdSameFolder, ui_->cmdSameValues});
-    menu.AddButtons({ui_->cmdExit});
+    menu.AddButtons({ui_->cmdSameFolder, ui_->cmdSameDay, ui_->cmdSameValues});
+    menu.AddButtons({ui_->cmdEditTables, ui_->cmdExit});
     menu.exec(event->globalPos());
 }
 
@@ -135,28 +150,22 @@ void frmDescribePictures::RefreshState()
 {
     const QString readOnly =
         GeneralModule::IsAlbumReadOnly() ? GeneralModule::ReadOnlyReason() : QString();
-    const int chosen = int(Chosen().size());
+    const int chosen = int(chosen_.size());
     ui_->lblChosen->setText(
         tr("%1 of %n pictures chosen", nullptr, int(ui_->sheet->GetPictures().size()))
             .arg(locale().toString(chosen)));
     ui_->cmdApply->setText(tr("Apply to %n Pictures", nullptr, chosen));
     OfferUnless(*ui_->cmdApply, chosen > 0 && !GetChange().IsEmpty(), readOnly);
     OfferUnless(*ui_->cmdAsBefore, chosen > 0 && LastDescribed().has_value(), readOnly);
-    ui_->cmdSameFolder->setEnabled(chosen > 0);
-    ui_->cmdSameValues->setEnabled(chosen > 0);
-}
-
-// The selected pictures, else the current one.
-std::vector<qint32> frmDescribePictures::Chosen() const
-{
-    std::vector<qint32> chosen = ui_->sheet->GetSelected();
-    if (chosen.empty() && ui_->sheet->GetCurrent() != 0)
-        chosen.push_back(ui_->sheet->GetCurrent());
-    return chosen;
+    OfferUnless(*ui_->cmdEditTables, true, readOnly);
+    groups_->OfferWhere(chosen > 0);
 }
 
 void frmDescribePictures::ChoiceChanged()
 {
+    chosen_ = ui_->sheet->GetSelected();
+    if (chosen_.empty() && ui_->sheet->GetCurrent() != 0)
+        chosen_.push_back(ui_->sheet->GetCurrent());
     RefreshState();
     group_.reset();
     reading_.Begin([this](std::chrono::milliseconds time) { return ReadGroup(time); });
@@ -165,7 +174,7 @@ void frmDescribePictures::ChoiceChanged()
 bool frmDescribePictures::ReadGroup(std::chrono::milliseconds time)
 {
     if (!group_)
-        group_.emplace(Chosen());
+        group_.emplace(chosen_);
     if (group_->Work(time))
         return true;
     ShowGroup(group_->GetDescription());
@@ -242,7 +251,7 @@ GroupChange frmDescribePictures::GetChange() const
 void frmDescribePictures::Apply()
 {
     const GroupChange change = GetChange();
-    const std::vector<qint32> chosen = Chosen();
+    const std::vector<qint32> chosen = chosen_;
     if (change.IsEmpty() || chosen.empty())
         return;
     {
@@ -267,8 +276,8 @@ void frmDescribePictures::Apply()
 void frmDescribePictures::ChooseNext()
 {
     const std::vector<qint32>& pictures = ui_->sheet->GetPictures();
-    const std::vector<qint32> chosen = Chosen();
-    const auto last = chosen.empty() ? pictures.end() : std::ranges::find(pictures, chosen.back());
+    const auto last =
+        chosen_.empty() ? pictures.end() : std::ranges::find(pictures, chosen_.back());
     if (last != pictures.end() && last + 1 != pictures.end())
         ui_->sheet->GoTo(*(last + 1));
     ui_->sheet->setFocus();
@@ -296,23 +305,13 @@ void frmDescribePictures::cmdAsBefore_Click()
     }
 }
 
-void frmDescribePictures::cmdSameFolder_Click()
+// What was typed stays, also where the tables no longer hold it.
+void frmDescribePictures::cmdEditTables_Click()
 {
-    const BusyPointer busy;
-    const qint32 current = ui_->sheet->GetCurrent();
-    const QString folder = FolderOf(ReadPictureCards({&current, 1}).front().file);
-    std::vector<qint32> wanted;
-    for (const PictureCard& card : ReadPictureCards(ui_->sheet->GetPictures())) {
-        if (card.id != 0 && FolderOf(card.file) == folder)
-            wanted.push_back(card.id);
-    }
-    ui_->sheet->Select(std::move(wanted));
-}
-
-void frmDescribePictures::cmdSameValues_Click()
-{
-    const BusyPointer busy;
-    ui_->sheet->Select(PicturesWithValuesOf(ui_->sheet->GetCurrent(), ui_->sheet->GetPictures()));
+    const QString file =
+        chosen_.empty() ? QString() : ReadPictureCards({&chosen_.back(), 1}).front().file;
+    frmEditTables(file, this).exec();
+    ShowAlbumAgain();
 }
 
 void frmDescribePictures::cmdExit_Click()
@@ -326,7 +325,7 @@ void frmDescribePictures::reject()
     if (GetChange().IsEmpty() || GeneralModule::IsAlbumReadOnly())
         return QDialog::reject();
     const Dialogs::Answer answer = Dialogs::Door().Ask(
-        {.text = tr("Apply what you have entered to %n pictures ?", nullptr, int(Chosen().size())),
+        {.text = tr("Apply what you have entered to %n pictures ?", nullptr, int(chosen_.size())),
          .icon = Dialogs::Icon::Question,
          .buttons = Dialogs::Buttons::YesNoCancel,
          .defaultAnswer = Dialogs::Answer::Yes});

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class GroupChoice;
 class QLineEdit;
 
 namespace Ui {
@@ -36,11 +37,11 @@ private:
     void ConnectControls();
     void ConnectFields();
     void Form_Load();
-    void ShowAfterUndo();
+    void ShowTables();
+    void ShowAlbumAgain();
     bool Form_KeyDown(const QKeyEvent& key);
     void RefreshState();
 
-    std::vector<qint32> Chosen() const;
     void ChoiceChanged();
     bool ReadGroup(std::chrono::milliseconds time);
     void ShowGroup(const GroupDescription& group);
@@ -56,12 +57,13 @@ private:
 
     void cmdApply_Click();
     void cmdAsBefore_Click();
-    void cmdSameFolder_Click();
-    void cmdSameValues_Click();
+    void cmdEditTables_Click();
     void cmdExit_Click();
 
     std::unique_ptr<Ui::frmDescribePictures> ui_;
+    GroupChoice* groups_;
     IdleWork reading_;
+    std::vector<qint32> chosen_;                   // those selected, else the current one
     std::optional<GroupReading> group_;            // being read
     std::array<QStringList, columnCount> allowed_; // values of each column's table
     std::array<bool, columnCount> isTouched_{};

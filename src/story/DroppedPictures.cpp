@@ -50,7 +50,10 @@ QStringList LinkDroppedFiles(qint32 paragraph, const QList<QUrl>& urls)
         Tell(GeneralModule::ReadOnlyReason(), Dialogs::Icon::Warning);
         return {};
     }
-    DroppedFiles files = SortDroppedFiles(urls);
+    const auto depth = AskForDepth(urls);
+    if (!depth)
+        return {};
+    DroppedFiles files = SortDroppedFiles(urls, *depth);
     files.others += int(files.albums.size());
     QStringList lines = files.DescribeLeftOut();
     QStringList linked;

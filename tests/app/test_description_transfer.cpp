@@ -50,7 +50,7 @@ private slots:
         result = Transfer({"--export-descriptions", album, "--to", table});
         QCOMPARE(result.status, 1);
         QVERIFY(result.errors.contains("t.csv"));
-        result = Transfer({"--export-descriptions", album, "--sidecars"});
+        result = Transfer({"--export-descriptions", album, "--to", "--sidecars"});
         QCOMPARE(result.status, 3);
         QCOMPARE(result.errors, "lumenark: /nowhere/b.jpg: The picture is not there.\n");
         QCOMPARE(result.output, "1 sidecar written.\n");

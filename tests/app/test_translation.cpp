@@ -101,6 +101,7 @@ private slots:
         const char* const anchor = "<a name=\"(\\w+)\">";
         QVERIFY(Captures(english, anchor).size() > 10);
         QCOMPARE(Captures(french, anchor), Captures(english, anchor));
+        QCOMPARE(Captures(english, anchor).removeDuplicates(), 0);
         for (const QString& link : Captures(english + french, "<a href=\"#(\\w+)\">"))
             QVERIFY2(Captures(english, anchor).contains(link), qPrintable(link));
         const QStringList pictures = Captures(english + french, "<img src=\"([^\"]+)\"");

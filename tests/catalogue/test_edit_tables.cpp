@@ -39,6 +39,21 @@ private slots:
         dialogs_->ExpectInput(again, "O'Neil; the elder brother");
         Click("cmdAddNew");
         QCOMPARE(Values(), "-;O Neil the elder bro");
+        // In the order of the alphabet, to read; the table keeps its own.
+        for (const char* value : {"Room 10", "room 9"}) {
+            dialogs_->ExpectInput(prompt, value);
+            Click("cmdAddNew");
+        }
+        QLocale::setDefault(QLocale::French);
+        const auto unset = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
+        Find<QCheckBox>(*window_, "chkSorted").click();
+        QCOMPARE(Shown(), "-;O Neil the elder bro;room 9;Room 10");
+        dialogs_->ExpectInput(prompt, "Émile");
+        Click("cmdAddNew");
+        QCOMPARE(Shown(), "-;Émile;O Neil the elder bro;room 9;Room 10");
+        Find<QCheckBox>(*window_, "chkSorted").click();
+        QCOMPARE(Values(), "-;O Neil the elder bro;Room 10;room 9;Émile");
+        QCOMPARE(Find<QListWidget>(*window_, "lstCar").currentItem()->text(), "Émile");
     }
 
     void LeavesMarkersAndPictures()
@@ -298,10 +313,12 @@ private:
             .toString();
     }
 
+    QString Shown() { return Lines(Find<QListWidget>(*window_, "lstCar")).join(u';').remove(u'*'); }
+
     // As the list shows them, and the table holds them.
     QString Values()
     {
-        const QString shown = Lines(Find<QListWidget>(*window_, "lstCar")).join(u';').remove(u'*');
+        const QString shown = Shown();
         const QString table = QString("Car%1").arg(column_);
         if (shown != album_->Rows("SELECT Name FROM " + table).join(u';'))
             QTest::qFail("the list shows something else than the table", __FILE__, __LINE__);

@@ -87,6 +87,15 @@ private slots:
             "/b.jpg; /a.jpg; /deep/d.gif; /deep/er/a.jpg");
         Click(window, "cmdDescribeNew");
         QCOMPARE(described, std::vector<qint32>({3, 4}));
+        Find<QCheckBox>(window, "chkTakeFromFiles").click();
+        Click(window, "cmdLoad"); // nothing new, of which files could say something
+        WriteFile(Folder() + "/deep/new.jpg");
+        WhenModal("frmTakeFromFiles", [](QWidget& taking) {
+            QVERIFY(Find<QLabel>(taking, "lblRead").text().contains(" of 1 file(s) read"));
+            taking.close();
+        });
+        Click(window, "cmdLoad");
+        QCOMPARE(text("lblDetails"), "1 new, 4 there already, 2 pictures of other kinds left out");
         frmLoadFiles next; // remembers the folder
         QCOMPARE(Find<QWidget>(next, "dirPicturesToLoad").property("Path").toString(), Folder());
     }
@@ -146,7 +155,9 @@ private slots:
         QCOMPARE(album_->Rows("SELECT File,Legend FROM Image").join(u'|').remove("C:\\Photos\\"),
                  album_->PathOf("new/a.jpg") + "|kept|" + album_->PathOf("new/b.jpg") +
                      "||gone.jpg||noextension||C:\\Other\\a.jpg|");
-        Find<QListWidget>(window, "lstOldReferences").setCurrentRow(3);
+        // What is left stays chosen in the list made anew.
+        QCOMPARE(Find<QLabel>(window, "lblOldReferences").text(), "C:\\Photos\\*.*");
+        Find<QListWidget>(window, "lstOldReferences").setCurrentRow(2);
         QCOMPARE(Find<QLabel>(window, "lblOldReferences").text(), "C:\\Other\\*.*");
     }
 

@@ -71,7 +71,7 @@ private slots:
                               .datePart = DatePart::Month,
                               .dateColumn = 9,
                               .leftOut = {}};
-        choices.leftOut = {"Exif.Photo.DateTimeOriginal"};
+        choices.leftOut = {"Exif.Photo.DateTimeOriginal", "File time"};
         QCOMPARE(AfterTaking(choices), "|anna|-|-|2020-01; mine|x|Eve|-|-; |-|-|-|-");
         QVERIFY(ValuesOf(0).contains("anna"));
         QVERIFY(ValuesOf(9).contains("2020-01"));
@@ -98,7 +98,9 @@ private slots:
                  "Person (7): 2 value(s).\n2 keyword(s) find no place.");
         QCOMPARE(album_->Joined("SELECT Legend FROM Image"), "; mine; ");
         auto* fields = window->findChild<QTreeWidget*>("treFields");
-        QCOMPARE(fields->topLevelItemCount(), 5);
+        QCOMPARE(fields->topLevelItemCount(), 6);
+        QCOMPARE(fields->topLevelItem(5)->text(0), "Date: of the last change of the file");
+        QCOMPARE(fields->topLevelItem(5)->checkState(0), Qt::Unchecked);
         fields->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
         window->findChild<QComboBox*>("cboKeywords")->setCurrentIndex(0);
         QVERIFY(!take->isEnabled());

@@ -4,6 +4,7 @@
 #include "gallery/frmDescribePictures.h"
 #include "platform/data/Database.h"
 #include "platform/data/DatabaseError.h"
+#include "platform/metadata/PictureTexts.h"
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"
 
@@ -78,6 +79,34 @@ private slots:
         QCOMPARE(Sheet().GetSelected(), std::vector<qint32>({1, 3, 4}));
         Click(*window_, "cmdSameFolder");
         QCOMPARE(Sheet().GetSelected(), std::vector<qint32>({1, 2, 3}));
+    }
+
+    void ChoosesTheDayAndEditsTables()
+    {
+        const QList<QPair<const char*, const char*>> days{{"a.jpg", "1998:07:14 12:00:00"},
+                                                          {"b.jpg", "1998:07:15 00:00:00"},
+                                                          {"c.jpg", "1998:07:14 23:59:59"}};
+        for (const auto& [name, day] : days)
+            WritePicture(album_->AddPicture(name), {.exif = {{0x9003, QByteArray(day, 20)}}});
+        album_->AddImageRow("/nowhere/d.jpg");
+        Open();
+        Click(*window_, "cmdSameDay");
+        QTRY_COMPARE(Sheet().GetSelected(), std::vector<qint32>({1, 3}));
+        Sheet().GoTo(4);
+        Click(*window_, "cmdSameDay");
+        QTRY_COMPARE(Find<QLabel>(*window_, "lblFeedback").text(),
+                     "The day of this picture is not known");
+        TypeInto(3, "Typed");
+        WhenModal("frmEditTables", [this](QWidget& tables) {
+            album_->Execute("INSERT INTO Car3 VALUES ('Added')");
+            tables.close();
+        });
+        Click(*window_, "cmdEditTables");
+        QTRY_VERIFY(Items(3).contains("Added"));
+        QCOMPARE(Edit(3).text(), "Typed");
+        dialogs_->ExpectBoxBeginning("Apply what you have entered", Icon::Question,
+                                     Buttons::YesNoCancel, Answer::No);
+        window_->close();
     }
 
     void WritesAllOrNone()

@@ -106,3 +106,8 @@ QString ScriptedDialogs::AskSaveFile(const FileChoice& choice)
 {
     return Take(Describe("save", choice.name, choice.title)).text;
 }
+
+QString ScriptedDialogs::AskFolder(const FileChoice& choice)
+{
+    return Take(Describe("folder", {}, choice.title)).text;
+}

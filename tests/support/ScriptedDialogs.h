@@ -49,6 +49,11 @@ public:
         ExpectText("save", title, path, proposal);
     }
 
+    void ExpectFolder(const QString& title, const QString& path)
+    {
+        ExpectText("folder", title, path, {});
+    }
+
     bool IsDone() const { return script_.empty(); }
     // What stood above the prompt of the last input.
     const QString& GetLastNote() const { return lastNote_; }
@@ -57,6 +62,7 @@ public:
     QString AskText(const Input& input) override;
     QString AskOpenFile(const FileChoice& choice) override;
     QString AskSaveFile(const FileChoice& choice) override;
+    QString AskFolder(const FileChoice& choice) override;
 
 private:
     struct Step

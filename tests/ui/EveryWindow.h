@@ -7,6 +7,7 @@
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "catalogue/frmLoadFiles.h"
+#include "catalogue/frmMissingPictures.h"
 #include "catalogue/frmReloadPictures.h"
 #include "catalogue/frmTakeFromFiles.h"
 #include "core/StartUp.h"
@@ -28,13 +29,25 @@
 
 #include <array>
 
-inline constexpr std::array everyWindow{
-    "frmOpenChapter",      "frmReelvane",           "frmFullScreen",
-    "frmEditParagraph",    "frmOrganizeParagraphs", "frmEditImage",
-    "frmEditTables",       "frmEditLabels",         "frmLoadFiles",
-    "frmReloadPictures",   "frmSelectImages",       "frmAbout",
-    "frmRepairAlbum",      "frmFindPictures",       "frmLinkedPictures",
-    "frmDescribePictures", "frmTakeFromFiles",      "frmUndo"};
+inline constexpr std::array everyWindow{"frmOpenChapter",
+                                        "frmReelvane",
+                                        "frmFullScreen",
+                                        "frmEditParagraph",
+                                        "frmOrganizeParagraphs",
+                                        "frmEditImage",
+                                        "frmEditTables",
+                                        "frmEditLabels",
+                                        "frmLoadFiles",
+                                        "frmReloadPictures",
+                                        "frmSelectImages",
+                                        "frmAbout",
+                                        "frmRepairAlbum",
+                                        "frmFindPictures",
+                                        "frmLinkedPictures",
+                                        "frmDescribePictures",
+                                        "frmTakeFromFiles",
+                                        "frmMissingPictures",
+                                        "frmUndo"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -94,7 +107,7 @@ protected:
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
                        frmAbout, frmRepairAlbum, frmFindPictures, frmPlaceParagraph,
-                       frmLinkedPictures, frmDescribePictures, frmUndo>(name);
+                       frmLinkedPictures, frmDescribePictures, frmMissingPictures, frmUndo>(name);
     }
 
     frmReelvane* MakeViewer()

@@ -161,6 +161,19 @@ private slots:
         QCOMPARE(album_->Rows("SELECT File,Legend,Car0 FROM Image ORDER BY File"),
                  QStringList({held + "|kept|-", album_->PathOf("more/two.PNG") + "||-",
                               album_->PathOf("one.jpg") + "||-"}));
+        // The folders inside only where the user says so.
+        QVERIFY(QDir(album_->PathOf("more")).mkpath("in/side"));
+        QVERIFY(QFile::copy(held, album_->PathOf("more/in/side/deep.jpg")));
+        for (const auto& [answer, message] :
+             {std::pair(Answer::Cancel, ""), std::pair(Answer::No, "0 picture(s) loaded"),
+              std::pair(Answer::Yes, "1 picture(s) loaded")}) {
+            dialogs_->ExpectBox("Load the pictures of the folders inside, too ?", Icon::Question,
+                                Buttons::YesNoCancel, answer);
+            if (*message)
+                dialogs_->ExpectBoxBeginning(message, Icon::Information);
+            QVERIFY(Drop({album_->PathOf("more")}));
+            QVERIFY(dialogs_->IsDone());
+        }
     }
 
     void RefusesWhatItCannotTake()

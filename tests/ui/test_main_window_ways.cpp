@@ -220,9 +220,15 @@ private slots:
         QCOMPARE(Text("cmdNotIndexed"), "3 not indexed");
         QCOMPARE(Notes(), "2 paragraph(s); 0 paragraph(s)");
         QCOMPARE(Chapters(), "*One Empty");
-        WhenModal("frmFindPictures", [](QWidget& finder) {
-            QVERIFY(::Find<QCheckBox>(finder, "chkMissing").isChecked());
-            finder.close();
+        WhenModal("frmMissingPictures", [](QWidget& missing) {
+            WhenModal("frmFindPictures", [](QWidget& finder) {
+                QVERIFY(::Find<QCheckBox>(finder, "chkMissing").isChecked());
+                finder.close();
+            });
+            auto& show = ::Find<QPushButton>(missing, "cmdShow");
+            QTRY_VERIFY(show.isEnabled());
+            show.click();
+            missing.close();
         });
         Click("cmdMissing");
         WhenModal("frmReelvane", [](QWidget& viewer) { viewer.close(); });

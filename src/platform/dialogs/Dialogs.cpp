@@ -20,6 +20,11 @@ void Dialogs::RunLong(const QString&, bool, const Work& work)
     work([] { return false; });
 }
 
+QString Dialogs::AskFolder(const FileChoice&)
+{
+    return {};
+}
+
 void Dialogs::Install(Dialogs* dialogs)
 {
     installed = dialogs;

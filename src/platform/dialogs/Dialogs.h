@@ -58,6 +58,9 @@ public:
     // and adds the filter's extension to a name without it.
     virtual QString AskOpenFile(const FileChoice& choice) = 0;
     virtual QString AskSaveFile(const FileChoice& choice) = 0;
+    // The chosen folder, which exists; empty when cancelled. Filter and name count for nothing. The
+    // default chooses none.
+    virtual QString AskFolder(const FileChoice& choice);
 
     // Does the work and returns when it is done; throws what the work throws. The text says what is
     // going on. Windows stay alive, but take no keys or clicks. The work runs in its own thread: it

@@ -12,17 +12,15 @@ namespace {
 // slices, few enough that what was sent in vain does not matter.
 constexpr int maxAhead = 1024;
 
-// Milliseconds by the clock without a frame; a helper counts its processor time by itself. A disk
-// that sleeps takes some seconds.
-constexpr int patienceOfAnswer = 20000;
-
 } // namespace
 
-HelperQueue::HelperQueue(QString program, QStringList arguments, int count, Request request)
+HelperQueue::HelperQueue(QString program, QStringList arguments, int count, Request request,
+                         int patience)
     : program_(std::move(program)),
       arguments_(std::move(arguments)),
       count_(count),
-      request_(std::move(request))
+      request_(std::move(request)),
+      patience_(patience)
 {
 }
 
@@ -96,7 +94,7 @@ bool HelperQueue::Work(std::chrono::milliseconds time, const Visit& visit)
         const auto frame = process_->Poll(int(std::max<qint64>(left, 0)));
         if (frame)
             TakeFrame(*frame, visit);
-        else if (process_->HasEnded() || silence_.elapsed() > patienceOfAnswer)
+        else if (process_->HasEnded() || silence_.elapsed() > patience_)
             Restart(visit);
         if (worked.elapsed() >= time.count())
             break;

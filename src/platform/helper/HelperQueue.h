@@ -25,8 +25,13 @@ public:
     // Gets the answers, in order; contents has no value where the helper failed.
     using Visit = std::function<void(int number, std::optional<QByteArrayView> contents)>;
 
+    // Milliseconds by the clock without a frame after which a helper counts as hung; it counts its
+    // processor time by itself. A disk that sleeps takes some seconds.
+    static constexpr int usualPatience = 20000;
+
     // Nothing is started before Work.
-    HelperQueue(QString program, QStringList arguments, int count, Request request);
+    HelperQueue(QString program, QStringList arguments, int count, Request request,
+                int patience = usualPatience);
     ~HelperQueue();
     Q_DISABLE_COPY_MOVE(HelperQueue)
 
@@ -44,6 +49,7 @@ private:
     QStringList arguments_;
     int count_;
     Request request_;
+    int patience_;
     std::unique_ptr<HelperProcess> process_;
     QElapsedTimer silence_;
     int next_ = 0; // the first request without an answer

@@ -44,6 +44,19 @@ bool IsBigEndian(QByteArrayView bytes, bool isFileBigEndian)
     return first == second ? isFileBigEndian : first > second;
 }
 
+// The two-byte codes of JIS X 0208, with or without the sequences that tell where they begin.
+// Empty where the platform does not know them.
+QString JapaneseText(QByteArrayView bytes)
+{
+    QStringDecoder decoder("ISO-2022-JP");
+    if (!decoder.isValid())
+        return {};
+    const bool hasSequences = bytes.contains('\x1B');
+    QString text =
+        decoder.decode(hasSequences ? bytes.toByteArray() : "\x1B$B" + bytes.toByteArray());
+    return decoder.hasError() ? QString() : text;
+}
+
 QString CommentText(QByteArrayView bytes, bool isFileBigEndian)
 {
     const QByteArrayView head = bytes.first(std::min(commentHead, bytes.size()));
@@ -51,7 +64,7 @@ QString CommentText(QByteArrayView bytes, bool isFileBigEndian)
     if (head.startsWith("UNICODE"))
         return Utf16Text(text, IsBigEndian(text, isFileBigEndian));
     if (head.startsWith("JIS"))
-        return {}; // a character set that no reader here knows
+        return JapaneseText(BeforeZero(text));
     const bool isHead = head.startsWith("ASCII") || head.isEmpty() || head.front() == '\0' ||
                         head.trimmed().isEmpty();
     return DecodeUtf8OrWindows1252(BeforeZero(isHead ? text : bytes));

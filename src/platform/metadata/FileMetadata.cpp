@@ -3,7 +3,7 @@
 
 #include "platform/metadata/EntryText.h"
 
-#include <QDate>
+#include <QDateTime>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -47,6 +47,12 @@ bool IsAmong(const Fields& fields, const QString& field)
 {
     return std::any_of(fields.begin(), fields.end(),
                        [&field](const char16_t* each) { return field == each; });
+}
+
+// Without the language of a text.
+QString NameOf(const QString& field)
+{
+    return field.section(u'/', 0, 0);
 }
 
 QString ShownField(const Entry& entry)
@@ -129,6 +135,12 @@ void TakeDates(const std::vector<Entry>& entries, FileMetadata& metadata)
                 metadata.dates.push_back({date, ShownField(entry)});
         }
     }
+    for (const Entry& entry : entries) {
+        if (entry.field != QLatin1String(fileTimeField))
+            continue;
+        const QDate day = QDateTime::fromSecsSinceEpoch(entry.text.toLongLong()).date();
+        metadata.dates.push_back({{day.year(), day.month(), day.day()}, entry.field});
+    }
 }
 
 } // namespace
@@ -148,7 +160,7 @@ FileMetadata MetadataFrom(std::optional<QByteArrayView> contents)
             continue;
         if (IsAmong(keywordFields, entry.field))
             AddKeywords(entry, seen, metadata);
-        else if (IsAmong(captionFields, entry.field) && !IsMachineCaption(entry.text))
+        else if (IsAmong(captionFields, NameOf(entry.field)) && !IsMachineCaption(entry.text))
             metadata.captions.push_back({entry.text, ShownField(entry)});
     }
     TakeDates(entries, metadata);

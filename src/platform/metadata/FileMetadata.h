@@ -13,7 +13,9 @@
 struct FieldText
 {
     QString text;
-    QString field; // "Xmp.dc.description"; of a sidecar "Xmp.dc.description (.xmp)"
+    // "Xmp.dc.description"; in the user's language "Xmp.dc.description/fr"; of a sidecar
+    // "Xmp.dc.description (.xmp)".
+    QString field;
 
     bool operator==(const FieldText&) const = default;
 };
@@ -45,7 +47,7 @@ struct FileMetadata
     State state = State::Damaged;    // entries of a damaged file are those in front of the damage
     std::vector<FieldText> captions; // none that a camera writes by itself
     std::vector<FieldText> keywords; // each once, without regard to case
-    std::vector<FieldDate> dates;
+    std::vector<FieldDate> dates;    // at last the file's own time, which copying may change
     // The program's own fields of a sidecar, by name, as they are written there.
     QMap<QString, QString> ownFields;
     QString sidecarCaption; // the default caption of the sidecar with the own fields

@@ -3,14 +3,26 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 
-#include <utility>
+namespace {
 
-MetadataReader::MetadataReader(QStringList paths)
-    : paths_(std::move(paths)),
-      queue_(QStringLiteral("lumenark-metadata"), {QStringLiteral("read")}, int(paths_.size()),
-             [this](int number) {
-                 return QFile::encodeName(QFileInfo(paths_[number]).absoluteFilePath());
+QString UsersLanguage()
+{
+    return QLocale().bcp47Name().section(u'-', 0, 0);
+}
+
+} // namespace
+
+MetadataReader::MetadataReader(const QStringList& paths)
+    : MetadataReader(int(paths.size()), [paths](int number) { return paths[number]; })
+{
+}
+
+MetadataReader::MetadataReader(int count, const PathOf& pathOf)
+    : queue_(QStringLiteral("lumenark-metadata"), {QStringLiteral("read"), UsersLanguage()}, count,
+             [pathOf](int number) {
+                 return QFile::encodeName(QFileInfo(pathOf(number)).absoluteFilePath());
              })
 {
 }

@@ -18,13 +18,16 @@ public:
     // Gets each file's number among the paths, from 0, in order.
     using Visit = std::function<void(int number, const FileMetadata& metadata)>;
 
-    explicit MetadataReader(QStringList paths);
+    // A file's path by its number, from 0. May be asked for more than once, during Work.
+    using PathOf = std::function<QString(int number)>;
+
+    explicit MetadataReader(const QStringList& paths);
+    MetadataReader(int count, const PathOf& pathOf);
 
     // Reads for about that time; false when all were read. Throws DatabaseError CannotOpen when the
     // program cannot be started, and what visit throws.
     bool Work(std::chrono::milliseconds time, const Visit& visit);
 
 private:
-    QStringList paths_;
     HelperQueue queue_;
 };

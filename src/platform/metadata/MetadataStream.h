@@ -5,8 +5,10 @@
 
 // What lumenark-metadata answers to requests (HelperQueue.h).
 //
-// lumenark-metadata read: a request is a file's path. The answer is a Status and, where it is Read,
-// an entry for each text: its Place, the name of its field, its Coding, and its bytes.
+// lumenark-metadata read LANGUAGE: a request is a file's path. The answer is a Status and, where it
+// is Read, an entry for each text: its Place, the name of its field, its Coding, and its bytes. A
+// text in that language ("fr") of a field with texts in several comes before the default one, its
+// field's name with "/" and the language at the end.
 //
 // lumenark-metadata sidecar: a request is what SidecarRequest says. The answer is a Status, the
 // path of the sidecar, and what it is to hold.
@@ -33,6 +35,9 @@ enum Coding : std::uint32_t {
     CommentLittleEndian = 3,
     CommentBigEndian = 4,
 };
+
+// The field of the file's own time, in seconds since the beginning of 1970 (UTC).
+inline constexpr char fileTimeField[] = "File time";
 
 // The program's own fields in a sidecar. Their texts are as QuotedText writes them.
 inline constexpr char ownNamespace[] = "urn:lumenark:descriptions:1.0/";

@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QStyle>
 
+#include <cmath>
 #include <optional>
 
 namespace {
@@ -65,18 +66,43 @@ QPalette MakePalette(const Colors& colors)
     return palette;
 }
 
+// Grey steps, from 0 to 255, that a color stands out from one it is painted on.
+int StandsOut(const QColor& color, const QColor& ground)
+{
+    return int(std::abs(qGray(color.rgb()) - qGray(ground.rgb())) * color.alphaF());
+}
+
+// Many dark schemes of desktops tell no color for links and for the grey texts of empty fields,
+// which then are those of a light one.
+void MendDesktopColors()
+{
+    constexpr int legible = 64;
+    const QPalette desktop = QApplication::palette();
+    const QColor base = desktop.color(QPalette::Base);
+    QPalette mended;
+    if (StandsOut(desktop.color(QPalette::PlaceholderText), base) < legible) {
+        QColor grey = desktop.color(QPalette::Text);
+        grey.setAlpha(150);
+        mended.setColor(QPalette::PlaceholderText, grey);
+    }
+    if (StandsOut(desktop.color(QPalette::Link), desktop.color(QPalette::Window)) < legible) {
+        const bool isDark = qGray(base.rgb()) < 128;
+        mended.setColor(QPalette::Link, QColor(isDark ? darkColors.link : lightColors.link));
+    }
+    QApplication::setPalette(mended);
+}
+
 } // namespace
 
 void ShowColors(ColorScheme scheme)
 {
     static std::optional<QString> desktopStyle; // while another one is in use
     if (scheme == ColorScheme::Desktop) {
-        if (!desktopStyle)
-            return;
         QApplication::setPalette(QPalette());
-        QApplication::setStyle(*desktopStyle);
+        if (desktopStyle)
+            QApplication::setStyle(*desktopStyle);
         desktopStyle.reset();
-        return;
+        return MendDesktopColors();
     }
     if (!desktopStyle)
         desktopStyle = QApplication::style()->objectName();

@@ -207,6 +207,16 @@ QString QtDialogs::AskSaveFile(const FileChoice& choice)
     }
 }
 
+QString QtDialogs::AskFolder(const FileChoice& choice)
+{
+    QFileDialog dialog(QApplication::activeWindow(), choice.title, choice.folder);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+}
+
 void QtDialogs::RunLong(const QString& text, bool canStop, const Work& work)
 {
     LongWorkDialog(text, canStop, QApplication::activeWindow()).Run(work);

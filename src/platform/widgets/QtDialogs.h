@@ -12,5 +12,6 @@ public:
     QString AskText(const Input& input) override;
     QString AskOpenFile(const FileChoice& choice) override;
     QString AskSaveFile(const FileChoice& choice) override;
+    QString AskFolder(const FileChoice& choice) override;
     void RunLong(const QString& text, bool canStop, const Work& work) override;
 };

@@ -30,7 +30,11 @@ FileDrop::FileDrop(WorkProgress* progress, std::function<void(const QString& pat
 
 void FileDrop::Take(const QList<QUrl>& urls) const
 {
-    const DroppedFiles files = SortDroppedFiles(urls);
+    const bool canLoad = IsAlbumOpen() && !IsAlbumReadOnly();
+    const auto depth = canLoad ? AskForDepth(urls) : FolderDepth::Folder;
+    if (!depth)
+        return;
+    const DroppedFiles files = Sort(urls, *depth);
     const QString reason = ReasonAgainst(files);
     if (!reason.isEmpty())
         return Tell(reason, Dialogs::Icon::Warning);
@@ -56,6 +60,12 @@ QString FileDrop::ReasonAgainst(const DroppedFiles& files)
     if (!IsAlbumOpen())
         return tr("Please open or create an album first, then drop the pictures.");
     return IsAlbumReadOnly() ? ReadOnlyReason() : QString();
+}
+
+DroppedFiles FileDrop::Sort(const QList<QUrl>& urls, FolderDepth depth)
+{
+    const BusyPointer busy;
+    return SortDroppedFiles(urls, depth);
 }
 
 int FileDrop::Load(const DroppedFiles& files) const

@@ -7,6 +7,7 @@
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "catalogue/frmLoadFiles.h"
+#include "catalogue/frmMissingPictures.h"
 #include "catalogue/frmReloadPictures.h"
 #include "core/Album.h"
 #include "core/ChapterChain.h"
@@ -46,6 +47,11 @@ namespace {
 
 constexpr QSize proposedSize(860, 600);
 
+void ShowMissing(QWidget* window)
+{
+    OpenPictureFinder({.parent = window}, true);
+}
+
 } // namespace
 
 frmOpenChapter::frmOpenChapter(const QString& album, const QString& sample)
@@ -78,17 +84,22 @@ frmOpenChapter::~frmOpenChapter()
 
 void frmOpenChapter::ConnectCommands()
 {
+    for (auto commands : {&frmOpenChapter::StoryCommands, &frmOpenChapter::PictureCommands,
+                          &frmOpenChapter::OtherCommands}) {
+        for (MainWindowCommand& command : (this->*commands)())
+            commands_.push_back(std::move(command));
+    }
+    for (const MainWindowCommand& command : commands_)
+        ConnectCommand(command);
+}
+
+std::vector<MainWindowCommand> frmOpenChapter::StoryCommands()
+{
     using Form = frmOpenChapter;
     using State = MainWindowState;
     const Ui::frmOpenChapter& ui = *ui_;
     const auto on = [this](void (Form::*handler)()) { return Guarded(this, handler); };
-    const auto transfer = [this](void (DescriptionTransfer::*way)() const) {
-        return [this, way] {
-            RunGuarded([&] { (DescriptionTransfer(ui_->progress).*way)(); });
-            RefreshState();
-        };
-    };
-    commands_ = {
+    return {
         {on(&Form::mnuOpenScript_Click), "album-open", ui.cmdOpenAlbum, ui.mnuOpenScript},
         {on(&Form::mnuCreateScript_Click), "album-create", ui.cmdCreateAlbum, ui.mnuCreateScript},
         {on(&Form::mnuOpenSample_Click), "read-chapter", ui.cmdOpenSample, ui.mnuOpenSample},
@@ -107,6 +118,22 @@ void frmOpenChapter::ConnectCommands()
          true},
         {on(&Form::cmdMoveDown_Click), "move-down", ui.cmdMoveDown, ui.mnuMoveDown,
          &State::canMoveDown, true},
+    };
+}
+
+std::vector<MainWindowCommand> frmOpenChapter::PictureCommands()
+{
+    using Form = frmOpenChapter;
+    using State = MainWindowState;
+    const Ui::frmOpenChapter& ui = *ui_;
+    const auto on = [this](void (Form::*handler)()) { return Guarded(this, handler); };
+    const auto transfer = [this](void (DescriptionTransfer::*way)() const) {
+        return [this, way] {
+            RunGuarded([&] { (DescriptionTransfer(ui_->progress).*way)(); });
+            RefreshState();
+        };
+    };
+    return {
         {on(&Form::mnuLoadPictures_Click), "load-pictures", ui.cmdLoadPictures, ui.mnuLoadPictures,
          &State::offersAlbumCommands, true},
         {on(&Form::mnuReloadPictures_Click), "refresh", nullptr, ui.mnuReloadPictures,
@@ -116,6 +143,8 @@ void frmOpenChapter::ConnectCommands()
         {on(&Form::mnuSelectedUndefined_Click), "", nullptr, ui.mnuSelectedUndefined,
          &State::offersPictureCommands, true},
         {on(&Form::mnuFindPictures_Click), "", nullptr, ui.mnuFindPictures,
+         &State::offersPictureCommands},
+        {on(&Form::mnuMissingPictures_Click), "", nullptr, ui.mnuMissingPictures,
          &State::offersPictureCommands},
         {transfer(&DescriptionTransfer::ExportTable), "", nullptr, ui.mnuExportTable,
          &State::offersPictureCommands},
@@ -129,6 +158,16 @@ void frmOpenChapter::ConnectCommands()
          &State::offersPictureCommands},
         {on(&Form::mnuSelectedPictures_Click), "", nullptr, ui.mnuSelectedPictures,
          &State::offersPictureCommands},
+    };
+}
+
+std::vector<MainWindowCommand> frmOpenChapter::OtherCommands()
+{
+    using Form = frmOpenChapter;
+    using State = MainWindowState;
+    const Ui::frmOpenChapter& ui = *ui_;
+    const auto on = [this](void (Form::*handler)()) { return Guarded(this, handler); };
+    return {
         {on(&Form::mnuRepair_Click), "repair", nullptr, ui.mnuRepair, &State::offersAlbumCommands,
          true},
         {on(&Form::mnuPassword_Click), "", nullptr, ui.mnuPassword, &State::offersAlbumCommands,
@@ -141,8 +180,6 @@ void frmOpenChapter::ConnectCommands()
         {on(&Form::mnuKeys_Click), "", nullptr, ui.mnuKeys},
         {on(&Form::mnuAbout_Click), "about", nullptr, ui.mnuAbout},
     };
-    for (const MainWindowCommand& command : commands_)
-        ConnectCommand(command);
 }
 
 void frmOpenChapter::ConnectControls()
@@ -171,7 +208,7 @@ void frmOpenChapter::ConnectControls()
     new UndoMenu({ui_->mnuTools, ui_->mnuUndo, ui_->mnuRedo, ui_->mnuUndoSeveral}, this);
     connect(ui_->cmdNotIndexed, &QPushButton::clicked, ui_->mnuUndefined, &QAction::trigger);
     connect(ui_->cmdMissing, &QPushButton::clicked, this,
-            Guarded(this, &frmOpenChapter::ShowMissing));
+            Guarded(this, &frmOpenChapter::mnuMissingPictures_Click));
 }
 
 bool frmOpenChapter::AlbumOpen() const
@@ -312,9 +349,11 @@ void frmOpenChapter::MoveRow(int from, int to)
         RefreshState();
 }
 
-void frmOpenChapter::ShowMissing()
+void frmOpenChapter::mnuMissingPictures_Click()
 {
-    OpenPictureFinder({.parent = this}, true);
+    frmMissingPictures window(this);
+    window.ShowPictures = ShowMissing;
+    window.exec();
     RefreshState();
 }
 
@@ -334,7 +373,9 @@ void frmOpenChapter::mnuLoadPictures_Click()
 
 void frmOpenChapter::mnuReloadPictures_Click()
 {
-    frmReloadPictures(this).exec();
+    frmReloadPictures window(this);
+    window.ShowPictures = ShowMissing;
+    window.exec();
     RefreshState();
 }
 

@@ -70,11 +70,14 @@ private:
     void mnuPhotoAlbumHelp_Click();
     void mnuKeys_Click();
     void MoveRow(int from, int to);
-    void ShowMissing();
+    void mnuMissingPictures_Click();
     // Shows the selected chapter by that routine.
     void Read(void (*showChapter)(QWidget* parent, qint32 chapter));
 
     void ConnectCommands();
+    std::vector<MainWindowCommand> StoryCommands();
+    std::vector<MainWindowCommand> PictureCommands();
+    std::vector<MainWindowCommand> OtherCommands();
     void ConnectControls();
 
     const QString sample_;

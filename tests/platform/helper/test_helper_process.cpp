@@ -73,20 +73,22 @@ private slots:
     }
 
     // Each request is one byte, and so nine with its head.
-    void GoesOnAfterTheRequestThatKills()
+    void GoesOnAfterTheRequestThatKillsOrHangs()
     {
         const QString script = "printf 'H\\000\\000\\000\\000';"
                                "while r=$(head -c 9 | od -An -tu1) && [ -n \"$r\" ]; do set -- $r;"
-                               "case $1 in 3|4|7) kill -SEGV $$;; esac;"
+                               "case $1 in 3|4|7) kill -SEGV $$;;"
+                               "8) exec sleep 100;; esac;"
                                "printf 'A\\006\\000\\000\\000';"
                                "printf \"\\\\$(printf %03o $1)\\\\000\\\\000\\\\000ok\"; done";
         QStringList answers;
-        HelperQueue queue("/bin/sh", {"-c", script}, 9, [](int) { return QByteArray("x"); });
+        HelperQueue queue(
+            "/bin/sh", {"-c", script}, 10, [](int) { return QByteArray("x"); }, 300);
         while (queue.Work(std::chrono::milliseconds(50), [&answers](int number, auto contents) {
             answers += QString::number(number) + (contents ? contents->toByteArray() : "dead");
         }))
             ;
-        QCOMPARE(answers.join(' '), "0ok 1ok 2ok 3dead 4dead 5ok 6ok 7dead 8ok");
+        QCOMPARE(answers.join(' '), "0ok 1ok 2ok 3dead 4dead 5ok 6ok 7dead 8dead 9ok");
 
         HelperQueue broken("/bin/false", {}, 2, [](int) { return QByteArray("x"); });
         QVERIFY_THROWS_EXCEPTION(

@@ -46,6 +46,13 @@ QString Joined(const std::vector<FieldDate>& dates)
     return parts.join(' ');
 }
 
+void SetTime(const QString& path, const QDateTime& time)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+}
+
 // Writes one sidecar; returns why not.
 QString WriteSidecar(const SidecarContent& content)
 {
@@ -78,7 +85,9 @@ private slots:
             {CommentBigEndian, QByteArray("UNICODE\0\x20\xAC", 10), "€"},
             {CommentBigEndian, QByteArray("\0\0\0\0\0\0\0\0caf\xE9", 12), "café"},
             {CommentBigEndian, "ab", "ab"},
-            {CommentBigEndian, QByteArray("JIS\0\0\0\0\0xx", 10), ""}};
+            {CommentBigEndian, QByteArray("JIS\0\0\0\0\0\x46\x7C\x4B\x5C", 12), "日本"},
+            {CommentBigEndian, QByteArray("JIS\0\0\0\0\0\x1B$B\x46\x7C\x1B(B!", 17), "日!"},
+            {CommentBigEndian, QByteArray("JIS\0\0\0\0\0x", 9), ""}};
         for (const auto& [coding, bytes, text] : rows) {
             const InRow row(bytes.toHex());
             QCOMPARE(EntryText(coding, bytes), text);
@@ -124,6 +133,7 @@ private slots:
                                      {0x9003, QByteArray("1999:02:03 00:00:00\0", 20)},
                                      {0x9286, QByteArray("ASCII\0\0\0noted", 13)}},
                             .comment = "said"});
+        SetTime(path, QDateTime(QDate(2001, 5, 6), QTime(0, 1)));
         const FileMetadata read = Read({path}).value(0);
         QVERIFY(read.state == State::Read);
         QCOMPARE(Joined(read.captions),
@@ -133,7 +143,8 @@ private slots:
                  "Lake<Xmp.dc.subject> Bob, Jr<Xmp.dc.subject> Alps<Xmp.digiKam.TagsList> "
                  "Sea<Iptc.Application2.Keywords> New<Exif.Image.XPKeywords>");
         QCOMPARE(Joined(read.dates),
-                 "1999-2-3<Exif.Photo.DateTimeOriginal> 1998-0-0<Xmp.photoshop.DateCreated>");
+                 "1999-2-3<Exif.Photo.DateTimeOriginal> 1998-0-0<Xmp.photoshop.DateCreated> "
+                 "2001-5-6<File time>");
     }
 
     void ReadsBothSidecarsAndPassesOverOthers()
@@ -195,6 +206,10 @@ private slots:
                      kept);
         const FileMetadata read = Read({picture}).value(0);
         QCOMPARE(Joined(read.captions), "lang=\"x\" new  <&>]]><Xmp.dc.description (.xmp)>");
+        QLocale::setDefault(QLocale::French);
+        QCOMPARE(Joined(Read({picture}).value(0).captions),
+                 "vieux<Xmp.dc.description/fr (.xmp)> " + Joined(read.captions));
+        QLocale::setDefault(QLocale::c());
         QCOMPARE(Joined(read.keywords), "theirs<Xmp.dc.subject (.xmp)> Anna<Xmp.dc.subject (.xmp)> "
                                         "Eve<Xmp.dc.subject (.xmp)>");
         QCOMPARE(read.ownFields.value("Legend"), "\"y\"");

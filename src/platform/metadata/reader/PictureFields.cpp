@@ -6,6 +6,7 @@
 #include <exiv2/exiv2.hpp>
 #include <exiv2/webpimage.hpp>
 
+#include <strings.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -43,7 +44,12 @@ constexpr std::array exifTexts{"Exif.Photo.UserComment",      "Exif.Image.ImageD
 class EntryWriter
 {
 public:
-    explicit EntryWriter(FrameWriter& stream) : stream_(stream) {}
+    EntryWriter(const std::string& language, FrameWriter& stream)
+        : language_(language), stream_(stream)
+    {
+    }
+
+    const std::string& GetLanguage() const { return language_; }
 
     void Write(Place place, const std::string& field, Coding coding, std::string_view text)
     {
@@ -56,13 +62,36 @@ public:
     }
 
 private:
+    const std::string& language_;
     FrameWriter& stream_;
 };
+
+// Of "fr", "fr-CA" is a kind; case does not count.
+bool IsOfLanguage(const std::string& tag, const std::string& language)
+{
+    return tag.size() >= language.size() &&
+           (tag.size() == language.size() || tag[language.size()] == '-') &&
+           strncasecmp(tag.c_str(), language.c_str(), language.size()) == 0;
+}
+
+// The default one is written in any case: it tells whether another program has changed it.
+void WriteLanguages(Place place, const std::string& key, const Exiv2::LangAltValue& texts,
+                    EntryWriter& entries)
+{
+    const std::string usual = DefaultOf(texts);
+    for (const auto& [tag, text] : texts.value_) {
+        if (text != usual && IsOfLanguage(tag, entries.GetLanguage())) {
+            entries.Write(place, key + "/" + entries.GetLanguage(), Utf8, text);
+            break;
+        }
+    }
+    entries.Write(place, key, Utf8, usual);
+}
 
 void WriteXmpField(Place place, const Exiv2::Xmpdatum& datum, EntryWriter& entries)
 {
     if (const auto* texts = dynamic_cast<const Exiv2::LangAltValue*>(&datum.value())) {
-        entries.Write(place, datum.key(), Utf8, DefaultOf(*texts));
+        WriteLanguages(place, datum.key(), *texts, entries);
         return;
     }
     const auto count = std::min<std::size_t>(std::size_t(datum.count()), maxKeywords);
@@ -159,9 +188,8 @@ bool IsShownFormat(Type type)
            type == Exiv2::ImageType::gif || type == Exiv2::ImageType::bmp;
 }
 
-Status StatusOf(const std::string& path)
+Status StatusOf(const std::string& path, struct stat& status)
 {
-    struct stat status = {};
     if (path.empty() || stat(path.c_str(), &status) != 0)
         return NotThere;
     // A pipe would be waited for, and the library reads other kinds of paths from the network.
@@ -182,10 +210,11 @@ std::unique_ptr<Exiv2::Image> OpenImage(const std::string& path)
 
 } // namespace
 
-void WritePictureFields(const std::string& path, FrameWriter& stream)
+void WritePictureFields(const std::string& path, const std::string& language, FrameWriter& stream)
 {
-    EntryWriter entries(stream);
-    const Status status = StatusOf(path);
+    EntryWriter entries(language, stream);
+    struct stat file = {};
+    const Status status = StatusOf(path, file);
     const auto image = status == Done ? OpenImage(path) : nullptr;
     if (!image || !IsShownFormat(image->imageType())) {
         stream.Number(status == Done ? OtherFormat : status);
@@ -203,4 +232,5 @@ void WritePictureFields(const std::string& path, FrameWriter& stream)
     WriteIptc(image->iptcData(), entries);
     WriteExif(image->exifData(), image->byteOrder(), entries);
     entries.Write(InPicture, "JPEG comment", Bytes, image->comment());
+    entries.Write(InPicture, fileTimeField, Utf8, std::to_string(file.st_mtime));
 }

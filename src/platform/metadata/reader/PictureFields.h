@@ -6,6 +6,7 @@
 
 #include <string>
 
-// Writes the status of a picture and its entries, those of its sidecars first. Throws what the
-// library throws, of which not all are its own errors.
-void WritePictureFields(const std::string& path, FrameWriter& stream);
+// Writes the status of a picture and its entries, those of its sidecars first. language: that of
+// the user, as RFC 3066 begins it ("fr"). Throws what the library throws, of which not all are its
+// own errors.
+void WritePictureFields(const std::string& path, const std::string& language, FrameWriter& stream);

@@ -3,7 +3,7 @@
 // such files come from anywhere, and a damaged one can make the library that reads them crash.
 // Nothing is ever written to a file here. MetadataStream.h describes requests and answers.
 //
-//   lumenark-metadata read [careful]
+//   lumenark-metadata read LANGUAGE [careful]
 //   lumenark-metadata sidecar [careful]
 //
 // Careful: every answer is written at once.
@@ -35,16 +35,17 @@ void WriteNothing(FrameWriter& stream, std::uint32_t number)
     stream.Number(MetadataStream::Damaged);
 }
 
-void Answer(const RequestReader& requests, bool isReading, FrameWriter& stream)
+// An empty language: sidecars are asked for.
+void Answer(const RequestReader& requests, const std::string& language, FrameWriter& stream)
 {
     LimitProcessorTime(secondsPerFile);
     stream.Begin(answerFrame);
     stream.Number(requests.GetNumber());
     try {
-        if (isReading)
-            WritePictureFields(requests.GetBytes(), stream);
-        else
+        if (language.empty())
             WriteSidecarPacket(requests.GetBytes(), stream);
+        else
+            WritePictureFields(requests.GetBytes(), language, stream);
         if (stream.GetFrameSize() > FrameStream::largestFrame)
             WriteNothing(stream, requests.GetNumber());
     } catch (const std::exception&) { // the library also throws errors that are not its own
@@ -56,11 +57,13 @@ void Answer(const RequestReader& requests, bool isReading, FrameWriter& stream)
 int Run(int argc, char** argv)
 {
     const std::string mode = argc > 1 ? argv[1] : "";
-    if (mode != "read" && mode != "sidecar") {
+    const bool isReading = mode == "read" && argc > 2;
+    if (!isReading && mode != "sidecar") {
         std::cerr << "lumenark-metadata is started by lumenark, to read what pictures say\n";
         return 2;
     }
-    const bool isCareful = argc > 2;
+    const std::string language = isReading ? argv[2] : "";
+    const bool isCareful = argc > (isReading ? 3 : 2);
     FrameWriter stream(TakeOutput());
     Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
     Exiv2::XmpParser::initialize();
@@ -69,7 +72,7 @@ int Run(int argc, char** argv)
     stream.End();
     RequestReader requests([&stream] { stream.Flush(); });
     while (requests.Next()) {
-        Answer(requests, mode == "read", stream);
+        Answer(requests, language, stream);
         if (isCareful)
             stream.Flush();
     }
