@@ -499,17 +499,17 @@
 <context>
     <name>UndoHistory</name>
     <message numerus="yes">
-        <source>%n pictures</source>
+        <source>%Ln pictures</source>
         <translation>
-            <numerusform>%n picture</numerusform>
-            <numerusform>%n pictures</numerusform>
+            <numerusform>%Ln picture</numerusform>
+            <numerusform>%Ln pictures</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n paragraphs</source>
+        <source>%Ln paragraphs</source>
         <translation>
-            <numerusform>%n paragraph</numerusform>
-            <numerusform>%n paragraphs</numerusform>
+            <numerusform>%Ln paragraph</numerusform>
+            <numerusform>%Ln paragraphs</numerusform>
         </translation>
     </message>
 </context>

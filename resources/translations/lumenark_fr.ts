@@ -2670,17 +2670,17 @@ Le supprimer quand même ?</translation>
         <translation>Modification</translation>
     </message>
     <message numerus="yes">
-        <source>%n pictures</source>
+        <source>%Ln pictures</source>
         <translation>
-            <numerusform>%n photo</numerusform>
-            <numerusform>%n photos</numerusform>
+            <numerusform>%Ln photo</numerusform>
+            <numerusform>%Ln photos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n paragraphs</source>
+        <source>%Ln paragraphs</source>
         <translation>
-            <numerusform>%n paragraphe</numerusform>
-            <numerusform>%n paragraphes</numerusform>
+            <numerusform>%Ln paragraphe</numerusform>
+            <numerusform>%Ln paragraphes</numerusform>
         </translation>
     </message>
 </context>
@@ -2868,8 +2868,8 @@ Le supprimer quand même ?</translation>
 <context>
     <name>UndoTurn</name>
     <message>
-        <source>The album is being taken back...</source>
-        <translation>L&apos;album revient en arrière...</translation>
+        <source>The album is being changed...</source>
+        <translation>L&apos;album est en cours de modification...</translation>
     </message>
     <message>
         <source>Stopped: nothing was changed</source>

@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -20,7 +21,8 @@ using namespace GeneralModule;
 
 namespace {
 
-constexpr qint64 quietTime = 400; // milliseconds of work that need no progress bar
+constexpr qint64 quietTime = 400;  // milliseconds of work that need no progress bar
+constexpr int smallestWidth = 380; // logical pixels
 constexpr std::chrono::milliseconds newsTime(4000);
 
 struct UndoTurn
@@ -52,9 +54,11 @@ private:
     {
         dialog_ = std::make_unique<QDialog>(window_);
         dialog_->setObjectName(QStringLiteral("dlgUndo"));
+        dialog_->setWindowTitle(QGuiApplication::applicationDisplayName());
         dialog_->setModal(true);
+        dialog_->setMinimumWidth(smallestWidth);
         auto* layout = new QVBoxLayout(dialog_.get());
-        layout->addWidget(new QLabel(UndoTurn::tr("The album is being taken back...")));
+        layout->addWidget(new QLabel(UndoTurn::tr("The album is being changed...")));
         bar_ = new WorkProgress;
         layout->addWidget(bar_);
         bar_->Begin(0, true);

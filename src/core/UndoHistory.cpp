@@ -162,10 +162,10 @@ QString UndoHistory::Describe(const Step& step) const
     const ChangeLog& log = *database_->GetLog();
     QStringList parts{step.name};
     if (const int pictures = log.CountRows(QStringLiteral("Image"), step.entries); pictures > 0)
-        parts += HistoryTexts::tr("%n pictures", nullptr, pictures);
+        parts += HistoryTexts::tr("%Ln pictures", nullptr, pictures);
     if (const int paragraphs = log.CountRows(QStringLiteral("Paragraph"), step.entries);
         paragraphs > 0)
-        parts += HistoryTexts::tr("%n paragraphs", nullptr, paragraphs);
+        parts += HistoryTexts::tr("%Ln paragraphs", nullptr, paragraphs);
     return parts.join(QStringLiteral(", "));
 }
 
