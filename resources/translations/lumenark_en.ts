@@ -612,4 +612,65 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>UndoHistory</name>
+    <message numerus="yes">
+        <source>%Ln pictures</source>
+        <translation>
+            <numerusform>%Ln picture</numerusform>
+            <numerusform>%Ln pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln paragraphs</source>
+        <translation>
+            <numerusform>%Ln paragraph</numerusform>
+            <numerusform>%Ln paragraphs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UndoStep</name>
+    <message numerus="yes">
+        <source>Link %n Pictures</source>
+        <translation>
+            <numerusform>Link %n Picture</numerusform>
+            <numerusform>Link %n Pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Unlink %n Pictures</source>
+        <translation>
+            <numerusform>Unlink %n Picture</numerusform>
+            <numerusform>Unlink %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UndoSteps</name>
+    <message numerus="yes">
+        <source>%n steps undone</source>
+        <translation>
+            <numerusform>%n step undone</numerusform>
+            <numerusform>%n steps undone</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n steps redone</source>
+        <translation>
+            <numerusform>%n step redone</numerusform>
+            <numerusform>%n steps redone</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>frmUndo</name>
+    <message numerus="yes">
+        <source>Undo %n Steps</source>
+        <translation>
+            <numerusform>Undo %n Step</numerusform>
+            <numerusform>Undo %n Steps</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -163,6 +163,10 @@
             <numerusform>%n d&apos;entre eux n&apos;ont pas pu être supprimés.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>What you have done up to now cannot be undone any more after that.</source>
+        <translation>Ce que vous avez fait jusqu&apos;ici ne pourra plus être annulé ensuite.</translation>
+    </message>
 </context>
 <context>
     <name>AlbumStatus</name>
@@ -2223,6 +2227,36 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>frmUndo</name>
+    <message>
+        <source>Undo Several Steps</source>
+        <translation>Annuler plusieurs étapes</translation>
+    </message>
+    <message>
+        <source>What was done since the album was opened, the newest first. The chosen step is undone with all those above it :</source>
+        <translation>Ce qui a été fait depuis l&apos;ouverture de l&apos;album, le plus récent d&apos;abord. L&apos;étape choisie est annulée avec toutes celles au-dessus :</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>Étapes</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo %n Steps</source>
+        <translation>
+            <numerusform>Annuler %n étape</numerusform>
+            <numerusform>Annuler %n étapes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>GroupChoice</name>
     <message>
         <source>Dates read: %1 of %2</source>
@@ -2463,6 +2497,14 @@ Votre version :
     <message>
         <source>Find pictures</source>
         <translation>Chercher des photos</translation>
+    </message>
+    <message>
+        <source>In every window: undo what was done last</source>
+        <translation>Dans toutes les fenêtres : annuler la dernière action</translation>
+    </message>
+    <message>
+        <source>In every window: redo it</source>
+        <translation>Dans toutes les fenêtres : la rétablir</translation>
     </message>
 </context>
 <context>
@@ -3136,6 +3178,227 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Change</source>
+        <translation>Modification</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures</source>
+        <translation>
+            <numerusform>%Ln photo</numerusform>
+            <numerusform>%Ln photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln paragraphs</source>
+        <translation>
+            <numerusform>%Ln paragraphe</numerusform>
+            <numerusform>%Ln paragraphes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UndoMenu</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rétablir : %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoStep</name>
+    <message>
+        <source>Move Chapter</source>
+        <translation>Déplacer le chapitre</translation>
+    </message>
+    <message>
+        <source>Create Chapter</source>
+        <translation>Créer le chapitre</translation>
+    </message>
+    <message>
+        <source>Rename Chapter to</source>
+        <translation>Renommer le chapitre en</translation>
+    </message>
+    <message>
+        <source>Delete Chapter</source>
+        <translation>Supprimer le chapitre</translation>
+    </message>
+    <message>
+        <source>Change Settings</source>
+        <translation>Modifier les réglages</translation>
+    </message>
+    <message>
+        <source>Set Delay of Autoview</source>
+        <translation>Régler le délai du défilement</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Choisir le dossier</translation>
+    </message>
+    <message>
+        <source>Repair Album</source>
+        <translation>Réparer l&apos;album</translation>
+    </message>
+    <message>
+        <source>Save Paragraph</source>
+        <translation>Enregistrer le paragraphe</translation>
+    </message>
+    <message>
+        <source>Create Paragraph</source>
+        <translation>Créer un paragraphe</translation>
+    </message>
+    <message>
+        <source>Create Paragraph after</source>
+        <translation>Créer un paragraphe après</translation>
+    </message>
+    <message>
+        <source>Delete Paragraph</source>
+        <translation>Supprimer le paragraphe</translation>
+    </message>
+    <message>
+        <source>Move Paragraph</source>
+        <translation>Déplacer le paragraphe</translation>
+    </message>
+    <message numerus="yes">
+        <source>Link %n Pictures</source>
+        <translation>
+            <numerusform>Lier %n photo</numerusform>
+            <numerusform>Lier %n photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Unlink %n Pictures</source>
+        <translation>
+            <numerusform>Délier %n photo</numerusform>
+            <numerusform>Délier %n photos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Order Linked Pictures</source>
+        <translation>Ordonner les photos liées</translation>
+    </message>
+    <message>
+        <source>Describe</source>
+        <translation>Décrire</translation>
+    </message>
+    <message>
+        <source>Take out</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Describe Together</source>
+        <translation>Décrire ensemble</translation>
+    </message>
+    <message>
+        <source>Take Descriptions</source>
+        <translation>Reprendre les descriptions</translation>
+    </message>
+    <message>
+        <source>Add Value</source>
+        <translation>Ajouter la valeur</translation>
+    </message>
+    <message>
+        <source>Delete Value</source>
+        <translation>Supprimer la valeur</translation>
+    </message>
+    <message>
+        <source>Replace %1 by %2</source>
+        <translation>Remplacer %1 par %2</translation>
+    </message>
+    <message>
+        <source>Load Pictures</source>
+        <translation>Charger les photos</translation>
+    </message>
+    <message>
+        <source>Reload Moved Pictures</source>
+        <translation>Recharger les photos déplacées</translation>
+    </message>
+    <message>
+        <source>Edit Labels</source>
+        <translation>Modifier les libellés</translation>
+    </message>
+    <message>
+        <source>Take from Files</source>
+        <translation>Reprendre des fichiers</translation>
+    </message>
+    <message>
+        <source>Take Found Pictures</source>
+        <translation>Reprendre les photos retrouvées</translation>
+    </message>
+    <message>
+        <source>Take Back Chapters</source>
+        <translation>Reprendre des chapitres</translation>
+    </message>
+</context>
+<context>
+    <name>UndoSteps</name>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Annulé : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n steps undone</source>
+        <translation>
+            <numerusform>%n étape annulée</numerusform>
+            <numerusform>%n étapes annulées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rétabli : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n steps redone</source>
+        <translation>
+            <numerusform>%n étape rétablie</numerusform>
+            <numerusform>%n étapes rétablies</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 « %2 »</translation>
+    </message>
+    <message>
+        <source>Another program has changed the album. What was done before that cannot be undone any more.</source>
+        <translation>Un autre programme a modifié l&apos;album. Ce qui a été fait auparavant ne peut plus être annulé.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Il n&apos;y a rien à annuler.</translation>
+    </message>
+    <message>
+        <source>What was done last is too large to be undone.</source>
+        <translation>Ce qui a été fait en dernier est trop volumineux pour être annulé.</translation>
+    </message>
+</context>
+<context>
+    <name>UndoTurn</name>
+    <message>
+        <source>The album is being changed...</source>
+        <translation>L&apos;album est en cours de modification...</translation>
+    </message>
+    <message>
+        <source>Stopped: nothing was changed</source>
+        <translation>Arrêté : rien n&apos;a été changé</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation>Il n&apos;y a rien à rétablir.</translation>
+    </message>
+</context>
+<context>
     <name>ValueEntry</name>
     <message>
         <source>Caracteristics must begin with a letter or a figure</source>
@@ -3399,6 +3662,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Previous Picture</source>
         <translation>Photo précédente</translation>
+    </message>
+    <message>
+        <source>The file goes to the desktop&apos;s trash, or where there is none, it is deleted for good. Undo brings back the album&apos;s entry, not the file.</source>
+        <translation>Le fichier va dans la corbeille du bureau ; s&apos;il n&apos;y en a pas, il est supprimé pour de bon. Annuler ramène l&apos;entrée de l&apos;album, pas le fichier.</translation>
     </message>
 </context>
 <context>
@@ -4185,6 +4452,18 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
     <message>
         <source>Check Album</source>
         <translation>Vérifier l&apos;album</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Undo Several...</source>
+        <translation>Annuler plusieurs étapes...</translation>
     </message>
 </context>
 <context>

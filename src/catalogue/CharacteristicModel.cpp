@@ -3,6 +3,7 @@
 
 #include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
+#include "core/UndoSteps.h"
 
 #include <QTextBoundaryFinder>
 
@@ -10,6 +11,8 @@
 
 using GeneralModule::AlbumDatabase;
 using GeneralModule::Quoted;
+using GeneralModule::StepAbout;
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -84,6 +87,7 @@ QStringList ValuesOf(int column)
 QString AddValueToTable(int column, const QString& typed)
 {
     const QString value = CleanValue(typed.isEmpty() ? noValue : typed);
+    const UndoStep step(StepAbout(UndoStep::tr("Add Value"), value));
     RecordSet table(AlbumDatabase, ValueTableOf(column));
     // The engine's own uniqueness ignores case only for A to Z.
     table.FindFirst(QStringLiteral("[Name] = ") + Quoted(value));
@@ -97,6 +101,7 @@ QString AddValueToTable(int column, const QString& typed)
 
 void RemoveValueFromTable(int column, const QString& value)
 {
+    const UndoStep step(StepAbout(UndoStep::tr("Delete Value"), value));
     RecordSet table(AlbumDatabase, ValueTableOf(column));
     table.FindFirst(QStringLiteral("[Name] = ") + Quoted(value));
     if (!table.NoMatch())

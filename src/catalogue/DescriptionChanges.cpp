@@ -2,6 +2,7 @@
 #include "catalogue/DescriptionChanges.h"
 
 #include "core/AlbumSets.h"
+#include "core/UndoSteps.h"
 #include "platform/data/ReadLock.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
@@ -11,6 +12,7 @@
 #include <limits>
 
 using GeneralModule::AlbumDatabase;
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -224,6 +226,7 @@ DescriptionComparison CompareDescriptions(const std::vector<ImportedDescription>
 std::optional<ChangeResult> ApplyChanges(const std::vector<DescriptionChange>& changes,
                                          const std::function<bool(int done)>& progress)
 {
+    const UndoStep step(UndoStep::tr("Take Descriptions"), GeneralModule::StepCounts::Shown);
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     ChangeWriter writer;
     int done = 0;

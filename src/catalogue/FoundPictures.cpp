@@ -4,12 +4,14 @@
 #include "catalogue/MovedPatterns.h"
 #include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
+#include "core/UndoSteps.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
 
 #include <algorithm>
 
 using GeneralModule::AlbumDatabase;
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -26,6 +28,7 @@ public:
 
     std::optional<FoundTaken> Run(const std::vector<FoundPicture>& pictures)
     {
+        const UndoStep step(UndoStep::tr("Take Found Pictures"), GeneralModule::StepCounts::Shown);
         WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
         int done = 0;
         for (const FoundPicture& picture : pictures) {

@@ -4,6 +4,7 @@
 #include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
+#include "core/UndoSteps.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/files/FolderListing.h"
@@ -32,6 +33,7 @@ public:
 
     RepointedPictures Run()
     {
+        const UndoStep step(UndoStep::tr("Reload Moved Pictures"), StepCounts::Shown);
         WriteBatch batch(AlbumDatabase);
         if (Take(Turn::DirectlyInFolder, batch) && hasDeeper_)
             Take(Turn::Deeper, batch);

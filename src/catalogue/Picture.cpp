@@ -5,17 +5,22 @@
 #include "core/AlbumSets.h"
 #include "core/EditConflict.h"
 #include "core/TextRoutines.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
+#include "platform/files/PathRoutines.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 using GeneralModule::AlbumDatabase;
 using GeneralModule::ImageSet;
 using GeneralModule::MergeEdit;
 using GeneralModule::Quoted;
+using GeneralModule::StepAbout;
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -32,9 +37,21 @@ bool FindPicture(const QString& file)
     return !ImageSet->NoMatch();
 }
 
+// False where there is no trash for the file. A folder of that name is no picture.
+bool PutIntoTrash(const QString& path)
+{
+    if (!QFileInfo(path).isFile())
+        return false;
+    // The user's trash lies in this folder, which a new user does not have yet.
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    return QFile::moveToTrash(path);
+}
+
 // Why the file could not be deleted; empty when it is gone.
 QString DeleteFile(const QString& path)
 {
+    if (PutIntoTrash(path))
+        return {};
     QFile file(path);
     if (file.remove() || !QFileInfo::exists(path))
         return {};
@@ -113,6 +130,7 @@ Picture StorePicture(const QString& file, const Picture& shown, const Picture& e
     }
     if (saved == shown || !FindPicture(file))
         return saved;
+    const UndoStep step(StepAbout(UndoStep::tr("Describe"), FileNameOf(file)));
     WriteBatch batch(AlbumDatabase);
     for (int column = 0; column < columnCount; ++column) {
         QString& value = saved.values[std::size_t(column)];
@@ -134,6 +152,7 @@ Picture StorePicture(const QString& file, const Picture& shown, const Picture& e
 
 QString TakeOutPicture(const QString& file, bool deleteFile)
 {
+    const UndoStep step(StepAbout(UndoStep::tr("Take out"), FileNameOf(file)));
     // Begins before the file is deleted: this fails if the album cannot be changed.
     WriteBatch batch(AlbumDatabase);
     const QString trouble = deleteFile ? DeleteFile(GeneralModule::AbsolutePath(file)) : QString();

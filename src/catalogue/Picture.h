@@ -49,7 +49,7 @@ QString StoreValue(int column, const QString& typed);
 // DatabaseError.
 Picture StorePicture(const QString& file, const Picture& shown, const Picture& edited);
 
-// Removes the picture from the album, after deleting its file if deleteFile is set; a missing file
-// counts as deleted. Returns why the file cannot be deleted, with nothing changed; empty on
-// success. Throws DatabaseError.
+// Removes the picture from the album, after putting its file into the desktop's trash, or deleting
+// it where there is none, if deleteFile is set; a missing file counts as deleted. Returns why the
+// file cannot be deleted, with nothing changed; empty on success. Throws DatabaseError.
 QString TakeOutPicture(const QString& file, bool deleteFile);

@@ -5,6 +5,7 @@
 #include "catalogue/PictureCards.h"
 #include "core/Album.h"
 #include "core/AlbumSets.h"
+#include "core/UndoSteps.h"
 #include "platform/data/ReadLock.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
@@ -17,6 +18,7 @@
 #include <iterator>
 
 using GeneralModule::AlbumDatabase;
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -182,6 +184,7 @@ GroupChange ApplyToGroup(const std::vector<qint32>& pictures, const GroupChange&
         return stored;
     std::vector<qint32> rows = pictures;
     std::ranges::sort(rows);
+    const UndoStep step(UndoStep::tr("Describe Together"), GeneralModule::StepCounts::Shown);
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     for (int column = 0; column < columnCount; ++column) {
         if (auto& value = stored.values[std::size_t(column)])

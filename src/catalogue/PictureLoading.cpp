@@ -4,6 +4,7 @@
 #include "catalogue/CharacteristicModel.h"
 #include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
+#include "core/UndoSteps.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/files/FolderListing.h"
@@ -16,6 +17,8 @@
 namespace {
 
 using GeneralModule::AlbumDatabase;
+using GeneralModule::StepCounts;
+using GeneralModule::UndoStep;
 
 constexpr int filesPerLook = 1000; // between two checks that the folder still exists
 
@@ -104,6 +107,7 @@ int LoadPictures(const QString& folder, const QStringList& names, const LoadingP
 
 int LoadPictures(const QMap<QString, QStringList>& namesByFolder, const LoadingProgress& progress)
 {
+    const UndoStep step(UndoStep::tr("Load Pictures"), StepCounts::Shown);
     Loader loader;
     int done = 0;
     for (auto folder = namesByFolder.begin(); folder != namesByFolder.end(); ++folder) {

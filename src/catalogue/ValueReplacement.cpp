@@ -4,6 +4,7 @@
 #include "catalogue/CharacteristicModel.h"
 #include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/text/LikePattern.h"
 
@@ -13,6 +14,8 @@
 namespace {
 
 using GeneralModule::AlbumDatabase;
+using GeneralModule::StepCounts;
+using GeneralModule::UndoStep;
 
 constexpr QChar separator = u';';
 const QString negation = QStringLiteral("!");
@@ -150,6 +153,7 @@ std::optional<ReplacedValues> ReplaceValue(int column, const QString& old,
                                            const QString& replacement,
                                            const ReplacementProgress& progress)
 {
+    const UndoStep step(UndoStep::tr("Replace %1 by %2").arg(old, replacement), StepCounts::Shown);
     try {
         Replacement work(column, old, replacement, progress);
         const ReplacedValues done{work.InPictures(), work.InParagraphs()};

@@ -5,6 +5,7 @@
 #include "catalogue/ColumnTitles.h"
 #include "catalogue/DescriptionFields.h"
 #include "catalogue/LastDescribed.h"
+#include "catalogue/UndoWindow.h"
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "core/Album.h"
@@ -66,6 +67,8 @@ void frmEditImage::ConnectControls()
     ui_->cmdNextImage->setShortcut(Qt::ALT | Qt::Key_N);
     ui_->cmdPreviousImage->setShortcut(Qt::ALT | Qt::Key_P);
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
+    new UndoWindow(
+        this, [this] { ShowAfterUndo(); }, [this] { return SaveForUndo(); });
 }
 
 // In a read-only album the picture's description can still be read.
@@ -245,7 +248,9 @@ void frmEditImage::cmdDelete_Click()
         {.text = tr("Do you also want to delete the file %1 ?").arg(CurrentImage),
          .icon = Dialogs::Icon::Question,
          .buttons = Dialogs::Buttons::YesNoCancel,
-         .defaultAnswer = Dialogs::Answer::Cancel});
+         .defaultAnswer = Dialogs::Answer::Cancel,
+         .note = tr("The file goes to the desktop's trash, or where there is none, it is deleted "
+                    "for good. Undo brings back the album's entry, not the file.")});
     if (answer == Dialogs::Answer::Cancel)
         return;
     const QString trouble = TakeOutPicture(CurrentImage, answer == Dialogs::Answer::Yes);
@@ -350,6 +355,26 @@ void frmEditImage::reject()
 {
     if (SaveBeforeLeaving())
         QDialog::reject();
+}
+
+bool frmEditImage::SaveForUndo()
+{
+    return !isKnown_ || GetRecord() == shown_ || SavePicture();
+}
+
+void frmEditImage::ShowAfterUndo()
+{
+    TakenOut.removeIf([](const QString& file) { return ReadPicture(file).has_value(); });
+    const std::optional<Picture> record = ReadPicture(CurrentImage);
+    isKnown_ = record.has_value();
+    if (!isKnown_) {
+        TakenOut.append(CurrentImage);
+        close();
+        return;
+    }
+    DisplayCaracteristicNames();
+    ShowStored(*record);
+    ShowPlace();
 }
 
 bool frmEditImage::SaveBeforeLeaving()

@@ -75,6 +75,8 @@ private:
     bool SavePicture();
     void GoToNextPicture();
     bool SaveBeforeLeaving();
+    bool SaveForUndo();
+    void ShowAfterUndo();
 
     std::unique_ptr<Ui::frmEditImage> ui_;
     ValueBoxes* boxes_;

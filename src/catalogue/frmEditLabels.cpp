@@ -3,8 +3,10 @@
 #include "ui_frmEditLabels.h"
 
 #include "catalogue/CharacteristicModel.h"
+#include "catalogue/UndoWindow.h"
 #include "core/EditConflict.h"
 #include "core/Parameters.h"
+#include "core/UndoSteps.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ThemedIcon.h"
 #include "platform/widgets/WindowSize.h"
@@ -31,6 +33,8 @@ frmEditLabels::frmEditLabels(QWidget* parent)
     ui_->cmdPropose->setIcon(ThemedIcon(QStringLiteral("rename")));
     connect(ui_->cmdExit, &QPushButton::clicked, this,
             Guarded(this, &frmEditLabels::cmdExit_Click));
+    new UndoWindow(
+        this, [this] { ShowAfterUndo(); }, [this] { return SaveLabels(); });
     OfferStarters();
     RunGuarded([this] { Form_Load(); });
 }
@@ -116,15 +120,29 @@ bool frmEditLabels::SettleConflicts(std::vector<Label>& edited)
     return choice != ConflictChoice::Stay;
 }
 
-void frmEditLabels::cmdExit_Click()
+bool frmEditLabels::SaveLabels()
 {
     std::vector<Label> edited = EditedLabels();
     if (!SettleConflicts(edited))
-        return;
+        return false;
     QMap<QString, QString> labels;
     for (const Label& label : edited)
         labels.insert(label.parameter, label.box->text());
-    if (!labels.isEmpty())
+    if (!labels.isEmpty()) {
+        const UndoStep step(UndoStep::tr("Edit Labels"));
         SetParams(labels);
-    close();
+    }
+    return true;
+}
+
+void frmEditLabels::ShowAfterUndo()
+{
+    labels_.clear();
+    Form_Load();
+}
+
+void frmEditLabels::cmdExit_Click()
+{
+    if (SaveLabels())
+        close();
 }

@@ -40,6 +40,9 @@ private:
     void OfferStarters();
     void Propose(const LabelSet& labels);
     void cmdExit_Click();
+    // False, with nothing saved, when the user wants to stay.
+    bool SaveLabels();
+    void ShowAfterUndo();
 
     QLineEdit* txtCaract(int group) const;
     QLineEdit* txtCar(int column) const;

@@ -3,6 +3,7 @@
 #include "ui_frmEditTables.h"
 
 #include "catalogue/CharacteristicModel.h"
+#include "catalogue/UndoWindow.h"
 #include "catalogue/ValueEntry.h"
 #include "catalogue/ValueReplacement.h"
 #include "catalogue/frmEditLabels.h"
@@ -86,6 +87,7 @@ void frmEditTables::ConnectControls()
                              {ui_->cmdDelete, "delete", &Form::cmdDelete_Click},
                              {ui_->cmdEditLabels, "edit-paragraph", &Form::cmdEditLabels_Click},
                          });
+    new UndoWindow(this, [this] { ShowTable(true); });
     ui_->cmdClose->setIcon(ThemedIcon(QStringLiteral("exit")));
     connect(ui_->cmdClose, &QPushButton::clicked, this, &QDialog::close);
     connect(ui_->chkSorted, &QCheckBox::toggled, this, Guarded(this, &Form::chkSorted_Click));

@@ -4,6 +4,7 @@
 
 #include "catalogue/PictureCards.h"
 #include "catalogue/PictureLoading.h"
+#include "catalogue/UndoWindow.h"
 #include "catalogue/frmTakeFromFiles.h"
 #include "core/Settings.h"
 #include "platform/dialogs/Dialogs.h"
@@ -46,6 +47,11 @@ frmLoadFiles::frmLoadFiles(QWidget* parent)
     ui_->cmdDescribeNew->hide();
     ui_->cmdLoadMarked->setEnabled(false);
     RunGuarded([this] { Form_Load(); });
+    new UndoWindow(this, [this] {
+        ui_->lblDetails->hide();
+        ui_->cmdDescribeNew->hide();
+        ShowCount();
+    });
     chooser_->Connect(this, &frmLoadFiles::drvPicturesToLoad_Change,
                       &frmLoadFiles::dirPicturesToLoad_Change);
     connect(ui_->txtPictureTypes, &QLineEdit::textChanged, this,

@@ -3,6 +3,7 @@
 #include "ui_frmMissingPictures.h"
 
 #include "catalogue/FoundModel.h"
+#include "catalogue/UndoWindow.h"
 #include "core/Album.h"
 #include "core/Settings.h"
 #include "platform/dialogs/Dialogs.h"
@@ -60,6 +61,7 @@ void frmMissingPictures::ConnectControls()
                                    {ui_->cmdShow, "", &Form::cmdShow_Click},
                                    {ui_->cmdExit, "exit", &Form::cmdExit_Click},
                                });
+    new UndoWindow(this, [this] { Form_Load(); });
     connect(ui_->txtFolder, &QLineEdit::textChanged, this, [this] { RefreshState(); });
     connect(ui_->txtFolder, &QLineEdit::returnPressed, ui_->cmdSearch, &QPushButton::click);
     connect(ui_->treFound->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

@@ -3,6 +3,7 @@
 #include "ui_frmReloadPictures.h"
 
 #include "catalogue/MovedPictures.h"
+#include "catalogue/UndoWindow.h"
 #include "catalogue/frmMissingPictures.h"
 #include "core/AlbumPaths.h"
 #include "platform/dialogs/Dialogs.h"
@@ -37,6 +38,10 @@ frmReloadPictures::frmReloadPictures(QWidget* parent)
     connect(ui_->lstOldReferences, &QListWidget::currentRowChanged, this,
             Guarded(this, &frmReloadPictures::lstOldReferences_Click));
     RunGuarded([this] { Form_Load(); });
+    new UndoWindow(this, [this] {
+        ShowFolders();
+        ui_->lstOldReferences->setCurrentRow(0);
+    });
     chooser_->Connect(this, &frmReloadPictures::drvNewReferences_Change,
                       &frmReloadPictures::dirNewReferences_Change);
     connect(ui_->cmdReloadPictures, &QPushButton::clicked, this,

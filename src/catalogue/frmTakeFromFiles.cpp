@@ -4,7 +4,9 @@
 
 #include "catalogue/ChangeText.h"
 #include "catalogue/ColumnTitles.h"
+#include "catalogue/UndoWindow.h"
 #include "core/Album.h"
+#include "core/UndoSteps.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/metadata/MetadataStream.h"
@@ -14,6 +16,8 @@
 #include "platform/widgets/WindowSize.h"
 
 #include <QHeaderView>
+
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -41,6 +45,7 @@ frmTakeFromFiles::frmTakeFromFiles(QWidget* parent)
                                    {ui_->cmdTake, "index-pictures", &Form::cmdTake_Click},
                                    {ui_->cmdExit, "exit", &Form::cmdExit_Click},
                                });
+    new UndoWindow(this);
     const auto show = Guarded(this, &Form::ShowPlan);
     connect(ui_->chkCaptions, &QCheckBox::toggled, this, show);
     for (QComboBox* box : {ui_->cboKeywords, ui_->cboDatePart, ui_->cboDateColumn})
@@ -186,6 +191,7 @@ void frmTakeFromFiles::cmdStop_Click()
 void frmTakeFromFiles::cmdTake_Click()
 {
     const BusyPointer busy;
+    const UndoStep step(UndoStep::tr("Take from Files"), GeneralModule::StepCounts::Shown);
     const auto result = ApplyChanges(plan_.changes);
     if (!result)
         return;

@@ -7,6 +7,7 @@
 #include "core/RecentAlbums.h"
 #include "core/Settings.h"
 #include "core/StateKeeping.h"
+#include "core/UndoHistory.h"
 #include "core/oldalbum/OldAlbum.h"
 #include "platform/data/DatabaseFile.h"
 #include "platform/data/WriteBatch.h"
@@ -88,6 +89,7 @@ std::unique_ptr<Album> OpenCleaned(const QString& path, const QString& password)
     RunLong(AlbumTexts::tr("The album is being opened..."), false, [&](const auto&) {
         album = std::make_unique<Album>(path, password);
         trouble = CleanUpParagraphs(*album);
+        album->history->Begin();
     });
     if (!trouble.isEmpty())
         Tell(trouble, Dialogs::Icon::Warning);

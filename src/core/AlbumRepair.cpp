@@ -6,6 +6,7 @@
 #include "core/Chain.h"
 #include "core/ChainMending.h"
 #include "core/Renumbering.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
 
 #include <QDir>
@@ -220,6 +221,7 @@ namespace GeneralModule {
 // have begun.
 RepairReport RepairAlbum(const CopyProgress& progress)
 {
+    const UndoStep step(UndoStep::tr("Repair Album"));
     {
         const WriteBatch trial(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
         const RepairReport report = Repair(OpenedAlbum()).Run();

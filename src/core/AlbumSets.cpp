@@ -4,6 +4,7 @@
 #include "core/Columns.h"
 #include "core/EarlierStates.h"
 #include "core/StateKeeping.h"
+#include "core/UndoHistory.h"
 
 #include <QCoreApplication>
 
@@ -47,6 +48,7 @@ namespace GeneralModule {
 Album::Album(const QString& path, const QString& password)
     : database(Database::Open(
           path, password, IsEarlierState(path) ? Database::Use::Reading : Database::Use::Changing)),
+      history(std::make_shared<UndoHistory>(database)),
       params(database, QStringLiteral("Params")),
       paragraphs(database, QStringLiteral("Paragraph")),
       images(database, QStringLiteral("Image")),

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class UndoHistory;
+
 // The tables of the open album, for routines that read and write it. Windows do not include this:
 // they call those routines.
 namespace GeneralModule {
@@ -17,6 +19,7 @@ struct Album
     Album(const QString& path, const QString& password);
 
     std::shared_ptr<Database> database;
+    std::shared_ptr<UndoHistory> history;
     RecordSet params;
     RecordSet paragraphs;
     RecordSet images;

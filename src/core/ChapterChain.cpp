@@ -4,6 +4,7 @@
 #include "core/AlbumChains.h"
 #include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/text/LikePattern.h"
 
@@ -57,6 +58,7 @@ bool MoveChapter(const QString& name, ChainDirection direction)
     if (upper == 0 || lower == 0 || ChapterLeadingTo(lower) != upper)
         return false;
     const qint32 before = ChapterLeadingTo(upper);
+    const UndoStep step(StepAbout(UndoStep::tr("Move Chapter"), name));
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     ChainOfChapters().Exchange(before, upper, lower);
     batch.Finish();
@@ -107,6 +109,11 @@ qint32 FirstChapter()
     return ChapterSet->NoMatch() ? 0 : ChapterSet->Number(u"Id");
 }
 
+bool HasChapter(qint32 chapter)
+{
+    return FindById(*ChapterSet, chapter);
+}
+
 qint32 ChapterLeadingTo(qint32 chapter)
 {
     const Chain chain = ChainOfChapters();
@@ -151,6 +158,7 @@ qint32 CreateChapter(const QString& name, const QString& after)
         selected = ChapterSet->Number(u"Id");
         next = ChapterSet->Number(u"NextChapter");
     }
+    const UndoStep step(StepAbout(UndoStep::tr("Create Chapter"), name));
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     ChapterSet->AddNew();
     ChapterSet->Set(u"Name", name);
@@ -168,6 +176,7 @@ qint32 CreateChapter(const QString& name, const QString& after)
 
 bool RenameChapter(qint32 chapter, const QString& newName)
 {
+    const UndoStep step(StepAbout(UndoStep::tr("Rename Chapter to"), newName));
     if (!FindById(*ChapterSet, chapter))
         return false;
     ChapterSet->Edit();
@@ -182,6 +191,7 @@ ChapterDeletion DeleteChapter(const QString& name)
     const std::optional<qint32> gone = FindChapter(name);
     if (!gone)
         return ChapterDeletion::NotFound;
+    const UndoStep step(StepAbout(UndoStep::tr("Delete Chapter"), name));
     const qint32 previous = ChapterLeadingTo(*gone);
     const qint32 next = NextChapter(*gone);
     if (!FindById(*ChapterSet, *gone))
@@ -219,10 +229,11 @@ bool MoveChapterBy(const QString& name, int places)
     const int target = std::clamp(place + places, 0, int(order.size()) - 1);
     if (target == place)
         return false;
-    const int step = target > place ? 1 : -1;
+    const int way = target > place ? 1 : -1;
+    const UndoStep step(StepAbout(UndoStep::tr("Move Chapter"), name));
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
-    for (; place != target; place += step) {
-        const auto upper = std::size_t(std::min(place, place + step));
+    for (; place != target; place += way) {
+        const auto upper = std::size_t(std::min(place, place + way));
         const qint32 before = upper == 0 ? 0 : order[upper - 1];
         chain.Exchange(before, order[upper], order[upper + 1]);
         std::swap(order[upper], order[upper + 1]);

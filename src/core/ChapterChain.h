@@ -49,6 +49,9 @@ bool RenameChapter(qint32 chapter, const QString& newName);
 // none.
 qint32 FirstChapter();
 
+// Whether the album has it. Moves ChapterSet there.
+bool HasChapter(qint32 chapter);
+
 // The chapter before it in reading order, 0 for the first one. That is the chapter whose link leads
 // here, not always the one in its own PreviousChapter, which counts only if the reading order does
 // not reach the chapter.

@@ -6,6 +6,7 @@
 #include "core/EarlierStates.h"
 #include "core/StateKeeping.h"
 #include "core/StateReturn.h"
+#include "core/UndoSteps.h"
 #include "platform/data/Identifiers.h"
 #include "platform/data/TableLayout.h"
 #include "platform/data/WriteBatch.h"
@@ -207,6 +208,7 @@ ChapterReturnReport TakeBackChapters(const OpenState& state, const std::vector<q
                                      ChapterPlace place)
 {
     KeepState(true);
+    const UndoStep step(UndoStep::tr("Take Back Chapters"), StepCounts::Shown);
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     ChapterReturn work(state, place);
     for (const StateChapter& chapter : state.Chapters())

@@ -5,6 +5,7 @@
 #include "core/AlbumSets.h"
 #include "core/Columns.h"
 #include "core/TextRoutines.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
 #include "platform/shell/ProgramFolder.h"
 
@@ -29,6 +30,7 @@ QString GetParam(const QString& name)
 
 void SetParam(const QString& name, const QString& value)
 {
+    const UndoStep step(UndoStep::tr("Change Settings"));
     ParamsSet->FindFirst(QStringLiteral("[Param] = ") + Quoted(name));
     if (ParamsSet->NoMatch()) {
         ParamsSet->AddNew();
@@ -42,6 +44,7 @@ void SetParam(const QString& name, const QString& value)
 
 void SetParams(const QMap<QString, QString>& values)
 {
+    const UndoStep step(UndoStep::tr("Change Settings"));
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     for (auto value = values.begin(); value != values.end(); ++value)
         SetParam(value.key(), value.value());
@@ -84,8 +87,10 @@ qint16 GetTimerDelay()
 
 void SaveTimerDelay(qint16 milliseconds)
 {
-    if (!IsAlbumReadOnly())
-        SetParam(timerDelay, QString::number(milliseconds));
+    if (IsAlbumReadOnly())
+        return;
+    const UndoStep step(UndoStep::tr("Set Delay of Autoview"));
+    SetParam(timerDelay, QString::number(milliseconds));
 }
 
 QString GetLastFileSelection()
@@ -96,8 +101,10 @@ QString GetLastFileSelection()
 
 void SetLastFileSelection(const QString& selection)
 {
-    if (!IsAlbumReadOnly())
-        SetParam(lastFileSelection, selection);
+    if (IsAlbumReadOnly())
+        return;
+    const UndoStep step(UndoStep::tr("Choose Folder"));
+    SetParam(lastFileSelection, selection);
 }
 
 } // namespace GeneralModule

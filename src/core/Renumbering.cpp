@@ -77,7 +77,7 @@ int Renumber(sqlite3* engine, const QByteArray& table, std::span<const LinkField
     NewIdentifiers identifiers(engine, table);
     for (qint64& number : renumbered)
         number = identifiers.Next();
-    Write(engine, table, "rowid", renumbered);
+    Write(engine, table, "Id", renumbered); // not "rowid": triggers go by the field's name
     ResetLastNumber(engine, table);
     for (const LinkField& link : links)
         MendLinks(engine, link, renumbered);

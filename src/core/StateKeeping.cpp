@@ -204,7 +204,7 @@ void KeepStatesOf(Database& database)
         const QDate today = QDate::currentDate();
         if (keptOn == today)
             return;
-        const bool isAlone = database.IsOutsideTransaction();
+        const bool isAlone = !database.IsInTransaction();
         if (isAlone)
             database.Execute("BEGIN IMMEDIATE");
         KeepStateOfDay(database);

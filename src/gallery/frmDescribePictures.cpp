@@ -4,6 +4,7 @@
 
 #include "catalogue/LastDescribed.h"
 #include "catalogue/PictureCards.h"
+#include "catalogue/UndoWindow.h"
 #include "catalogue/frmEditTables.h"
 #include "core/Album.h"
 #include "gallery/GroupChoice.h"
@@ -62,6 +63,10 @@ void frmDescribePictures::ConnectControls()
     connect(ui_->sheet, &ContactSheet::SelectionChanged, this, Guarded(this, &Form::ChoiceChanged));
     connect(ui_->sheet, &ContactSheet::CurrentChanged, this, Guarded(this, &Form::ChoiceChanged));
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
+    new UndoWindow(this, [this] {
+        ui_->lblFeedback->clear();
+        ShowAlbumAgain();
+    });
 }
 
 void frmDescribePictures::ConnectFields()
@@ -99,6 +104,20 @@ void frmDescribePictures::ShowTables()
     ui_->descriptionFields->ShowLabelsAndValues();
     for (int column = 0; column < columnCount; ++column)
         allowed_[std::size_t(column)] = ValuesOf(column);
+}
+
+// What was typed and not applied stays.
+void frmDescribePictures::ShowAlbumAgain()
+{
+    ValueBoxes& boxes = ui_->descriptionFields->GetBoxes();
+    const ValueBoxes::Values typed = boxes.GetValues();
+    ShowTables();
+    for (int column = 0; column < columnCount; ++column) {
+        if (isTouched_[std::size_t(column)])
+            boxes.GetBox(column)->setEditText(typed[std::size_t(column)]);
+    }
+    ui_->sheet->MarksChanged();
+    ChoiceChanged();
 }
 
 void frmDescribePictures::contextMenuEvent(QContextMenuEvent* event)
@@ -292,15 +311,7 @@ void frmDescribePictures::cmdEditTables_Click()
     const QString file =
         chosen_.empty() ? QString() : ReadPictureCards({&chosen_.back(), 1}).front().file;
     frmEditTables(file, this).exec();
-    ValueBoxes& boxes = ui_->descriptionFields->GetBoxes();
-    const ValueBoxes::Values typed = boxes.GetValues();
-    ShowTables();
-    for (int column = 0; column < columnCount; ++column) {
-        if (isTouched_[std::size_t(column)])
-            boxes.GetBox(column)->setEditText(typed[std::size_t(column)]);
-    }
-    ui_->sheet->MarksChanged();
-    ChoiceChanged();
+    ShowAlbumAgain();
 }
 
 void frmDescribePictures::cmdExit_Click()

@@ -38,6 +38,7 @@ private:
     void ConnectFields();
     void Form_Load();
     void ShowTables();
+    void ShowAlbumAgain();
     bool Form_KeyDown(const QKeyEvent& key);
     void RefreshState();
 

@@ -4,6 +4,7 @@
 
 #include "catalogue/MovedPictures.h"
 #include "catalogue/PictureCards.h"
+#include "catalogue/UndoWindow.h"
 #include "catalogue/frmEditImage.h"
 #include "catalogue/frmTakeFromFiles.h"
 #include "core/Album.h"
@@ -101,6 +102,10 @@ void frmFindPictures::ConnectControls()
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, ui_->txtWords, [this] {
         ui_->txtWords->setFocus();
         ui_->txtWords->selectAll();
+    });
+    new UndoWindow(this, [this] {
+        linked_ = CurrentParagraph > 0 ? LinkedFiles(CurrentParagraph) : QSet<QString>();
+        SearchAgain();
     });
     ui_->txtWords->installEventFilter(this);
     ui_->txtFolder->installEventFilter(this);

@@ -3,6 +3,7 @@
 #include "ui_frmLinkedPictures.h"
 
 #include "catalogue/PictureCards.h"
+#include "catalogue/UndoWindow.h"
 #include "core/Album.h"
 #include "gallery/LinkedPicturesKeys.h"
 #include "platform/dialogs/Guard.h"
@@ -32,6 +33,10 @@ frmLinkedPictures::frmLinkedPictures(QWidget* parent)
     ConnectControls();
     ConnectEntries();
     new WindowKeys(this, LinkedPicturesKeys());
+    new UndoWindow(this, [this] {
+        ui_->sheet->MarksChanged();
+        Form_Load();
+    });
 }
 
 frmLinkedPictures::~frmLinkedPictures() = default;

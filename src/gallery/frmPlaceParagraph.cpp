@@ -2,6 +2,7 @@
 #include "gallery/frmPlaceParagraph.h"
 #include "ui_frmPlaceParagraph.h"
 
+#include "catalogue/UndoWindow.h"
 #include "core/ChapterChain.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/FormButtons.h"
@@ -23,6 +24,7 @@ frmPlaceParagraph::frmPlaceParagraph(QWidget* parent)
     ConnectButtons<Form>(this,
                          {{ui_->cmdMakeParagraph, "chapter-create", &Form::cmdMakeParagraph_Click},
                           {ui_->cmdCancel, "", &Form::cmdCancel_Click}});
+    new UndoWindow(this, [this] { Form_Load(); });
     connect(ui_->cboChapter, &QComboBox::currentIndexChanged, this,
             Guarded(this, &Form::cboChapter_Click));
     connect(ui_->lstParagraph, &QListWidget::itemDoubleClicked, this,

@@ -6,12 +6,15 @@
 #include "catalogue/PictureLoading.h"
 #include "core/Album.h"
 #include "core/AlbumPaths.h"
+#include "core/UndoSteps.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/files/FolderListing.h"
 #include "platform/widgets/BusyPointer.h"
 #include "story/ParagraphLinks.h"
 
 #include <QCoreApplication>
+
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -41,8 +44,9 @@ QStringList PathsOf(const DroppedFiles& files)
 QStringList Link(qint32 paragraph, const DroppedFiles& files)
 {
     const BusyPointer busy;
-    LoadPictures(files.pictures, [](int) { return true; });
     const QStringList paths = PathsOf(files);
+    const UndoStep step(UndoStep::tr("Link %n Pictures", nullptr, int(paths.size())));
+    LoadPictures(files.pictures, [](int) { return true; });
     SetLinked(paragraph, paths, true);
     return paths;
 }

@@ -3,6 +3,7 @@
 
 #include "core/AlbumChains.h"
 #include "core/AlbumSets.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
 
 #include <QCoreApplication>
@@ -103,6 +104,7 @@ void SaveParagraph(const ParagraphPlace& place, const ParagraphDraft& draft)
 {
     if (place.paragraph <= 0)
         return;
+    const UndoStep step(StepAbout(UndoStep::tr("Save Paragraph"), draft.edited.text));
     RequireParagraph(place.paragraph);
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     const ParagraphContent stored = LoadParagraph(place.paragraph);
@@ -142,6 +144,7 @@ void AddParagraph(ParagraphPlace& place)
 
 void CreateFirstParagraph(ParagraphPlace& place)
 {
+    const UndoStep step(UndoStep::tr("Create Paragraph"));
     if (!FindById(*ChapterSet, place.chapter))
         return;
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
@@ -156,6 +159,7 @@ void CreateFirstParagraph(ParagraphPlace& place)
 
 ParagraphContent CreateNextParagraph(ParagraphPlace& place, const ParagraphDraft& draft)
 {
+    const UndoStep step(StepAbout(UndoStep::tr("Create Paragraph after"), draft.edited.text));
     const CarValues inherited = LoadParagraph(place.paragraph).values;
     const qint32 old = place.paragraph;
     const qint32 oldNext = LinkIn(*ParagraphSet, u"NextParagraph");
@@ -175,8 +179,9 @@ ParagraphContent CreateNextParagraph(ParagraphPlace& place, const ParagraphDraft
 
 void DeleteParagraph(ParagraphPlace& place)
 {
-    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     const ParagraphContent content = LoadParagraph(place.paragraph);
+    const UndoStep step(StepAbout(UndoStep::tr("Delete Paragraph"), content.text));
+    WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     SaveParagraph(place, {content, content}); // its neighbours may not link to it yet
     RequireParagraph(place.paragraph);
     const Neighbours stored = CurrentNeighbours();
@@ -189,6 +194,33 @@ void DeleteParagraph(ParagraphPlace& place)
         ReplaceFirstParagraph(place.chapter, place.paragraph, next);
     batch.Finish();
     place.paragraph = next > 0 ? next : previous;
+}
+
+std::vector<qint32> NearbyParagraphs(const ParagraphPlace& place)
+{
+    constexpr std::size_t before = 50;
+    const Chain chain = ChainOfParagraphs();
+    std::vector<qint32> nearby;
+    chain.Walk(chain.Neighbour(place.paragraph, ChainDirection::Previous), ChainDirection::Previous,
+               [&](qint32 paragraph) {
+                   nearby.push_back(paragraph);
+                   return nearby.size() < before;
+               });
+    nearby.push_back(chain.Neighbour(place.paragraph, ChainDirection::Next));
+    return nearby;
+}
+
+ParagraphPlace NearestPlace(const ParagraphPlace& place, const std::vector<qint32>& nearby)
+{
+    std::vector<qint32> candidates{place.paragraph};
+    candidates.insert(candidates.end(), nearby.begin(), nearby.end());
+    candidates.push_back(FirstParagraphOf(place.chapter));
+    for (const qint32 candidate : candidates) {
+        const std::optional<Paragraph> found = ReadParagraph(candidate);
+        if (found && FindById(*ChapterSet, found->chapter))
+            return {found->chapter, candidate};
+    }
+    return {place.chapter, 0};
 }
 
 void SaveAndStep(ParagraphPlace& place, const ParagraphDraft& draft, ChainStep step)

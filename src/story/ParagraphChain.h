@@ -47,6 +47,13 @@ ParagraphContent CreateNextParagraph(ParagraphPlace& place, const ParagraphDraft
 // picture links stay in the album; its identifier is not used again.
 void DeleteParagraph(ParagraphPlace& place);
 
+// The paragraphs to go to instead of that one, the nearest first: some before it, then the one
+// after it.
+std::vector<qint32> NearbyParagraphs(const ParagraphPlace& place);
+// The place's paragraph in whatever chapter it is now, or the first one nearby that is there, or
+// the first one of the chapter; a place without a paragraph when there is none.
+ParagraphPlace NearestPlace(const ParagraphPlace& place, const std::vector<qint32>& nearby);
+
 enum class ChainStep { First, Previous, Next, Last };
 // Saves and goes there. Next stays on the last paragraph, Previous on the first.
 void SaveAndStep(ParagraphPlace& place, const ParagraphDraft& draft, ChainStep step);

@@ -26,6 +26,14 @@ ParagraphDraft ParagraphEdit::GetDraft() const
     return draft;
 }
 
+bool ParagraphEdit::IsEdited() const
+{
+    if (!isLoaded_)
+        return false;
+    const ParagraphDraft draft = GetDraft();
+    return draft.edited != draft.shown;
+}
+
 bool ParagraphEdit::SettleConflict(qint32 paragraph)
 {
     const ParagraphDraft draft = GetDraft();

@@ -36,6 +36,9 @@ public:
     // it.
     ParagraphDraft GetDraft() const;
 
+    // Whether the user has changed something that is not saved.
+    bool IsEdited() const;
+
     // Asks about what another window has changed too. False when the user wants to stay: then do
     // not go on with the intended action.
     bool SettleConflict(qint32 paragraph);

@@ -2,8 +2,11 @@
 #include "story/ParagraphInsertion.h"
 
 #include "core/AlbumSets.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
 #include "story/ParagraphMoves.h"
+
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -18,6 +21,7 @@ ParagraphContent CreateAfter(ParagraphPlace& place)
 
 ParagraphPlace InsertParagraph(qint32 chapter, qint32 after, const CarValues& filter)
 {
+    const UndoStep step(UndoStep::tr("Create Paragraph"));
     WriteBatch batch(GeneralModule::AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     ParagraphPlace place{chapter, after};
     const std::vector<ParagraphLine> present = ListParagraphs(chapter);

@@ -3,12 +3,14 @@
 
 #include "core/AlbumSets.h"
 #include "core/TextRoutines.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
 
 #include <algorithm>
 
 using GeneralModule::AlbumDatabase;
 using GeneralModule::LinkedImagesSet;
+using GeneralModule::UndoStep;
 
 namespace {
 
@@ -41,6 +43,12 @@ QStringList WithMoved(const QStringList& links, const QSet<QString>& files, cons
     return others.first(place) + moved + others.sliced(place);
 }
 
+QString NameOfLinking(int pictures, bool linked)
+{
+    return linked ? UndoStep::tr("Link %n Pictures", nullptr, pictures)
+                  : UndoStep::tr("Unlink %n Pictures", nullptr, pictures);
+}
+
 } // namespace
 
 bool IsLinked(qint32 paragraph, const QString& file)
@@ -69,6 +77,7 @@ QStringList LinksInOrder(qint32 paragraph)
 
 void SetLinked(qint32 paragraph, const QString& file, bool linked)
 {
+    const UndoStep step(NameOfLinking(1, linked));
     if (linked && !IsLinked(paragraph, file))
         AddLink(paragraph, file);
     // An album from elsewhere may hold the same link twice.
@@ -79,6 +88,7 @@ void SetLinked(qint32 paragraph, const QString& file, bool linked)
 void SetLinked(qint32 paragraph, const QStringList& files, bool linked)
 {
     const QSet<QString> held = LinkedFiles(paragraph);
+    const UndoStep step(NameOfLinking(int(files.size()), linked));
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     for (const QString& file : files) {
         if (held.contains(file) != linked)
@@ -91,6 +101,7 @@ void MoveLinks(qint32 paragraph, const QSet<QString>& files, const QString& befo
 {
     const QStringList former = LinksInOrder(paragraph);
     const QStringList order = WithMoved(former, files, before);
+    const UndoStep step(UndoStep::tr("Order Linked Pictures"));
     const auto [firstFormer, firstNew] = std::mismatch(former.begin(), former.end(), order.begin());
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     std::for_each(firstFormer, former.end(),

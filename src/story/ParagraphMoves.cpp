@@ -4,6 +4,7 @@
 #include "core/AlbumChains.h"
 #include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
+#include "core/UndoSteps.h"
 #include "platform/data/WriteBatch.h"
 #include "story/ParagraphMarkers.h"
 
@@ -84,6 +85,7 @@ bool MoveToChapter(ParagraphPlace& place, ChainDirection direction)
 
 bool MoveParagraph(ParagraphPlace& place, ChainDirection direction)
 {
+    const UndoStep step(UndoStep::tr("Move Paragraph"));
     const Chain chain = ChainOfParagraphs();
     if (chain.Find(place.paragraph) == 0)
         return false;
@@ -113,6 +115,7 @@ bool MoveParagraphBy(ParagraphPlace& place, int rows)
 {
     const ChainDirection direction = rows > 0 ? ChainDirection::Next : ChainDirection::Previous;
     ParagraphPlace moved = place;
+    const UndoStep step(UndoStep::tr("Move Paragraph"));
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     int done = 0;
     while (done < std::abs(rows) && MoveParagraph(moved, direction))

@@ -2,6 +2,7 @@
 #include "story/frmEditParagraph.h"
 #include "ui_frmEditParagraph.h"
 
+#include "catalogue/UndoWindow.h"
 #include "catalogue/frmEditLabels.h"
 #include "core/ChapterChain.h"
 #include "platform/dialogs/Guard.h"
@@ -105,6 +106,8 @@ void frmEditParagraph::ConnectControls()
     connect(ui_->lblText, &ClickLabel::Clicked, this,
             Guarded(this, &frmEditParagraph::lblText_Click));
     ui_->txtParagraphPreview->installEventFilter(this);
+    new UndoWindow(
+        this, [this] { ShowAfterUndo(); }, [this] { return SaveForUndo(); });
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
 }
 
@@ -367,6 +370,24 @@ QString frmEditParagraph::Describe(const ParagraphContent& content) const
 bool frmEditParagraph::SaveParagraph()
 {
     return edit_.Save(GetPlace());
+}
+
+// What was only loaded is not written: links that a save would add are no step of the user.
+bool frmEditParagraph::SaveForUndo()
+{
+    nearby_ = NearbyParagraphs(GetPlace());
+    return !edit_.IsEdited() || SaveParagraph();
+}
+
+void frmEditParagraph::ShowAfterUndo()
+{
+    const ParagraphPlace place = NearestPlace(GetPlace(), nearby_);
+    if (place.paragraph != CurrentParagraph)
+        return GoToOrLeave([&place] { return place; });
+    CurrentChapter = place.chapter;
+    ReadAgain();
+    if (isPreview_)
+        RefreshPictureList();
 }
 
 // Called however the window is left, by its frame too.

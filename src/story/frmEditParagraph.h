@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 class FilterCounting;
 class MarkerInsertion;
@@ -91,6 +92,8 @@ private:
     void EditPicture(const QString& file);
     void TakeDropped(const QList<QUrl>& urls);
     void ReadAgain();
+    bool SaveForUndo();
+    void ShowAfterUndo();
 
     std::unique_ptr<Ui::frmEditParagraph> ui_;
     ParagraphPreview* preview_;
@@ -98,5 +101,6 @@ private:
     FilterCounting* counting_;
     ParagraphEdit edit_; // loaded while the controls hold CurrentParagraph
     ChapterPlaces places_;
+    std::vector<qint32> nearby_; // where to go if the paragraph is gone after an undo
     bool isPreview_ = false;
 };

@@ -2,6 +2,7 @@
 #include "story/frmOrganizeParagraphs.h"
 #include "ui_frmOrganizeParagraphs.h"
 
+#include "catalogue/UndoWindow.h"
 #include "core/Album.h"
 #include "core/ChapterChain.h"
 #include "platform/dialogs/Guard.h"
@@ -40,6 +41,7 @@ frmOrganizeParagraphs::frmOrganizeParagraphs(QWidget* parent)
     ConnectEntries();
     MakeMenu();
     new WindowKeys(this, OrganizerKeys());
+    new UndoWindow(this, [this] { ShowAfterUndo(); });
 }
 
 frmOrganizeParagraphs::~frmOrganizeParagraphs() = default;
@@ -156,6 +158,16 @@ void frmOrganizeParagraphs::ShowPreviousChapter()
 void frmOrganizeParagraphs::ShowNextChapter()
 {
     ShowChapter(GeneralModule::NextChapter(CurrentChapter));
+}
+
+// The list follows its paragraph; a chapter that is gone gives way to the first one.
+void frmOrganizeParagraphs::ShowAfterUndo()
+{
+    const ParagraphPlace place = NearestPlace({CurrentChapter, CurrentParagraph}, {});
+    CurrentParagraph = place.paragraph;
+    CurrentChapter =
+        GeneralModule::HasChapter(place.chapter) ? place.chapter : GeneralModule::FirstChapter();
+    RefreshParagraphList();
 }
 
 void frmOrganizeParagraphs::ShowChapter(qint32 chapter)

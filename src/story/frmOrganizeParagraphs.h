@@ -44,6 +44,7 @@ private:
     void ShowPreviousChapter();
     void ShowNextChapter();
     void ShowChapter(qint32 chapter);
+    void ShowAfterUndo();
 
     void lstParagraph_Click();
     void lstParagraph_DblClick();

@@ -3,6 +3,7 @@
 
 #include "catalogue/frmEditImage.h"
 #include "core/Album.h"
+#include "core/ChapterChain.h"
 #include "core/LocalCopy.h"
 #include "platform/dialogs/Dialogs.h"
 #include "story/ParagraphChain.h"
@@ -66,6 +67,20 @@ void EditParagraph(StoryReader& reader, QWidget* window)
     editor.CurrentParagraph = reader.Position.paragraph;
     editor.exec();
     reader.GoTo({editor.CurrentChapter, editor.CurrentParagraph});
+}
+
+void ShowAfterUndo(StoryReader& reader)
+{
+    const auto pause = reader.GetAutoview().Pause();
+    if (reader.GetMode() == StoryMode::Selection)
+        return reader.DisplayAgain();
+    const ParagraphPlace place =
+        NearestPlace({reader.Position.chapter, reader.Position.paragraph}, {});
+    reader.Position = {place.chapter, place.paragraph};
+    if (GeneralModule::HasChapter(place.chapter))
+        reader.DisplayAgain();
+    else
+        reader.GoTo({place.chapter, 0}); // which ends it
 }
 
 void FindForReader(StoryReader& reader, QWidget* window)

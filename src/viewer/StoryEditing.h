@@ -13,6 +13,10 @@ class StoryReader;
 // follows it to where the user went. A selection has no paragraph to edit.
 void EditParagraph(StoryReader& reader, QWidget* window);
 
+// Shows what the album holds after an undo: the same page, else the nearest one; ends the reading
+// where the chapter is gone.
+void ShowAfterUndo(StoryReader& reader);
+
 // Opens the window that finds pictures, which can be linked to the reader's paragraph.
 void FindForReader(StoryReader& reader, QWidget* window);
 

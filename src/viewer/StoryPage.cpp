@@ -4,10 +4,10 @@
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/ElidedLabel.h"
 #include "platform/widgets/LiteralText.h"
+#include "platform/widgets/PassingNews.h"
 #include "viewer/LargePictureBox.h"
 #include "viewer/LegendArea.h"
 #include "viewer/PageFade.h"
-#include "viewer/PageNews.h"
 #include "viewer/ViewerFlags.h"
 
 #include <QContextMenuEvent>
@@ -38,7 +38,7 @@ StoryPage::StoryPage(QWidget* parent) : QWidget(parent)
     CreateNotice();
     CreatePlace();
     fade_ = new PageFade(this);
-    news_ = new PageNews(this);
+    news_ = new PassingNews(this);
 }
 
 void StoryPage::CreateBoxes()

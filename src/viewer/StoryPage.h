@@ -11,7 +11,7 @@
 class LargePictureBox;
 class LegendArea;
 class PageFade;
-class PageNews;
+class PassingNews;
 class PictureBox;
 class QLabel;
 
@@ -86,7 +86,7 @@ private:
     LegendArea* legend_ = nullptr;
     QLabel* lblNotice_ = nullptr;
     QLabel* lblPlace_ = nullptr;
-    PageNews* news_ = nullptr;
+    PassingNews* news_ = nullptr;
     PageFade* fade_ = nullptr;
     bool isDark_ = false;
     bool canTakeFocus_ = false; // the pictures

@@ -2,6 +2,7 @@
 #include "viewer/frmFullScreen.h"
 #include "ui_frmFullScreen.h"
 
+#include "catalogue/UndoWindow.h"
 #include "platform/widgets/IdlePointer.h"
 #include "platform/widgets/KeyPreview.h"
 #include "platform/widgets/SettledResize.h"
@@ -22,6 +23,7 @@ frmFullScreen::frmFullScreen(PageHost& viewer)
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
     new SettledResize(this, [this] { Form_Resize(); });
     new IdlePointer(this);
+    new UndoWindow(this); // the viewer shows the page again
 }
 
 frmFullScreen::~frmFullScreen() = default;

@@ -2,6 +2,7 @@
 #include "viewer/frmReelvane.h"
 #include "ui_frmReelvane.h"
 
+#include "catalogue/UndoWindow.h"
 #include "core/Album.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/KeyPreview.h"
@@ -84,6 +85,11 @@ void frmReelvane::ConnectControls()
     connect(&reader_.GetAutoview(), &Autoview::Switched, this, &frmReelvane::ShowAutoviewState);
     new KeyPreview(this, [this](QKeyEvent& key) { return Form_KeyDown(key); });
     new SettledResize(this, [this] { Form_Resize(); });
+    // Pictures outside the story that are being described stay until that is done.
+    new UndoWindow(this, [this] {
+        if (reader_.GetMode() != StoryMode::Selection || IsInFront())
+            ShowAfterUndo(reader_);
+    });
 }
 
 void frmReelvane::TakeClicksOf(StoryPage* page)

@@ -2,6 +2,7 @@
 #include "viewer/frmSelectImages.h"
 #include "ui_frmSelectImages.h"
 
+#include "catalogue/UndoWindow.h"
 #include "core/Parameters.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/files/FolderListing.h"
@@ -44,6 +45,7 @@ frmSelectImages::frmSelectImages(QWidget* parent)
     connect(ui_->cmdSelect, &QPushButton::clicked, this,
             Guarded(this, &frmSelectImages::cmdSelect_Click));
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmSelectImages::cmdCancel_Click);
+    new UndoWindow(this);
 }
 
 frmSelectImages::~frmSelectImages() = default;

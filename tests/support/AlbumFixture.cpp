@@ -20,7 +20,7 @@ World::World()
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, PathOf("settings"));
     qputenv("XDG_CACHE_HOME", PathOf("cache").toUtf8());
-    qputenv("XDG_DATA_HOME", PathOf("data").toUtf8());
+    qputenv("XDG_DATA_HOME", PathOf("data").toUtf8()); // holds the trash
     SeedRandom(1);
     AutoviewOn = false;
     PictureAtRandom = false;

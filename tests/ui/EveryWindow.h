@@ -25,19 +25,24 @@
 #include "ui/main/frmOpenChapter.h"
 #include "ui/main/frmRepairAlbum.h"
 #include "ui/main/frmTakeChapters.h"
+#include "ui/main/frmUndo.h"
 #include "viewer/frmFullScreen.h"
 #include "viewer/frmReelvane.h"
 #include "viewer/frmSelectImages.h"
 
 #include <array>
 
-inline constexpr std::array everyWindow{
-    "frmOpenChapter",        "frmReelvane",       "frmFullScreen",     "frmEditParagraph",
-    "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",     "frmEditLabels",
-    "frmLoadFiles",          "frmReloadPictures", "frmSelectImages",   "frmAbout",
-    "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures", "frmDescribePictures",
-    "frmTakeFromFiles",      "frmEarlierStates",  "frmTakeChapters",   "frmCheckAlbum",
-    "frmMissingPictures"};
+inline constexpr std::array everyWindow{"frmOpenChapter",        "frmReelvane",
+                                        "frmFullScreen",         "frmEditParagraph",
+                                        "frmOrganizeParagraphs", "frmEditImage",
+                                        "frmEditTables",         "frmEditLabels",
+                                        "frmLoadFiles",          "frmReloadPictures",
+                                        "frmSelectImages",       "frmAbout",
+                                        "frmRepairAlbum",        "frmFindPictures",
+                                        "frmLinkedPictures",     "frmDescribePictures",
+                                        "frmTakeFromFiles",      "frmEarlierStates",
+                                        "frmTakeChapters",       "frmCheckAlbum",
+                                        "frmMissingPictures",    "frmUndo"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -107,7 +112,7 @@ protected:
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
                        frmAbout, frmRepairAlbum, frmCheckAlbum, frmFindPictures, frmPlaceParagraph,
-                       frmLinkedPictures, frmDescribePictures, frmMissingPictures>(name);
+                       frmLinkedPictures, frmDescribePictures, frmMissingPictures, frmUndo>(name);
     }
 
     frmReelvane* MakeViewer()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/data/Database.h"
 
+#include "platform/data/ChangeLog.h"
 #include "platform/data/CipherFile.h"
 #include "platform/data/DatabaseFile.h"
 #include "platform/data/SchemaCheck.h"
@@ -53,11 +54,21 @@ bool NeedsPassword(const QString& path)
 }
 
 // Second line of defence after CheckSchema: no statement may run code from the album's schema (the
-// last argument then names it) or reach another file.
-int Authorize(void*, int action, const char*, const char*, const char*, const char* source)
+// last argument then names it) or reach another file. Only the log's triggers run.
+int Authorize(void*, int action, const char* object, const char*, const char* schema,
+              const char* source)
 {
+    if (source)
+        return IsLogging(action, object, schema, source) ? SQLITE_OK : SQLITE_DENY;
     const bool reachesOut = action == SQLITE_ATTACH || action == SQLITE_CREATE_VTABLE;
-    return source || reachesOut ? SQLITE_DENY : SQLITE_OK;
+    return reachesOut ? SQLITE_DENY : SQLITE_OK;
+}
+
+// At depth 1 a trigger's own changes run none.
+void AllowTriggers(sqlite3* engine, bool areAllowed)
+{
+    sqlite3_limit(engine, SQLITE_LIMIT_TRIGGER_DEPTH, areAllowed ? 1 : 0);
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_ENABLE_TRIGGER, areAllowed ? 1 : 0, nullptr);
 }
 
 // Whether a change was interrupted; the engine undoes it at the next opening.
@@ -99,6 +110,7 @@ Database::Database(const QString& path, Use use)
 
 Database::~Database()
 {
+    log_.reset(); // its statements belong to the connection
     sqlite3_close_v2(engine_);
     if (readHandle_ >= 0)
         close(readHandle_);
@@ -116,8 +128,7 @@ void Database::Connect()
     SetWaiting(true);
     sqlite3_limit(engine_, SQLITE_LIMIT_LENGTH, largestValue);
     sqlite3_limit(engine_, SQLITE_LIMIT_ATTACHED, 0);
-    sqlite3_limit(engine_, SQLITE_LIMIT_TRIGGER_DEPTH, 0);
-    sqlite3_db_config(engine_, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    AllowTriggers(engine_, false);
 #ifdef SQLITE_DBCONFIG_DEFENSIVE
     sqlite3_db_config(engine_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
 #endif
@@ -209,11 +220,6 @@ void Database::RequireUnmoved() const
         ThrowMoved();
 }
 
-bool Database::IsOutsideTransaction() const
-{
-    return sqlite3_get_autocommit(engine_) != 0;
-}
-
 void Database::BeforeChange() const
 {
     if (beforeChange_)
@@ -236,9 +242,28 @@ int Database::GetReadHandle() const
     return readHandle_;
 }
 
+void Database::BeginLog(const QStringList& tables, const QStringList& leftOut)
+{
+    if (isReadOnly_ || log_)
+        return;
+    AllowTriggers(engine_, true);
+    try {
+        log_ = std::make_unique<ChangeLog>(engine_, tables, leftOut);
+    } catch (const DatabaseError& error) {
+        AllowTriggers(engine_, false);
+        if (error.GetNumber() != DatabaseError::TooComplex)
+            throw;
+    }
+}
+
+bool Database::IsInTransaction() const
+{
+    return !sqlite3_get_autocommit(engine_);
+}
+
 int Database::ChangeCount() const
 {
-    return sqlite3_total_changes(engine_);
+    return sqlite3_total_changes(engine_) - (log_ ? log_->GetForgotten() : 0);
 }
 
 void Database::Execute(const QByteArray& sql)

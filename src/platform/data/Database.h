@@ -2,11 +2,12 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
 
+class ChangeLog;
 struct sqlite3;
 
 // One open album file. Every change is committed to disk at once, except inside a WriteBatch. Lives
@@ -39,8 +40,18 @@ public:
     // If true, any change throws ReadOnly.
     bool IsReadOnly() const { return isReadOnly_; }
 
+    // Logs what this program changes in those tables from now on, see ChangeLog. Does nothing where
+    // nothing can be changed, and for a table with more fields than a log takes. Call outside a
+    // transaction. Throws DatabaseError.
+    void BeginLog(const QStringList& tables, const QStringList& leftOut);
+    // Null when there is none.
+    ChangeLog* GetLog() const { return log_.get(); }
+
+    // Whether changes are waiting for a common commit.
+    bool IsInTransaction() const;
+
     // Increases with every row that this program changes in the album; a row read at a lower count
-    // may be stale.
+    // may be stale. Stays as it is when log entries are forgotten.
     int ChangeCount() const;
     // Changes with every commit of another program; see the engine's data_version.
     qint64 VersionElsewhere() const { return GetPragma("data_version"); }
@@ -50,7 +61,6 @@ public:
     bool SetWaiting(bool isWaiting);
 
     void Execute(const QByteArray& sql);
-    bool IsOutsideTransaction() const;
 
     // Throws DatabaseError NoSuchFile when the path now holds another file or none. Changes check
     // this by themselves.
@@ -88,6 +98,7 @@ private:
     bool isWaiting_ = true;
     int cipherFormat_ = 0;
     sqlite3* engine_ = nullptr;
+    std::unique_ptr<ChangeLog> log_;
     int openBatches_ = 0;
     std::function<void()> beforeChange_;
     mutable int readHandle_ = -1;

@@ -119,6 +119,11 @@ void Statement::BindNull(int parameter)
     Check(sqlite3_bind_null(handle_, parameter));
 }
 
+void Statement::BindColumn(int parameter, const Statement& row, int column)
+{
+    Check(sqlite3_bind_value(handle_, parameter, sqlite3_column_value(row.handle_, column)));
+}
+
 void Statement::BindUtf8(int parameter, QByteArrayView text)
 {
     // For a null pointer the engine would bind Null instead of an empty text.

@@ -46,6 +46,8 @@ public:
     void Bind(int parameter, const QString& text);
     void Bind(int parameter, const FieldValue& value);
     void BindNull(int parameter);
+    // A value of any type from the row that another statement is on.
+    void BindColumn(int parameter, const Statement& row, int column);
     // Not copied: it must stay until the statement has run.
     void BindUtf8(int parameter, QByteArrayView text);
 

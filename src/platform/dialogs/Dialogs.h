@@ -25,6 +25,7 @@ public:
         // Captions for the buttons Yes and No where other words are clearer.
         QString yes = {};
         QString no = {};
+        QString note = {}; // shown smaller below the text; sentences without names of users
     };
 
     struct Input

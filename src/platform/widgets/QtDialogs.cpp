@@ -158,6 +158,7 @@ Dialogs::Answer QtDialogs::Ask(const Box& box)
     QMessageBox message(ToQt(box.icon), TitleOr(box.title), Cut(box.text), ToQt(box.buttons),
                         QApplication::activeWindow());
     message.setTextFormat(Qt::PlainText);
+    message.setInformativeText(box.note);
     if (box.defaultAnswer)
         message.setDefaultButton(ToQt(*box.defaultAnswer));
     if (!box.yes.isEmpty())

@@ -4,6 +4,7 @@
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
 #include "core/EarlierStates.h"
+#include "core/UndoSteps.h"
 #include "platform/dialogs/Dialogs.h"
 
 #include <QCoreApplication>
@@ -20,12 +21,23 @@ struct PasswordTexts
     Q_DECLARE_TR_FUNCTIONS(AlbumPassword)
 };
 
+// The album is written anew, and what led to it is not.
+QString UndoWarning()
+{
+    return UndoName().isEmpty()
+               ? QString()
+               : PasswordTexts::tr("What you have done up to now cannot be undone any more after "
+                                   "that.");
+}
+
 // Empty when the user gave up.
 QString AskTwice()
 {
     while (true) {
-        const QString first = Dialogs::Door().AskText(
-            {.prompt = PasswordTexts::tr("Please enter the new password"), .isPassword = true});
+        const QString first =
+            Dialogs::Door().AskText({.prompt = PasswordTexts::tr("Please enter the new password"),
+                                     .note = UndoWarning(),
+                                     .isPassword = true});
         if (first.isEmpty())
             return {};
         const QString second = Dialogs::Door().AskText(
@@ -77,7 +89,8 @@ void AskForNewPassword()
              .buttons = Dialogs::Buttons::YesNoCancel,
              .defaultAnswer = Answer::Cancel,
              .yes = PasswordTexts::tr("Remove Password"),
-             .no = PasswordTexts::tr("Change Password")});
+             .no = PasswordTexts::tr("Change Password"),
+             .note = UndoWarning()});
     if (answer == Answer::Cancel)
         return;
     const QString password = answer == Answer::Yes ? QString() : AskTwice();

@@ -2,6 +2,7 @@
 #include "ui/main/frmAbout.h"
 #include "ui_frmAbout.h"
 
+#include "catalogue/UndoWindow.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/shell/SystemInfo.h"
@@ -13,6 +14,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::
     connect(ui_->cmdOK, &QPushButton::clicked, this, &frmAbout::close);
     connect(ui_->cmdSysInfo, &QPushButton::clicked, this,
             Guarded(this, &frmAbout::cmdSysInfo_Click));
+    new UndoWindow(this);
     Form_Load();
 }
 

@@ -2,6 +2,7 @@
 #include "ui/main/frmCheckAlbum.h"
 #include "ui_frmCheckAlbum.h"
 
+#include "catalogue/UndoWindow.h"
 #include "core/Album.h"
 #include "core/EarlierStates.h"
 #include "platform/dialogs/Guard.h"
@@ -52,6 +53,7 @@ frmCheckAlbum::frmCheckAlbum(QWidget* parent)
                                 {ui_->cmdRepair, "repair", &Form::cmdRepair_Click},
                                 {ui_->cmdStates, "as-before", &Form::cmdStates_Click},
                                 {ui_->cmdExit, "exit", &Form::cmdExit_Click}});
+    new UndoWindow(this);
     ui_->cmdRepair->setEnabled(false);
     ui_->cmdStates->setEnabled(!EarlierStatesOf(OpenAlbumPath()).empty());
 }

@@ -2,6 +2,7 @@
 #include "ui/main/frmEarlierStates.h"
 #include "ui_frmEarlierStates.h"
 
+#include "catalogue/UndoWindow.h"
 #include "core/Album.h"
 #include "core/AlbumPassword.h"
 #include "core/StateKeeping.h"
@@ -58,6 +59,7 @@ frmEarlierStates::frmEarlierStates(QWidget* parent)
                              {ui_->cmdFolder, "album-open", &Form::cmdFolder_Click},
                              {ui_->cmdExit, "exit", &Form::cmdExit_Click},
                          });
+    new UndoWindow(this);
     connect(ui_->treStates, &QTreeWidget::currentItemChanged, this,
             Guarded(this, &Form::OfferActions));
     connect(ui_->treStates, &QTreeWidget::itemDoubleClicked, this,

@@ -3,6 +3,7 @@
 #include "ui_frmOpenChapter.h"
 
 #include "catalogue/Picture.h"
+#include "catalogue/UndoWindow.h"
 #include "catalogue/frmEditLabels.h"
 #include "catalogue/frmEditTables.h"
 #include "catalogue/frmLoadFiles.h"
@@ -28,6 +29,7 @@
 #include "ui/main/MainWindowKeys.h"
 #include "ui/main/PasswordQuestions.h"
 #include "ui/main/TransitionOption.h"
+#include "ui/main/UndoMenu.h"
 #include "ui/main/ViewerWindows.h"
 #include "ui/main/frmAbout.h"
 #include "ui/main/frmCheckAlbum.h"
@@ -205,6 +207,8 @@ void frmOpenChapter::ConnectControls()
     connect(drag_, &RowDrag::Dropped, this,
             [this](int from, int to) { RunGuarded([&] { MoveRow(from, to); }); });
     new WindowKeys(this, MainWindowKeys());
+    new UndoWindow(this, [this] { ShowAlbumAgain(); });
+    new UndoMenu({ui_->mnuTools, ui_->mnuUndo, ui_->mnuRedo, ui_->mnuUndoSeveral}, this);
     connect(ui_->cmdNotIndexed, &QPushButton::clicked, ui_->mnuUndefined, &QAction::trigger);
     connect(ui_->cmdMissing, &QPushButton::clicked, this,
             Guarded(this, &frmOpenChapter::mnuMissingPictures_Click));
@@ -233,6 +237,13 @@ void frmOpenChapter::resizeEvent(QResizeEvent* event)
             chapters_->Fill();
         RefreshState();
     });
+}
+
+void frmOpenChapter::ShowAlbumAgain()
+{
+    if (AlbumOpen())
+        chapters_->Fill();
+    RefreshState();
 }
 
 void frmOpenChapter::RefreshState()
@@ -401,9 +412,7 @@ void frmOpenChapter::mnuSelectedPictures_Click()
 void frmOpenChapter::mnuRepair_Click()
 {
     frmRepairAlbum(this).exec();
-    if (AlbumOpen())
-        chapters_->Fill();
-    RefreshState();
+    ShowAlbumAgain();
 }
 
 void frmOpenChapter::mnuCheck_Click()

@@ -42,6 +42,7 @@ protected:
 private:
     void Form_Load(const QString& album);
     void RefreshState();
+    void ShowAlbumAgain(); // after chapters may have changed elsewhere
 
     void mnuOpenScript_Click();
     void mnuCreateScript_Click();

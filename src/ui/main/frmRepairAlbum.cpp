@@ -2,6 +2,7 @@
 #include "ui/main/frmRepairAlbum.h"
 #include "ui_frmRepairAlbum.h"
 
+#include "catalogue/UndoWindow.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
@@ -14,6 +15,7 @@ frmRepairAlbum::frmRepairAlbum(QWidget* parent)
     ui_->setupUi(this);
     connect(ui_->cmdProceed, &QPushButton::clicked, this,
             Guarded(this, &frmRepairAlbum::cmdProceed_Click));
+    new UndoWindow(this);
     connect(ui_->Command2, &QPushButton::clicked, this, &frmRepairAlbum::close);
 }
 

@@ -2,6 +2,7 @@
 #include "ui/main/frmTakeChapters.h"
 #include "ui_frmTakeChapters.h"
 
+#include "catalogue/UndoWindow.h"
 #include "platform/dialogs/Dialogs.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
@@ -44,6 +45,7 @@ frmTakeChapters::frmTakeChapters(QWidget* parent)
     ui_->treChapters->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     ConnectButtons<Form>(this, {{ui_->cmdTake, "as-before", &Form::cmdTake_Click},
                                 {ui_->cmdCancel, "exit", &Form::cmdCancel_Click}});
+    new UndoWindow(this);
     connect(ui_->treChapters, &QTreeWidget::itemChanged, this, Guarded(this, &Form::OfferTaking));
 }
 

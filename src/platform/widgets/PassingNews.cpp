@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "viewer/PageNews.h"
+#include "platform/widgets/PassingNews.h"
 
 #include <QAccessible>
 #include <QPalette>
@@ -12,13 +12,12 @@ namespace {
 const QColor ground(0, 0, 0, 200);
 const QColor ink(Qt::white);
 
-constexpr int padding = 10;   // logical pixels
-constexpr int topMargin = 24; // logical pixels
-constexpr std::chrono::milliseconds readingTime(2500);
+constexpr int padding = 10;    // logical pixels
+constexpr int edgeMargin = 24; // logical pixels
 
 } // namespace
 
-PageNews::PageNews(QWidget* page) : QLabel(page)
+PassingNews::PassingNews(QWidget* page) : QLabel(page)
 {
     setObjectName(QStringLiteral("lblNews"));
     setTextFormat(Qt::PlainText);
@@ -36,17 +35,20 @@ PageNews::PageNews(QWidget* page) : QLabel(page)
     connect(&timer_, &QTimer::timeout, this, &QWidget::hide);
 }
 
-void PageNews::Show(const QString& text, const QRect& area)
+void PassingNews::Show(const QString& text, const QRect& area, Edge edge,
+                       std::chrono::milliseconds time)
 {
     setText(text);
     const QFontMetrics metrics(font());
-    const int widest = std::max(1, area.width() - 2 * topMargin);
+    const int widest = std::max(1, area.width() - 2 * edgeMargin);
     const int width = std::min(widest, metrics.horizontalAdvance(text) + 3 * padding);
-    setGeometry(area.left() + (area.width() - width) / 2, area.top() + topMargin, width,
-                heightForWidth(width));
+    const int height = heightForWidth(width);
+    const int top =
+        edge == Edge::Top ? area.top() + edgeMargin : area.bottom() - edgeMargin - height;
+    setGeometry(area.left() + (area.width() - width) / 2, top, width, height);
     raise();
     show();
     QAccessibleEvent news(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&news);
-    timer_.start(readingTime);
+    timer_.start(time);
 }

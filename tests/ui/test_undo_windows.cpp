@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "EveryWindow.h"
+
+#include "catalogue/Picture.h"
+#include "core/ChapterChain.h"
+#include "core/Parameters.h"
+#include "core/UndoSteps.h"
+#include "story/ParagraphChain.h"
+#include "support/ModalDriver.h"
+#include "ui/main/frmUndo.h"
+
+using namespace GeneralModule;
+
+// Taking back what was done, in the windows of the program.
+class TestUndoWindows : public EveryWindowTest
+{
+    Q_OBJECT
+
+private slots:
+    void EachTakesTheKeys_data() { AddEveryWindow(); }
+
+    void EachTakesTheKeys()
+    {
+        QFETCH(QString, name);
+        QWidget& window = Open(name);
+        SetParam("Title", "one");
+        SetParam("Title", "two");
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(GetParam("Title"), "one");
+        QCOMPARE(News(window), "Undone: Change Settings");
+        Press(window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(GetParam("Title"), "two");
+        Press(window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(News(window), "There is nothing to redo.");
+        album_->Execute("INSERT INTO Params VALUES ('theirs','')");
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(News(window).startsWith("Another program has changed the album."));
+    }
+
+    void TheMenuNamesTheSteps()
+    {
+        QWidget& window = Open("frmOpenChapter");
+        auto& undo = Find<QAction>(window, "mnuUndo");
+        auto& redo = Find<QAction>(window, "mnuRedo");
+        auto& menu = Find<QMenu>(window, "mnuTools");
+        emit menu.aboutToShow();
+        QVERIFY(!undo.isEnabled() && !redo.isEnabled());
+        CreateChapter("A & B", "Chapter");
+        emit menu.aboutToShow();
+        QCOMPARE(undo.text(), "Undo Create Chapter “A && B”");
+        undo.trigger();
+        emit menu.aboutToShow();
+        QVERIFY(!undo.isEnabled());
+        QCOMPARE(redo.text(), "Redo Create Chapter “A && B”");
+        QCOMPARE(Find<QListWidget>(window, "lstChapter").count(), 1);
+        redo.trigger();
+        QCOMPARE(Find<QListWidget>(window, "lstChapter").count(), 2);
+    }
+
+    void TheListGoesBackSeveral()
+    {
+        Open("frmOpenChapter");
+        for (const char* name : {"A", "B", "C"})
+            CreateChapter(name, {});
+        frmUndo list;
+        list.show();
+        auto& steps = Find<QListWidget>(list, "lstSteps");
+        QCOMPARE(steps.item(0)->text(), "Create Chapter “C”");
+        steps.setCurrentRow(1);
+        QCOMPARE(steps.selectedItems().size(), 2);
+        QCOMPARE(Find<QPushButton>(list, "cmdUndo").text(), "Undo 2 Steps");
+        Click(list, "cmdUndo");
+        QVERIFY(!list.isVisible());
+        QVERIFY(FindChapter("A") && !FindChapter("B") && !FindChapter("C"));
+    }
+
+    // What is typed and not saved is not lost either way.
+    void TheEditorTakesBackWhatWasWritten()
+    {
+        auto& window = static_cast<frmEditParagraph&>(Open("frmEditParagraph"));
+        auto& text = Find<QPlainTextEdit>(window, "txtParagraph");
+        QTest::keyClicks(&text, "More ");
+        QTest::keyClick(&text, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(text.toPlainText(), "Text"); // by the field itself
+        QVERIFY(UndoName().isEmpty());
+        QTest::keyClicks(&text, "More ");
+        Find<QPushButton>(window, "cmdNextParagraph").setFocus();
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(text.toPlainText(), "Text");
+        QCOMPARE(LoadParagraph(window.CurrentParagraph).text, "Text");
+        Press(window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(text.toPlainText(), "More Text");
+        QCOMPARE(LoadParagraph(window.CurrentParagraph).text, "More Text");
+        // From a paragraph that is gone it goes to the one before.
+        const qint32 first = window.CurrentParagraph;
+        Click(window, "cmdCreateNext");
+        QVERIFY(window.CurrentParagraph != first);
+        Find<QPushButton>(window, "cmdNextParagraph").setFocus();
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(window.CurrentParagraph, first);
+        QCOMPARE(text.toPlainText(), "More Text");
+    }
+
+    void TheIndexingWindowTakesBackValuesAndPictures()
+    {
+        auto& window = static_cast<frmEditImage&>(Open("frmEditImage"));
+        const QString file = window.CurrentImage;
+        auto& box = Find<QComboBox>(window, "cboCategory_0");
+        box.setEditText("Anna");
+        Find<QPushButton>(window, "cmdExit").setFocus();
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(box.currentText(), "-");
+        Press(window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(box.currentText(), "Anna");
+        dialogs_->ExpectBox("Do you also want to delete the file " + file + " ?", Icon::Question,
+                            Buttons::YesNoCancel, Answer::Yes);
+        Click(window, "cmdDelete");
+        QVERIFY(!QFile::exists(file) && !ReadPicture(file));
+        QVERIFY(QFile::exists(qEnvironmentVariable("XDG_DATA_HOME") + "/Trash/files/a.jpg"));
+        QVERIFY(UndoName().startsWith("Take out “a.jpg”"));
+        Undo();
+        QCOMPARE(ReadPicture(file)->values[0], "Anna");
+    }
+
+private:
+    static void Press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers)
+    {
+        QWidget* focused = window.focusWidget();
+        QTest::keyClick(focused ? focused : &window, key, modifiers);
+    }
+
+    static QString News(QWidget& window) { return Find<QLabel>(window, "lblUndoNews").text(); }
+};
+
+QTEST_MAIN(TestUndoWindows)
+#include "test_undo_windows.moc"
