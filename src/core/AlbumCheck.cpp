@@ -70,8 +70,9 @@ QString FolderForCopies()
 class Check
 {
 public:
-    Check(const QString& path, const QString& password, const CheckProgress& progress)
-        : path_(path), password_(password), progress_(progress)
+    Check(const QString& path, const QString& password, const QDir& folder,
+          const CheckProgress& progress)
+        : path_(path), password_(password), folder_(folder), progress_(progress)
     {
     }
 
@@ -254,7 +255,8 @@ private:
             const std::string_view copy = rows.GetUtf8(1);
             const QString path = QString::fromUtf8(file.data(), qsizetype(file.size()));
             GoOn(CheckStep::Files, seen / all);
-            if (IsPictureThere(path, QString::fromUtf8(copy.data(), qsizetype(copy.size()))))
+            if (IsPictureThere(folder_.filePath(path),
+                               QString::fromUtf8(copy.data(), qsizetype(copy.size()))))
                 continue;
             if (count++ < mostExamples)
                 missing += path;
@@ -270,6 +272,7 @@ private:
 
     QString path_;
     QString password_;
+    QDir folder_; // of the album
     const CheckProgress& progress_;
     std::shared_ptr<Database> database_;
     CheckReport report_;
@@ -311,6 +314,7 @@ void AlbumCheck::Copy(const Database& album, const CheckProgress& progress)
             DatabaseError::DiskError,
             DatabaseError::tr("The album cannot be copied: %1").arg(copy_.errorString()));
     copy_.close();
+    folder_ = QFileInfo(album.GetPath()).absolutePath();
     const ReadLock lock(album);
     isCopied_ = CloneDatabaseFile(album, copy_.fileName(), [&progress](int percent) {
         return progress(CheckStep::Copying, percent / ShareOf(CheckStep::Copying).end);
@@ -324,7 +328,7 @@ CheckReport AlbumCheck::Run(const CheckProgress& progress)
         stopped.isStopped = true;
         return stopped;
     }
-    return Check(copy_.fileName(), password_, progress).Run();
+    return Check(copy_.fileName(), password_, QDir(folder_), progress).Run();
 }
 
 QString DescribeCheck(const CheckReport& report)

@@ -68,6 +68,7 @@ private:
 
     QTemporaryFile copy_;
     QString password_;
+    QString folder_; // of the album: other paths than absolute ones count from there
     bool isCopied_ = false;
 };
 
