@@ -2,6 +2,7 @@
 #include "core/AlbumPaths.h"
 
 #include "core/Album.h"
+#include "core/EarlierStates.h"
 #include "core/TextRoutines.h"
 #include "platform/files/PathRoutines.h"
 #include "platform/text/LikePattern.h"
@@ -16,13 +17,27 @@ bool IsAbsolute(const QString& path)
     return path.startsWith(u'/') || path.startsWith(u'\\') || hasDrive;
 }
 
+// The path from whose folder the open album's paths count: an earlier state stands for its album.
+QString StandingPath()
+{
+    static QString open;
+    static QString standing;
+    const QString path = GeneralModule::OpenAlbumPath();
+    if (path != open) {
+        QString album;
+        standing = GeneralModule::IsEarlierState(path, &album) ? album : path;
+        open = path;
+    }
+    return standing;
+}
+
 } // namespace
 
 namespace GeneralModule {
 
 QString AbsolutePath(const QString& file)
 {
-    return IsAbsolute(file) ? file : AbsolutePath(file, OpenAlbumPath());
+    return IsAbsolute(file) ? file : AbsolutePath(file, StandingPath());
 }
 
 QString AbsolutePath(const QString& file, const QString& album)
@@ -35,7 +50,7 @@ QString AbsolutePath(const QString& file, const QString& album)
 
 QString RelativePath(const QString& path)
 {
-    const QString folder = FolderOf(OpenAlbumPath());
+    const QString folder = FolderOf(StandingPath());
     if (folder.isEmpty() || !path.startsWith(folder))
         return {};
     return QDir::fromNativeSeparators(path.sliced(folder.size()));
@@ -52,7 +67,7 @@ QString RelativeFilter(const QString& folder, const QString& pattern)
     const auto like = [](const QString& wanted) -> QString {
         return QStringLiteral("[File] LIKE ") + Quoted(wanted);
     };
-    const QString albums = EscapedForLike(FolderOf(OpenAlbumPath()));
+    const QString albums = EscapedForLike(FolderOf(StandingPath()));
     if (albums.isEmpty() || folder.isEmpty())
         return {};
     if (folder.startsWith(albums) && folder.size() > albums.size())

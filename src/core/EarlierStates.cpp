@@ -174,11 +174,13 @@ QString NewStatePath(const QString& album, const QDateTime& kept, bool isReplace
     const QString folder = StatesFolderOf(album);
     constexpr auto onlyUser = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     const bool isThere = QDir(folder).exists();
-    if (!isThere && (!QDir().mkpath(folder) || !QFile::setPermissions(folder, onlyUser))) {
+    if (!isThere && !QDir().mkpath(folder)) {
         throw DatabaseError(DatabaseError::DiskError,
                             DatabaseError::tr("The folder '%1' cannot be made.")
                                 .arg(QDir::toNativeSeparators(folder)));
     }
+    if (!isThere)
+        QFile::setPermissions(folder, onlyUser); // not every disk knows of permissions
     WriteNote(folder, CanonicalPath(album));
     const QString mark = isReplaced ? replacedMark : QString();
     for (QDateTime time = kept;; time = time.addSecs(1)) {

@@ -173,9 +173,9 @@ bool CloneDatabaseFile(const Database& database, const QString& target,
     const auto write = [&](const QByteArray& block) {
         return goOn() && copy.write(block) == block.size() && FlushAtTimes(copy);
     };
-    const bool isOpen = source.GetSize() >= 0 &&
-                        copy.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) &&
-                        copy.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    const bool isOpen =
+        source.GetSize() >= 0 && copy.open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
+    copy.setPermissions(QFile::ReadOwner | QFile::WriteOwner); // where the disk knows of them
     bool isCopied = false;
     if (isOpen) {
         const auto done = CopyInTheSystem(database, copy, source.GetSize(), goOn);
