@@ -316,7 +316,7 @@ void ComeAndGo(const QString&, int step)
         break;
     case 4: {
         const OpenState state(LastKept(album), password);
-        TakeBackChapters(state, {state.Chapters().back().id}, ChapterPlace::InPlaceOfSame);
+        TakeBackChapters(state, {state.Chapters().back().id}, ReturnPlace::InPlaceOfSame);
         break;
     }
     default:

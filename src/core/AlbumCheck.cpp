@@ -47,7 +47,7 @@ Share ShareOf(CheckStep step)
     return {0, 100};
 }
 
-struct Stopped
+struct CheckStopped
 {
 };
 
@@ -87,7 +87,7 @@ public:
             Try([this] { CheckValues(); });
             Try([this] { CheckPictures(); });
             Try([this] { CheckPictureFiles(); });
-        } catch (const Stopped&) {
+        } catch (const CheckStopped&) {
             report_.isStopped = true;
         } catch (const DatabaseError& error) {
             AddDamage({error.GetDescription()});
@@ -100,7 +100,7 @@ private:
     {
         const Share share = ShareOf(step);
         if (!progress_(step, share.begin + int((share.end - share.begin) * part)))
-            throw Stopped();
+            throw CheckStopped();
     }
 
     void Try(const std::function<void()>& check)
@@ -148,7 +148,7 @@ private:
             return !progress_(CheckStep::File, ShareOf(CheckStep::File).begin);
         });
         if (!faults)
-            throw Stopped();
+            throw CheckStopped();
         if (!faults->isEmpty())
             AddDamage(faults->mid(0, mostExamples));
         GoOn(CheckStep::File, 1);

@@ -81,7 +81,7 @@ private:
 class ChapterReturn
 {
 public:
-    ChapterReturn(const OpenState& state, ChapterPlace place)
+    ChapterReturn(const OpenState& state, ReturnPlace place)
         : state_(*state.GetDatabase()),
           place_(place),
           paragraphs_(state_, *AlbumDatabase, "Paragraph",
@@ -120,7 +120,7 @@ private:
                                  ? QCoreApplication::translate("ChapterChain", "(no name)")
                                  : chapter.name;
         const std::optional<qint32> same = FindChapter(name);
-        if (same && place_ == ChapterPlace::InPlaceOfSame) {
+        if (same && place_ == ReturnPlace::InPlaceOfSame) {
             Empty(*same);
             return *same;
         }
@@ -193,7 +193,7 @@ private:
     }
 
     const Database& state_;
-    ChapterPlace place_;
+    ReturnPlace place_;
     RowCopy paragraphs_;
     RowCopy links_;
     RowCopy pictures_;
@@ -205,7 +205,7 @@ private:
 namespace GeneralModule {
 
 ChapterReturnReport TakeBackChapters(const OpenState& state, const std::vector<qint32>& chapters,
-                                     ChapterPlace place)
+                                     ReturnPlace place)
 {
     KeepState(true);
     const UndoStep step(UndoStep::tr("Take Back Chapters"), StepCounts::Shown);

@@ -195,6 +195,7 @@ void ThinStates(const QString& album, const QDateTime& now)
     constexpr qint64 megabyte = 1'000'000;
     const std::vector<EarlierState> states = EarlierStatesOf(album);
     std::vector<StateSize> sizes;
+    sizes.reserve(states.size());
     for (const EarlierState& state : states)
         sizes.push_back({state.kept, state.size, !state.isReplaced});
     for (const std::size_t removed : StatesToRemove(sizes, now, StatesLimit() * megabyte))

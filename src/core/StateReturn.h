@@ -47,7 +47,7 @@ private:
 // could not be opened.
 bool TakeBackState(const QString& state, const QString& password, const QString& album);
 
-enum class ChapterPlace {
+enum class ReturnPlace {
     AtTheEnd,      // as new chapters; where a name is taken, with the state's day
     InPlaceOfSame, // instead of what the chapter of the same name holds now; at the end if none
 };
@@ -64,6 +64,6 @@ struct ChapterReturnReport
 // of those, and the pictures that these need: all or nothing. The album is kept among the earlier
 // states first, as it is now. Throws DatabaseError.
 ChapterReturnReport TakeBackChapters(const OpenState& state, const std::vector<qint32>& chapters,
-                                     ChapterPlace place);
+                                     ReturnPlace place);
 
 } // namespace GeneralModule

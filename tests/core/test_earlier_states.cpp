@@ -320,7 +320,7 @@ private slots:
         QCOMPARE(chapters.size(), 3U);
         QCOMPARE(chapters[0].paragraphs, 2);
         ChapterReturnReport report =
-            TakeBackChapters(state, {chapters[0].id}, ChapterPlace::InPlaceOfSame);
+            TakeBackChapters(state, {chapters[0].id}, ReturnPlace::InPlaceOfSame);
         QCOMPARE(album_->Story(), "One:First: <[Picture Legend]>Second: <[0]> Empty: Three:new ");
         QCOMPARE(report.links, 2);
         QCOMPARE(report.pictures, 1);
@@ -329,7 +329,7 @@ private slots:
         QCOMPARE(album_->Joined("SELECT count(*) FROM LinkedImages JOIN Paragraph ON "
                                 "Id=ParagraphId WHERE Text LIKE 'First%'"),
                  "2");
-        report = TakeBackChapters(state, {chapters[0].id, chapters[2].id}, ChapterPlace::AtTheEnd);
+        report = TakeBackChapters(state, {chapters[0].id, chapters[2].id}, ReturnPlace::AtTheEnd);
         const QString date = QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
         const QString firstTexts = ":First: <[Picture Legend]>Second: <[0]>";
         QCOMPARE(album_->Story(), "One" + firstTexts + " Empty: Three:new  One (" + date + ")" +

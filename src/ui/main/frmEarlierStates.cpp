@@ -27,7 +27,7 @@ namespace {
 
 constexpr QSize proposedSize(820, 500);
 
-enum Column { Kept, Size, Chapters, Pictures, Note };
+enum Column { KeptColumn, SizeColumn, ChaptersColumn, PicturesColumn, NoteColumn };
 
 bool StartProgramOn(const QString& state)
 {
@@ -47,7 +47,7 @@ frmEarlierStates::frmEarlierStates(QWidget* parent)
     KeepWindowSize(this, proposedSize);
     ui_->treStates->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     ui_->treStates->header()->setStretchLastSection(true);
-    for (const int column : {Size, Chapters, Pictures})
+    for (const int column : {SizeColumn, ChaptersColumn, PicturesColumn})
         ui_->treStates->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     ConnectButtons<Form>(this,
                          {
@@ -101,11 +101,12 @@ void frmEarlierStates::ShowStates()
     ui_->treStates->clear();
     for (const EarlierState& state : states_) {
         auto* item = new QTreeWidgetItem(ui_->treStates);
-        item->setText(Kept, TimeText(state.kept));
-        item->setText(Size, locale().formattedDataSize(state.size, 1, QLocale::DataSizeSIFormat));
+        item->setText(KeptColumn, TimeText(state.kept));
+        item->setText(SizeColumn,
+                      locale().formattedDataSize(state.size, 1, QLocale::DataSizeSIFormat));
         if (state.isReplaced)
-            item->setText(Note, tr("replaced by an earlier state"));
-        for (const int column : {Size, Chapters, Pictures})
+            item->setText(NoteColumn, tr("replaced by an earlier state"));
+        for (const int column : {SizeColumn, ChaptersColumn, PicturesColumn})
             item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
         bytes += state.size;
     }
@@ -132,17 +133,17 @@ bool frmEarlierStates::CountNext()
         if (const auto state = passwords_.TryOpen(states_[std::size_t(row)].path))
             ShowCounts(*item, *state);
         else
-            item->setText(Chapters, tr("locked"));
+            item->setText(ChaptersColumn, tr("locked"));
     } catch (const std::exception&) {
-        item->setText(Chapters, tr("damaged"));
+        item->setText(ChaptersColumn, tr("damaged"));
     }
     return true;
 }
 
 void frmEarlierStates::ShowCounts(QTreeWidgetItem& item, const OpenState& state) const
 {
-    item.setText(Chapters, locale().toString(state.CountChapters()));
-    item.setText(Pictures, locale().toString(state.CountPictures()));
+    item.setText(ChaptersColumn, locale().toString(state.CountChapters()));
+    item.setText(PicturesColumn, locale().toString(state.CountPictures()));
 }
 
 const EarlierState* frmEarlierStates::Selected() const

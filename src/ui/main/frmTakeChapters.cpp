@@ -93,8 +93,8 @@ void frmTakeChapters::OfferTaking()
 
 void frmTakeChapters::cmdTake_Click()
 {
-    const ChapterPlace place =
-        ui_->optInPlace->isChecked() ? ChapterPlace::InPlaceOfSame : ChapterPlace::AtTheEnd;
+    const ReturnPlace place =
+        ui_->optInPlace->isChecked() ? ReturnPlace::InPlaceOfSame : ReturnPlace::AtTheEnd;
     ChapterReturnReport report;
     {
         const BusyPointer busy;
