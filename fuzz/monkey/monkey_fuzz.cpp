@@ -14,6 +14,7 @@
 #include "platform/widgets/HeldEscape.h"
 #include "platform/widgets/HelpWindow.h"
 #include "support/AlbumFixture.h"
+#include "ui/main/frmEarlierStates.h"
 #include "ui/main/frmOpenChapter.h"
 
 #include <QApplication>
@@ -118,6 +119,8 @@ int PlayIn(const QString& root, int argc, char** argv)
     Program program(argc, argv, trials);
     InstallHelpKey(HelpFile());
     InstallHeldEscapeFilter();
+    // A second program would outlive this one.
+    frmEarlierStates::UsualLookInto = [](const QString&) { return true; };
     RandomDialogs dialogs(trials);
     // Pictures are named by where they lie, so the albums are played with where they were made.
     const QString made = root + "/made";

@@ -36,10 +36,12 @@ bool StartProgramOn(const QString& state)
 
 } // namespace
 
+std::function<bool(const QString& state)> frmEarlierStates::UsualLookInto = StartProgramOn;
+
 frmEarlierStates::frmEarlierStates(QWidget* parent)
     : QDialog(parent),
       AlbumPath(OpenAlbumPath()),
-      LookInto(StartProgramOn),
+      LookInto(UsualLookInto),
       ui_(std::make_unique<Ui::frmEarlierStates>())
 {
     using Form = frmEarlierStates;
