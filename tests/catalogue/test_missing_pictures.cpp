@@ -105,6 +105,11 @@ private slots:
             QDir().mkpath(QFileInfo(album_->PathOf(file)).path());
             PaintPicture(album_->PathOf(file), {30 + int(file[4]), 20}, Qt::red);
         }
+        QFile other(album_->PathOf("new/b/x.jpg")); // no copy of the one in new/a
+        QVERIFY(other.open(QFile::ReadWrite) &&
+                other.setFileTime(QDateTime(QDate(2001, 2, 3), QTime(4, 5)),
+                                  QFile::FileModificationTime));
+        other.close();
         album_->AddPicture("there.jpg");
         for (const char* file : {"/old/x.jpg", "/gone/s/y.jpg", "/gone/s/z.jpg"})
             album_->AddImageRow(file);

@@ -9,8 +9,8 @@
 namespace {
 
 // It lies on pictures of any colour.
-const QColor ground(0, 0, 0, 200);
-const QColor ink(Qt::white);
+const QColor newsGround(0, 0, 0, 200);
+const QColor newsInk(Qt::white);
 
 constexpr int padding = 10;    // logical pixels
 constexpr int edgeMargin = 24; // logical pixels
@@ -27,8 +27,8 @@ PassingNews::PassingNews(QWidget* page) : QLabel(page)
     setAutoFillBackground(true);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     QPalette colors = palette();
-    colors.setColor(QPalette::Window, ground);
-    colors.setColor(QPalette::WindowText, ink);
+    colors.setColor(QPalette::Window, newsGround);
+    colors.setColor(QPalette::WindowText, newsInk);
     setPalette(colors);
     hide();
     timer_.setSingleShot(true);
