@@ -22,10 +22,12 @@ std::vector<PicturePaths::Entry> PicturePaths::ReadMore()
     reading.Bind(1, lastRow_);
     reading.Bind(2, qint64(filesAtOnce));
     std::vector<Entry> entries;
-    while (reading.Step())
-        entries.push_back({qint32(reading.GetInteger(0)), QString::fromUtf8(reading.GetUtf8(1)),
+    qint64 row = lastRow_; // an identifier of a stranger's album may be larger than those of ours
+    while (reading.Step()) {
+        row = reading.GetInteger(0);
+        entries.push_back({qint32(row), QString::fromUtf8(reading.GetUtf8(1)),
                            QString::fromUtf8(reading.GetUtf8(2))});
-    if (!entries.empty())
-        lastRow_ = entries.back().id;
+    }
+    lastRow_ = row;
     return entries;
 }

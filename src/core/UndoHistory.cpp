@@ -146,8 +146,10 @@ void UndoHistory::KeepBudget()
     if (Log().GetBytes() <= budget_)
         return;
     auto kept = undo_.begin();
-    for (; kept != undo_.end() && Log().GetBytes() > budget_; ++kept)
+    for (; kept != undo_.end() && Log().GetBytes() > budget_; ++kept) {
         Log().Forget(kept->entries);
+        kept->entries.shelf.reset(); // the last one that names it frees its memory
+    }
     undo_.erase(undo_.begin(), kept);
     if (undo_.empty() && redo_.empty())
         loss_ = Loss::TooLarge;

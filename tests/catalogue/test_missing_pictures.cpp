@@ -148,6 +148,17 @@ private slots:
         QVERIFY(!::Find<QWidget>(*window, "cmdTake").isEnabled());
     }
 
+    void LooksThroughRowsOfAnyNumber()
+    {
+        album_->Execute("INSERT INTO Image(rowid,File) VALUES (-9,'/a'),(1,'/b'),"
+                        "(5000000000,'/c'),(9223372036854775807,'/d')");
+        MissingPictures missing;
+        for (int i = 0; missing.Work(std::chrono::milliseconds(0)); ++i)
+            QVERIFY(i < 9);
+        QCOMPARE(missing.GetRead(), 4);
+        QCOMPARE(missing.GetFolders().front().missing, 4);
+    }
+
     void ReloadingTellsWhatIsGoneAndLeft()
     {
         WriteFile(album_->PathOf("new/a.jpg"));
