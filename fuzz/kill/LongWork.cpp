@@ -15,6 +15,7 @@
 #include "core/Parameters.h"
 #include "core/StateKeeping.h"
 #include "core/StateReturn.h"
+#include "core/UndoSteps.h"
 #include "core/oldalbum/OldAlbumConversion.h"
 #include "story/ParagraphLinks.h"
 #include "story/ParagraphMoves.h"
@@ -324,6 +325,24 @@ void ComeAndGo(const QString&, int step)
     }
 }
 
+// A change is made, taken back and made again. It depends on the album alone, because
+// a program that was killed has forgotten what could be undone.
+void UndoAndRedo(const QString&, int step)
+{
+    {
+        const UndoStep change(QStringLiteral("Change"));
+        const bool isBack = step % 4 == 2;
+        if (step % 2 == 0)
+            Require(ReplaceValue(3, isBack ? "Cleo" : "Anna", isBack ? "Anna" : "Cleo", [](int) {
+                        return true;
+                    })->pictures > 0);
+        else
+            CreateChapter(QStringLiteral("New %1").arg(step), ChapterNames().first());
+    }
+    Require(!Undo().isEmpty());
+    Require(!Redo().isEmpty());
+}
+
 LongWork Creating(const QString& name, bool isOver)
 {
     LongWork work = OfAlbum(name, Pictures(50, "'/p/'||i"), [](const QString& folder, int) {
@@ -376,6 +395,9 @@ std::vector<LongWork> EveryLongWork(const QString& oldAlbum)
     addSteps("keeping and taking back states",
              Chapters(6) + Paragraphs(6, 30) + Pictures(rows, "'/p/'||i||'.jpg'"), ComeAndGo);
     all.back().steps = 18;
+    addSteps("undoing and redoing",
+             Chapters(12) + Paragraphs(12, 30) + Pictures(rows, "'/p/'||i||'.jpg'"), UndoAndRedo);
+    all.back().steps = 20;
     all.push_back(SettingPassword("setting a password", {}, newPassword));
     all.push_back(SettingPassword("changing a password", oldPassword, newPassword));
     all.push_back(SettingPassword("removing a password", oldPassword, {}));
