@@ -8,6 +8,7 @@ packages=(
     qt6-base-dev qt6-svg-dev qt6-l10n-tools qt6-translations-l10n
     qt6-image-formats-plugins
     libsqlcipher-dev libjpeg62-turbo-dev mdbtools-dev libexiv2-dev zlib1g-dev
+    libqpdf-dev libkainjow-mustache-dev qpdf
     fonts-dejavu-core xvfb xauth
 )
 
