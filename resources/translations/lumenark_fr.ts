@@ -2931,6 +2931,49 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>PublishFolder</name>
+    <message>
+        <source>Nothing can be written into the folder &quot;%1&quot;: %2</source>
+        <translation>Rien ne peut être écrit dans le dossier « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The list of what was published into the folder &quot;%1&quot; cannot be read. Choose another folder.</source>
+        <translation>La liste de ce qui a été publié dans le dossier « %1 » ne peut pas être lue. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made: %2</source>
+        <translation>Le dossier « %1 » ne peut pas être créé : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder.</source>
+        <translation>« %1 » n&apos;est pas un dossier.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; holds files of yours. Choose an empty folder, or one that does not exist yet.</source>
+        <translation>Le dossier « %1 » contient des fichiers à vous. Choisissez un dossier vide, ou un dossier qui n&apos;existe pas encore.</translation>
+    </message>
+    <message>
+        <source>Something else was published into the folder &quot;%1&quot;. Choose another folder.</source>
+        <translation>Autre chose a été publié dans le dossier « %1 ». Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; is being published into already.</source>
+        <translation>Une publication dans le dossier « %1 » est déjà en cours.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is in the way, and it was not published into the folder. Move it away, or choose another folder.</source>
+        <translation>Le fichier « %1 » est à la place d&apos;un nouveau fichier, et il n&apos;a pas été publié dans le dossier. Déplacez-le, ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has been changed since it was published. Move it away, or choose another folder.</source>
+        <translation>Le fichier « %1 » a été modifié depuis sa publication. Déplacez-le, ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The new files cannot be put in place: %1</source>
+        <translation>Les nouveaux fichiers ne peuvent pas être mis en place : %1</translation>
+    </message>
+</context>
+<context>
     <name>QApplication</name>
     <message>
         <source>Tells stories with photographs.</source>
