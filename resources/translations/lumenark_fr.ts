@@ -2931,6 +2931,28 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>PublishedPages</name>
+    <message>
+        <source>There is no story to publish: the album has no chapter.</source>
+        <translation>Il n&apos;y a pas de récit à publier : l&apos;album n&apos;a pas de chapitre.</translation>
+    </message>
+    <message>
+        <source>The pages cannot be written: %1</source>
+        <translation>Les pages ne peuvent être écrites : %1</translation>
+    </message>
+</context>
+<context>
+    <name>PublishedStory</name>
+    <message>
+        <source>There is no chapter &quot;%1&quot;.</source>
+        <translation>Il n&apos;y a pas de chapitre « %1 ».</translation>
+    </message>
+    <message>
+        <source>Chapter &quot;%1&quot;, paragraph %2: %3</source>
+        <translation>Chapitre « %1 », paragraphe %2 : %3</translation>
+    </message>
+</context>
+<context>
     <name>PublishFolder</name>
     <message>
         <source>Nothing can be written into the folder &quot;%1&quot;: %2</source>
@@ -2971,6 +2993,48 @@ Le supprimer quand même ?</translation>
     <message>
         <source>The new files cannot be put in place: %1</source>
         <translation>Les nouveaux fichiers ne peuvent pas être mis en place : %1</translation>
+    </message>
+</context>
+<context>
+    <name>PublishReport</name>
+    <message>
+        <source>Stopped. What was there before is as it was.</source>
+        <translation>Arrêté. Ce qui était là est resté tel quel.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures were published</source>
+        <translation>
+            <numerusform>%Ln photo a été publiée</numerusform>
+            <numerusform>%Ln photos ont été publiées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln of them made anew.</source>
+        <translation>
+            <numerusform>dont %Ln faite à neuf.</numerusform>
+            <numerusform>dont %Ln faites à neuf.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more</source>
+        <translation>
+            <numerusform>et %Ln autre</numerusform>
+            <numerusform>et %Ln autres</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures are missing; a placeholder stands for each:</source>
+        <translation>
+            <numerusform>%Ln photo manque ; une marque en tient lieu :</numerusform>
+            <numerusform>%Ln photos manquent ; une marque tient lieu de chacune :</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures cannot be read; a placeholder stands for each:</source>
+        <translation>
+            <numerusform>%Ln photo ne peut être lue ; une marque en tient lieu :</numerusform>
+            <numerusform>%Ln photos ne peuvent être lues ; une marque tient lieu de chacune :</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3533,6 +3597,71 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Link to this paragraph, or unlink: the large picture, or the one under the pointer</source>
         <translation>Lier à ce paragraphe, ou délier : la grande photo, ou celle sous le pointeur</translation>
+    </message>
+</context>
+<context>
+    <name>WebPages</name>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Chapitres</translation>
+    </message>
+    <message>
+        <source>Previous chapter</source>
+        <translation>Chapitre précédent</translation>
+    </message>
+    <message>
+        <source>Next chapter</source>
+        <translation>Chapitre suivant</translation>
+    </message>
+    <message>
+        <source>Previous picture</source>
+        <translation>Photo précédente</translation>
+    </message>
+    <message>
+        <source>Next picture</source>
+        <translation>Photo suivante</translation>
+    </message>
+    <message>
+        <source>Slide show</source>
+        <translation>Diaporama</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Large picture</source>
+        <translation>Photo en grand</translation>
+    </message>
+    <message>
+        <source>This picture is missing.</source>
+        <translation>Cette photo manque.</translation>
+    </message>
+    <message>
+        <source>Nothing has been written here yet.</source>
+        <translation>Rien n&apos;a encore été écrit ici.</translation>
+    </message>
+    <message>
+        <source>Picture %1 of %2</source>
+        <translation>Photo %1 sur %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures</source>
+        <translation>
+            <numerusform>%Ln photo</numerusform>
+            <numerusform>%Ln photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more pictures</source>
+        <translation>
+            <numerusform>et %Ln autre photo</numerusform>
+            <numerusform>et %Ln autres photos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
