@@ -87,12 +87,11 @@ private slots:
         ExpectWholeLinks();
         const QString front = Read("index.html");
         QCOMPARE(AllBetween(front, "<bdi>", "</bdi>"), QStringList({"One", "Two", "Empty"}));
-        QCOMPARE(AllBetween(front, "class=\"count\">", "<"),
-                 QStringList({"2 pictures", "0 pictures", "0 pictures"}));
+        QCOMPARE(AllBetween(front, "class=\"count\">", "<"), QStringList("2 pictures"));
         const QString page = Read("chapter-1.html");
         QCOMPARE(AllBetween(page, "<h1 dir=\"auto\">", "<"), QStringList("One"));
         QCOMPARE(AllBetween(page, "alt=\"", "\""),
-                 QStringList({"A &quot;quay&quot;", "Picture 2 of 2", ""}));
+                 QStringList({"A &quot;quay&quot;", "Picture 2 of 2"}));
         QCOMPARE(AllBetween(page, "<p dir=\"auto\">", "</p>"),
                  QStringList({"At the Sea:", "Gone."}));
         QCOMPARE(AllBetween(page, "data-text=\"", "\""),
