@@ -99,6 +99,17 @@ private slots:
         Press(window, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(window.CurrentParagraph, first);
         QCOMPARE(text.toPlainText(), "More Text");
+        // One that comes back is shown, whether it is made again or no longer deleted.
+        Press(window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        const qint32 second = window.CurrentParagraph;
+        QVERIFY(second != first);
+        dialogs_->ExpectBox("Are you sure you want to DELETE current paragraph ?", Icon::Question,
+                            Buttons::OkCancel);
+        Click(window, "cmdDelete");
+        QCOMPARE(window.CurrentParagraph, first);
+        Find<QPushButton>(window, "cmdNextParagraph").setFocus();
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(window.CurrentParagraph, second);
     }
 
     void TheIndexingWindowTakesBackValuesAndPictures()
