@@ -36,13 +36,10 @@ bool StartProgramOn(const QString& state)
 
 } // namespace
 
-std::function<bool(const QString& state)> frmEarlierStates::UsualLookInto = StartProgramOn;
+std::function<bool(const QString& state)> frmEarlierStates::LookInto = StartProgramOn;
 
 frmEarlierStates::frmEarlierStates(QWidget* parent)
-    : QDialog(parent),
-      AlbumPath(OpenAlbumPath()),
-      LookInto(UsualLookInto),
-      ui_(std::make_unique<Ui::frmEarlierStates>())
+    : QDialog(parent), AlbumPath(OpenAlbumPath()), ui_(std::make_unique<Ui::frmEarlierStates>())
 {
     using Form = frmEarlierStates;
     ui_->setupUi(this);
