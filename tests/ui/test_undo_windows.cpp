@@ -112,6 +112,23 @@ private slots:
         QCOMPARE(window.CurrentParagraph, second);
     }
 
+    void ANumberThatIsTypedIsTakenBackFirst()
+    {
+        QWidget& window = Open("frmEarlierStates");
+        SetParam("Title", "one");
+        auto& limit = Find<QSpinBox>(window, "spnLimit");
+        const QString before = limit.cleanText();
+        limit.setFocus();
+        limit.selectAll();
+        QTest::keyClicks(&limit, "70");
+        QCOMPARE(limit.cleanText(), "70");
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(limit.cleanText(), before);
+        QCOMPARE(GetParam("Title"), "one");
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(GetParam("Title"), QString());
+    }
+
     void TheIndexingWindowTakesBackValuesAndPictures()
     {
         auto& window = static_cast<frmEditImage&>(Open("frmEditImage"));

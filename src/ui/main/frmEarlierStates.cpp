@@ -68,7 +68,11 @@ frmEarlierStates::frmEarlierStates(QWidget* parent)
     connect(ui_->spnLimit, &QSpinBox::valueChanged, this, Guarded(this, &Form::spnLimit_Change));
 }
 
-frmEarlierStates::~frmEarlierStates() = default;
+// A number still being typed is taken when the window hides, which needs its controls.
+frmEarlierStates::~frmEarlierStates()
+{
+    hide();
+}
 
 void frmEarlierStates::showEvent(QShowEvent* event)
 {
