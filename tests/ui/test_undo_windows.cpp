@@ -2,6 +2,7 @@
 #include "EveryWindow.h"
 
 #include "catalogue/Picture.h"
+#include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 #include "core/Parameters.h"
 #include "core/UndoSteps.h"
@@ -127,6 +128,42 @@ private slots:
         QCOMPARE(GetParam("Title"), "one");
         Press(window, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(GetParam("Title"), QString());
+    }
+
+    void AStoppedUndoChangesNothing()
+    {
+        QWidget& window = Open("frmOpenChapter");
+        album_->Execute("WITH n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<30000) "
+                        "INSERT INTO Image (File,Car0) SELECT i,'A' FROM n");
+        {
+            const UndoStep step("Many");
+            AlbumDatabase->Execute("UPDATE Image SET Car0='B'");
+        }
+        const auto other = Database::Open(album_->GetAlbum());
+        other->Execute("BEGIN IMMEDIATE");
+        QTimer presser;
+        connect(&presser, &QTimer::timeout, this, [] {
+            for (QWidget* top : QApplication::topLevelWidgets()) {
+                if (top->objectName() == "dlgUndo" && top->isVisible())
+                    Click(*top, "cmdStop");
+            }
+        });
+        presser.start(0);
+        // It waits for the lock, longer than it works without a sign.
+        const std::unique_ptr<QThread> holder(QThread::create([&other] {
+            QThread::msleep(600);
+            other->Execute("ROLLBACK");
+        }));
+        holder->start();
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        holder->wait();
+        presser.stop();
+        QCOMPARE(News(window), "Stopped: nothing was changed");
+        QCOMPARE(UndoName(), "Many");
+        QVERIFY(RedoName().isEmpty());
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='B'"), "30002");
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='A'"), "30000");
     }
 
     void TheIndexingWindowTakesBackValuesAndPictures()
