@@ -120,7 +120,7 @@ int PlayIn(const QString& root, int argc, char** argv)
     InstallHelpKey(HelpFile());
     InstallHeldEscapeFilter();
     // A second program would outlive this one.
-    frmEarlierStates::UsualLookInto = [](const QString&) { return true; };
+    frmEarlierStates::LookInto = [](const QString&) { return true; };
     RandomDialogs dialogs(trials);
     // Pictures are named by where they lie, so the albums are played with where they were made.
     const QString made = root + "/made";

@@ -923,6 +923,10 @@
         <source>Load the pictures of the folders inside, too ?</source>
         <translation>Charger aussi les photos des dossiers contenus ?</translation>
     </message>
+    <message>
+        <source>The pictures in the folders are being looked for...</source>
+        <translation>Recherche des photos dans les dossiers...</translation>
+    </message>
 </context>
 <context>
     <name>DroppedPictures</name>

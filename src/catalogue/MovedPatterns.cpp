@@ -66,23 +66,31 @@ bool MovedFolders::Reaches(const QString& pattern) const
     return !folder.isEmpty() && first != moved_.end() && first.key().startsWith(folder);
 }
 
-std::optional<QString> MovedFolders::Follow(const QString& pattern) const
+std::optional<QString> MovedFolders::FollowFolder(const QString& folder) const
 {
-    const PatternHead head = HeadOf(pattern);
     QString newFolder;
-    for (auto path = moved_.lowerBound(head.folder);
-         path != moved_.end() && path.key().startsWith(head.folder); ++path) {
-        const QString name = path.key().sliced(head.folder.size());
+    for (auto path = moved_.lowerBound(folder);
+         path != moved_.end() && path.key().startsWith(folder); ++path) {
+        const QString name = path.key().sliced(folder.size());
         const QString& now = path.value();
         if (newFolder.isEmpty() && FolderOf(name).isEmpty())
             newFolder = FolderOf(now);
         if (newFolder.isEmpty())
             newFolder = now.left(now.size() - name.size());
-        if (now != newFolder + Rewritten(name, head.folder, newFolder))
+        if (now != newFolder + Rewritten(name, folder, newFolder))
             return std::nullopt;
     }
-    if (newFolder.isEmpty() || HoldsPictures(head.folder))
+    if (newFolder.isEmpty() || HoldsPictures(folder))
         return std::nullopt;
-    return EscapedForLike(newFolder) +
-           Rewritten(pattern.sliced(head.length), head.folder, newFolder);
+    return newFolder;
+}
+
+std::optional<QString> MovedFolders::Follow(const QString& pattern) const
+{
+    const PatternHead head = HeadOf(pattern);
+    const std::optional<QString> newFolder = FollowFolder(head.folder);
+    if (!newFolder)
+        return std::nullopt;
+    return EscapedForLike(*newFolder) +
+           Rewritten(pattern.sliced(head.length), head.folder, *newFolder);
 }

@@ -96,9 +96,8 @@ protected:
             return window;
         }
         if (name == "frmEarlierStates") {
-            auto* window = Make<frmEarlierStates>();
-            window->LookInto = [](const QString&) { return true; };
-            return window;
+            frmEarlierStates::LookInto = [](const QString&) { return true; };
+            return Make<frmEarlierStates>();
         }
         if (name == "frmTakeChapters") {
             auto* window = Make<frmTakeChapters>();
