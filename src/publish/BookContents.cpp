@@ -45,9 +45,9 @@ void BookContents::AddChapter(int chapter, const QString& title)
 {
     const qreal width = flow_.TextWidth() - numberWidth;
     const auto text = std::make_shared<BookText>(title, BookFont::Body, width);
-    if (!flow_.IsAtTop() && text->HeightOf(0, 1) > flow_.Room())
-        flow_.BeginPage();
     const QRectF& area = flow_.GetArea();
+    if (text->Height() > flow_.Room() && text->Height() < area.height())
+        flow_.BeginPage();
     const qreal left = area.left() + (area.width() - flow_.TextWidth()) / 2;
     const bool isRightToLeft = text->IsRightToLeft();
     const qreal textLeft = isRightToLeft ? left + numberWidth : left;

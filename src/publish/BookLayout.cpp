@@ -24,7 +24,7 @@ constexpr QSizeF titleRule(48, 0.8);
 // paragraphs on one page, than on a page of their own.
 constexpr qreal sharedPageWorth = 0.65;
 constexpr qreal halfPageWorth = 0.6;
-constexpr qreal underHeadingWorth = 0.4;
+constexpr qreal underHeadingWorth = 0.2;
 
 // At most on one page.
 int MostOfScreen(QSizeF paper)
@@ -104,17 +104,25 @@ private:
         flow_.PassPages(contents_.CountPages());
     }
 
+    static bool IsFitForCover(const BookPicture& picture)
+    {
+        constexpr int leastWidth = 600;
+        constexpr qreal narrowest = 0.6;
+        constexpr qreal widest = 2.2;
+        const qreal ratio = qreal(picture.size.width()) / std::max(picture.size.height(), 1);
+        return picture.IsGood() && picture.size.width() >= leastWidth && ratio >= narrowest &&
+               ratio <= widest;
+    }
+
     // The first one that is large enough.
     bool LayCoverPicture(const QRectF& place)
     {
-        constexpr int leastWidth = 600;
         for (const PublishedChapter& chapter : story_.chapters) {
             for (const PublishedParagraph& paragraph : chapter.paragraphs) {
                 for (const PublishedPicture& picture : paragraph.pictures) {
                     progress_.Check();
                     const int number = pictures_.Find(picture);
-                    if (!pictures_.At(number).IsGood() ||
-                        pictures_.At(number).size.width() < leastWidth)
+                    if (!IsFitForCover(pictures_.At(number)))
                         continue;
                     QRectF fitted(QPointF(0, 0), QSizeF(pictures_.At(number).size)
                                                      .scaled(place.size(), Qt::KeepAspectRatio));

@@ -67,6 +67,8 @@ void BookText::AddParagraph(const QString& text, const QTextOption& option)
     auto layout = std::make_unique<QTextLayout>(text, MakeFont(kind));
     QTextOption ownOption = option;
     ownOption.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    if (text.isRightToLeft() && option.alignment() == Qt::AlignLeft)
+        ownOption.setAlignment(Qt::AlignRight);
     layout->setTextOption(ownOption);
     layout->setCacheEnabled(true);
     qreal top = lines_.empty() ? 0 : lines_.back().bottom;
