@@ -4,6 +4,7 @@
 #include "publish/BookDecoding.h"
 #include "publish/BookOutlines.h"
 #include "publish/BookOutput.h"
+#include "publish/BookTextMaps.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -67,6 +68,7 @@ public:
         }
         AddBookOutlines(pdf_, pages_, painted_.paper.height(), story_, laidOut_.chapters,
                         painted_.links);
+        MendTextMaps(pdf_);
         SetTitle();
         BookOutput output(path, progress_);
         try {

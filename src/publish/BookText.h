@@ -23,6 +23,7 @@ public:
     BookText(const QString& text, BookFont font, qreal width,
              Qt::Alignment alignment = Qt::AlignLeft);
 
+    qreal Width() const { return width_; }
     int CountLines() const { return int(lines_.size()); }
     // Of the lines from the first to before the last.
     qreal HeightOf(int first, int last) const;
