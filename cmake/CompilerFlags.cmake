@@ -31,5 +31,10 @@ pkg_check_modules(LIBMDB REQUIRED IMPORTED_TARGET libmdb)
 # The reader of what picture files say.
 pkg_check_modules(EXIV2 REQUIRED IMPORTED_TARGET exiv2>=0.27)
 
+# What adds pictures, outline and links to a book, and reads it again.
+pkg_check_modules(QPDF REQUIRED IMPORTED_TARGET libqpdf>=11)
+# Its header asks which of its own pointers we use: none.
+target_compile_definitions(PkgConfig::QPDF INTERFACE POINTERHOLDER_TRANSITION=4)
+
 # Where a deflated profile in a PNG file says how long it is.
 find_package(ZLIB REQUIRED)

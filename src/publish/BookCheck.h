@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "publish/BookProgress.h"
+
+#include <QSize>
+#include <QString>
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+// What a book's file must hold.
+struct BookFacts
+{
+    struct Picture
+    {
+        QSize size; // pixels
+        qint64 bytes;
+    };
+
+    qint64 bytes = 0; // of the file
+    int chapters = 0;
+    std::map<std::string, Picture> pictures;  // by their names in the file
+    std::vector<std::set<std::string>> pages; // the pictures of each
+};
+
+// Opens a book again and compares it with what was written: the file's structure, its pages, each
+// picture's bytes from the first to the last, the outline and the links. Throws PublishError for
+// the user to read, and BookStopped.
+void CheckBook(const QString& path, const BookFacts& facts, BookProgress& progress);

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "publish/BookPictures.h"
+#include "publish/BookProgress.h"
+
+#include <QByteArray>
+
+#include <atomic>
+#include <future>
+#include <map>
+#include <vector>
+
+// The files of a book's pictures, as JPEG. Those that are made anew are made on all cores, a few
+// ahead of the one that is asked for.
+class BookDecoding
+{
+public:
+    // The pictures in the order in which they will be asked for.
+    BookDecoding(const BookPictures& pictures, const std::vector<int>& order, int resolution,
+                 BookProgress& progress);
+    ~BookDecoding();
+    Q_DISABLE_COPY_MOVE(BookDecoding)
+
+    const BookEncoding& GetEncoding(int picture) const { return encodings_.at(picture); }
+
+    struct Result
+    {
+        QByteArray jpeg; // in the size of the encoding
+        bool isDamaged;  // nothing could be read: a gray area
+    };
+    // Throws BookStopped.
+    Result Take(int picture);
+
+private:
+    Result Make(int picture) const;
+    void StartAhead(std::size_t place);
+
+    const BookPictures& pictures_;
+    std::vector<int> order_;
+    std::map<int, std::size_t> places_; // in the order, of those made anew
+    std::map<int, BookEncoding> encodings_;
+    BookProgress& progress_;
+    std::atomic<bool> isStopped_ = false;
+    std::map<int, std::future<Result>> started_;
+};
