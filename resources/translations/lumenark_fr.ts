@@ -2020,6 +2020,229 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>frmPublish</name>
+    <message>
+        <source>Publish Story</source>
+        <translation>Publier le récit</translation>
+    </message>
+    <message>
+        <source>Web pages</source>
+        <translation>Pages web</translation>
+    </message>
+    <message>
+        <source>A folder with a front page and a page for each chapter</source>
+        <translation>Un dossier avec une page d&apos;accueil et une page par chapitre</translation>
+    </message>
+    <message>
+        <source>One web page</source>
+        <translation>Une page web</translation>
+    </message>
+    <message>
+        <source>A single file with its pictures inside, to be sent</source>
+        <translation>Un seul fichier qui contient ses photos, à envoyer</translation>
+    </message>
+    <message>
+        <source>Book</source>
+        <translation>Livre</translation>
+    </message>
+    <message>
+        <source>A PDF to be read on a screen or printed</source>
+        <translation>Un PDF à lire à l&apos;écran ou à imprimer</translation>
+    </message>
+    <message>
+        <source>Album with its pictures</source>
+        <translation>Album avec ses photos</translation>
+    </message>
+    <message>
+        <source>A folder that opens on every computer that has this program</source>
+        <translation>Un dossier qui s&apos;ouvre sur tout ordinateur qui a ce programme</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Chapitres</translation>
+    </message>
+    <message>
+        <source>The chapters to publish</source>
+        <translation>Les chapitres à publier</translation>
+    </message>
+    <message>
+        <source>Title :</source>
+        <translation>Titre :</translation>
+    </message>
+    <message>
+        <source>Pictures of a paragraph, at most :</source>
+        <translation>Photos d&apos;un paragraphe, au plus :</translation>
+    </message>
+    <message>
+        <source>Largest pictures :</source>
+        <translation>Les plus grandes photos :</translation>
+    </message>
+    <message>
+        <source>1280 pixels</source>
+        <translation>1280 pixels</translation>
+    </message>
+    <message>
+        <source>1920 pixels</source>
+        <translation>1920 pixels</translation>
+    </message>
+    <message>
+        <source>2560 pixels</source>
+        <translation>2560 pixels</translation>
+    </message>
+    <message>
+        <source>3840 pixels</source>
+        <translation>3840 pixels</translation>
+    </message>
+    <message>
+        <source>Paper :</source>
+        <translation>Papier :</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>A4, landscape</source>
+        <translation>A4, paysage</translation>
+    </message>
+    <message>
+        <source>A5</source>
+        <translation>A5</translation>
+    </message>
+    <message>
+        <source>A5, landscape</source>
+        <translation>A5, paysage</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Lettre US</translation>
+    </message>
+    <message>
+        <source>Letter, landscape</source>
+        <translation>Lettre US, paysage</translation>
+    </message>
+    <message>
+        <source>Pictures of the book :</source>
+        <translation>Photos du livre :</translation>
+    </message>
+    <message>
+        <source>As they are</source>
+        <translation>Telles quelles</translation>
+    </message>
+    <message>
+        <source>300 dots per inch, to be printed</source>
+        <translation>300 points par pouce, à imprimer</translation>
+    </message>
+    <message>
+        <source>150 dots per inch, for screens</source>
+        <translation>150 points par pouce, pour l&apos;écran</translation>
+    </message>
+    <message>
+        <source>Pictures to take along :</source>
+        <translation>Photos à emporter :</translation>
+    </message>
+    <message>
+        <source>All of the album</source>
+        <translation>Toutes celles de l&apos;album</translation>
+    </message>
+    <message>
+        <source>Those that the story shows</source>
+        <translation>Celles que montre le récit</translation>
+    </message>
+    <message>
+        <source>Their size :</source>
+        <translation>Leur taille :</translation>
+    </message>
+    <message>
+        <source>At most 4096 pixels</source>
+        <translation>Au plus 4096 pixels</translation>
+    </message>
+    <message>
+        <source>At most 2048 pixels</source>
+        <translation>Au plus 2048 pixels</translation>
+    </message>
+    <message>
+        <source>At most 1024 pixels</source>
+        <translation>Au plus 1024 pixels</translation>
+    </message>
+    <message>
+        <source>Into :</source>
+        <translation>Dans :</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choisir...</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Montrer</translation>
+    </message>
+    <message>
+        <source>Open what was published</source>
+        <translation>Ouvrir ce qui a été publié</translation>
+    </message>
+    <message>
+        <source>Publish</source>
+        <translation>Publier</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>%1 with pictures</source>
+        <translation>%1 avec photos</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 existe déjà. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Page web</translation>
+    </message>
+    <message>
+        <source>The story is being read...</source>
+        <translation>Le récit est lu...</translation>
+    </message>
+    <message>
+        <source>Picture %1 of %2...</source>
+        <translation>Photo %1 sur %2...</translation>
+    </message>
+    <message>
+        <source>Please say where to publish it.</source>
+        <translation>Veuillez dire où le publier.</translation>
+    </message>
+    <message>
+        <source>Please tick at least one chapter.</source>
+        <translation>Veuillez cocher au moins un chapitre.</translation>
+    </message>
+    <message>
+        <source>Nothing was published.</source>
+        <translation>Rien n&apos;a été publié.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Arrêté.</translation>
+    </message>
+    <message>
+        <source>Published.</source>
+        <translation>Publié.</translation>
+    </message>
+    <message>
+        <source>Published, but not all of it; see below.</source>
+        <translation>Publié, mais pas entièrement ; voir ci-dessous.</translation>
+    </message>
+</context>
+<context>
     <name>frmTakeChapters</name>
     <message>
         <source>Take Back Chapters</source>
@@ -2932,6 +3155,65 @@ Le supprimer quand même ?</translation>
     <message>
         <source>The folder &apos;%1&apos; is no longer there.</source>
         <translation>Le dossier « %1 » n&apos;est plus là.</translation>
+    </message>
+</context>
+<context>
+    <name>Publish</name>
+    <message>
+        <source>Reading paragraph %1 of %2</source>
+        <translation>Lecture du paragraphe %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Picture %1 of %2</source>
+        <translation>Photo %1 sur %2</translation>
+    </message>
+    <message>
+        <source>It takes a number from %1 to %2.</source>
+        <translation>Il y faut un nombre de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>It exists already; --force replaces it.</source>
+        <translation>Il existe déjà ; --force le remplace.</translation>
+    </message>
+    <message>
+        <source>Publish the album&apos;s story, with --as and --to, without windows. The exit status is 3 when the result lacks pictures.</source>
+        <translation>Publie le récit de l&apos;album, avec --as et --to, sans fenêtres. Le code de sortie est 3 quand il y manque des photos.</translation>
+    </message>
+    <message>
+        <source>With --publish: &quot;web&quot; for pages in a folder, &quot;page&quot; for one page in a file, &quot;pdf&quot; for a book, &quot;album&quot; for a copy of the album with its pictures in a folder.</source>
+        <translation>Avec --publish : « web » pour des pages dans un dossier, « page » pour une page dans un fichier, « pdf » pour un livre, « album » pour une copie de l&apos;album avec ses photos dans un dossier.</translation>
+    </message>
+    <message>
+        <source>With --publish: only this chapter; may be given again.</source>
+        <translation>Avec --publish : seulement ce chapitre ; peut être répété.</translation>
+    </message>
+    <message>
+        <source>With --publish: longest edge of the largest pictures in pixels; of a book their dots per inch.</source>
+        <translation>Avec --publish : plus grand côté des plus grandes photos en pixels ; d&apos;un livre, leurs points par pouce.</translation>
+    </message>
+    <message>
+        <source>With --publish: how many pictures a paragraph shows at most; %1 when it is not given.</source>
+        <translation>Avec --publish : combien de photos un paragraphe montre au plus ; %1 sans cette option.</translation>
+    </message>
+    <message>
+        <source>The folder or file to publish into.</source>
+        <translation>Le dossier ou le fichier où publier.</translation>
+    </message>
+    <message>
+        <source>Replace a file that exists.</source>
+        <translation>Remplace un fichier existant.</translation>
+    </message>
+    <message>
+        <source>The album.</source>
+        <translation>L&apos;album.</translation>
+    </message>
+    <message>
+        <source>--publish needs an album, a kind and a place</source>
+        <translation>--publish demande un album, une forme et un lieu</translation>
+    </message>
+    <message>
+        <source>usage: lumenark --publish ALBUM --as web|page|pdf|album --to PLACE [--chapter NAME]... [--size N] [--most N] [--password-file FILE] [--force]</source>
+        <translation>usage : lumenark --publish ALBUM --as web|page|pdf|album --to LIEU [--chapter NOM]... [--size N] [--most N] [--password-file FICHIER] [--force]</translation>
     </message>
 </context>
 <context>
@@ -4640,6 +4922,10 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
     <message>
         <source>Undo Several...</source>
         <translation>Annuler plusieurs étapes...</translation>
+    </message>
+    <message>
+        <source>Publish Story...</source>
+        <translation>Publier le récit...</translation>
     </message>
 </context>
 <context>
