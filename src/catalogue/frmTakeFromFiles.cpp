@@ -13,6 +13,7 @@
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/FormButtons.h"
 #include "platform/widgets/OfferedControl.h"
+#include "platform/widgets/TickDelegate.h"
 #include "platform/widgets/WindowSize.h"
 
 #include <QHeaderView>
@@ -37,6 +38,7 @@ frmTakeFromFiles::frmTakeFromFiles(QWidget* parent)
     ui_->setupUi(this);
     leftOut_ = {QLatin1String(MetadataStream::fileTimeField)};
     KeepWindowSize(this, proposedSize);
+    ui_->treFields->setItemDelegate(new TickDelegate(ui_->treFields));
     ui_->treFields->header()->setStretchLastSection(false);
     ui_->treFields->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     ui_->treFields->header()->setSectionResizeMode(0, QHeaderView::Stretch);

@@ -7,6 +7,7 @@
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/FormButtons.h"
+#include "platform/widgets/TickDelegate.h"
 #include "platform/widgets/WindowSize.h"
 
 #include <QHeaderView>
@@ -39,6 +40,7 @@ frmTakeChapters::frmTakeChapters(QWidget* parent)
     using Form = frmTakeChapters;
     ui_->setupUi(this);
     KeepWindowSize(this, proposedSize);
+    ui_->treChapters->setItemDelegate(new TickDelegate(ui_->treChapters));
     ui_->treChapters->header()->setStretchLastSection(false);
     ui_->treChapters->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     ui_->treChapters->header()->setSectionResizeMode(0, QHeaderView::Stretch);
