@@ -136,8 +136,8 @@ void frmTakeFromFiles::AddFields(const QString& kind, const std::map<QString, in
         item->setText(2, locale().toString(from == taken.end() ? 0 : from->second));
         item->setData(0, Qt::UserRole, field);
         item->setCheckState(0, leftOut_.contains(field) ? Qt::Unchecked : Qt::Checked);
-        item->setTextAlignment(1, Qt::AlignRight);
-        item->setTextAlignment(2, Qt::AlignRight);
+        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+        item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
     }
 }
 

@@ -69,7 +69,7 @@ void frmTakeChapters::Form_Load()
         auto* item = new QTreeWidgetItem(ui_->treChapters);
         item->setText(0, chapter.name.isEmpty() ? tr("(no name)") : chapter.name);
         item->setText(1, locale().toString(chapter.paragraphs));
-        item->setTextAlignment(1, Qt::AlignRight);
+        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(0, Qt::UserRole, chapter.id);
         item->setCheckState(0, Qt::Unchecked);
     }
