@@ -10,6 +10,7 @@
 #include "platform/dialogs/Guard.h"
 #include "platform/shell/StayAwake.h"
 #include "platform/widgets/FormButtons.h"
+#include "platform/widgets/TickDelegate.h"
 #include "platform/widgets/WindowSize.h"
 
 #include <QCryptographicHash>
@@ -83,6 +84,7 @@ frmPublish::frmPublish(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     ui_->spnMost->setValue(proposedMostPictures);
     ui_->cboSize->setCurrentIndex(proposedWebEntry);
     ui_->txtTitle->setText(NameOfAlbum());
+    ui_->treChapters->setItemDelegate(new TickDelegate(ui_->treChapters));
     FillChapters();
     ConnectButtons<Form>(this, {{ui_->cmdChoose, "", &Form::cmdChoose_Click},
                                 {ui_->cmdPublish, "", &Form::cmdPublish_Click},

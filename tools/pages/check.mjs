@@ -152,6 +152,13 @@ for (const width of [390, 1280, 1920]) {
   }
 }
 {
+  // The picture in the README.
+  const page = await open(chapter, {height: 560});
+  await settle();
+  await page.screenshot({path: join(shots, "published.jpg"), type: "jpeg", quality: 85});
+  await page.close();
+}
+{
   const page = await open(chapter, {isRightToLeft: true});
   await settle();
   await shot(page, "chapter-rtl");
