@@ -169,6 +169,17 @@
     </message>
 </context>
 <context>
+    <name>AlbumRewriting</name>
+    <message>
+        <source>Chapter &quot;%1&quot;, paragraph %2: the file pattern cannot go along, so its pictures are linked by hand in the copy.</source>
+        <translation>Chapitre « %1 », paragraphe %2 : le modèle de fichiers ne peut pas être emporté ; ses photos sont donc liées à la main dans la copie.</translation>
+    </message>
+    <message>
+        <source>Chapter &quot;%1&quot;, paragraph %2: it shows other pictures in the copy.</source>
+        <translation>Chapitre « %1 », paragraphe %2 : il montre d&apos;autres photos dans la copie.</translation>
+    </message>
+</context>
+<context>
     <name>AlbumStatus</name>
     <message numerus="yes">
         <source>%Ln picture(s)</source>
@@ -3151,6 +3162,13 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>PictureCopying</name>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be copied: %2</source>
+        <translation>La photo « %1 » ne peut pas être copiée : %2</translation>
+    </message>
+</context>
+<context>
     <name>PictureLoading</name>
     <message>
         <source>The folder &apos;%1&apos; is no longer there.</source>
@@ -3568,6 +3586,17 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Found Pictures</source>
         <translation>Photos trouvées</translation>
+    </message>
+</context>
+<context>
+    <name>TravellingAlbum</name>
+    <message>
+        <source>The folder &quot;%1&quot; holds files that the album itself uses. Choose another folder.</source>
+        <translation>Le dossier « %1 » contient des fichiers que l&apos;album lui-même utilise. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The album has no story yet, so that there are no pictures that it shows.</source>
+        <translation>L&apos;album n&apos;a pas encore d&apos;histoire ; elle ne montre donc aucune photo.</translation>
     </message>
 </context>
 <context>

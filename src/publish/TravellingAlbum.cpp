@@ -53,6 +53,8 @@ public:
         RequireElsewhere({AlbumItself()});
         PublishFolder folder(place_, QStringLiteral("album"));
         albumName_ = LegalName(FileNameOf(AlbumItself()));
+        if (!albumName_.contains(u'.')) // else it might be called as the pictures' folder is
+            albumName_ += QStringLiteral(".alb");
         albumPath_ = folder.PathFor(albumName_, {});
         const bool isDone = Read() && Copy(folder) && Rewrite();
         if (isDone) {
@@ -151,6 +153,7 @@ private:
                                            [this](int done, int) { return Advance(done); });
         QFile::setPermissions(albumPath_, QFile::permissions(OpenAlbumPath()) | QFile::WriteOwner);
         report_.troubles = troubles.value_or(QStringList());
+        before_ = total_;
         return troubles.has_value();
     }
 

@@ -6,6 +6,7 @@
 #include "core/LocalCopy.h"
 #include "core/Parameters.h"
 #include "platform/picture/PictureReader.h"
+#include "publish/PictureCopying.h"
 #include "publish/PublishList.h"
 #include "publish/TravelNames.h"
 #include "publish/TravellingAlbum.h"
@@ -93,6 +94,24 @@ private:
         QVERIFY(OpenAlbum(PathOf("there/story.alb"), password));
     }
 
+    // What an action fails with when no file can be longer than that many bytes.
+    static QString FailureOnFullDisk(rlim_t bytes, const std::function<void()>& act)
+    {
+        const auto former = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit small{bytes, RLIM_INFINITY};
+        const rlimit unlimited{RLIM_INFINITY, RLIM_INFINITY};
+        setrlimit(RLIMIT_FSIZE, &small);
+        QString failure;
+        try {
+            act();
+        } catch (const std::exception& error) {
+            failure = QString::fromUtf8(error.what());
+        }
+        setrlimit(RLIMIT_FSIZE, &unlimited);
+        std::signal(SIGXFSZ, former);
+        return failure;
+    }
+
     QMap<QString, QByteArray> Contents() const
     {
         QMap<QString, QByteArray> files;
@@ -166,7 +185,13 @@ private slots:
         QCOMPARE(report.pictures, 7);
         QCOMPARE(report.made, 7);
         QCOMPARE(Shown(), before);
+        const QStringList names = Names();
         Arrive();
+        QCOMPARE(Shown(), before);
+        // And on from there.
+        QCOMPARE(Take().troubles, QStringList());
+        QCOMPARE(Names(), names);
+        QVERIFY(OpenAlbum(PathOf("stick/album/story.alb")));
         QCOMPARE(Shown(), before);
     }
 
@@ -220,7 +245,7 @@ private slots:
         QSet<QString> folded;
         for (const QString& name : names) {
             folded.insert(FoldedName(name));
-            for (const QString& part : name.split('/'))
+            for (const QString& part : (name + ".jpg").split('/')) // as it may be when scaled
                 QVERIFY(part.toUtf8().size() <= 255 && part == LegalName(part));
         }
         QCOMPARE(folded.size(), files.size());
@@ -332,6 +357,14 @@ private slots:
                                  TakeAlbumAlong({}, PathOf(""), [](int, int) { return true; }));
     }
 
+    void AnEmptyAlbumGoesAlongButNotOntoItself()
+    {
+        QCOMPARE(Take().pictures, 0);
+        QVERIFY(OpenAlbum(PathOf("stick/album/story.alb")));
+        QCOMPARE(album_->Rows("SELECT Name FROM Chapter"), QStringList("One"));
+        QVERIFY(Refusal().contains("the album itself uses"));
+    }
+
     void AStopOrAFailureLeavesWhatWasThere()
     {
         Add("photos/a.png");
@@ -352,23 +385,19 @@ private slots:
         QVERIFY(calls > 5);
         const auto after = Contents();
         QVERIFY(after.contains("pictures/large.bmp.jpg"));
-        // As on a full disk.
-        const auto former = std::signal(SIGXFSZ, SIG_IGN);
-        for (const rlim_t limit : {300'000, 10'000, 200}) {
-            const rlimit small{limit, RLIM_INFINITY};
-            const rlimit unlimited{RLIM_INFINITY, RLIM_INFINITY};
-            setrlimit(RLIMIT_FSIZE, &small);
-            QString failure;
-            try {
-                Take();
-            } catch (const std::exception& error) {
-                failure = error.what();
-            }
-            setrlimit(RLIMIT_FSIZE, &unlimited);
-            QVERIFY(!failure.isEmpty());
-            QCOMPARE(Contents(), after);
+        for (const rlim_t limit : {300'000, 10'000, 200})
+            QVERIFY(!FailureOnFullDisk(limit, [this] { Take(); }).isEmpty());
+        QCOMPARE(Contents(), after);
+        // Also of files that are smaller than a buffer.
+        album_->AddPicture("tiny.png", {}, {300, 300});
+        PublishFolder folder(PathOf("other"), "album");
+        for (const int edge : {0, 100}) {
+            const QString failure = FailureOnFullDisk(50, [&] {
+                CopyPictures({{PathOf("tiny.png"), "tiny.png"}}, edge, folder,
+                             [](int, int) { return true; });
+            });
+            QVERIFY(failure.contains("tiny.png"));
         }
-        std::signal(SIGXFSZ, former);
     }
 };
 
