@@ -636,17 +636,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%Ln pictures are missing; a placeholder stands for each:</source>
+        <source>%Ln pictures are missing:</source>
         <translation>
-            <numerusform>%Ln picture is missing; a placeholder stands for it:</numerusform>
-            <numerusform>%Ln pictures are missing; a placeholder stands for each:</numerusform>
+            <numerusform>%Ln picture is missing:</numerusform>
+            <numerusform>%Ln pictures are missing:</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%Ln pictures cannot be read; a placeholder stands for each:</source>
+        <source>%Ln pictures cannot be read:</source>
         <translation>
-            <numerusform>%Ln picture cannot be read; a placeholder stands for it:</numerusform>
-            <numerusform>%Ln pictures cannot be read; a placeholder stands for each:</numerusform>
+            <numerusform>%Ln picture cannot be read:</numerusform>
+            <numerusform>%Ln pictures cannot be read:</numerusform>
         </translation>
     </message>
 </context>

@@ -3327,17 +3327,17 @@ Le supprimer quand même ?</translation>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%Ln pictures are missing; a placeholder stands for each:</source>
+        <source>%Ln pictures are missing:</source>
         <translation>
-            <numerusform>%Ln photo manque ; une marque en tient lieu :</numerusform>
-            <numerusform>%Ln photos manquent ; une marque tient lieu de chacune :</numerusform>
+            <numerusform>%Ln photo manque :</numerusform>
+            <numerusform>%Ln photos manquent :</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%Ln pictures cannot be read; a placeholder stands for each:</source>
+        <source>%Ln pictures cannot be read:</source>
         <translation>
-            <numerusform>%Ln photo ne peut être lue ; une marque en tient lieu :</numerusform>
-            <numerusform>%Ln photos ne peuvent être lues ; une marque tient lieu de chacune :</numerusform>
+            <numerusform>%Ln photo ne peut être lue :</numerusform>
+            <numerusform>%Ln photos ne peuvent être lues :</numerusform>
         </translation>
     </message>
 </context>
