@@ -17,6 +17,7 @@ struct BookFacts
     struct Picture
     {
         QSize size; // pixels
+        qint64 at;  // where its bytes begin in the file
         qint64 bytes;
     };
 
@@ -26,7 +27,8 @@ struct BookFacts
     std::vector<std::set<std::string>> pages; // the pictures of each
 };
 
-// Opens a book again and compares it with what was written: the file's structure, its pages, each
-// picture's bytes from the first to the last, the outline and the links. Throws PublishError for
+// Opens a book again and compares it with what was written: the file's structure, its pages, that
+// each picture has taken its stand-in's place from its first to its last byte, the outline and the
+// links. Throws PublishError for
 // the user to read, and BookStopped.
 void CheckBook(const QString& path, const BookFacts& facts, BookProgress& progress);

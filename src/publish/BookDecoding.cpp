@@ -120,20 +120,10 @@ BookDecoding::~BookDecoding()
 
 BookDecoding::Result BookDecoding::Take(int picture)
 {
-    const BookEncoding& encoding = encodings_.at(picture);
-    if (encoding.isPassed) {
-        const BookPicture& passed = pictures_.At(picture);
-        QByteArray jpeg = ReadJpegToPass(passed.path, *passed.jpeg, [this] {
-            progress_.Check();
-            return true;
-        });
-        if (!jpeg.isEmpty())
-            return {std::move(jpeg), false};
-        started_[picture] =
-            std::async(std::launch::async, [this, picture] { return Make(picture); });
-    } else {
+    if (encodings_.at(picture).isPassed)
+        Start(picture);
+    else
         StartAhead(places_.at(picture));
-    }
     std::future<Result>& result = started_.at(picture);
     constexpr std::chrono::milliseconds interval(20);
     while (result.wait_for(interval) != std::future_status::ready)
@@ -143,16 +133,19 @@ BookDecoding::Result BookDecoding::Take(int picture)
     return made;
 }
 
+void BookDecoding::Start(int picture)
+{
+    if (!started_.contains(picture))
+        started_[picture] =
+            std::async(std::launch::async, [this, picture] { return Make(picture); });
+}
+
 void BookDecoding::StartAhead(std::size_t place)
 {
     const std::size_t end =
         std::min(order_.size(), place + std::size_t(std::max(QThread::idealThreadCount(), 1)));
-    for (; place < end; ++place) {
-        const int picture = order_[place];
-        if (!started_.contains(picture))
-            started_[picture] =
-                std::async(std::launch::async, [this, picture] { return Make(picture); });
-    }
+    for (; place < end; ++place)
+        Start(order_[place]);
 }
 
 BookDecoding::Result BookDecoding::Make(int picture) const

@@ -11,8 +11,8 @@
 #include <map>
 #include <vector>
 
-// The files of a book's pictures, as JPEG. Those that are made anew are made on all cores, a few
-// ahead of the one that is asked for.
+// The pictures of a book that are made anew, as JPEG: on all cores, a few ahead of the one that is
+// asked for.
 class BookDecoding
 {
 public:
@@ -29,11 +29,13 @@ public:
         QByteArray jpeg; // in the size of the encoding
         bool isDamaged;  // nothing could be read: a gray area
     };
-    // Throws BookStopped.
+    // Also of one that should be passed through and cannot, in the file's own direction and
+    // colours. Throws BookStopped.
     Result Take(int picture);
 
 private:
     Result Make(int picture) const;
+    void Start(int picture);
     void StartAhead(std::size_t place);
 
     const BookPictures& pictures_;

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "publish/BookFile.h"
 
+#include "publish/BookAppending.h"
 #include "publish/BookDecoding.h"
 #include "publish/BookOutlines.h"
-#include "publish/BookOutput.h"
 #include "publish/BookTextMaps.h"
 
+#include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
@@ -60,7 +61,7 @@ public:
         MoveContents();
         for (const int picture : order_) {
             progress_.Check();
-            AddStream(picture);
+            AddStandIn(picture);
         }
         for (std::size_t page = 0; page < pages_.size(); ++page) {
             progress_.Check();
@@ -70,15 +71,14 @@ public:
                         painted_.links);
         MendTextMaps(pdf_);
         SetTitle();
+        const QByteArray base = WriteBase();
         BookOutput output(path, progress_);
-        try {
-            WriteTo(output);
-        } catch (const std::runtime_error&) {
-            if (output.GetFailure().isEmpty())
-                throw;
-            throw PublishError(output.GetFailure());
-        }
-        facts_.bytes = output.CountBytes();
+        BookAppending appending(output, base);
+        for (const int picture : order_)
+            AppendPicture(output, appending, picture);
+        appending.Finish();
+        output.Close();
+        facts_.bytes = output.Count();
         facts_.chapters = int(story_.chapters.size());
         return std::move(facts_);
     }
@@ -116,26 +116,22 @@ private:
         kids.setArrayFromVector(pages_);
     }
 
-    void AddStream(int picture)
+    // Has the place and the colours of the picture, which comes after all else.
+    void AddStandIn(int picture)
     {
-        const BookEncoding& encoding = decoding_.GetEncoding(picture);
-        const std::optional<JpegFacts>& jpeg = pictures_.At(picture).jpeg;
-        const bool isGray = encoding.isPassed && jpeg->components == 1;
-        Object stream = Object::newStream(&pdf_);
-        Object dictionary = stream.getDict();
-        dictionary.replaceKey("/Type", Object::newName("/XObject"));
-        dictionary.replaceKey("/Subtype", Object::newName("/Image"));
-        dictionary.replaceKey("/Width", Object::newInteger(encoding.size.width()));
-        dictionary.replaceKey("/Height", Object::newInteger(encoding.size.height()));
-        dictionary.replaceKey("/BitsPerComponent", Object::newInteger(8));
-        dictionary.replaceKey("/ColorSpace",
-                              encoding.isPassed && !jpeg->profile.isEmpty()
-                                  ? ProfileSpace(jpeg->profile)
-                                  : Object::newName(isGray ? "/DeviceGray" : "/DeviceRGB"));
-        stream.replaceStreamData(
-            [this, picture](Pipeline* pipeline) { Provide(picture, pipeline); },
-            Object::newName("/DCTDecode"), Object::newNull());
+        Object stream = Object::newStream(&pdf_, "-");
+        stream.getDict().replaceKey("/ColorSpace", SpaceOf(picture));
         streams_.emplace(picture, stream);
+    }
+
+    Object SpaceOf(int picture)
+    {
+        const std::optional<JpegFacts>& jpeg = pictures_.At(picture).jpeg;
+        if (!decoding_.GetEncoding(picture).isPassed)
+            return Object::newName("/DeviceRGB");
+        if (!jpeg->profile.isEmpty())
+            return ProfileSpace(jpeg->profile);
+        return Object::newName(jpeg->components == 1 ? "/DeviceGray" : "/DeviceRGB");
     }
 
     // The many pictures of one camera share their profile.
@@ -151,19 +147,31 @@ private:
         return space;
     }
 
-    // The library calls this once for each picture while it writes, so that only a few are in
-    // memory.
-    void Provide(int picture, Pipeline* pipeline)
+    void AppendPicture(BookOutput& output, BookAppending& appending, int picture)
     {
-        const BookDecoding::Result result = decoding_.Take(picture);
-        if (result.isDamaged)
-            pictures_.At(picture).state = BookPictureState::Damaged;
-        const auto* data = reinterpret_cast<const unsigned char*>(result.jpeg.constData());
-        pipeline->write(data, std::size_t(result.jpeg.size()));
-        pipeline->finish();
-        facts_.pictures[PictureName(picture)] = {decoding_.GetEncoding(picture).size,
-                                                 result.jpeg.size()};
+        const BookEncoding& encoding = decoding_.GetEncoding(picture);
+        const BookAppending::Place place =
+            appending.Add({numbers_.at(picture), encoding.size, spaces_.at(picture)}, [&] {
+                const qint64 begin = output.Count();
+                if (encoding.isPassed && Pass(output, picture))
+                    return;
+                output.CutTo(begin);
+                const BookDecoding::Result result = decoding_.Take(picture);
+                if (result.isDamaged)
+                    pictures_.At(picture).state = BookPictureState::Damaged;
+                output.Write(result.jpeg);
+            });
+        facts_.pictures[PictureName(picture)] = {encoding.size, place.at, place.bytes};
         progress_.Add(pictures_.At(picture).uses);
+    }
+
+    bool Pass(BookOutput& output, int picture)
+    {
+        const BookPicture& passed = pictures_.At(picture);
+        return PassJpeg(passed.path, *passed.jpeg, [this, &output](QByteArrayView bytes) {
+            progress_.Check();
+            output.Write(bytes);
+        });
     }
 
     // Below the texts, so as the page's first contents.
@@ -219,15 +227,26 @@ private:
         trailer.replaceKey("/ID", Object::newArray({identifier, identifier}));
     }
 
-    void WriteTo(BookOutput& output)
+    // All but the pictures, with the numbers that their objects have in it.
+    QByteArray WriteBase()
     {
         QPDFWriter writer(pdf_);
-        writer.setOutputPipeline(&output);
-        writer.setStreamDataMode(qpdf_s_preserve);
+        writer.setOutputMemory();
+        writer.setDecodeLevel(qpdf_dl_none);
+        writer.setObjectStreamMode(qpdf_o_generate);
         writer.setStaticID(true); // takes the first part from the trailer, and no time
-        writer.setMinimumPDFVersion("1.5");
         writer.write();
-        output.Close();
+        for (const auto& [picture, stream] : streams_) {
+            numbers_[picture] = writer.getRenumberedObjGen(stream.getObjGen()).getObj();
+            Object space = Object(stream).getDict().getKey("/ColorSpace");
+            spaces_[picture] =
+                space.isName()
+                    ? QByteArray::fromStdString(space.getName())
+                    : QByteArray::number(writer.getRenumberedObjGen(space.getObjGen()).getObj()) +
+                          " 0 R";
+        }
+        const auto buffer = writer.getBufferSharedPointer();
+        return {reinterpret_cast<const char*>(buffer->getBuffer()), qsizetype(buffer->getSize())};
     }
 
     const PublishedStory& story_;
@@ -240,6 +259,8 @@ private:
     QPDF pdf_;
     std::vector<Object> pages_;
     std::map<int, Object> streams_;
+    std::map<int, int> numbers_;       // of the streams' objects in the file
+    std::map<int, QByteArray> spaces_; // their colours, as the file names them
     std::map<QByteArray, Object> profiles_;
     BookFacts facts_;
 };

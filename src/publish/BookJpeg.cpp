@@ -191,24 +191,25 @@ std::optional<JpegFacts> ReadJpegFacts(const QString& path)
     return FactsOf(PassHead(read), read);
 }
 
-QByteArray ReadJpegToPass(const QString& path, const JpegFacts& facts,
-                          const std::function<bool()>& gate)
+bool PassJpeg(const QString& path, const JpegFacts& facts,
+              const std::function<void(QByteArrayView)>& sink)
 {
     QFile file;
     if (!OpenPictureFile(file, path) || PictureFormatOf(file) != "jpeg")
-        return {};
-    const QByteArray read = ReadJpegHead(file);
-    PassedHead head = PassHead(read);
+        return false;
+    QByteArray read = ReadJpegHead(file);
+    const PassedHead head = PassHead(read);
     if (FactsOf(head, read) != facts)
-        return {};
-    QByteArray jpeg = std::move(head.bytes);
-    jpeg.reserve(file.size());
+        return false;
+    sink(head.bytes);
+    const bool isWhole = JpegNeedsWholePicture(read);
     JpegScans scans(file);
+    QByteArray last;
     for (QByteArray more = scans.Next(); !more.isEmpty(); more = scans.Next()) {
-        jpeg += more;
-        if (!gate())
-            return {};
+        sink(more);
+        if (isWhole)
+            read += more; // only these may have more scans than viewers can draw in time
+        last = last.right(1) + more.right(2);
     }
-    const QByteArray ending{"\xFF\xD9", 2};
-    return jpeg.endsWith(ending) && HasSensibleScans(jpeg) ? jpeg : QByteArray();
+    return last.endsWith(QByteArrayView("\xFF\xD9", 2)) && (!isWhole || HasSensibleScans(read));
 }

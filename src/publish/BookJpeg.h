@@ -26,9 +26,9 @@ struct JpegFacts
 // could disagree about its colours.
 std::optional<JpegFacts> ReadJpegFacts(const QString& path);
 
-// The file without what programs and cameras have put into it: where it was taken, by which camera,
-// the small picture of what it once was. What the pixels and colours need is copied byte by byte.
-// Empty when the file is no longer as the facts say, does not end as it should, or when the gate,
-// which is asked every few kilobytes, returns false.
-QByteArray ReadJpegToPass(const QString& path, const JpegFacts& facts,
-                          const std::function<bool()>& gate);
+// Gives the file away, without what programs and cameras have put into it: where it was taken, by
+// which camera, the small picture of what it once was. What the pixels and colours need is copied
+// byte by byte. False when the file is no longer as the facts say or does not end as it should;
+// what the sink has got is then to be thrown away.
+bool PassJpeg(const QString& path, const JpegFacts& facts,
+              const std::function<void(QByteArrayView)>& sink);

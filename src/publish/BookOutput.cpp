@@ -15,49 +15,70 @@ constexpr qint64 diskPiece = 8 << 20; // a slow disk writes it in a tenth of a s
 } // namespace
 
 BookOutput::BookOutput(const QString& path, BookProgress& progress)
-    : Pipeline("book", nullptr), file_(path), progress_(progress)
+    : file_(path), progress_(progress)
 {
     waiting_.reserve(outputPiece);
-    if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        failure_ = file_.errorString();
-        throw PublishError(failure_);
-    }
+    if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        Fail();
 }
 
-void BookOutput::write(const unsigned char* data, std::size_t bytes)
+void BookOutput::Write(QByteArrayView bytes)
 {
-    const char* begin = reinterpret_cast<const char*>(data);
-    if (waiting_.size() + qint64(bytes) <= outputPiece) {
-        waiting_.append(begin, qsizetype(bytes));
+    if (waiting_.size() + bytes.size() > outputPiece)
+        WriteWaiting();
+    if (bytes.size() <= outputPiece)
+        waiting_.append(bytes);
+    else
+        WriteOut(bytes);
+}
+
+void BookOutput::Replace(qint64 place, QByteArrayView bytes)
+{
+    if (place >= written_) {
+        waiting_.replace(place - written_, bytes.size(), bytes);
         return;
     }
-    WriteOut(waiting_.constData(), waiting_.size());
-    waiting_.resize(0);
-    for (qint64 at = 0; at < qint64(bytes); at += outputPiece)
-        WriteOut(begin + at, std::min(outputPiece, qint64(bytes) - at));
+    WriteWaiting();
+    if (!file_.seek(place) || file_.write(bytes.data(), bytes.size()) != bytes.size() ||
+        !file_.seek(written_))
+        Fail();
+}
+
+void BookOutput::CutTo(qint64 place)
+{
+    WriteWaiting();
+    if (!file_.resize(place) || !file_.seek(place))
+        Fail();
+    written_ = place;
+    begun_ = std::min(begun_, place);
 }
 
 void BookOutput::Close()
 {
-    WriteOut(waiting_.constData(), waiting_.size());
-    waiting_.resize(0);
+    WriteWaiting();
     file_.close();
+    if (file_.error() != QFileDevice::NoError)
+        Fail();
 }
 
-void BookOutput::WriteOut(const char* data, qint64 bytes)
+void BookOutput::WriteWaiting()
 {
-    progress_.Check();
-    for (qint64 at = 0; at < bytes;) {
-        const qint64 written = file_.write(data + at, bytes - at);
-        if (written <= 0) {
-            failure_ = file_.errorString();
-            throw PublishError(failure_);
-        }
-        at += written;
+    WriteOut(waiting_);
+    waiting_.resize(0);
+}
+
+void BookOutput::WriteOut(QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        progress_.Check();
+        const qint64 written = file_.write(bytes.data(), std::min(outputPiece, bytes.size()));
+        if (written <= 0)
+            Fail();
+        bytes = bytes.sliced(written);
+        written_ += written;
+        if (written_ - begun_ >= diskPiece)
+            KeepWriting();
     }
-    bytes_ += bytes;
-    if (bytes_ - begun_ >= diskPiece)
-        KeepWriting();
 }
 
 // At most two pieces wait for the disk: the one before is waited for, this one begun.
@@ -68,7 +89,12 @@ void BookOutput::KeepWriting()
     sync_file_range(file_.handle(), before, begun_ - before,
                     SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE |
                         SYNC_FILE_RANGE_WAIT_AFTER);
-    sync_file_range(file_.handle(), begun_, bytes_ - begun_, SYNC_FILE_RANGE_WRITE);
+    sync_file_range(file_.handle(), begun_, written_ - begun_, SYNC_FILE_RANGE_WRITE);
 #endif
-    begun_ = bytes_;
+    begun_ = written_;
+}
+
+void BookOutput::Fail() const
+{
+    throw PublishError(file_.errorString());
 }

@@ -3,37 +3,36 @@
 
 #include "publish/BookProgress.h"
 
-#include <qpdf/Pipeline.hh>
-
 #include <QByteArray>
 #include <QFile>
 
-// Writes a book's file and finds out at once when that fails, which the library that uses it would
-// not tell for every kind of failure. Keeps the disk writing meanwhile, so that the flush at the
-// end, which cannot be stopped, takes no long time.
-class BookOutput : public Pipeline
+// Writes a book's file and tells at once when that fails. Keeps the disk writing meanwhile, so that
+// the flush at the end, which cannot be stopped, takes no long time. All functions throw
+// PublishError and BookStopped.
+class BookOutput
 {
 public:
-    // Throws PublishError, as do the others.
     BookOutput(const QString& path, BookProgress& progress);
 
-    void write(const unsigned char* data, std::size_t bytes) override;
-    void finish() override {}
+    void Write(QByteArrayView bytes);
+    // Bytes up to now.
+    qint64 Count() const { return written_ + waiting_.size(); }
+    // As many bytes as lie there.
+    void Replace(qint64 place, QByteArrayView bytes);
+    // Takes back what was written from there on.
+    void CutTo(qint64 place);
     // After the last byte.
     void Close();
 
-    qint64 CountBytes() const { return bytes_; }
-    // Why the system has refused; empty when it has not.
-    const QString& GetFailure() const { return failure_; }
-
 private:
-    void WriteOut(const char* data, qint64 bytes);
+    void WriteOut(QByteArrayView bytes);
+    void WriteWaiting();
     void KeepWriting();
+    [[noreturn]] void Fail() const;
 
     QFile file_;
     BookProgress& progress_;
-    QByteArray waiting_; // the library writes a few bytes at a time
-    qint64 bytes_ = 0;
+    QByteArray waiting_; // small pieces
+    qint64 written_ = 0;
     qint64 begun_ = 0; // bytes of the file that the disk was told to write
-    QString failure_;
 };
