@@ -3231,7 +3231,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>usage: lumenark --publish ALBUM --as web|page|pdf|album --to PLACE [--chapter NAME]... [--size N] [--most N] [--password-file FILE] [--force]</source>
-        <translation>usage : lumenark --publish ALBUM --as web|page|pdf|album --to LIEU [--chapter NOM]... [--size N] [--most N] [--password-file FICHIER] [--force]</translation>
+        <translation>usage : lumenark --publish ALBUM --as web|page|pdf|album --to PLACE [--chapter NAME]... [--size N] [--most N] [--password-file FILE] [--force]</translation>
     </message>
 </context>
 <context>

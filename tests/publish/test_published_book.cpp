@@ -401,8 +401,7 @@ private slots:
                         QCOMPARE(text.first, std::exchange(lines[text.text.get()], text.last));
                     }
                     for (std::size_t i = 0; i < places.size(); ++i) {
-                        QVERIFY(
-                            QRectF(QPointF(9, 9), paper - QSizeF(18, 18)).contains(places[i]));
+                        QVERIFY(QRectF(QPointF(9, 9), paper - QSizeF(18, 18)).contains(places[i]));
                         const QRectF inside = places[i].adjusted(0.1, 0.1, -0.1, -0.1);
                         for (std::size_t j = 0; j < i; ++j)
                             QVERIFY(!inside.isValid() || !inside.intersects(places[j]));
