@@ -146,8 +146,8 @@ public:
     {
         page.set("isEmpty", chapter.paragraphs.empty());
         mustache::data paragraphs{mustache::data::type::list};
-        for (const PublishedParagraph& paragraph : chapter.paragraphs)
-            paragraphs.push_back(OfParagraph(paragraph));
+        for (std::size_t i = 0; i < chapter.paragraphs.size(); ++i)
+            paragraphs.push_back(OfParagraph(chapter.paragraphs[i], i == 0));
         page.set("paragraphs", std::move(paragraphs));
     }
 
@@ -195,7 +195,7 @@ private:
         return text.size() > longestExcerpt ? text.first(longestExcerpt) + QChar(u'\u2026') : text;
     }
 
-    mustache::data OfParagraph(const PublishedParagraph& paragraph) const
+    mustache::data OfParagraph(const PublishedParagraph& paragraph, bool isFirst) const
     {
         const std::size_t count = paragraph.pictures.size();
         mustache::data data;
@@ -203,8 +203,12 @@ private:
         data.set("hasPictures", count > 0);
         data.set("crowd", count == 1 ? "one" : count <= fewPictures ? "few" : "many");
         mustache::data pictures{mustache::data::type::list};
-        for (std::size_t i = 0; i < count; ++i)
-            pictures.push_back(OfPicture(paragraph, i));
+        for (std::size_t i = 0; i < count; ++i) {
+            mustache::data picture = OfPicture(paragraph, i);
+            // The first one of a page is asked for before the browser knows where it stands.
+            picture.set("isFirst", isFirst && i == 0);
+            pictures.push_back(std::move(picture));
+        }
         data.set("pictures", std::move(pictures));
         data.set("sum", Number(SumOfRatios(paragraph)));
         if (const int more = paragraph.found - int(count); more > 0 && count > 0)
