@@ -5,6 +5,7 @@
 #include "platform/picture/PictureFile.h"
 #include "publish/PublishReport.h"
 #include "publish/WorkAside.h"
+#include "publish/WriteBehind.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -15,10 +16,6 @@
 
 #include <algorithm>
 #include <atomic>
-
-#ifdef Q_OS_LINUX
-#include <fcntl.h>
-#endif
 
 namespace {
 
@@ -65,23 +62,13 @@ bool IsTransparent(const QImage& image)
     return false;
 }
 
-// The disk begins to write it, so that progress tells the truth about slow disks.
-void WriteOut(const QFile& file)
-{
-#ifdef Q_OS_LINUX
-    sync_file_range(file.handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
-#else
-    Q_UNUSED(file)
-#endif
-}
-
 // One picture.
 class Copying
 {
 public:
-    Copying(const PictureToCopy& picture, int longestEdge, PublishFolder& folder,
+    Copying(const PictureToCopy& picture, int longestEdge, PublishFolder& folder, WriteBehind& disk,
             const std::function<bool()>& isStopped)
-        : picture_(picture), edge_(longestEdge), folder_(folder), isStopped_(isStopped)
+        : picture_(picture), edge_(longestEdge), folder_(folder), disk_(disk), isStopped_(isStopped)
     {
     }
 
@@ -157,6 +144,7 @@ private:
             }
             if (file.write(block) != block.size())
                 ThrowNotCopied(picture_.source, file.errorString());
+            disk_.Continue(file);
         }
         if (!file.flush())
             ThrowNotCopied(picture_.source, file.errorString());
@@ -164,16 +152,17 @@ private:
         return {CopyResult::Copied, picture_.name, isDamaged};
     }
 
-    void Finish(QFile& file) const
+    void Finish(QFile& file)
     {
         file.setFileTime(time_, QFileDevice::FileModificationTime);
-        WriteOut(file);
+        disk_.Take(file);
         file.close();
     }
 
     const PictureToCopy& picture_;
     int edge_;
     PublishFolder& folder_;
+    WriteBehind& disk_;
     const std::function<bool()>& isStopped_;
     QString madeFrom_;
     QDateTime time_;
@@ -189,8 +178,9 @@ std::optional<std::vector<CopiedPicture>> CopyPictures(const std::vector<Picture
     std::atomic<std::size_t> next = 0;
     std::atomic<int> done = 0;
     const auto copyUntilNoneIsLeft = [&](const std::function<bool()>& isStopped) {
+        WriteBehind disk;
         for (std::size_t i = next++; i < pictures.size() && !isStopped(); i = next++) {
-            copied[i] = Copying(pictures[i], longestEdge, folder, isStopped).Run();
+            copied[i] = Copying(pictures[i], longestEdge, folder, disk, isStopped).Run();
             ++done;
         }
     };

@@ -41,6 +41,13 @@ QString ListPathIn(const QString& folder)
     return folder + u'/' + QLatin1String(publishListName);
 }
 
+// Links are removed themselves. What cannot be removed stays for the next run.
+void RemoveAll(const QString& path)
+{
+    std::error_code unknown;
+    std::filesystem::remove_all(path.toStdU16String(), unknown);
+}
+
 [[noreturn]] void ThrowNotWritten(const QString& folder, const QString& reason)
 {
     throw PublishError(FolderTexts::tr("Nothing can be written into the folder \"%1\": %2")
@@ -122,8 +129,8 @@ PublishFolder::PublishFolder(const QString& folder, const QString& kind)
             mustFinish_ = false;
             RequireOurs();
         }
-        QDir(work_ + newName).removeRecursively();
-        QDir(work_ + oldName).removeRecursively();
+        RemoveAll(work_ + newName);
+        RemoveAll(work_ + oldName);
     } catch (const std::system_error& error) {
         ClearWork();
         ThrowNotWritten(folder_, ReasonOf(error.code()));
@@ -322,8 +329,8 @@ QStringList PublishFolder::StaleFiles(const std::vector<PublishedFile>& list) co
 void PublishFolder::ClearWork()
 {
     if (lock_ && !mustFinish_) {
-        QDir(work_ + newName).removeRecursively();
-        QDir(work_ + oldName).removeRecursively();
+        RemoveAll(work_ + newName);
+        RemoveAll(work_ + oldName);
         QFile::remove(work_ + readyName);
         QFile::remove(work_ + readyName + QStringLiteral(".part"));
     }

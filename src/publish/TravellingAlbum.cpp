@@ -17,6 +17,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
+#include <QSet>
 
 using namespace GeneralModule;
 
@@ -51,27 +53,39 @@ public:
     PublishReport Run()
     {
         RequireElsewhere({AlbumItself()});
-        PublishFolder folder(place_, QStringLiteral("album"));
+        std::optional<PublishFolder> folder;
+        // Much may have to be removed.
+        Aside([&] { folder.emplace(place_, QStringLiteral("album")); });
+        const auto release = qScopeGuard([&] { Aside([&] { folder.reset(); }); });
         albumName_ = LegalName(FileNameOf(AlbumItself()));
         if (!albumName_.contains(u'.')) // else it might be called as the pictures' folder is
             albumName_ += QStringLiteral(".alb");
-        albumPath_ = folder.PathFor(albumName_, {});
-        const bool isDone = Read() && Copy(folder) && Rewrite();
-        if (isDone) {
-            folder.PathFor(albumName_, {}); // leads to all others, so it comes last
-            WorkAside(
-                1, [&folder](const auto&) { folder.Commit(); },
-                [this] {
-                    Advance(0);
-                    return true;
-                });
+        albumPath_ = folder->PathFor(albumName_, {});
+        report_.isStopped = !(Read() && Copy(*folder) && Rewrite());
+        if (!report_.isStopped) {
+            folder->PathFor(albumName_, {}); // leads to all others, so it comes last
+            Aside([&] { folder->Commit(); });
         }
-        report_.isStopped = !isDone;
         return report_;
     }
 
 private:
-    bool Advance(int done) const { return progress_(before_ + done, total_); }
+    bool Advance(int done)
+    {
+        done_ = before_ + done;
+        return progress_(done_, total_);
+    }
+
+    // What cannot be stopped, without holding up the windows.
+    void Aside(const std::function<void()>& work)
+    {
+        WorkAside(
+            1, [&work](const auto&) { work(); },
+            [this] {
+                progress_(done_, total_);
+                return true;
+            });
+    }
 
     // Nothing that is to be copied may be replaced.
     void RequireElsewhere(const QStringList& files) const
@@ -166,7 +180,8 @@ private:
     TravelContents contents_;
     std::optional<TravelNames> names_;
     QStringList copyNames_; // of the pictures, by their numbers
-    int before_ = 0;        // steps of the work
+    int before_ = 0;        // steps of the work, before this part of it
+    int done_ = 0;
     int total_ = 0;
 };
 
