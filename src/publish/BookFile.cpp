@@ -38,6 +38,21 @@ std::string PictureName(int picture)
     return "/Picture" + std::to_string(picture);
 }
 
+QByteArray DigestOf(const PublishedStory& story)
+{
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    hash.addData(story.title.toUtf8());
+    for (const PublishedChapter& chapter : story.chapters) {
+        hash.addData(chapter.title.toUtf8());
+        for (const PublishedParagraph& paragraph : chapter.paragraphs) {
+            hash.addData(paragraph.text.toUtf8());
+            for (const PublishedPicture& picture : paragraph.pictures)
+                hash.addData(picture.file.toUtf8());
+        }
+    }
+    return hash.result();
+}
+
 class BookWriting
 {
 public:
@@ -222,8 +237,7 @@ private:
         Object trailer = pdf_.getTrailer();
         trailer.replaceKey("/Info", pdf_.makeIndirectObject(information));
         // The same story gives the same book, whenever it is made.
-        const QByteArray digest = QCryptographicHash::hash(painted_.pdf, QCryptographicHash::Md5);
-        const Object identifier = Object::newString(digest.toStdString());
+        const Object identifier = Object::newString(DigestOf(story_).toStdString());
         trailer.replaceKey("/ID", Object::newArray({identifier, identifier}));
     }
 

@@ -17,6 +17,17 @@ constexpr qint64 bytesPerRead = 64 * 1024;
 constexpr qsizetype markerBytes = 2;
 constexpr qsizetype lengthBytes = 2; // which count themselves
 
+// Where the first marker is that begins something else than a scan's next bytes. A byte of 0xFF
+// that is the last one may.
+qsizetype NextMarker(QByteArrayView piece)
+{
+    qsizetype at = piece.indexOf(char(fill));
+    while (at >= 0 && at + 1 < piece.size() && uchar(piece[at + 1]) != fill &&
+           IsWithinScan(uchar(piece[at + 1])))
+        at = piece.indexOf(char(fill), at + markerBytes);
+    return at < 0 ? piece.size() : at;
+}
+
 } // namespace
 
 QByteArray JpegScans::Next()
@@ -39,8 +50,7 @@ void JpegScans::Take(QByteArrayView piece, bool isLast, QByteArray& kept)
             kept += piece.first(ofSegment);
         segment_ -= ofSegment;
         piece = piece.sliced(ofSegment);
-        const qsizetype marker = piece.indexOf(char(fill));
-        const qsizetype beforeMarker = marker < 0 ? piece.size() : marker;
+        const qsizetype beforeMarker = NextMarker(piece);
         kept += piece.first(beforeMarker);
         piece = piece.sliced(beforeMarker);
         if (piece.size() < markerBytes + lengthBytes && !isLast) {
