@@ -223,6 +223,38 @@
     </message>
 </context>
 <context>
+    <name>BookCheck</name>
+    <message>
+        <source>The book was not written whole (%1).</source>
+        <translation>Le livre n&apos;a pas été écrit en entier (%1).</translation>
+    </message>
+</context>
+<context>
+    <name>BookContents</name>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+</context>
+<context>
+    <name>BookLayout</name>
+    <message>
+        <source>This story has no chapters.</source>
+        <translation>Ce récit n&apos;a pas de chapitres.</translation>
+    </message>
+</context>
+<context>
+    <name>BookScreen</name>
+    <message>
+        <source>This picture is missing.</source>
+        <translation>Cette photo manque.</translation>
+    </message>
+    <message>
+        <source>This picture cannot be read.</source>
+        <translation>Cette photo ne peut être lue.</translation>
+    </message>
+</context>
+<context>
     <name>ChangeText</name>
     <message>
         <source>Nothing changes.</source>
@@ -3232,6 +3264,17 @@ Le supprimer quand même ?</translation>
     <message>
         <source>usage: lumenark --publish ALBUM --as web|page|pdf|album --to PLACE [--chapter NAME]... [--size N] [--most N] [--password-file FILE] [--force]</source>
         <translation>usage : lumenark --publish ALBUM --as web|page|pdf|album --to PLACE [--chapter NAME]... [--size N] [--most N] [--password-file FILE] [--force]</translation>
+    </message>
+</context>
+<context>
+    <name>PublishedBook</name>
+    <message>
+        <source>The book &quot;%1&quot; cannot be written: %2</source>
+        <translation>Le livre « %1 » ne peut être écrit : %2</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire ne suffit pas.</translation>
     </message>
 </context>
 <context>

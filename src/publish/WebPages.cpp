@@ -129,7 +129,7 @@ public:
                 FillChapter(entry, chapter);
             else
                 FillCard(entry, chapter);
-            chapters.push_back(std::move(entry));
+            chapters.push_back(entry);
         }
         return chapters;
     }
@@ -148,7 +148,7 @@ public:
         mustache::data paragraphs{mustache::data::type::list};
         for (std::size_t i = 0; i < chapter.paragraphs.size(); ++i)
             paragraphs.push_back(OfParagraph(chapter.paragraphs[i], i == 0));
-        page.set("paragraphs", std::move(paragraphs));
+        page.set("paragraphs", paragraphs);
     }
 
 private:
@@ -183,7 +183,7 @@ private:
         image.set("src", Text(cover->FileName(size)));
         image.set("width", std::to_string(size.width()));
         image.set("height", std::to_string(size.height()));
-        card.set("cover", std::move(image));
+        card.set("cover", image);
     }
 
     // For a chapter that has no picture to show.
@@ -207,9 +207,9 @@ private:
             mustache::data picture = OfPicture(paragraph, i);
             // The first one of a page is asked for before the browser knows where it stands.
             picture.set("isFirst", isFirst && i == 0);
-            pictures.push_back(std::move(picture));
+            pictures.push_back(picture);
         }
-        data.set("pictures", std::move(pictures));
+        data.set("pictures", pictures);
         data.set("sum", Number(SumOfRatios(paragraph)));
         if (const int more = paragraph.found - int(count); more > 0 && count > 0)
             data.set("more", Text(PageWords::tr("and %Ln more pictures", nullptr, more)));
