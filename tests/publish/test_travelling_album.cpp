@@ -347,6 +347,9 @@ private slots:
         album_->Execute("DELETE FROM Image WHERE File='" + c + "'");
         QCOMPARE(Take().made, 1);
         QCOMPARE(Names(), QStringList({"pictures/a.png", "pictures/b.png", "pictures/mine.txt"}));
+        WriteFile(PathOf("stick/album/story.alb-journal"), "hot");
+        QVERIFY(Refusal().contains("broke off"));
+        QFile::remove(PathOf("stick/album/story.alb-journal"));
         // Somebody has worked on the copy, or works from it.
         WriteFile(PathOf("stick/album/story.alb"), "other");
         QVERIFY(Refusal().contains("has been changed"));
