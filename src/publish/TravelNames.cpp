@@ -86,7 +86,7 @@ QString LegalName(const QString& name)
     return legal;
 }
 
-TravelNames::TravelNames(const QStringList& files, const QStringList& folders, Layout layout)
+TravelNames::TravelNames(const QStringList& files, const QStringList& folders, const Layout& layout)
 {
     std::vector<QStringList> places;
     for (const QString& file : files)

@@ -28,7 +28,7 @@ public:
 
     // Absolute paths of any system. folders: those that patterns name, which keep what is in them
     // together.
-    TravelNames(const QStringList& files, const QStringList& folders, Layout layout);
+    TravelNames(const QStringList& files, const QStringList& folders, const Layout& layout);
 
     // Of the file with that number. Nothing else has this name with ".jpg" or ".png" added to it.
     const QString& NameOf(int number) const { return names_[std::size_t(number)]; }

@@ -152,6 +152,7 @@ private:
         if (!names_)
             return false;
         std::vector<PictureToCopy> pictures;
+        pictures.reserve(contents_.pictures.size());
         for (int i = 0; i < int(contents_.pictures.size()); ++i)
             pictures.push_back({contents_.pictures[std::size_t(i)].source, names_->NameOf(i)});
         const auto copied = CopyPictures(pictures, options_.longestEdge, folder,
