@@ -3641,6 +3641,10 @@ Le supprimer quand même ?</translation>
         <source>The album has no story yet, so that there are no pictures that it shows.</source>
         <translation>L&apos;album n&apos;a pas encore d&apos;histoire ; elle ne montre donc aucune photo.</translation>
     </message>
+    <message>
+        <source>The album &quot;%1&quot; is being changed, or a change of it broke off. Open it and close it, then try again.</source>
+        <translation>L&apos;album « %1 » est en cours de modification, ou une modification de cet album a été interrompue. Ouvrez-le et fermez-le, puis réessayez.</translation>
+    </message>
 </context>
 <context>
     <name>UndoHistory</name>

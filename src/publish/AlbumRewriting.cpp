@@ -50,10 +50,9 @@ public:
         database_->Execute("PRAGMA secure_delete=ON");
         WriteBatch batch(database_, WriteBatch::Commits::AtItsEnd);
         Rename("Image", "UPDATE Image SET File=?1 WHERE rowid=?2");
-        Write("UPDATE Image SET SourceFile='' WHERE SourceFile<>''");
-        Write("DELETE FROM LinkedImages WHERE ParagraphId NOT IN (SELECT Id FROM Paragraph)");
+        database_->Execute("UPDATE Image SET SourceFile='' WHERE SourceFile<>''");
         Rename("LinkedImages", "UPDATE LinkedImages SET File=?1 WHERE rowid=?2");
-        Write("UPDATE Params SET Value='' WHERE Param='LastFileSelection'");
+        database_->Execute("UPDATE Params SET Value='' WHERE Param='LastFileSelection'");
         for (const TravelParagraph& paragraph : rewriting_.contents.paragraphs)
             SetPattern(paragraph, TravelPattern(paragraph.query.fileSelection, rewriting_.folders));
         RecordSet images(database_, QStringLiteral("Image"));
@@ -74,9 +73,7 @@ private:
             throw StoppedRewriting();
     }
 
-    void Write(const QByteArray& sql) { database_->Execute(sql); }
-
-    // Rows of pictures that do not go along are taken out.
+    // Rows of pictures that do not go along are taken out; so are links that no paragraph has.
     void Rename(const QByteArray& table, const QByteArray& sql)
     {
         std::vector<std::pair<qint64, QString>> rows;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "publish/PublishFolder.h"
 
+#include "publish/DiskFiles.h"
 #include "publish/PublishMoves.h"
 #include "publish/PublishReport.h"
 
@@ -14,9 +15,6 @@
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace {
 
@@ -39,13 +37,6 @@ QString ReasonOf(const std::error_code& error)
 QString ListPathIn(const QString& folder)
 {
     return folder + u'/' + QLatin1String(publishListName);
-}
-
-// Links are removed themselves. What cannot be removed stays for the next run.
-void RemoveAll(const QString& path)
-{
-    std::error_code unknown;
-    std::filesystem::remove_all(path.toStdU16String(), unknown);
 }
 
 [[noreturn]] void ThrowNotWritten(const QString& folder, const QString& reason)
@@ -80,34 +71,6 @@ std::optional<PublishList> ReadListAt(const QString& path, const QString& folder
     throw PublishError(FolderTexts::tr("The list of what was published into the folder \"%1\" "
                                        "cannot be read. Choose another folder.")
                            .arg(QDir::toNativeSeparators(folder)));
-}
-
-// All that was written into the folder's disk is on it, so that a full disk shows before the first
-// old file is touched.
-void WriteThroughDisk(const QString& path)
-{
-    const int handle = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-#ifdef Q_OS_LINUX
-    const bool isDone = handle >= 0 && syncfs(handle) == 0;
-#else
-    const bool isDone = handle >= 0 && fsync(handle) == 0;
-#endif
-    const int error = errno;
-    if (handle >= 0)
-        close(handle);
-    if (!isDone)
-        throw std::system_error(error, std::generic_category());
-}
-
-void WriteReadyList(const QString& path, const PublishList& list)
-{
-    const QByteArray text = WritePublishList(list);
-    QFile file(path + QStringLiteral(".part"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush())
-        throw std::system_error(std::make_error_code(std::errc::no_space_on_device));
-    file.close();
-    WriteThroughDisk(file.fileName());
-    std::filesystem::rename(file.fileName().toStdU16String(), path.toStdU16String());
 }
 
 } // namespace
@@ -275,7 +238,7 @@ void PublishFolder::Commit()
     PublishMoves moves(folder_, work_ + newName, work_ + oldName);
     try {
         WriteThroughDisk(work_);
-        WriteReadyList(work_ + readyName, {kind_, list});
+        WriteWhole(work_ + readyName, WritePublishList({kind_, list}));
         mustFinish_ = true;
         PutInPlace(list, moves);
     } catch (const std::system_error& error) {
@@ -294,9 +257,7 @@ void PublishFolder::PutInPlace(const std::vector<PublishedFile>& list, PublishMo
         moves.Place(file.name);
     for (const QString& name : StaleFiles(list))
         moves.TakeAway(name);
-    // With this it has happened.
-    std::filesystem::rename((work_ + readyName).toStdU16String(),
-                            ListPathIn(folder_).toStdU16String());
+    MoveFile(work_ + readyName, ListPathIn(folder_));
     moves.RemoveEmptyFolders();
     try {
         WriteThroughDisk(folder_);

@@ -46,8 +46,7 @@ std::optional<PublishList> ReadPublishList(const QByteArray& text)
     if (object[formatKey].toInt() != listFormat || !object[filesKey].isArray())
         return {};
     PublishList list{object[kindKey].toString()};
-    const QJsonArray files = object[filesKey].toArray();
-    for (const auto& value : files) {
+    for (const auto& value : object[filesKey].toArray()) {
         const QJsonObject file = value.toObject();
         list.files.push_back({file[nameKey].toString(), file[fromKey].toString(),
                               file[sizeKey].toInteger(-1), file[timeKey].toInteger(-1)});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "publish/PublishMoves.h"
 
+#include "publish/DiskFiles.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -20,11 +22,6 @@ bool IsAnythingAt(const QString& path)
 {
     std::error_code unknown;
     return fs::exists(fs::symlink_status(ToPath(path), unknown));
-}
-
-void Rename(const QString& from, const QString& to)
-{
-    fs::rename(ToPath(from), ToPath(to));
 }
 
 // "a/b/c.jpg": "a", "a/b".
@@ -52,7 +49,7 @@ void PublishMoves::Place(const QString& name)
     moves_.push_back({name});
     if (IsAnythingAt(folder_ + name))
         SetAside(name);
-    Rename(ready_ + name, folder_ + name);
+    MoveFile(ready_ + name, folder_ + name);
     moves_.back().isPlaced = true;
 }
 
@@ -61,7 +58,7 @@ void PublishMoves::TakeAway(const QString& name)
     RequireInside(folder_, name);
     fs::create_directories(ToPath(QFileInfo(aside_ + name).path()));
     moves_.push_back({name});
-    Rename(folder_ + name, aside_ + name);
+    MoveFile(folder_ + name, aside_ + name);
     moves_.back().hadOld = true;
     leftFolders_ += FoldersOf(name);
 }
@@ -92,7 +89,7 @@ void PublishMoves::SetAside(const QString& name)
     std::error_code error;
     fs::create_hard_link(ToPath(folder_ + name), ToPath(aside_ + name), error);
     if (error)
-        Rename(folder_ + name, aside_ + name);
+        MoveFile(folder_ + name, aside_ + name);
     moves_.back().hadOld = true;
 }
 

@@ -61,8 +61,10 @@ public:
         if (!albumName_.contains(u'.')) // else it might be called as the pictures' folder is
             albumName_ += QStringLiteral(".alb");
         albumPath_ = folder->PathFor(albumName_, {});
+        RequireQuiet();
         report_.isStopped = !(Read() && Copy(*folder) && Rewrite());
         if (!report_.isStopped) {
+            RequireQuiet();
             folder->PathFor(albumName_, {}); // leads to all others, so it comes last
             Aside([&] { folder->Commit(); });
         }
@@ -103,6 +105,19 @@ private:
         }
     }
 
+    // The engine would play the journal of the former copy back into the new one.
+    void RequireQuiet() const
+    {
+        const QString former = QDir(place_).filePath(albumName_);
+        for (const char* ending : {"-journal", "-wal", "-shm"}) {
+            if (QFileInfo::exists(former + QLatin1String(ending)))
+                throw PublishError(
+                    TravelTexts::tr("The album \"%1\" is being changed, or a change of it broke "
+                                    "off. Open it and close it, then try again.")
+                        .arg(QDir::toNativeSeparators(former)));
+        }
+    }
+
     // The album's contents and its file as they are at one time.
     bool Read()
     {
@@ -137,6 +152,7 @@ private:
         if (!names_)
             return false;
         std::vector<PictureToCopy> pictures;
+        pictures.reserve(contents_.pictures.size());
         for (int i = 0; i < int(contents_.pictures.size()); ++i)
             pictures.push_back({contents_.pictures[std::size_t(i)].source, names_->NameOf(i)});
         const auto copied = CopyPictures(pictures, options_.longestEdge, folder,

@@ -10,6 +10,7 @@
 #include "publish/PublishList.h"
 #include "publish/TravelNames.h"
 #include "publish/TravellingAlbum.h"
+#include "publish/WorkAside.h"
 #include "story/Paragraph.h"
 #include "story/PictureFilter.h"
 #include "support/AlbumTest.h"
@@ -17,7 +18,7 @@
 
 #include <QDirIterator>
 #include <QImage>
-#include <QTimer>
+#include <QThread>
 
 #include <csignal>
 
@@ -347,6 +348,9 @@ private slots:
         album_->Execute("DELETE FROM Image WHERE File='" + c + "'");
         QCOMPARE(Take().made, 1);
         QCOMPARE(Names(), QStringList({"pictures/a.png", "pictures/b.png", "pictures/mine.txt"}));
+        WriteFile(PathOf("stick/album/story.alb-journal"), "hot");
+        QVERIFY(Refusal().contains("broke off"));
+        QFile::remove(PathOf("stick/album/story.alb-journal"));
         // Somebody has worked on the copy, or works from it.
         WriteFile(PathOf("stick/album/story.alb"), "other");
         QVERIFY(Refusal().contains("has been changed"));
@@ -365,6 +369,16 @@ private slots:
         QVERIFY(Refusal().contains("the album itself uses"));
     }
 
+    // Its threads see it at once: these wait for nothing else.
+    void AStopReachesTheThreads()
+    {
+        const auto wait = [](const std::function<bool()>& isStopped) {
+            while (!isStopped())
+                QThread::yieldCurrentThread();
+        };
+        QVERIFY(!WorkAside(2, wait, [calls = 3]() mutable { return calls-- > 0; }));
+    }
+
     void AStopOrAFailureLeavesWhatWasThere()
     {
         Add("photos/a.png");
@@ -373,6 +387,12 @@ private slots:
         const auto before = Contents();
         album_->AddPicture("photos/large.bmp", {}, {400, 400});
         album_->AddChapter("Two");
+        // At the last moment.
+        QVERIFY(
+            TakeAlbumAlong({.longestEdge = 300}, PathOf("stick/album"), [](int done, int total) {
+                return total == 0 || done < total;
+            }).isStopped);
+        QCOMPARE(Contents(), before);
         bool isStopped = true;
         int calls = 0;
         for (; isStopped && calls < 200; ++calls) {
