@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "publish/WebPages.h"
 
+#include "publish/WebParagraphs.h"
 #include "publish/WebPictures.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QRegularExpression>
 
 #include <kainjow/mustache.hpp>
-
-#include <algorithm>
 
 namespace mustache = kainjow::mustache;
 
@@ -21,13 +19,7 @@ static void NeedTemplates()
 
 namespace {
 
-constexpr int shownEdge = 960; // of the picture that a browser without srcset shows
 constexpr qsizetype longestExcerpt = 160;
-constexpr std::size_t fewPictures = 4; // that stand in higher rows
-constexpr double rowHeight = 20;       // in em, with what rows are stretched by
-constexpr double highRowHeight = 28;
-constexpr double ratioOfPlaceholder = 1.5; // width to height
-constexpr double leastSum = 2.6; // of ratios in a row of few pictures, lest it becomes too high
 
 struct PageWords
 {
@@ -37,11 +29,6 @@ struct PageWords
 std::string Text(const QString& text)
 {
     return text.toStdString();
-}
-
-mustache::data Number(double number)
-{
-    return {QByteArray::number(number, 'g', 5).toStdString()};
 }
 
 std::string Resource(const QString& name)
@@ -73,20 +60,6 @@ mustache::data Words()
     return words;
 }
 
-mustache::data Lines(const QString& text)
-{
-    static const QRegularExpression emptyLines(QStringLiteral("\n\\s*\n"));
-    mustache::data lines{mustache::data::type::list};
-    for (const QString& line : text.split(emptyLines, Qt::SkipEmptyParts))
-        lines.push_back(Text(line));
-    return lines;
-}
-
-std::string Marked(const QString& file)
-{
-    return WebPages::insideMark + file.toStdString() + WebPages::insideMark;
-}
-
 } // namespace
 
 // What the templates are filled with.
@@ -94,7 +67,7 @@ class WebPages::Data
 {
 public:
     Data(const PublishedStory& story, const WebPictures& pictures, Form form)
-        : story_(story), pictures_(pictures), form_(form)
+        : story_(story), pictures_(pictures), paragraphs_(pictures, form), form_(form)
     {
     }
 
@@ -126,7 +99,7 @@ public:
             mustache::data entry = Link(chapter);
             entry.set("anchor", Text(Anchor(chapter)));
             if (IsAlone())
-                FillChapter(entry, chapter);
+                paragraphs_.Fill(entry, chapter);
             else
                 FillCard(entry, chapter);
             chapters.push_back(entry);
@@ -144,11 +117,7 @@ public:
 
     void FillChapter(mustache::data& page, const PublishedChapter& chapter) const
     {
-        page.set("isEmpty", chapter.paragraphs.empty());
-        mustache::data paragraphs{mustache::data::type::list};
-        for (std::size_t i = 0; i < chapter.paragraphs.size(); ++i)
-            paragraphs.push_back(OfParagraph(chapter.paragraphs[i], i == 0));
-        page.set("paragraphs", paragraphs);
+        paragraphs_.Fill(page, chapter);
     }
 
 private:
@@ -195,103 +164,9 @@ private:
         return text.size() > longestExcerpt ? text.first(longestExcerpt) + QChar(u'\u2026') : text;
     }
 
-    mustache::data OfParagraph(const PublishedParagraph& paragraph, bool isFirst) const
-    {
-        const std::size_t count = paragraph.pictures.size();
-        mustache::data data;
-        data.set("lines", Lines(paragraph.text));
-        data.set("hasPictures", count > 0);
-        data.set("crowd", count == 1 ? "one" : count <= fewPictures ? "few" : "many");
-        mustache::data pictures{mustache::data::type::list};
-        for (std::size_t i = 0; i < count; ++i) {
-            mustache::data picture = OfPicture(paragraph, i);
-            // The first one of a page is asked for before the browser knows where it stands.
-            picture.set("isFirst", isFirst && i == 0);
-            pictures.push_back(picture);
-        }
-        data.set("pictures", pictures);
-        data.set("sum", Number(SumOfRatios(paragraph)));
-        if (const int more = paragraph.found - int(count); more > 0 && count > 0)
-            data.set("more", Text(PageWords::tr("and %Ln more pictures", nullptr, more)));
-        return data;
-    }
-
-    double RatioOf(const QString& file) const
-    {
-        const WebPicture& picture = pictures_.Of(file);
-        if (!picture.IsThere())
-            return ratioOfPlaceholder;
-        return double(picture.sizes.back().width()) / picture.sizes.back().height();
-    }
-
-    // Few pictures stand in one row where the page is wide.
-    double SumOfRatios(const PublishedParagraph& paragraph) const
-    {
-        double sum = 0;
-        for (const PublishedPicture& picture : paragraph.pictures)
-            sum += RatioOf(picture.file);
-        return std::max(sum, leastSum);
-    }
-
-    mustache::data OfPicture(const PublishedParagraph& paragraph, std::size_t number) const
-    {
-        const PublishedPicture& picture = paragraph.pictures[number];
-        const WebPicture& files = pictures_.Of(picture.file);
-        mustache::data data;
-        data.set("isThere", files.IsThere());
-        data.set("ratio", Number(RatioOf(picture.file)));
-        if (!picture.legend.trimmed().isEmpty())
-            data.set("legend", Text(picture.legend));
-        if (!files.IsThere())
-            return data;
-        const QString place =
-            PageWords::tr("Picture %1 of %2").arg(number + 1).arg(paragraph.pictures.size());
-        data.set("alt", Text(picture.legend.trimmed().isEmpty() ? place : picture.legend));
-        if (picture.text != paragraph.text)
-            data.set("text", Text(picture.text));
-        SetFiles(data, picture.file, paragraph.pictures.size());
-        return data;
-    }
-
-    void SetFiles(mustache::data& data, const QString& file, std::size_t neighbours) const
-    {
-        const WebPicture& files = pictures_.Of(file);
-        const QSize largest = files.sizes.back();
-        QSize shown = largest;
-        QStringList set;
-        for (const QSize& size : files.sizes) {
-            set += QStringLiteral("%1 %2w").arg(files.FileName(size)).arg(size.width());
-            if (std::max(size.width(), size.height()) <= shownEdge)
-                shown = size;
-        }
-        if (IsAlone()) {
-            data.set("src", Marked(files.FileName(shown)));
-            data.set("address", "#"); // a browser follows no link to an address that holds a file
-        } else {
-            data.set("src", Text(files.FileName(shown)));
-            data.set("address", Text(files.FileName(largest)));
-        }
-        if (set.size() > 1) {
-            data.set("srcset", Text(set.join(QStringLiteral(", "))));
-            data.set("sizes", Text(SizesFor(RatioOf(file), neighbours)));
-        }
-        data.set("width", std::to_string(shown.width()));
-        data.set("height", std::to_string(shown.height()));
-    }
-
-    // How wide the style shows a picture, about: rows fill a phone's width and have a certain
-    // height elsewhere.
-    static QString SizesFor(double ratio, std::size_t neighbours)
-    {
-        if (neighbours == 1)
-            return QStringLiteral("min(92vw, 79em, %1vh)").arg(qRound(ratio * 78));
-        const double height = neighbours <= fewPictures ? highRowHeight : rowHeight;
-        return QStringLiteral("(max-width: 40em) 92vw, min(92vw, %1em)")
-            .arg(qRound(ratio * height));
-    }
-
     const PublishedStory& story_;
     const WebPictures& pictures_;
+    WebParagraphs paragraphs_;
     Form form_;
 };
 
