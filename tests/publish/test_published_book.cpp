@@ -62,7 +62,8 @@ QByteArray WithMetadata(const QByteArray& jpeg, char turn)
         QByteArray("Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0", 24) + turn +
         QByteArray(7, '\0') + "SECRET camera";
     const qsizetype afterJfif = 2 + 2 + 16;
-    return jpeg.first(afterJfif) + Segment('\xE1', exif) +
+    const QByteArray withSmallPicture = jpeg.mid(6, 12) + QByteArray("\2\1SECRET", 8);
+    return jpeg.first(2) + Segment('\xE0', withSmallPicture) + Segment('\xE1', exif) +
            Segment('\xE1', "http://ns.adobe.com/xap/1.0/ SECRET place") +
            Segment('\xED', "Photoshop SECRET") + Segment('\xFE', "SECRET") + jpeg.mid(afterJfif) +
            "SECRET" + jpeg;
@@ -401,8 +402,7 @@ private slots:
                         QCOMPARE(text.first, std::exchange(lines[text.text.get()], text.last));
                     }
                     for (std::size_t i = 0; i < places.size(); ++i) {
-                        QVERIFY(
-                            QRectF(QPointF(9, 9), paper - QSizeF(18, 18)).contains(places[i]));
+                        QVERIFY(QRectF(QPointF(9, 9), paper - QSizeF(18, 18)).contains(places[i]));
                         const QRectF inside = places[i].adjusted(0.1, 0.1, -0.1, -0.1);
                         for (std::size_t j = 0; j < i; ++j)
                             QVERIFY(!inside.isValid() || !inside.intersects(places[j]));
