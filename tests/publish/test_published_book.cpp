@@ -123,6 +123,7 @@ private slots:
         const FoundBook book = Publish(story);
         QCOMPARE(book.title, story.title);
         QCOMPARE(book.language, "fr-CA");
+        QCOMPARE(book.properties, QStringList({"/Creator", "/Title"}));
         QVERIFY(book.pages[0].startsWith("Die (Größe) \\ "));
         QVERIFY(!book.pages[0].contains('1'));
         const int last = int(book.pages.size()) - 1;
@@ -141,7 +142,7 @@ private slots:
             at = text.indexOf(each, at);
             QVERIFY(at >= 0);
         }
-        QCOMPARE(text.count('w'), 3000);
+        QVERIFY(text.count('w') == 3000 && !text.contains(QString(100, 'w')));
         QCOMPARE(book.outline, QStringList({"One:2", QString::fromUtf8("Été <i>:%1").arg(last - 1),
                                             QString::fromUtf8("שנה:%1").arg(last)}));
         QCOMPARE(book.links.size(), 3);
@@ -194,7 +195,7 @@ private slots:
         QCOMPARE(QImage::fromData(scaled.bytes).size(), scaled.size);
         // Viewers would disagree about the colours.
         const QByteArray adobe = Segment('\xEE', QByteArray("Adobe\0\x64\0\0\0\0\0", 12));
-        QVERIFY(only(plain.first(20) + adobe + plain.mid(20)).bytes != plain);
+        QVERIFY(!only(plain.first(20) + adobe + plain.mid(20)).bytes.contains("Adobe"));
         // The profile goes with the bytes; one whose parts are not all there counts for nothing.
         QImage image = QImage::fromData(plain);
         image.setColorSpace(QColorSpace::AdobeRgb);
@@ -338,10 +339,10 @@ private slots:
         more.pages.emplace_back();
         refuses(whole, more);
         more = facts;
-        ++more.chapters;
+        more.chapters = 0;
         refuses(whole, more);
         more = facts;
-        more.pages.back().insert("/Picture9");
+        more.pages.back().clear();
         refuses(whole, more);
     }
 
