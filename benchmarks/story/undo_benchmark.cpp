@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What undo costs: work on an album whose changes are logged ("ours") against the same without a
-// log
-// ("bare"), and taking a step back against making it.
+// log ("bare"), and taking a step back against making it.
 #include "../SideBySide.h"
 
 #include "catalogue/PictureLoading.h"

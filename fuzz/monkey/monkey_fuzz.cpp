@@ -13,6 +13,7 @@
 #include "fuzz/monkey/RandomDialogs.h"
 #include "platform/widgets/HeldEscape.h"
 #include "platform/widgets/HelpWindow.h"
+#include "publish/frmPublish.h"
 #include "support/AlbumFixture.h"
 #include "ui/main/frmEarlierStates.h"
 #include "ui/main/frmOpenChapter.h"
@@ -120,7 +121,8 @@ int PlayIn(const QString& root, int argc, char** argv)
     InstallHelpKey(HelpFile());
     InstallHeldEscapeFilter();
     // A second program would outlive this one.
-    frmEarlierStates::UsualLookInto = [](const QString&) { return true; };
+    frmPublish::Show = [](const QString&) {};
+    frmEarlierStates::LookInto = [](const QString&) { return true; };
     RandomDialogs dialogs(trials);
     // Pictures are named by where they lie, so the albums are played with where they were made.
     const QString made = root + "/made";

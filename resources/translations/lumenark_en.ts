@@ -613,6 +613,44 @@
     </message>
 </context>
 <context>
+    <name>PublishReport</name>
+    <message numerus="yes">
+        <source>%Ln pictures were published</source>
+        <translation>
+            <numerusform>%Ln picture was published</numerusform>
+            <numerusform>%Ln pictures were published</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln of them made anew.</source>
+        <translation>
+            <numerusform>%Ln of them made anew.</numerusform>
+            <numerusform>%Ln of them made anew.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more</source>
+        <translation>
+            <numerusform>and %Ln more</numerusform>
+            <numerusform>and %Ln more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures are missing:</source>
+        <translation>
+            <numerusform>%Ln picture is missing:</numerusform>
+            <numerusform>%Ln pictures are missing:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures cannot be read:</source>
+        <translation>
+            <numerusform>%Ln picture cannot be read:</numerusform>
+            <numerusform>%Ln pictures cannot be read:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>UndoHistory</name>
     <message numerus="yes">
         <source>%Ln pictures</source>
@@ -670,6 +708,23 @@
         <translation>
             <numerusform>Undo %n Step</numerusform>
             <numerusform>Undo %n Steps</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>WebPages</name>
+    <message numerus="yes">
+        <source>%Ln pictures</source>
+        <translation>
+            <numerusform>%Ln picture</numerusform>
+            <numerusform>%Ln pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more pictures</source>
+        <translation>
+            <numerusform>and %Ln more picture</numerusform>
+            <numerusform>and %Ln more pictures</numerusform>
         </translation>
     </message>
 </context>

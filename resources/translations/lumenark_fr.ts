@@ -169,6 +169,17 @@
     </message>
 </context>
 <context>
+    <name>AlbumRewriting</name>
+    <message>
+        <source>Chapter &quot;%1&quot;, paragraph %2: the file pattern cannot go along, so its pictures are linked by hand in the copy.</source>
+        <translation>Chapitre « %1 », paragraphe %2 : le modèle de fichiers ne peut pas être emporté ; ses photos sont donc liées à la main dans la copie.</translation>
+    </message>
+    <message>
+        <source>Chapter &quot;%1&quot;, paragraph %2: it shows other pictures in the copy.</source>
+        <translation>Chapitre « %1 », paragraphe %2 : il montre d&apos;autres photos dans la copie.</translation>
+    </message>
+</context>
+<context>
     <name>AlbumStatus</name>
     <message numerus="yes">
         <source>%Ln picture(s)</source>
@@ -209,6 +220,38 @@
     <message>
         <source>Autoview Mode</source>
         <translation>Défilement automatique</translation>
+    </message>
+</context>
+<context>
+    <name>BookCheck</name>
+    <message>
+        <source>The book was not written whole (%1).</source>
+        <translation>Le livre n&apos;a pas été écrit en entier (%1).</translation>
+    </message>
+</context>
+<context>
+    <name>BookContents</name>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+</context>
+<context>
+    <name>BookLayout</name>
+    <message>
+        <source>This story has no chapters.</source>
+        <translation>Ce récit n&apos;a pas de chapitres.</translation>
+    </message>
+</context>
+<context>
+    <name>BookScreen</name>
+    <message>
+        <source>This picture is missing.</source>
+        <translation>Cette photo manque.</translation>
+    </message>
+    <message>
+        <source>This picture cannot be read.</source>
+        <translation>Cette photo ne peut être lue.</translation>
     </message>
 </context>
 <context>
@@ -922,6 +965,10 @@
     <message>
         <source>Load the pictures of the folders inside, too ?</source>
         <translation>Charger aussi les photos des dossiers contenus ?</translation>
+    </message>
+    <message>
+        <source>The pictures in the folders are being looked for...</source>
+        <translation>Recherche des photos dans les dossiers...</translation>
     </message>
 </context>
 <context>
@@ -2016,6 +2063,229 @@ Votre version :
     </message>
 </context>
 <context>
+    <name>frmPublish</name>
+    <message>
+        <source>Publish Story</source>
+        <translation>Publier le récit</translation>
+    </message>
+    <message>
+        <source>Web pages</source>
+        <translation>Pages web</translation>
+    </message>
+    <message>
+        <source>A folder with a front page and a page for each chapter</source>
+        <translation>Un dossier avec une page d&apos;accueil et une page par chapitre</translation>
+    </message>
+    <message>
+        <source>One web page</source>
+        <translation>Une page web</translation>
+    </message>
+    <message>
+        <source>A single file with its pictures inside, to be sent</source>
+        <translation>Un seul fichier qui contient ses photos, à envoyer</translation>
+    </message>
+    <message>
+        <source>Book</source>
+        <translation>Livre</translation>
+    </message>
+    <message>
+        <source>A PDF to be read on a screen or printed</source>
+        <translation>Un PDF à lire à l&apos;écran ou à imprimer</translation>
+    </message>
+    <message>
+        <source>Album with its pictures</source>
+        <translation>Album avec ses photos</translation>
+    </message>
+    <message>
+        <source>A folder that opens on every computer that has this program</source>
+        <translation>Un dossier qui s&apos;ouvre sur tout ordinateur qui a ce programme</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Chapitres</translation>
+    </message>
+    <message>
+        <source>The chapters to publish</source>
+        <translation>Les chapitres à publier</translation>
+    </message>
+    <message>
+        <source>Title :</source>
+        <translation>Titre :</translation>
+    </message>
+    <message>
+        <source>Pictures of a paragraph, at most :</source>
+        <translation>Photos d&apos;un paragraphe, au plus :</translation>
+    </message>
+    <message>
+        <source>Largest pictures :</source>
+        <translation>Les plus grandes photos :</translation>
+    </message>
+    <message>
+        <source>1280 pixels</source>
+        <translation>1280 pixels</translation>
+    </message>
+    <message>
+        <source>1920 pixels</source>
+        <translation>1920 pixels</translation>
+    </message>
+    <message>
+        <source>2560 pixels</source>
+        <translation>2560 pixels</translation>
+    </message>
+    <message>
+        <source>3840 pixels</source>
+        <translation>3840 pixels</translation>
+    </message>
+    <message>
+        <source>Paper :</source>
+        <translation>Papier :</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>A4, landscape</source>
+        <translation>A4, paysage</translation>
+    </message>
+    <message>
+        <source>A5</source>
+        <translation>A5</translation>
+    </message>
+    <message>
+        <source>A5, landscape</source>
+        <translation>A5, paysage</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Lettre US</translation>
+    </message>
+    <message>
+        <source>Letter, landscape</source>
+        <translation>Lettre US, paysage</translation>
+    </message>
+    <message>
+        <source>Pictures of the book :</source>
+        <translation>Photos du livre :</translation>
+    </message>
+    <message>
+        <source>As they are</source>
+        <translation>Telles quelles</translation>
+    </message>
+    <message>
+        <source>300 dots per inch, to be printed</source>
+        <translation>300 points par pouce, à imprimer</translation>
+    </message>
+    <message>
+        <source>150 dots per inch, for screens</source>
+        <translation>150 points par pouce, pour l&apos;écran</translation>
+    </message>
+    <message>
+        <source>Pictures to take along :</source>
+        <translation>Photos à emporter :</translation>
+    </message>
+    <message>
+        <source>All of the album</source>
+        <translation>Toutes celles de l&apos;album</translation>
+    </message>
+    <message>
+        <source>Those that the story shows</source>
+        <translation>Celles que montre le récit</translation>
+    </message>
+    <message>
+        <source>Their size :</source>
+        <translation>Leur taille :</translation>
+    </message>
+    <message>
+        <source>At most 4096 pixels</source>
+        <translation>Au plus 4096 pixels</translation>
+    </message>
+    <message>
+        <source>At most 2048 pixels</source>
+        <translation>Au plus 2048 pixels</translation>
+    </message>
+    <message>
+        <source>At most 1024 pixels</source>
+        <translation>Au plus 1024 pixels</translation>
+    </message>
+    <message>
+        <source>Into :</source>
+        <translation>Dans :</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choisir...</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Montrer</translation>
+    </message>
+    <message>
+        <source>Open what was published</source>
+        <translation>Ouvrir ce qui a été publié</translation>
+    </message>
+    <message>
+        <source>Publish</source>
+        <translation>Publier</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>%1 with pictures</source>
+        <translation>%1 avec photos</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 existe déjà. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Page web</translation>
+    </message>
+    <message>
+        <source>The story is being read...</source>
+        <translation>Le récit est lu...</translation>
+    </message>
+    <message>
+        <source>Picture %1 of %2...</source>
+        <translation>Photo %1 sur %2...</translation>
+    </message>
+    <message>
+        <source>Please say where to publish it.</source>
+        <translation>Veuillez dire où le publier.</translation>
+    </message>
+    <message>
+        <source>Please tick at least one chapter.</source>
+        <translation>Veuillez cocher au moins un chapitre.</translation>
+    </message>
+    <message>
+        <source>Nothing was published.</source>
+        <translation>Rien n&apos;a été publié.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Arrêté.</translation>
+    </message>
+    <message>
+        <source>Published.</source>
+        <translation>Publié.</translation>
+    </message>
+    <message>
+        <source>Published, but not all of it; see below.</source>
+        <translation>Publié, mais pas entièrement ; voir ci-dessous.</translation>
+    </message>
+</context>
+<context>
     <name>frmTakeChapters</name>
     <message>
         <source>Take Back Chapters</source>
@@ -2924,10 +3194,194 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>PictureCopying</name>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be copied: %2</source>
+        <translation>La photo « %1 » ne peut pas être copiée : %2</translation>
+    </message>
+</context>
+<context>
     <name>PictureLoading</name>
     <message>
         <source>The folder &apos;%1&apos; is no longer there.</source>
         <translation>Le dossier « %1 » n&apos;est plus là.</translation>
+    </message>
+</context>
+<context>
+    <name>Publish</name>
+    <message>
+        <source>Reading paragraph %1 of %2</source>
+        <translation>Lecture du paragraphe %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Picture %1 of %2</source>
+        <translation>Photo %1 sur %2</translation>
+    </message>
+    <message>
+        <source>It takes a number from %1 to %2.</source>
+        <translation>Il y faut un nombre de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>It exists already; --force replaces it.</source>
+        <translation>Il existe déjà ; --force le remplace.</translation>
+    </message>
+    <message>
+        <source>Publish the album&apos;s story, with --as and --to, without windows. The exit status is 3 when the result lacks pictures.</source>
+        <translation>Publie le récit de l&apos;album, avec --as et --to, sans fenêtres. Le code de sortie est 3 quand il y manque des photos.</translation>
+    </message>
+    <message>
+        <source>With --publish: &quot;web&quot; for pages in a folder, &quot;page&quot; for one page in a file, &quot;pdf&quot; for a book, &quot;album&quot; for a copy of the album with its pictures in a folder.</source>
+        <translation>Avec --publish : « web » pour des pages dans un dossier, « page » pour une page dans un fichier, « pdf » pour un livre, « album » pour une copie de l&apos;album avec ses photos dans un dossier.</translation>
+    </message>
+    <message>
+        <source>With --publish: only this chapter; may be given again.</source>
+        <translation>Avec --publish : seulement ce chapitre ; peut être répété.</translation>
+    </message>
+    <message>
+        <source>With --publish: longest edge of the largest pictures in pixels; of a book their dots per inch.</source>
+        <translation>Avec --publish : plus grand côté des plus grandes photos en pixels ; d&apos;un livre, leurs points par pouce.</translation>
+    </message>
+    <message>
+        <source>With --publish: how many pictures a paragraph shows at most; %1 when it is not given.</source>
+        <translation>Avec --publish : combien de photos un paragraphe montre au plus ; %1 sans cette option.</translation>
+    </message>
+    <message>
+        <source>The folder or file to publish into.</source>
+        <translation>Le dossier ou le fichier où publier.</translation>
+    </message>
+    <message>
+        <source>Replace a file that exists.</source>
+        <translation>Remplace un fichier existant.</translation>
+    </message>
+    <message>
+        <source>The album.</source>
+        <translation>L&apos;album.</translation>
+    </message>
+    <message>
+        <source>--publish needs an album, a kind and a place</source>
+        <translation>--publish demande un album, une forme et un lieu</translation>
+    </message>
+    <message>
+        <source>usage: lumenark --publish ALBUM --as web|page|pdf|album --to PLACE [--chapter NAME]... [--size N] [--most N] [--password-file FILE] [--force]</source>
+        <translation>usage : lumenark --publish ALBUM --as web|page|pdf|album --to PLACE [--chapter NAME]... [--size N] [--most N] [--password-file FILE] [--force]</translation>
+    </message>
+</context>
+<context>
+    <name>PublishedBook</name>
+    <message>
+        <source>The book &quot;%1&quot; cannot be written: %2</source>
+        <translation>Le livre « %1 » ne peut être écrit : %2</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire ne suffit pas.</translation>
+    </message>
+</context>
+<context>
+    <name>PublishedPages</name>
+    <message>
+        <source>There is no story to publish: the album has no chapter.</source>
+        <translation>Il n&apos;y a pas de récit à publier : l&apos;album n&apos;a pas de chapitre.</translation>
+    </message>
+    <message>
+        <source>The pages cannot be written: %1</source>
+        <translation>Les pages ne peuvent être écrites : %1</translation>
+    </message>
+</context>
+<context>
+    <name>PublishedStory</name>
+    <message>
+        <source>There is no chapter &quot;%1&quot;.</source>
+        <translation>Il n&apos;y a pas de chapitre « %1 ».</translation>
+    </message>
+    <message>
+        <source>Chapter &quot;%1&quot;, paragraph %2: %3</source>
+        <translation>Chapitre « %1 », paragraphe %2 : %3</translation>
+    </message>
+</context>
+<context>
+    <name>PublishFolder</name>
+    <message>
+        <source>Nothing can be written into the folder &quot;%1&quot;: %2</source>
+        <translation>Rien ne peut être écrit dans le dossier « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The list of what was published into the folder &quot;%1&quot; cannot be read. Choose another folder.</source>
+        <translation>La liste de ce qui a été publié dans le dossier « %1 » ne peut pas être lue. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made: %2</source>
+        <translation>Le dossier « %1 » ne peut pas être créé : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder.</source>
+        <translation>« %1 » n&apos;est pas un dossier.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; holds files of yours. Choose an empty folder, or one that does not exist yet.</source>
+        <translation>Le dossier « %1 » contient des fichiers à vous. Choisissez un dossier vide, ou un dossier qui n&apos;existe pas encore.</translation>
+    </message>
+    <message>
+        <source>Something else was published into the folder &quot;%1&quot;. Choose another folder.</source>
+        <translation>Autre chose a été publié dans le dossier « %1 ». Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; is being published into already.</source>
+        <translation>Une publication dans le dossier « %1 » est déjà en cours.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is in the way, and it was not published into the folder. Move it away, or choose another folder.</source>
+        <translation>Le fichier « %1 » est à la place d&apos;un nouveau fichier, et il n&apos;a pas été publié dans le dossier. Déplacez-le, ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; has been changed since it was published. Move it away, or choose another folder.</source>
+        <translation>Le fichier « %1 » a été modifié depuis sa publication. Déplacez-le, ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The new files cannot be put in place: %1</source>
+        <translation>Les nouveaux fichiers ne peuvent pas être mis en place : %1</translation>
+    </message>
+</context>
+<context>
+    <name>PublishReport</name>
+    <message>
+        <source>Stopped. What was there before is as it was.</source>
+        <translation>Arrêté. Ce qui était là est resté tel quel.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures were published</source>
+        <translation>
+            <numerusform>%Ln photo a été publiée</numerusform>
+            <numerusform>%Ln photos ont été publiées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln of them made anew.</source>
+        <translation>
+            <numerusform>dont %Ln faite à neuf.</numerusform>
+            <numerusform>dont %Ln faites à neuf.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more</source>
+        <translation>
+            <numerusform>et %Ln autre</numerusform>
+            <numerusform>et %Ln autres</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures are missing:</source>
+        <translation>
+            <numerusform>%Ln photo manque :</numerusform>
+            <numerusform>%Ln photos manquent :</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures cannot be read:</source>
+        <translation>
+            <numerusform>%Ln photo ne peut être lue :</numerusform>
+            <numerusform>%Ln photos ne peuvent être lues :</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3629,21 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Found Pictures</source>
         <translation>Photos trouvées</translation>
+    </message>
+</context>
+<context>
+    <name>TravellingAlbum</name>
+    <message>
+        <source>The folder &quot;%1&quot; holds files that the album itself uses. Choose another folder.</source>
+        <translation>Le dossier « %1 » contient des fichiers que l&apos;album lui-même utilise. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The album has no story yet, so that there are no pictures that it shows.</source>
+        <translation>L&apos;album n&apos;a pas encore d&apos;histoire ; elle ne montre donc aucune photo.</translation>
+    </message>
+    <message>
+        <source>The album &quot;%1&quot; is being changed, or a change of it broke off. Open it and close it, then try again.</source>
+        <translation>L&apos;album « %1 » est en cours de modification, ou une modification de cet album a été interrompue. Ouvrez-le et fermez-le, puis réessayez.</translation>
     </message>
 </context>
 <context>
@@ -3490,6 +3959,71 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Link to this paragraph, or unlink: the large picture, or the one under the pointer</source>
         <translation>Lier à ce paragraphe, ou délier : la grande photo, ou celle sous le pointeur</translation>
+    </message>
+</context>
+<context>
+    <name>WebPages</name>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Chapitres</translation>
+    </message>
+    <message>
+        <source>Previous chapter</source>
+        <translation>Chapitre précédent</translation>
+    </message>
+    <message>
+        <source>Next chapter</source>
+        <translation>Chapitre suivant</translation>
+    </message>
+    <message>
+        <source>Previous picture</source>
+        <translation>Photo précédente</translation>
+    </message>
+    <message>
+        <source>Next picture</source>
+        <translation>Photo suivante</translation>
+    </message>
+    <message>
+        <source>Slide show</source>
+        <translation>Diaporama</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Large picture</source>
+        <translation>Photo en grand</translation>
+    </message>
+    <message>
+        <source>This picture is missing.</source>
+        <translation>Cette photo manque.</translation>
+    </message>
+    <message>
+        <source>Nothing has been written here yet.</source>
+        <translation>Rien n&apos;a encore été écrit ici.</translation>
+    </message>
+    <message>
+        <source>Picture %1 of %2</source>
+        <translation>Photo %1 sur %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pictures</source>
+        <translation>
+            <numerusform>%Ln photo</numerusform>
+            <numerusform>%Ln photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %Ln more pictures</source>
+        <translation>
+            <numerusform>et %Ln autre photo</numerusform>
+            <numerusform>et %Ln autres photos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4464,6 +4998,10 @@ Les fichiers de photos déposés ici lui sont liés.</translation>
     <message>
         <source>Undo Several...</source>
         <translation>Annuler plusieurs étapes...</translation>
+    </message>
+    <message>
+        <source>Publish Story...</source>
+        <translation>Publier le récit...</translation>
     </message>
 </context>
 <context>

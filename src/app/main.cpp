@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "Convert.h"
 #include "Descriptions.h"
+#include "Publish.h"
 #include "Translations.h"
 
 #include "core/Album.h"
@@ -31,6 +32,7 @@ QString ReadArguments()
     AddConversionOptions(parser);
     AddDescriptionOptions(parser);
     AddCheckOptions(parser);
+    AddPublishOptions(parser);
     parser.addPositionalArgument(
         QStringLiteral("album"),
         QApplication::tr("The album to open; the last one when not given."),
@@ -51,6 +53,8 @@ int main(int argc, char** argv)
         return RunDescriptionTransfer(argc, argv);
     if (IsCheck(argc, argv))
         return RunCheck(argc, argv);
+    if (IsPublishing(argc, argv))
+        return RunPublishing(argc, argv);
     if (AsksOnly(argc, argv)) {
         QCoreApplication application(argc, argv);
         NameProgram();

@@ -22,21 +22,41 @@ bool IsValidText(const QUrl& url)
     return QString::fromUtf8(bytes).toUtf8() == bytes;
 }
 
-bool HasFoldersInside(const QString& folder)
+bool HaveFoldersInside(const QList<QUrl>& urls)
 {
-    return QDirIterator(folder, QDir::Dirs | QDir::NoDotAndDotDot).hasNext();
+    return std::ranges::any_of(urls, [](const QUrl& url) {
+        const QString path = url.toLocalFile();
+        return QFileInfo(path).isDir() &&
+               QDirIterator(path, QDir::Dirs | QDir::NoDotAndDotDot).hasNext();
+    });
 }
 
 class Sorter
 {
 public:
-    explicit Sorter(FolderDepth depth) : depth_(depth) {}
+    Sorter(bool isDeep, const std::function<bool()>& isStopped)
+        : isDeep_(isDeep), isStopped_(isStopped)
+    {
+    }
 
+    // None when it was stopped.
+    std::optional<DroppedFiles> Sort(const QList<QUrl>& urls)
+    {
+        for (const QUrl& url : urls) {
+            if (!isStopped_())
+                Add(url);
+        }
+        if (isStopped_())
+            return std::nullopt;
+        return std::move(files_);
+    }
+
+private:
     void Add(const QUrl& url)
     {
         // A URL that is not local gives an empty path, which is no file.
         const QFileInfo info(url.toLocalFile());
-        if (info.isDir() && depth_ == FolderDepth::FoldersInside)
+        if (info.isDir() && isDeep_)
             AddTree(QDir::toNativeSeparators(info.absoluteFilePath()));
         else if (info.isDir())
             AddFolder(QDir::toNativeSeparators(info.absoluteFilePath()));
@@ -48,9 +68,6 @@ public:
             AddFile(info);
     }
 
-    DroppedFiles Take() { return std::move(files_); }
-
-private:
     void AddFolder(const QString& folder)
     {
         const FolderListing listing = ListFiles(folder);
@@ -66,7 +83,10 @@ private:
 
     void AddTree(const QString& folder)
     {
-        const auto found = FindPictureFiles(folder, readablePictures, [](int) { return true; });
+        const auto found =
+            FindPictureFiles(folder, readablePictures, [this](int) { return !isStopped_(); });
+        if (!found)
+            return;
         for (auto inside = found->byFolder.begin(); inside != found->byFolder.end(); ++inside)
             files_.pictures[inside.key()] += inside.value();
         files_.pictureCount += found->count;
@@ -92,7 +112,8 @@ private:
 
     FilePatterns isAlbum_{albumPatterns};
     FilePatterns isPicture_{readablePictures};
-    FolderDepth depth_;
+    bool isDeep_;
+    const std::function<bool()>& isStopped_;
     DroppedFiles files_;
 };
 
@@ -114,26 +135,21 @@ QStringList DroppedFiles::DescribeLeftOut() const
     return lines + DescribeUnusable();
 }
 
-std::optional<FolderDepth> AskForDepth(const QList<QUrl>& urls)
+std::optional<DroppedFiles> SortDroppedFiles(const QList<QUrl>& urls, bool asksForFolders)
 {
-    if (std::ranges::none_of(urls, [](const QUrl& url) {
-            return QFileInfo(url.toLocalFile()).isDir() && HasFoldersInside(url.toLocalFile());
-        }))
-        return FolderDepth::Folder;
-    const Dialogs::Answer answer = Dialogs::Door().Ask(
-        {.text = DroppedFiles::tr("Load the pictures of the folders inside, too ?"),
-         .icon = Dialogs::Icon::Question,
-         .buttons = Dialogs::Buttons::YesNoCancel,
-         .defaultAnswer = Dialogs::Answer::Yes});
-    if (answer == Dialogs::Answer::Cancel)
-        return std::nullopt;
-    return answer == Dialogs::Answer::Yes ? FolderDepth::FoldersInside : FolderDepth::Folder;
-}
-
-DroppedFiles SortDroppedFiles(const QList<QUrl>& urls, FolderDepth depth)
-{
-    Sorter sorter(depth);
-    for (const QUrl& url : urls)
-        sorter.Add(url);
-    return sorter.Take();
+    bool isDeep = asksForFolders && HaveFoldersInside(urls);
+    if (isDeep) {
+        const Dialogs::Answer answer = Dialogs::Door().Ask(
+            {.text = DroppedFiles::tr("Load the pictures of the folders inside, too ?"),
+             .icon = Dialogs::Icon::Question,
+             .buttons = Dialogs::Buttons::YesNoCancel,
+             .defaultAnswer = Dialogs::Answer::Yes});
+        if (answer == Dialogs::Answer::Cancel)
+            return std::nullopt;
+        isDeep = answer == Dialogs::Answer::Yes;
+    }
+    std::optional<DroppedFiles> files;
+    RunLong(DroppedFiles::tr("The pictures in the folders are being looked for..."), true,
+            [&](const auto& isStopped) { files = Sorter(isDeep, isStopped).Sort(urls); });
+    return files;
 }

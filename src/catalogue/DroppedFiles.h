@@ -29,12 +29,7 @@ public:
     QStringList unreadable; // a line for each folder that could not be read to its end
 };
 
-// Which pictures of a dropped folder are meant.
-enum class FolderDepth { Folder, FoldersInside };
-
-// Asks whether the folders inside are meant too, where one of those dropped has any. None when the
-// user gives up.
-std::optional<FolderDepth> AskForDepth(const QList<QUrl>& urls);
-
-// A dropped folder stands for the picture files that lie in it.
-DroppedFiles SortDroppedFiles(const QList<QUrl>& urls, FolderDepth depth);
+// A dropped folder stands for the picture files that lie in it, and for those in the folders inside
+// where the user, who is asked for that, agrees. None when the user gives up then, or stops the
+// walk through the folders.
+std::optional<DroppedFiles> SortDroppedFiles(const QList<QUrl>& urls, bool asksForFolders);

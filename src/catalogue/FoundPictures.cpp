@@ -4,9 +4,11 @@
 #include "catalogue/MovedPatterns.h"
 #include "core/AlbumPaths.h"
 #include "core/AlbumSets.h"
+#include "core/Parameters.h"
 #include "core/UndoSteps.h"
 #include "platform/data/Statement.h"
 #include "platform/data/WriteBatch.h"
+#include "platform/files/PathRoutines.h"
 
 #include <algorithm>
 
@@ -38,7 +40,9 @@ public:
                 return std::nullopt;
         }
         MoveLinks();
-        MovePatterns();
+        const MovedFolders folders(moved_);
+        MovePatterns(folders);
+        MoveLastFolder(folders);
         if (!progress_(done))
             return std::nullopt;
         batch.Finish();
@@ -88,9 +92,8 @@ private:
         taken_.links = int(changes.size());
     }
 
-    void MovePatterns()
+    void MovePatterns(const MovedFolders& folders)
     {
-        const MovedFolders folders(moved_);
         Statement patterns(AlbumDatabase->GetEngine(),
                            "SELECT Id, FileSelection FROM Paragraph WHERE FileSelection<>''");
         std::vector<std::pair<qint64, QString>> changes;
@@ -106,6 +109,17 @@ private:
         patterns.Reset();
         Write("UPDATE Paragraph SET FileSelection=?1 WHERE Id=?2", changes);
         taken_.patterns = int(changes.size());
+    }
+
+    // Where the choice of a folder begins; no wildcards stand in it, whatever its signs.
+    static void MoveLastFolder(const MovedFolders& folders)
+    {
+        const QString last = GeneralModule::GetLastFileSelection();
+        const QString folder = FolderOf(last);
+        if (folder.isEmpty())
+            return;
+        if (const std::optional<QString> moved = folders.FollowFolder(folder))
+            GeneralModule::SetLastFileSelection(*moved + last.sliced(folder.size()));
     }
 
     static void Write(const QByteArray& sql, const std::vector<std::pair<qint64, QString>>& changes)

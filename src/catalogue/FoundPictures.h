@@ -25,9 +25,9 @@ struct FoundTaken
     int alreadyHeld = 0;  // path kept, because another picture of the album has the new one
 };
 
-// Gives the pictures for which a file is chosen its path, together with the links to them and with
-// the file patterns of paragraphs that name their folders: all or nothing. A picture whose path has
-// changed since keeps it. None when progress returned false; then nothing is changed. Throws
-// DatabaseError.
+// Gives the pictures for which a file is chosen its path, together with the links to them, the file
+// patterns of paragraphs that name their folders, and the folder chosen last: all or nothing. A
+// picture whose path has changed since keeps it. None when progress returned false; then nothing is
+// changed. Throws DatabaseError.
 std::optional<FoundTaken> TakeFound(const std::vector<FoundPicture>& pictures,
                                     const std::function<bool(int done)>& progress);

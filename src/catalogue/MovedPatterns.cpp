@@ -1,46 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/MovedPatterns.h"
 
+#include "catalogue/PatternHead.h"
 #include "core/AlbumSets.h"
 #include "platform/data/Statement.h"
 #include "platform/files/PathRoutines.h"
 #include "platform/text/LikePattern.h"
 
 namespace {
-
-// The folder that a pattern begins with, up to its last separator in front of the first wildcard.
-struct PatternHead
-{
-    QString folder;
-    qsizetype length = 0; // in the pattern, where wildcard characters of the folder are escaped
-};
-
-PatternHead HeadOf(const QString& pattern)
-{
-    constexpr qsizetype escapedLength = 3; // "[*]"
-    PatternHead head;
-    QString literal;
-    for (qsizetype at = 0; at < pattern.size();) {
-        const QChar letter = pattern[at];
-        const bool isEscaped = letter == u'[' && pattern.size() > at + 2 &&
-                               pattern[at + 2] == u']' && pattern[at + 1] != u'!';
-        if (!isEscaped && QStringView(u"*?#[").contains(letter))
-            break;
-        literal += isEscaped ? pattern[at + 1] : letter;
-        at += isEscaped ? escapedLength : 1;
-        if (FolderOf(literal).size() == literal.size())
-            head = {literal, at};
-    }
-    return head;
-}
-
-// What follows a folder in a path, or in a pattern, as the other system would write it.
-QString Rewritten(QString rest, const QString& oldFolder, const QString& newFolder)
-{
-    if (oldFolder.endsWith(u'\\') && newFolder.endsWith(u'/'))
-        rest.replace(u'\\', u'/');
-    return rest;
-}
 
 bool HoldsPictures(const QString& folder)
 {
@@ -66,23 +33,31 @@ bool MovedFolders::Reaches(const QString& pattern) const
     return !folder.isEmpty() && first != moved_.end() && first.key().startsWith(folder);
 }
 
-std::optional<QString> MovedFolders::Follow(const QString& pattern) const
+std::optional<QString> MovedFolders::FollowFolder(const QString& folder) const
 {
-    const PatternHead head = HeadOf(pattern);
     QString newFolder;
-    for (auto path = moved_.lowerBound(head.folder);
-         path != moved_.end() && path.key().startsWith(head.folder); ++path) {
-        const QString name = path.key().sliced(head.folder.size());
+    for (auto path = moved_.lowerBound(folder);
+         path != moved_.end() && path.key().startsWith(folder); ++path) {
+        const QString name = path.key().sliced(folder.size());
         const QString& now = path.value();
         if (newFolder.isEmpty() && FolderOf(name).isEmpty())
             newFolder = FolderOf(now);
         if (newFolder.isEmpty())
             newFolder = now.left(now.size() - name.size());
-        if (now != newFolder + Rewritten(name, head.folder, newFolder))
+        if (now != newFolder + PatternRest(name, folder, newFolder))
             return std::nullopt;
     }
-    if (newFolder.isEmpty() || HoldsPictures(head.folder))
+    if (newFolder.isEmpty() || HoldsPictures(folder))
         return std::nullopt;
-    return EscapedForLike(newFolder) +
-           Rewritten(pattern.sliced(head.length), head.folder, newFolder);
+    return newFolder;
+}
+
+std::optional<QString> MovedFolders::Follow(const QString& pattern) const
+{
+    const PatternHead head = HeadOf(pattern);
+    const std::optional<QString> newFolder = FollowFolder(head.folder);
+    if (!newFolder)
+        return std::nullopt;
+    return EscapedForLike(*newFolder) +
+           PatternRest(pattern.sliced(head.length), head.folder, *newFolder);
 }

@@ -18,8 +18,11 @@ public:
     // Whether the pattern begins with a folder in which moved pictures were.
     bool Reaches(const QString& pattern) const;
 
-    // The pattern for the new place of the folder that it begins with; none where not all pictures
-    // of that folder, and of those inside, went to one place as they stood. Throws DatabaseError.
+    // The new place of a folder, both with the separator at the end; none where not all pictures of
+    // it, and of those inside, went to one place as they stood. Throws DatabaseError.
+    std::optional<QString> FollowFolder(const QString& folder) const;
+    // The pattern for the new place of the folder that it begins with; none where that has none.
+    // Throws DatabaseError.
     std::optional<QString> Follow(const QString& pattern) const;
 
 private:

@@ -3,6 +3,7 @@
 
 #include "catalogue/UndoTurn.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -25,12 +26,21 @@ UndoKey KeyOf(const QKeyEvent& key)
                                                                         : UndoKey::None;
 }
 
+// The line that the control is, or that it has the user type into.
+const QLineEdit* LineOf(const QWidget& control)
+{
+    if (const auto* box = qobject_cast<const QComboBox*>(&control))
+        return box->lineEdit();
+    if (qobject_cast<const QAbstractSpinBox*>(&control))
+        return control.findChild<const QLineEdit*>();
+    return qobject_cast<const QLineEdit*>(&control);
+}
+
 // Whether the control has typed text to take back, or to bring again.
 bool HasOwn(const QWidget& control, UndoKey key)
 {
     const bool isUndo = key == UndoKey::Undo;
-    const auto* box = qobject_cast<const QComboBox*>(&control);
-    const QLineEdit* line = box ? box->lineEdit() : qobject_cast<const QLineEdit*>(&control);
+    const QLineEdit* line = LineOf(control);
     if (line)
         return !line->isReadOnly() && (isUndo ? line->isUndoAvailable() : line->isRedoAvailable());
     const auto* text = qobject_cast<const QPlainTextEdit*>(&control);

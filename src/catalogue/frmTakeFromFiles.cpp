@@ -13,6 +13,7 @@
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/FormButtons.h"
 #include "platform/widgets/OfferedControl.h"
+#include "platform/widgets/TickDelegate.h"
 #include "platform/widgets/WindowSize.h"
 
 #include <QHeaderView>
@@ -37,6 +38,7 @@ frmTakeFromFiles::frmTakeFromFiles(QWidget* parent)
     ui_->setupUi(this);
     leftOut_ = {QLatin1String(MetadataStream::fileTimeField)};
     KeepWindowSize(this, proposedSize);
+    ui_->treFields->setItemDelegate(new TickDelegate(ui_->treFields));
     ui_->treFields->header()->setStretchLastSection(false);
     ui_->treFields->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     ui_->treFields->header()->setSectionResizeMode(0, QHeaderView::Stretch);
@@ -134,8 +136,8 @@ void frmTakeFromFiles::AddFields(const QString& kind, const std::map<QString, in
         item->setText(2, locale().toString(from == taken.end() ? 0 : from->second));
         item->setData(0, Qt::UserRole, field);
         item->setCheckState(0, leftOut_.contains(field) ? Qt::Unchecked : Qt::Checked);
-        item->setTextAlignment(1, Qt::AlignRight);
-        item->setTextAlignment(2, Qt::AlignRight);
+        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+        item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
     }
 }
 

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -80,6 +81,8 @@ public:
     {
         try {
             database_ = Database::Open(path_, password_);
+            interruption_.emplace(database_->GetEngine(),
+                                  [this] { return !progress_(step_, percent_); });
             CheckFile();
             // In a damaged file each may fail for itself.
             Try([this] { CheckChains(); });
@@ -96,10 +99,12 @@ public:
     }
 
 private:
-    void GoOn(CheckStep step, double part) const
+    void GoOn(CheckStep step, double part)
     {
         const Share share = ShareOf(step);
-        if (!progress_(step, share.begin + int((share.end - share.begin) * part)))
+        step_ = step;
+        percent_ = share.begin + int((share.end - share.begin) * part);
+        if (!progress_(step_, percent_))
             throw CheckStopped();
     }
 
@@ -108,13 +113,15 @@ private:
         try {
             check();
         } catch (const DatabaseError& error) {
+            if (interruption_->HasStopped())
+                throw CheckStopped();
             if (report_.IsWhole())
                 AddDamage({error.GetDescription()});
         }
     }
 
     // Runs the statement, which returns texts, and keeps the first few. Returns how many there are.
-    int Collect(CheckStep step, const QByteArray& sql, QStringList& examples) const
+    int Collect(const QByteArray& sql, QStringList& examples) const
     {
         int count = 0;
         Statement rows(database_->GetEngine(), sql);
@@ -122,8 +129,6 @@ private:
             const std::string_view text = rows.GetUtf8(0);
             if (count++ < mostExamples)
                 examples += QString::fromUtf8(text.data(), qsizetype(text.size()));
-            if (count % 1000 == 0)
-                GoOn(step, 0.5);
         }
         return count;
     }
@@ -144,9 +149,7 @@ private:
     void CheckFile()
     {
         GoOn(CheckStep::File, 0);
-        const auto faults = FaultsOfFile(*database_, [this] {
-            return !progress_(CheckStep::File, ShareOf(CheckStep::File).begin);
-        });
+        const auto faults = FaultsOfFile(*interruption_);
         if (!faults)
             throw CheckStopped();
         if (!faults->isEmpty())
@@ -156,6 +159,7 @@ private:
 
     void CheckChains()
     {
+        GoOn(CheckStep::Links, 0);
         const RepairReport repair = TryRepair(path_, password_);
         GoOn(CheckStep::Links, 0.7);
         if (repair.IsEmpty())
@@ -171,8 +175,7 @@ private:
     {
         QStringList files;
         const int withoutParagraph =
-            Collect(CheckStep::Links,
-                    "SELECT File FROM LinkedImages WHERE ParagraphId NOT IN "
+            Collect("SELECT File FROM LinkedImages WHERE ParagraphId NOT IN "
                     "(SELECT Id FROM Paragraph)",
                     files);
         if (withoutParagraph > 0)
@@ -183,8 +186,7 @@ private:
                 withoutParagraph);
         files.clear();
         const int withoutPicture =
-            Collect(CheckStep::Links,
-                    "SELECT DISTINCT File FROM LinkedImages WHERE ParagraphId IN (SELECT Id FROM "
+            Collect("SELECT DISTINCT File FROM LinkedImages WHERE ParagraphId IN (SELECT Id FROM "
                     "Paragraph) AND File NOT IN (SELECT File FROM Image WHERE File IS NOT NULL)",
                     files);
         if (withoutPicture > 0)
@@ -209,16 +211,15 @@ private:
             const QByteArray table =
                 CarField(isTwin ? column - columnsPerGroup : column).toLatin1();
             QStringList ofColumn;
+            GoOn(CheckStep::Values, double(column) / columnCount);
             count +=
-                Collect(CheckStep::Values,
-                        "SELECT DISTINCT " + field + " FROM Image WHERE " + field +
+                Collect("SELECT DISTINCT " + field + " FROM Image WHERE " + field +
                             " NOT IN ('','-') AND " + field + " NOT IN (SELECT \"Name\" FROM " +
                             table + " WHERE \"Name\" IS NOT NULL)",
                         ofColumn);
             for (const QString& value : ofColumn)
                 if (values.size() < mostExamples)
                     values += value;
-            GoOn(CheckStep::Values, double(column + 1) / columnCount);
         }
         if (count > 0)
             Add(Kind::Values,
@@ -231,9 +232,9 @@ private:
 
     void CheckPictures()
     {
+        GoOn(CheckStep::Values, 1);
         QStringList files;
-        const int count = Collect(CheckStep::Values,
-                                  "SELECT File FROM Image WHERE File IS NOT NULL GROUP BY File "
+        const int count = Collect("SELECT File FROM Image WHERE File IS NOT NULL GROUP BY File "
                                   "HAVING count(*)>1",
                                   files);
         if (count > 0)
@@ -244,6 +245,7 @@ private:
 
     void CheckPictureFiles()
     {
+        GoOn(CheckStep::Files, 0);
         Statement counting(database_->GetEngine(), "SELECT count(*) FROM Image");
         const double all = counting.Step() ? double(counting.GetInteger(0)) : 0;
         counting.Reset();
@@ -275,6 +277,9 @@ private:
     QString password_;
     const CheckProgress& progress_;
     std::shared_ptr<Database> database_;
+    std::optional<Interruption> interruption_; // goes before the database
+    CheckStep step_ = CheckStep::File;         // with percent_, what was told last
+    int percent_ = 0;
     CheckReport report_;
 };
 

@@ -203,13 +203,16 @@ bool UndoHistory::Turn(Direction direction, int steps, const ChangeLog::Progress
         return false;
     if (steps < 1 || std::size_t(steps) > Of(direction).size())
         return false;
+    const qint64 before = Log().LastEntry();
     Steps undo = undo_;
     Steps redo = redo_;
     const bool isUndo = direction == Direction::Undo;
     if (!TurnSteps(isUndo ? undo : redo, isUndo ? redo : undo, steps, progress))
         return false;
     const qint64 end = Log().LastEntry();
+    const qint64 returned = Log().OnlyAddedRow(QStringLiteral("Paragraph"), {before, end, {}});
     batch.Finish();
+    returned_ = qint32(returned);
     undo_ = std::move(undo);
     redo_ = std::move(redo);
     end_ = end;

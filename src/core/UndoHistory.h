@@ -55,6 +55,8 @@ public:
     // Takes back the last steps, or makes them again: all or none. False when progress has stopped
     // it or there are not so many any more. Throws DatabaseError.
     bool Turn(Direction direction, int steps, const ChangeLog::Progress& progress);
+    // The paragraph that the last turn brought back; 0 for none and for several.
+    qint32 GetReturned() const { return returned_; }
 
     // Memory for the log; older steps go first. In bytes.
     void SetBudget(qint64 bytes) { budget_ = bytes; }
@@ -83,6 +85,7 @@ private:
     qint64 end_ = 0; // the last entry that belongs to a step
     qint64 elsewhere_ = 0;
     Loss loss_ = Loss::None;
+    qint32 returned_ = 0;
     qint64 shelfSize_ = 20'000;
     qint64 budget_ = qint64(256) * 1024 * 1024;
 };

@@ -175,6 +175,12 @@ QString Redo(int steps, const UndoProgress& progress)
     return Turn(Direction::Redo, steps, progress);
 }
 
+qint32 ReturnedParagraph()
+{
+    const auto history = RestingHistory();
+    return history ? history->GetReturned() : 0;
+}
+
 UndoListener::UndoListener(Show show, Save save) : show_(std::move(show)), save_(std::move(save))
 {
     Listeners().push_back(this);

@@ -58,6 +58,10 @@ QString Undo(
 QString Redo(
     int steps = 1, const UndoProgress& progress = [](int) { return true; });
 
+// The paragraph that the last of both brought back, for a window to go there; 0 for none and for
+// several.
+qint32 ReturnedParagraph();
+
 // What an open window does when steps are taken back or made again; for as long as it lives. Those
 // that began to listen last come first. What one throws is shown, and the others go on.
 class UndoListener

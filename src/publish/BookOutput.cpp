@@ -91,7 +91,8 @@ void BookOutput::KeepWriting()
     sync_file_range(file_.handle(), before, begun_ - before,
                     SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE |
                         SYNC_FILE_RANGE_WAIT_AFTER);
-    // Nobody reads it soon, and a file of which little is in memory is removed at once after a stop.
+    // Nobody reads it soon, and a file of which little is in memory is removed at once after a
+    // stop.
     posix_fadvise(file_.handle(), before, begun_ - before, POSIX_FADV_DONTNEED);
     sync_file_range(file_.handle(), begun_, written_ - begun_, SYNC_FILE_RANGE_WRITE);
 #endif

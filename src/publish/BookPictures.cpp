@@ -59,7 +59,7 @@ void BookPictures::Report(PublishReport& report) const
         else if (picture.state == BookPictureState::Damaged)
             report.damaged += picture.file;
         else
-            report.pictures += picture.uses;
+            ++report.pictures;
     }
     report.made = report.pictures;
 }

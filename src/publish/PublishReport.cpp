@@ -37,12 +37,10 @@ QString DescribePublishReport(const PublishReport& report)
                       QStringLiteral(", ") +
                       ReportTexts::tr("%Ln of them made anew.", nullptr, report.made)};
     AddNames(lines,
-             ReportTexts::tr("%Ln pictures are missing; a placeholder stands for each:", nullptr,
-                             int(report.missing.size())),
+             ReportTexts::tr("%Ln pictures are missing:", nullptr, int(report.missing.size())),
              report.missing);
     AddNames(lines,
-             ReportTexts::tr("%Ln pictures cannot be read; a placeholder stands for each:", nullptr,
-                             int(report.damaged.size())),
+             ReportTexts::tr("%Ln pictures cannot be read:", nullptr, int(report.damaged.size())),
              report.damaged);
     return (lines + report.troubles).join(u'\n');
 }

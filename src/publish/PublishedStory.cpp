@@ -6,6 +6,7 @@
 #include "core/AlbumChains.h"
 #include "core/ChapterChain.h"
 #include "core/LocalCopy.h"
+#include "core/Parameters.h"
 #include "publish/PublishReport.h"
 #include "story/ParagraphMarkers.h"
 #include "viewer/PageContent.h"
@@ -54,6 +55,14 @@ PublishedPicture ReadPublishedPicture(const QString& file, const QString& stored
             CleanPublishedText(FillPictureMarkers(storedText, file))};
 }
 
+// That of autoview, which goes on at once where it is 0; a browser's reader has to see something.
+int DelayOfSlideShow()
+{
+    constexpr int usual = 10'000;
+    const int stored = GetTimerDelay();
+    return stored > 0 ? stored : usual;
+}
+
 class StoryReading
 {
 public:
@@ -69,6 +78,7 @@ public:
             total_ += int(each.paragraphs.size());
         const QString album = QFileInfo(OpenAlbumTitle()).completeBaseName();
         story_.title = CleanPublishedText(choice_.title.isEmpty() ? album : choice_.title);
+        story_.delay = DelayOfSlideShow();
         for (const ChapterPlan& each : plan) {
             if (!ReadChapter(each))
                 return std::nullopt;

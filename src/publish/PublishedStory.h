@@ -41,7 +41,8 @@ struct PublishedStory
     QString title;
     QLocale language; // of the words around the story; that of its texts is not known
     std::vector<PublishedChapter> chapters;
-    QStringList troubles; // what could not be read, for the user to read
+    int delay = 0;          // of a slide show, in milliseconds
+    QStringList troubles{}; // what could not be read, for the user to read
 
     int CountPictures() const;
     // Most of its texts are written from right to left.

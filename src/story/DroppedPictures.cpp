@@ -59,10 +59,10 @@ QStringList LinkDroppedFiles(qint32 paragraph, const QList<QUrl>& urls)
         Tell(GeneralModule::ReadOnlyReason(), Dialogs::Icon::Warning);
         return {};
     }
-    const auto depth = AskForDepth(urls);
-    if (!depth)
+    std::optional<DroppedFiles> sorted = SortDroppedFiles(urls, true);
+    if (!sorted)
         return {};
-    DroppedFiles files = SortDroppedFiles(urls, *depth);
+    DroppedFiles& files = *sorted;
     files.others += int(files.albums.size());
     QStringList lines = files.DescribeLeftOut();
     QStringList linked;

@@ -5,6 +5,7 @@
 #include "catalogue/UndoWindow.h"
 #include "catalogue/frmEditLabels.h"
 #include "core/ChapterChain.h"
+#include "core/UndoSteps.h"
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/ButtonMenu.h"
 #include "platform/widgets/DropTarget.h"
@@ -381,7 +382,10 @@ bool frmEditParagraph::SaveForUndo()
 
 void frmEditParagraph::ShowAfterUndo()
 {
-    const ParagraphPlace place = NearestPlace(GetPlace(), nearby_);
+    std::vector<qint32> nearby{CurrentParagraph};
+    nearby.insert(nearby.end(), nearby_.begin(), nearby_.end());
+    const qint32 returned = GeneralModule::ReturnedParagraph();
+    const ParagraphPlace place = NearestPlace({CurrentChapter, returned}, nearby);
     if (place.paragraph != CurrentParagraph)
         return GoToOrLeave([&place] { return place; });
     CurrentChapter = place.chapter;

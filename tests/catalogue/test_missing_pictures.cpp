@@ -2,6 +2,7 @@
 #include "catalogue/FoundPictures.h"
 #include "catalogue/frmMissingPictures.h"
 #include "catalogue/frmReloadPictures.h"
+#include "core/Parameters.h"
 #include "platform/data/Database.h"
 #include "support/AlbumTest.h"
 #include "support/ModalDriver.h"
@@ -68,6 +69,7 @@ private slots:
     void TakesPathsLinksAndPatterns()
     {
         const auto found = AddMoved();
+        GeneralModule::SetLastFileSelection("/old/s[1]/*.jpg;*.png");
         const auto taken = TakeFound(found, [](int) { return true; });
         QVERIFY(taken);
         QCOMPARE(taken->pictures, 3);
@@ -83,6 +85,7 @@ private slots:
         QCOMPARE(
             album_->Rows("SELECT FileSelection FROM Paragraph ORDER BY Id"),
             QStringList({"/new/s[[]1]/*.*", "*sea*", "/old/s[#]/*.*", "/old/s[#]/c*", "/stays/*"}));
+        QCOMPARE(GeneralModule::GetLastFileSelection(), "/new/s[1]/*.jpg;*.png");
         // The second time nothing is missing any more under these paths.
         QCOMPARE(TakeFound(found, [](int) { return true; })->pictures, 0);
     }

@@ -88,6 +88,28 @@ private slots:
         QCOMPARE(Summary(report), "Links, LostLinks 2, LostLinks 1");
     }
 
+    // In the middle of work that is one statement, too, or one page of a tree.
+    void HearsTheUserAllAlong()
+    {
+        album_->AddParagraph(album_->AddChapter("One"), QString(2'000'000, 'x'));
+        album_->Execute("INSERT INTO Image (File) WITH RECURSIVE n(i) AS (VALUES (1) UNION ALL "
+                        "SELECT i+1 FROM n WHERE i<5000) SELECT '/gone/'||i FROM n");
+        for (const CheckStep step : {CheckStep::File, CheckStep::Values}) {
+            for (const int most : {100, 1'000'000}) {
+                int looks = 0;
+                const auto count = [&](CheckStep now, int) {
+                    looks += now == step;
+                    return looks < most;
+                };
+                const CheckReport report = AlbumCheck(GoesOn).Run(count);
+                QVERIFY2(looks >= 100, qPrintable(QString::number(looks)));
+                QVERIFY(report.IsWhole());
+                QCOMPARE(report.isStopped, looks == most);
+                QCOMPARE(report.isStopped, most == 100);
+            }
+        }
+    }
+
     void ADamagedFileIsNoted()
     {
         for (int i = 0; i < 300; ++i)

@@ -158,6 +158,32 @@ private slots:
         QCOMPARE(StateOfOpenAlbum(), state);
     }
 
+    // Either way the second step needs room for a long text, and finds it once there is some.
+    void StaysAsItIsOnAFullDisk()
+    {
+        AlbumDatabase->Execute("CREATE TABLE Own (Data)"); // not logged
+        CreateChapter("A", {});
+        for (const char* text : {"''", "hex(zeroblob(500000))", "''", "'B'"}) {
+            const UndoStep step(text);
+            AlbumDatabase->Execute("UPDATE Chapter SET Name=" + QByteArray(text));
+        }
+        const auto meetsFullDisk = [](const auto& turn) {
+            AlbumDatabase->Execute("INSERT INTO Own VALUES (zeroblob(1200000))"); // no page is free
+            AlbumDatabase->Execute("PRAGMA max_page_count=1");
+            const QByteArrayList state = StateOfOpenAlbum();
+            const QStringList names = UndoNames() + RedoNames();
+            QCOMPARE(ErrorOf([&] { turn(); }), 3026);
+            QCOMPARE(StateOfOpenAlbum(), state);
+            QCOMPARE(UndoNames() + RedoNames(), names);
+            AlbumDatabase->Execute("PRAGMA max_page_count=100000");
+            QVERIFY(!turn().isEmpty());
+            QVERIFY(StateOfOpenAlbum() != state);
+        };
+        meetsFullDisk([] { return Undo(2); });
+        Undo(2);
+        meetsFullDisk([] { return Redo(2); });
+    }
+
     void KeepsWithinItsMemory_data()
     {
         AddRows<qint64>({"shelfSize"}, {{"in one", 20'000}, {"put aside", 20}});

@@ -16,6 +16,7 @@
 #include "gallery/frmLinkedPictures.h"
 #include "gallery/frmPlaceParagraph.h"
 #include "platform/widgets/HelpWindow.h"
+#include "publish/frmPublish.h"
 #include "story/frmEditParagraph.h"
 #include "story/frmOrganizeParagraphs.h"
 #include "support/AlbumTest.h"
@@ -32,17 +33,13 @@
 
 #include <array>
 
-inline constexpr std::array everyWindow{"frmOpenChapter",        "frmReelvane",
-                                        "frmFullScreen",         "frmEditParagraph",
-                                        "frmOrganizeParagraphs", "frmEditImage",
-                                        "frmEditTables",         "frmEditLabels",
-                                        "frmLoadFiles",          "frmReloadPictures",
-                                        "frmSelectImages",       "frmAbout",
-                                        "frmRepairAlbum",        "frmFindPictures",
-                                        "frmLinkedPictures",     "frmDescribePictures",
-                                        "frmTakeFromFiles",      "frmEarlierStates",
-                                        "frmTakeChapters",       "frmCheckAlbum",
-                                        "frmMissingPictures",    "frmUndo"};
+inline constexpr std::array everyWindow{
+    "frmOpenChapter",        "frmReelvane",       "frmFullScreen",     "frmEditParagraph",
+    "frmOrganizeParagraphs", "frmEditImage",      "frmEditTables",     "frmEditLabels",
+    "frmLoadFiles",          "frmReloadPictures", "frmSelectImages",   "frmAbout",
+    "frmRepairAlbum",        "frmFindPictures",   "frmLinkedPictures", "frmDescribePictures",
+    "frmTakeFromFiles",      "frmEarlierStates",  "frmTakeChapters",   "frmCheckAlbum",
+    "frmMissingPictures",    "frmUndo",           "frmPublish"};
 
 // A test of what holds for every window of the program, opened by its name.
 class EveryWindowTest : public AlbumTest
@@ -96,9 +93,8 @@ protected:
             return window;
         }
         if (name == "frmEarlierStates") {
-            auto* window = Make<frmEarlierStates>();
-            window->LookInto = [](const QString&) { return true; };
-            return window;
+            frmEarlierStates::LookInto = [](const QString&) { return true; };
+            return Make<frmEarlierStates>();
         }
         if (name == "frmTakeChapters") {
             auto* window = Make<frmTakeChapters>();
@@ -112,7 +108,8 @@ protected:
         }
         return MakeAny<frmEditLabels, frmLoadFiles, frmReloadPictures, frmSelectImages, frmCDBuffer,
                        frmAbout, frmRepairAlbum, frmCheckAlbum, frmFindPictures, frmPlaceParagraph,
-                       frmLinkedPictures, frmDescribePictures, frmMissingPictures, frmUndo>(name);
+                       frmLinkedPictures, frmDescribePictures, frmMissingPictures, frmUndo,
+                       frmPublish>(name);
     }
 
     frmReelvane* MakeViewer()

@@ -28,21 +28,6 @@ QString Legend()
 
 } // namespace
 
-// Stops long work once it has asked that often.
-class StoppingDialogs : public ScriptedDialogs
-{
-public:
-    explicit StoppingDialogs(int patience) : patience_(patience) {}
-
-    void RunLong(const QString&, bool canStop, const Work& work) override
-    {
-        work([this, canStop] { return canStop && --patience_ < 0; });
-    }
-
-private:
-    int patience_;
-};
-
 class TestAlbumPassword : public AlbumTest
 {
     Q_OBJECT

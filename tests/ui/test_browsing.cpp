@@ -174,6 +174,16 @@ private slots:
             QVERIFY(Drop({album_->PathOf("more")}));
             QVERIFY(dialogs_->IsDone());
         }
+        // Who stops the search gets none of what was found.
+        QVERIFY(QFile::copy(held, album_->PathOf("more/late.jpg")));
+        for (const int patience : {0, 2}) {
+            StoppingDialogs stopping(patience);
+            stopping.ExpectBox("Load the pictures of the folders inside, too ?", Icon::Question,
+                               Buttons::YesNoCancel, Answer::Yes);
+            QVERIFY(Drop({album_->PathOf("more")}));
+            QVERIFY(stopping.IsDone());
+        }
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image"), "4");
     }
 
     void RefusesWhatItCannotTake()

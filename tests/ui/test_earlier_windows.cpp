@@ -47,8 +47,8 @@ private slots:
         Start();
         WhenModal("frmEarlierStates", [&](QWidget& window) {
             QCOMPARE(Counts(window), "2|1");
-            QString looked;
-            static_cast<frmEarlierStates&>(window).LookInto = [&looked](const QString& state) {
+            static QString looked;
+            frmEarlierStates::LookInto = [](const QString& state) {
                 looked = state;
                 return true;
             };

@@ -2,6 +2,7 @@
 #include "EveryWindow.h"
 
 #include "catalogue/Picture.h"
+#include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 #include "core/Parameters.h"
 #include "core/UndoSteps.h"
@@ -99,6 +100,70 @@ private slots:
         Press(window, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(window.CurrentParagraph, first);
         QCOMPARE(text.toPlainText(), "More Text");
+        // One that comes back is shown, whether it is made again or no longer deleted.
+        Press(window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        const qint32 second = window.CurrentParagraph;
+        QVERIFY(second != first);
+        dialogs_->ExpectBox("Are you sure you want to DELETE current paragraph ?", Icon::Question,
+                            Buttons::OkCancel);
+        Click(window, "cmdDelete");
+        QCOMPARE(window.CurrentParagraph, first);
+        Find<QPushButton>(window, "cmdNextParagraph").setFocus();
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(window.CurrentParagraph, second);
+    }
+
+    void ANumberThatIsTypedIsTakenBackFirst()
+    {
+        QWidget& window = Open("frmEarlierStates");
+        SetParam("Title", "one");
+        auto& limit = Find<QSpinBox>(window, "spnLimit");
+        const QString before = limit.cleanText();
+        limit.setFocus();
+        limit.selectAll();
+        QTest::keyClicks(&limit, "70");
+        QCOMPARE(limit.cleanText(), "70");
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(limit.cleanText(), before);
+        QCOMPARE(GetParam("Title"), "one");
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(GetParam("Title"), QString());
+    }
+
+    void AStoppedUndoChangesNothing()
+    {
+        QWidget& window = Open("frmOpenChapter");
+        album_->Execute("WITH n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<30000) "
+                        "INSERT INTO Image (File,Car0) SELECT i,'A' FROM n");
+        {
+            const UndoStep step("Many");
+            AlbumDatabase->Execute("UPDATE Image SET Car0='B'");
+        }
+        const auto other = Database::Open(album_->GetAlbum());
+        other->Execute("BEGIN IMMEDIATE");
+        QTimer presser;
+        connect(&presser, &QTimer::timeout, this, [] {
+            for (QWidget* top : QApplication::topLevelWidgets()) {
+                if (top->objectName() == "dlgUndo" && top->isVisible())
+                    Click(*top, "cmdStop");
+            }
+        });
+        presser.start(0);
+        // It waits for the lock, longer than it works without a sign.
+        const std::unique_ptr<QThread> holder(QThread::create([&other] {
+            QThread::msleep(600);
+            other->Execute("ROLLBACK");
+        }));
+        holder->start();
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        holder->wait();
+        presser.stop();
+        QCOMPARE(News(window), "Stopped: nothing was changed");
+        QCOMPARE(UndoName(), "Many");
+        QVERIFY(RedoName().isEmpty());
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='B'"), "30002");
+        Press(window, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(album_->Joined("SELECT count(*) FROM Image WHERE Car0='A'"), "30000");
     }
 
     void TheIndexingWindowTakesBackValuesAndPictures()

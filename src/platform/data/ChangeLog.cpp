@@ -162,3 +162,18 @@ int ChangeLog::CountRows(const QString& table, const Range& entries) const
     count.Bind(2, entries.last);
     return int(NumberOf(count));
 }
+
+qint64 ChangeLog::OnlyAddedRow(const QString& table, const Range& entries) const
+{
+    const auto insert =
+        std::find_if(changes_.begin(), changes_.end(), [&](const LoggedChange& change) {
+            return change.kind == LoggedChange::Kind::Insert &&
+                   layouts_[change.table].GetTable() == table.toUtf8();
+        });
+    Statement row(engine_, "SELECT min(row) FROM temp.undo_log WHERE seq>?1 AND seq<=?2 "
+                           "AND change=?3 GROUP BY change HAVING min(row)=max(row)");
+    row.Bind(1, entries.after);
+    row.Bind(2, entries.last);
+    row.Bind(3, qint64(insert - changes_.begin()));
+    return NumberOf(row);
+}

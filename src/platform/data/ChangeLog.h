@@ -60,6 +60,9 @@ public:
     qint64 GetBytes() const;
     // How many rows of the table the entries are about.
     int CountRows(const QString& table, const Range& entries) const;
+    // The row of the table that the entries have added; 0 for none and for several. Not of those
+    // that were put aside. Throws DatabaseError.
+    qint64 OnlyAddedRow(const QString& table, const Range& entries) const;
 
     // How many entries were forgotten since the beginning; the engine counts these as changes.
     int GetForgotten() const { return forgotten_; }

@@ -44,7 +44,8 @@ void Export(const Database& database, const QString& target, const QString& pass
     }
     const std::shared_ptr<Database> copy = Database::Open(target, password);
     // With the indexes: the engine copies one that lacks a row as it is.
-    const std::optional<QStringList> faults = FaultsOfFile(*copy, isStopped);
+    const Interruption interruption(copy->GetEngine(), isStopped);
+    const std::optional<QStringList> faults = FaultsOfFile(interruption);
     if (!faults || !faults->isEmpty() || CountRows(copy->GetEngine()) != CountRows(lock.Get())) {
         throw DatabaseError(DatabaseError::DiskError,
                             DatabaseError::tr("The album could not be written anew."));

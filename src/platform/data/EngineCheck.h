@@ -4,13 +4,15 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 struct sqlite3;
-class Database;
 
-// While one lives, a statement of the connection fails soon after isStopped returns true. (The
-// engine's check of a file may go on for a second in one of a million rows.)
+// While one lives, what a connection does fails soon after isStopped has returned true: statements,
+// and the reading of the main file, since the engine's check of a file reads all of it in one step
+// of a statement. Only one at a time for a connection. isStopped, which is not asked again once it
+// has returned true, is called very often.
 class Interruption
 {
 public:
@@ -18,11 +20,16 @@ public:
     ~Interruption();
     Q_DISABLE_COPY_MOVE(Interruption)
 
+    sqlite3* GetEngine() const { return engine_; }
+    bool HasStopped() const;
+
 private:
+    class Watch;
+
     sqlite3* engine_;
+    std::unique_ptr<Watch> watch_;
 };
 
-// What the engine finds wrong with the file, its tables and their indexes, in its own words; at
-// most some dozens. Reads all of it. None when isStopped, which is asked all along, ended it.
-std::optional<QStringList> FaultsOfFile(const Database& database,
-                                        const std::function<bool()>& isStopped);
+// What the engine finds wrong with the connection's file, its tables and their indexes, in its own
+// words; at most some dozens. Reads all of it. None when it was interrupted.
+std::optional<QStringList> FaultsOfFile(const Interruption& interruption);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/widgets/ColorScheme.h"
 
+#include "platform/widgets/OutlinedTicks.h"
+
 #include <QApplication>
 #include <QPalette>
 #include <QStyle>
@@ -9,6 +11,8 @@
 #include <optional>
 
 namespace {
+
+const QString fusion = QStringLiteral("Fusion");
 
 struct Colors
 {
@@ -99,13 +103,17 @@ void ShowColors(ColorScheme scheme)
     static std::optional<QString> desktopStyle; // while another one is in use
     if (scheme == ColorScheme::Desktop) {
         QApplication::setPalette(QPalette());
-        if (desktopStyle)
-            QApplication::setStyle(*desktopStyle);
+        // Other styles know how their own boxes are seen.
+        const QString style = desktopStyle.value_or(QApplication::style()->objectName());
+        if (style.toLower() == fusion.toLower())
+            QApplication::setStyle(new OutlinedTicks(fusion));
+        else if (desktopStyle)
+            QApplication::setStyle(style);
         desktopStyle.reset();
         return MendDesktopColors();
     }
     if (!desktopStyle)
         desktopStyle = QApplication::style()->objectName();
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new OutlinedTicks(fusion));
     QApplication::setPalette(MakePalette(scheme == ColorScheme::Dark ? darkColors : lightColors));
 }

@@ -18,7 +18,7 @@ void CountDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const bool isMirrored = option.direction == Qt::RightToLeft;
     const int room = width > 0 ? width + 2 * countGap : 0;
     value.rect.adjust(isMirrored ? room : 0, 0, isMirrored ? 0 : -room, 0);
-    QStyledItemDelegate::paint(painter, value, index);
+    TickDelegate::paint(painter, value, index);
     painter->setPen(option.palette.color(QPalette::Disabled, QPalette::Text));
     painter->drawText(option.rect.adjusted(countGap, 0, -countGap, 0),
                       int(Qt::AlignVCenter) | int(isMirrored ? Qt::AlignLeft : Qt::AlignRight),

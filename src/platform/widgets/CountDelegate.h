@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "platform/widgets/TickDelegate.h"
 
 // Shows a number at the right edge of a list's line: the text that its item has for countRole.
-class CountDelegate : public QStyledItemDelegate
+class CountDelegate : public TickDelegate
 {
 public:
     static constexpr int countRole = Qt::UserRole + 1;
 
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using TickDelegate::TickDelegate;
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;

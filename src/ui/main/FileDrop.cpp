@@ -31,10 +31,10 @@ FileDrop::FileDrop(WorkProgress* progress, std::function<void(const QString& pat
 void FileDrop::Take(const QList<QUrl>& urls) const
 {
     const bool canLoad = IsAlbumOpen() && !IsAlbumReadOnly();
-    const auto depth = canLoad ? AskForDepth(urls) : FolderDepth::Folder;
-    if (!depth)
+    const std::optional<DroppedFiles> sorted = SortDroppedFiles(urls, canLoad);
+    if (!sorted)
         return;
-    const DroppedFiles files = Sort(urls, *depth);
+    const DroppedFiles& files = *sorted;
     const QString reason = ReasonAgainst(files);
     if (!reason.isEmpty())
         return Tell(reason, Dialogs::Icon::Warning);
@@ -60,12 +60,6 @@ QString FileDrop::ReasonAgainst(const DroppedFiles& files)
     if (!IsAlbumOpen())
         return tr("Please open or create an album first, then drop the pictures.");
     return IsAlbumReadOnly() ? ReadOnlyReason() : QString();
-}
-
-DroppedFiles FileDrop::Sort(const QList<QUrl>& urls, FolderDepth depth)
-{
-    const BusyPointer busy;
-    return SortDroppedFiles(urls, depth);
 }
 
 int FileDrop::Load(const DroppedFiles& files) const

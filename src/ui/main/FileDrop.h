@@ -8,7 +8,6 @@
 #include <functional>
 
 class WorkProgress;
-enum class FolderDepth;
 struct DroppedFiles;
 
 // What the main window does with files that are dropped on it: an album is opened, pictures are
@@ -28,7 +27,6 @@ public:
 private:
     // Why nothing can be done with them; empty when something can.
     static QString ReasonAgainst(const DroppedFiles& files);
-    static DroppedFiles Sort(const QList<QUrl>& urls, FolderDepth depth);
     // Returns how many of them were worked through before the user stopped.
     int Load(const DroppedFiles& files) const;
     void LoadAndTell(const DroppedFiles& files) const;

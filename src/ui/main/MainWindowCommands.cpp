@@ -27,6 +27,7 @@ std::vector<MainWindowCommand> frmOpenChapter::StoryCommands()
         {on(&Form::mnuOpenScript_Click), "album-open", ui.cmdOpenAlbum, ui.mnuOpenScript},
         {on(&Form::mnuCreateScript_Click), "album-create", ui.cmdCreateAlbum, ui.mnuCreateScript},
         {on(&Form::mnuOpenSample_Click), "read-chapter", ui.cmdOpenSample, ui.mnuOpenSample},
+        {on(&Form::mnuPublish_Click), "", nullptr, ui.mnuPublish, &State::offersAlbumCommands},
         {on(&Form::mnuExit_Click), "exit", ui.cmdExit, ui.mnuExit},
         {on(&Form::cmdReadChapter_Click), "read-chapter", ui.cmdReadChapter, ui.mnuReadChapter,
          &State::offersChapterCommands},

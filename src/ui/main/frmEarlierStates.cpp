@@ -36,13 +36,10 @@ bool StartProgramOn(const QString& state)
 
 } // namespace
 
-std::function<bool(const QString& state)> frmEarlierStates::UsualLookInto = StartProgramOn;
+std::function<bool(const QString& state)> frmEarlierStates::LookInto = StartProgramOn;
 
 frmEarlierStates::frmEarlierStates(QWidget* parent)
-    : QDialog(parent),
-      AlbumPath(OpenAlbumPath()),
-      LookInto(UsualLookInto),
-      ui_(std::make_unique<Ui::frmEarlierStates>())
+    : QDialog(parent), AlbumPath(OpenAlbumPath()), ui_(std::make_unique<Ui::frmEarlierStates>())
 {
     using Form = frmEarlierStates;
     ui_->setupUi(this);
@@ -71,7 +68,11 @@ frmEarlierStates::frmEarlierStates(QWidget* parent)
     connect(ui_->spnLimit, &QSpinBox::valueChanged, this, Guarded(this, &Form::spnLimit_Change));
 }
 
-frmEarlierStates::~frmEarlierStates() = default;
+// A number still being typed is taken when the window hides, which needs its controls.
+frmEarlierStates::~frmEarlierStates()
+{
+    hide();
+}
 
 void frmEarlierStates::showEvent(QShowEvent* event)
 {

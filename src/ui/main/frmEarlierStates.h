@@ -28,10 +28,9 @@ public:
     ~frmEarlierStates() override;
 
     QString AlbumPath; // of one that need not be open, nor be there
-    // Opens a state in another window of the program; false when that fails.
-    std::function<bool(const QString& state)> LookInto;
-    // What LookInto is at first: it starts the program a second time.
-    static std::function<bool(const QString& state)> UsualLookInto;
+    // Opens a state in another window of the program; false when that fails. It starts the program
+    // a second time, which tests replace.
+    static std::function<bool(const QString& state)> LookInto;
 
 protected:
     void showEvent(QShowEvent* event) override;

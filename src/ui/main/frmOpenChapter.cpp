@@ -19,6 +19,7 @@
 #include "platform/widgets/LiteralText.h"
 #include "platform/widgets/RowDrag.h"
 #include "platform/widgets/WindowSize.h"
+#include "publish/frmPublish.h"
 #include "ui/main/AlbumOpener.h"
 #include "ui/main/AlbumStatus.h"
 #include "ui/main/ChapterList.h"
@@ -301,6 +302,12 @@ void frmOpenChapter::mnuSelectedPictures_Click()
 {
     if (BrowseChosenFolder(this, QStringLiteral("*")))
         RefreshState();
+}
+
+void frmOpenChapter::mnuPublish_Click()
+{
+    frmPublish(this).exec();
+    RefreshState();
 }
 
 void frmOpenChapter::mnuRepair_Click()

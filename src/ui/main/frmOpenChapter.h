@@ -62,6 +62,7 @@ private:
     void mnuFindPictures_Click();
     void mnuAllPictures_Click();
     void mnuSelectedPictures_Click();
+    void mnuPublish_Click();
     void mnuRepair_Click();
     void mnuCheck_Click();
     void mnuEarlierStates_Click();

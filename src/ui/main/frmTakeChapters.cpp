@@ -7,6 +7,7 @@
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/BusyPointer.h"
 #include "platform/widgets/FormButtons.h"
+#include "platform/widgets/TickDelegate.h"
 #include "platform/widgets/WindowSize.h"
 
 #include <QHeaderView>
@@ -39,6 +40,7 @@ frmTakeChapters::frmTakeChapters(QWidget* parent)
     using Form = frmTakeChapters;
     ui_->setupUi(this);
     KeepWindowSize(this, proposedSize);
+    ui_->treChapters->setItemDelegate(new TickDelegate(ui_->treChapters));
     ui_->treChapters->header()->setStretchLastSection(false);
     ui_->treChapters->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     ui_->treChapters->header()->setSectionResizeMode(0, QHeaderView::Stretch);
@@ -67,7 +69,7 @@ void frmTakeChapters::Form_Load()
         auto* item = new QTreeWidgetItem(ui_->treChapters);
         item->setText(0, chapter.name.isEmpty() ? tr("(no name)") : chapter.name);
         item->setText(1, locale().toString(chapter.paragraphs));
-        item->setTextAlignment(1, Qt::AlignRight);
+        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(0, Qt::UserRole, chapter.id);
         item->setCheckState(0, Qt::Unchecked);
     }

@@ -2,6 +2,7 @@
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/LiteralText.h"
 #include "platform/widgets/QtDialogs.h"
+#include "platform/widgets/TickDelegate.h"
 #include "platform/widgets/WindowSize.h"
 #include "platform/widgets/WorkProgress.h"
 #include "support/ModalDriver.h"
@@ -62,6 +63,27 @@ private slots:
         QCOMPARE(field.text(), "");
         QTest::keyClick(&field, Qt::Key_A);
         QCOMPARE(field.text(), "a");
+    }
+
+    // Of a desktop whose style draws boxes in the color of what they stand on.
+    void BoxesToTickStandOut()
+    {
+        QListWidget list;
+        list.setItemDelegate(new TickDelegate(&list));
+        QPalette palette(QColor(30, 30, 30));
+        palette.setColor(QPalette::Base, QColor(20, 20, 20));
+        palette.setColor(QPalette::Text, Qt::white);
+        list.setPalette(palette);
+        for (const char* name : {"One", "Two"})
+            (new QListWidgetItem(name, &list))->setCheckState(Qt::Unchecked);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        const QImage shown = list.viewport()->grab().toImage();
+        const int line = list.visualItemRect(list.item(0)).height();
+        int edges = 0;
+        for (int y = 0; y < 2 * line; ++y)
+            edges += qGray(shown.pixel(line / 2, y)) > 120; // through the middle of both boxes
+        QCOMPARE(edges, 4);
     }
 
     void WindowsRememberTheirSize()
