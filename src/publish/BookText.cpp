@@ -42,8 +42,8 @@ QFont MakeFont(const FontKind& kind)
     font.setPixelSize(int(kind.size * bookDotsPerPoint));
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setItalic(kind.isSlanted);
-    // Any spacing at all keeps letters from being joined: as a ligature, "fi" in a PDF is found by
-    // nobody who searches for it.
+    // Any spacing at all keeps letters from being joined to a glyph that stands for no character:
+    // nobody would find them in a PDF.
     font.setLetterSpacing(QFont::AbsoluteSpacing, 1.0 / 64);
     return font;
 }

@@ -97,6 +97,8 @@ FoundBook ReadBook(const QString& path)
     Object root = pdf.getRoot();
     book.title =
         QString::fromStdString(pdf.getTrailer().getKey("/Info").getKey("/Title").getUTF8Value());
+    for (const std::string& key : pdf.getTrailer().getKey("/Info").getKeys())
+        book.properties += QString::fromStdString(key);
     book.language = QString::fromStdString(root.getKey("/Lang").getUTF8Value());
     for (int i = 0; i < int(pages.size()); ++i) {
         Object page = pages[std::size_t(i)];

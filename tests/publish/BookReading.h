@@ -30,6 +30,7 @@ struct FoundLink
 struct FoundBook
 {
     QString title;
+    QStringList properties; // all that it says of itself
     QString language;
     QStringList pages; // texts, each text's end a line feed
     std::vector<FoundPicture> pictures;

@@ -62,7 +62,8 @@ QByteArray WithMetadata(const QByteArray& jpeg, char turn)
         QByteArray("Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0", 24) + turn +
         QByteArray(7, '\0') + "SECRET camera";
     const qsizetype afterJfif = 2 + 2 + 16;
-    return jpeg.first(afterJfif) + Segment('\xE1', exif) +
+    const QByteArray withSmallPicture = jpeg.mid(6, 12) + QByteArray("\2\1SECRET", 8);
+    return jpeg.first(2) + Segment('\xE0', withSmallPicture) + Segment('\xE1', exif) +
            Segment('\xE1', "http://ns.adobe.com/xap/1.0/ SECRET place") +
            Segment('\xED', "Photoshop SECRET") + Segment('\xFE', "SECRET") + jpeg.mid(afterJfif) +
            "SECRET" + jpeg;
@@ -122,6 +123,7 @@ private slots:
         const FoundBook book = Publish(story);
         QCOMPARE(book.title, story.title);
         QCOMPARE(book.language, "fr-CA");
+        QCOMPARE(book.properties, QStringList({"/Creator", "/Title"}));
         QVERIFY(book.pages[0].startsWith("Die (Größe) \\ "));
         QVERIFY(!book.pages[0].contains('1'));
         const int last = int(book.pages.size()) - 1;
@@ -140,7 +142,7 @@ private slots:
             at = text.indexOf(each, at);
             QVERIFY(at >= 0);
         }
-        QCOMPARE(text.count('w'), 3000);
+        QVERIFY(text.count('w') == 3000 && !text.contains(QString(100, 'w')));
         QCOMPARE(book.outline, QStringList({"One:2", QString::fromUtf8("Été <i>:%1").arg(last - 1),
                                             QString::fromUtf8("שנה:%1").arg(last)}));
         QCOMPARE(book.links.size(), 3);
@@ -193,7 +195,7 @@ private slots:
         QCOMPARE(QImage::fromData(scaled.bytes).size(), scaled.size);
         // Viewers would disagree about the colours.
         const QByteArray adobe = Segment('\xEE', QByteArray("Adobe\0\x64\0\0\0\0\0", 12));
-        QVERIFY(only(plain.first(20) + adobe + plain.mid(20)).bytes != plain);
+        QVERIFY(!only(plain.first(20) + adobe + plain.mid(20)).bytes.contains("Adobe"));
         // The profile goes with the bytes; one whose parts are not all there counts for nothing.
         QImage image = QImage::fromData(plain);
         image.setColorSpace(QColorSpace::AdobeRgb);
@@ -337,10 +339,10 @@ private slots:
         more.pages.emplace_back();
         refuses(whole, more);
         more = facts;
-        ++more.chapters;
+        more.chapters = 0;
         refuses(whole, more);
         more = facts;
-        more.pages.back().insert("/Picture9");
+        more.pages.back().clear();
         refuses(whole, more);
     }
 
