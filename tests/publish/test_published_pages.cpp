@@ -189,7 +189,10 @@ private slots:
         album_->AddThreeChapters({60, 40});
         album_->AddImageRow("/nowhere/gone.jpg", {{"Legend", "Lost"}});
         WriteFile(album_->PathOf("bad.jpg"), "no picture");
-        WriteFile(album_->PathOf("cut.png"), ReadFile(album_->PathOf("a.png")).first(60));
+        QByteArray spoiled = ReadFile(album_->PathOf("a.png")); // its header can be read
+        const qsizetype pixels = spoiled.indexOf("IDAT") + 4;
+        spoiled.replace(pixels, spoiled.size() - pixels, QByteArray(spoiled.size() - pixels, 'x'));
+        WriteFile(album_->PathOf("cut.png"), spoiled);
         album_->AddImageRow(album_->PathOf("bad.jpg"));
         album_->AddImageRow(album_->PathOf("cut.png"));
         album_->AddParagraph(album_->AddChapter("All"), "All");
