@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 
 namespace {
 
@@ -29,8 +30,11 @@ struct CopyTexts
     Q_DECLARE_TR_FUNCTIONS(PictureCopying)
 };
 
-[[noreturn]] void ThrowNotCopied(const QString& source, const QString& reason)
+[[noreturn]] void ThrowNotCopied(const QString& source, const QFile& copy)
 {
+    // Of a disk that takes only the beginning of a block, files say nothing.
+    const bool isTold = copy.errorString() != QFile().errorString();
+    const QString reason = isTold ? copy.errorString() : qt_error_string(ENOSPC);
     throw PublishError(CopyTexts::tr("The picture \"%1\" cannot be copied: %2")
                            .arg(QDir::toNativeSeparators(source), reason));
 }
@@ -111,8 +115,7 @@ private:
         QImageWriter writer(&file, isPng ? "png" : "jpeg");
         writer.setQuality(isPng ? -1 : jpegQuality);
         if (!file.open(QIODevice::WriteOnly) || !writer.write(image) || !file.flush())
-            ThrowNotCopied(picture_.source, file.error() == QFile::NoError ? writer.errorString()
-                                                                           : file.errorString());
+            ThrowNotCopied(picture_.source, file);
         Finish(file);
         return {CopyResult::Copied, name};
     }
@@ -135,7 +138,7 @@ private:
             return {CopyResult::Unreadable, picture_.name};
         QFile file(folder_.PathFor(picture_.name, madeFrom_));
         if (!file.open(QIODevice::WriteOnly))
-            ThrowNotCopied(picture_.source, file.errorString());
+            ThrowNotCopied(picture_.source, file);
         while (!isStopped_() && !source.atEnd()) {
             const QByteArray block = source.read(bytesAtOnce);
             if (block.isEmpty()) {
@@ -143,11 +146,11 @@ private:
                 return {CopyResult::Unreadable, picture_.name};
             }
             if (file.write(block) != block.size())
-                ThrowNotCopied(picture_.source, file.errorString());
+                ThrowNotCopied(picture_.source, file);
             disk_.Continue(file);
         }
         if (!file.flush())
-            ThrowNotCopied(picture_.source, file.errorString());
+            ThrowNotCopied(picture_.source, file);
         Finish(file);
         return {CopyResult::Copied, picture_.name, isDamaged};
     }

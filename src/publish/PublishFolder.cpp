@@ -29,6 +29,10 @@ const QString oldName = QStringLiteral("/old");
 const QString lockFileName = QStringLiteral("/lock");
 const QString readyName = QStringLiteral("/ready"); // the new list, once all files are there
 
+// A lock that another computer has left in a folder that travels counts for a day; whether a
+// program of this one still runs is known.
+constexpr int longestElsewhere = 24 * 60 * 60 * 1000; // milliseconds
+
 QString ReasonOf(const std::error_code& error)
 {
     return QString::fromLocal8Bit(error.message().c_str());
@@ -150,7 +154,7 @@ void PublishFolder::Lock()
     if (error)
         ThrowNotWritten(folder_, ReasonOf(error));
     auto lock = std::make_unique<QLockFile>(work_ + lockFileName);
-    lock->setStaleLockTime(0); // valid however long it is held
+    lock->setStaleLockTime(longestElsewhere);
     if (lock->tryLock(0)) {
         lock_ = std::move(lock);
         return;
@@ -257,7 +261,7 @@ void PublishFolder::PutInPlace(const std::vector<PublishedFile>& list, PublishMo
         moves.Place(file.name);
     for (const QString& name : StaleFiles(list))
         moves.TakeAway(name);
-    MoveFile(work_ + readyName, ListPathIn(folder_));
+    MoveFile(work_ + readyName, ListPathIn(folder_)); // the last step
     moves.RemoveEmptyFolders();
     try {
         WriteThroughDisk(folder_);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "publish/TravellingAlbum.h"
 
-#include "core/Album.h"
 #include "core/AlbumSets.h"
 #include "core/EarlierStates.h"
 #include "platform/data/DatabaseCopy.h"
@@ -32,8 +31,9 @@ struct TravelTexts
 // The open one, also while it is an earlier state of it.
 QString AlbumItself()
 {
+    const QString path = AlbumDatabase->GetPath();
     QString album;
-    return IsEarlierState(OpenAlbumPath(), &album) ? album : OpenAlbumPath();
+    return IsEarlierState(path, &album) ? album : path;
 }
 
 QString RealPath(const QString& path)
@@ -181,7 +181,8 @@ private:
     {
         const auto troubles = RewriteAlbum({albumPath_, contents_, copyNames_, *names_},
                                            [this](int done, int) { return Advance(done); });
-        QFile::setPermissions(albumPath_, QFile::permissions(OpenAlbumPath()) | QFile::WriteOwner);
+        QFile::setPermissions(albumPath_,
+                              QFile::permissions(AlbumDatabase->GetPath()) | QFile::WriteOwner);
         report_.troubles = troubles.value_or(QStringList());
         before_ = total_;
         return troubles.has_value();

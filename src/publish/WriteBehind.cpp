@@ -9,51 +9,45 @@
 namespace {
 
 constexpr qint64 mostBehind = 16 << 20; // bytes
-constexpr std::size_t mostFiles = 64;   // that are held open
+constexpr qint64 smallFile = 256 << 10; // bytes; smaller ones are better written many at a time
 constexpr unsigned untilWritten =
     SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER;
 
 } // namespace
 
-WriteBehind::~WriteBehind()
-{
-    for (const Waiting& file : waiting_)
-        close(file.handle);
-}
-
 void WriteBehind::Continue(const QFile& file)
 {
     const qint64 written = file.pos();
-    sync_file_range(file.handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
+    if (written >= smallFile)
+        sync_file_range(file.handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
     if (written > mostBehind)
         sync_file_range(file.handle(), 0, written - mostBehind, untilWritten);
 }
 
-void WriteBehind::Take(QFile& file)
+void WriteBehind::Take(const QFile& file)
 {
-    sync_file_range(file.handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
-    const int handle = fcntl(file.handle(), F_DUPFD_CLOEXEC, 0);
-    if (handle < 0)
-        return;
-    waiting_.push_back({handle, file.size()});
+    Continue(file);
+    waiting_.push_back({file.fileName(), file.size()});
     bytes_ += file.size();
-    while (bytes_ > mostBehind || waiting_.size() > mostFiles)
+    while (bytes_ > mostBehind)
         WaitForFirst();
 }
 
 void WriteBehind::WaitForFirst()
 {
     const Waiting file = waiting_.front();
-    sync_file_range(file.handle, 0, 0, untilWritten);
-    close(file.handle);
-    bytes_ -= file.bytes;
     waiting_.pop_front();
+    bytes_ -= file.bytes;
+    const int handle = open(QFile::encodeName(file.path).constData(), O_RDONLY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    sync_file_range(handle, 0, 0, untilWritten);
+    close(handle);
 }
 
 #else
 
-WriteBehind::~WriteBehind() = default;
 void WriteBehind::Continue(const QFile&) {}
-void WriteBehind::Take(QFile&) {}
+void WriteBehind::Take(const QFile&) {}
 
 #endif

@@ -12,19 +12,15 @@
 class WriteBehind
 {
 public:
-    WriteBehind() = default;
-    ~WriteBehind();
-    Q_DISABLE_COPY_MOVE(WriteBehind)
-
     // A file that is being written; what it has in its buffer comes later.
     void Continue(const QFile& file);
     // One that is complete and still open.
-    void Take(QFile& file);
+    void Take(const QFile& file);
 
 private:
     struct Waiting
     {
-        int handle;
+        QString path; // open files might become too many
         qint64 bytes;
     };
 

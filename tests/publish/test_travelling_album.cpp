@@ -5,6 +5,7 @@
 #include "core/AlbumSets.h"
 #include "core/LocalCopy.h"
 #include "core/Parameters.h"
+#include "platform/picture/PictureBytes.h"
 #include "platform/picture/PictureReader.h"
 #include "publish/PictureCopying.h"
 #include "publish/PublishList.h"
@@ -16,6 +17,7 @@
 #include "support/AlbumTest.h"
 #include "support/Rows.h"
 
+#include <QColorSpace>
 #include <QDirIterator>
 #include <QImage>
 #include <QThread>
@@ -311,7 +313,12 @@ private slots:
 
     void ScalesLargePictures()
     {
-        album_->AddPicture("large.jpg", {}, {400, 200});
+        // Turned by its EXIF block, in a wide colour space.
+        QImage wide(400, 200, QImage::Format_RGB32);
+        wide.fill(qRgb(200, 100, 100));
+        wide.setColorSpace(QColorSpace::DisplayP3);
+        WriteFile(PathOf("large.jpg"), WithOrientation(Encoded(wide, "jpeg"), 6));
+        album_->AddImageRow(PathOf("large.jpg"));
         album_->AddPicture("small.jpg", {}, {100, 50});
         album_->AddPicture("large.png", {}, {200, 400});
         QImage clear(300, 300, QImage::Format_ARGB32);
@@ -322,9 +329,13 @@ private slots:
         const QStringList names{"pictures/clear.png", "pictures/large.jpg",
                                 "pictures/large.png.jpg", "pictures/small.jpg"};
         QCOMPARE(Names(), names);
-        const QSize sizes[] = {{100, 100}, {100, 50}, {50, 100}, {100, 50}};
+        const QSize sizes[] = {{100, 100}, {50, 100}, {50, 100}, {100, 50}};
         for (int i = 0; i < 4; ++i)
             QCOMPARE(ReadPictureInfo(PathOf("stick/album/" + names[i])).size, sizes[i]);
+        const QImage turned(PathOf("stick/album/pictures/large.jpg")); // without what EXIF says
+        QCOMPARE(turned.size(), QSize(50, 100));
+        QVERIFY(turned.colorSpace() != QColorSpace(QColorSpace::DisplayP3));
+        QVERIFY(turned.pixelColor(25, 50).red() > 206); // red reaches less far in sRGB
         QCOMPARE(Contents()["pictures/small.jpg"], ReadFile(PathOf("small.jpg")));
         QCOMPARE(Take({.longestEdge = 100}).made, 0);
         QCOMPARE(Take({.longestEdge = 150}).made, 3);

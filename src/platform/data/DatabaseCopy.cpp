@@ -65,6 +65,17 @@ bool ForEachBlock(const EngineFile& source, const Take& take)
     return true;
 }
 
+// A disk that takes only the beginning of a block is full, of which the file says nothing.
+bool WriteAll(QFile& copy, const QByteArray& block)
+{
+    const qint64 written = copy.write(block);
+    if (written >= 0 && written < block.size())
+        throw DatabaseError(
+            DatabaseError::DiskError,
+            DatabaseError::tr("The album cannot be copied: %1").arg(qt_error_string(ENOSPC)));
+    return written == block.size();
+}
+
 // Else the whole file would be written to disk at the end, where nothing can tell of progress. A
 // flush that fails is tried again there.
 bool FlushAtTimes(QFile& copy)
@@ -142,7 +153,7 @@ bool CopyDatabaseFile(const Database& database, const QString& target, const Cop
         return !isStopped;
     };
     const auto write = [&](const QByteArray& block) {
-        return goOn(0) && copy.write(block) == block.size() && FlushAtTimes(copy);
+        return goOn(0) && WriteAll(copy, block) && FlushAtTimes(copy);
     };
     // Damage by a full disk or an unplugged drive is found only by reading the copy back.
     const auto isEqual = [&](const QByteArray& block) {
@@ -171,7 +182,7 @@ bool CloneDatabaseFile(const Database& database, const QString& target,
         return !isStopped;
     };
     const auto write = [&](const QByteArray& block) {
-        return goOn() && copy.write(block) == block.size() && FlushAtTimes(copy);
+        return goOn() && WriteAll(copy, block) && FlushAtTimes(copy);
     };
     const bool isOpen =
         source.GetSize() >= 0 && copy.open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
