@@ -222,7 +222,7 @@ private:
 
     void SetTitle()
     {
-        const std::string title = story_.title.toStdString();
+        const std::string title = story_.title.simplified().toStdString();
         Object root = pdf_.getRoot();
         Object preferences = Object::newDictionary();
         preferences.replaceKey("/DisplayDocTitle", Object::newBool(true));

@@ -65,7 +65,8 @@ void AddBookOutlines(QPDF& pdf, const std::vector<QPDFObjectHandle>& pages, qrea
     std::vector<Entry> items;
     for (std::size_t i = 0; i < chapters.size(); ++i) {
         Entry item = pdf.makeIndirectObject(Entry::newDictionary());
-        item.replaceKey("/Title", Entry::newUnicodeString(story.chapters[i].title.toStdString()));
+        item.replaceKey(
+            "/Title", Entry::newUnicodeString(story.chapters[i].title.simplified().toStdString()));
         item.replaceKey("/Dest", DestinationOf(pages, paperHeight, chapters[i]));
         items.push_back(item);
     }
