@@ -4,7 +4,7 @@
 #include "../SideBySide.h"
 #include "../pictures/PaintedPictures.h"
 
-#include "publish/PublishedBook.h"
+#include "publish/book/PublishedBook.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -5,7 +5,7 @@
 #include "../SideBySide.h"
 #include "../pictures/PaintedPictures.h"
 
-#include "publish/PublishedPages.h"
+#include "publish/pages/PublishedPages.h"
 
 #include <QDir>
 #include <QGuiApplication>

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "publish/PublishReport.h"
-#include "publish/PublishedBook.h"
-#include "publish/PublishedPages.h"
 #include "publish/PublishedStory.h"
-#include "publish/TravellingAlbum.h"
+#include "publish/album/TravellingAlbum.h"
+#include "publish/book/PublishedBook.h"
+#include "publish/pages/PublishedPages.h"
 
 enum class PublishAs { Pages, SinglePage, Book, Album };
 

@@ -2,8 +2,8 @@
 // The book as a file: what it says, which bytes of the pictures it holds, and what happens when it
 // cannot be made.
 #include "BookReading.h"
-#include "publish/BookFile.h"
-#include "publish/PublishedBook.h"
+#include "publish/book/BookFile.h"
+#include "publish/book/PublishedBook.h"
 #include "support/Rows.h"
 #include "support/TestFiles.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Web pages of a story: what they show, that they work from the disk, and what they give away.
-#include "publish/PublishedPages.h"
-#include "publish/WebPictures.h"
+#include "publish/pages/PublishedPages.h"
+#include "publish/pages/WebPictures.h"
 #include "support/AlbumTest.h"
 
 #include <QDirIterator>
