@@ -244,15 +244,19 @@ private slots:
     {
         const PublishedStory story =
             Story({Paragraph("Text", {Paint("a.png"), Write("b.jpg", MakeJpeg({90, 60})),
-                                      Paint("c.png", {900, 700})})});
+                                      Paint("c.png", {900, 700}), PathOf("gone.png")})});
         const QStringList before = QDir(folder_->path()).entryList(QDir::Files) << "book.pdf";
         WriteFile(PathOf("book.pdf"), "old");
         int stopped = 0;
         for (bool isWhole = false; !isWhole; ++stopped) {
             int calls = 0;
-            const PublishReport report = PublishBook(story, {}, PathOf("book.pdf"),
-                                                     [&](int, int) { return calls++ < stopped; });
-            isWhole = !report.isStopped;
+            int counted = 0;
+            const auto progress = [&](int done, int) {
+                counted = done;
+                return calls++ < stopped;
+            };
+            isWhole = !PublishBook(story, {}, PathOf("book.pdf"), progress).isStopped;
+            QVERIFY(!isWhole || counted == 4);
             QCOMPARE(ReadFile(PathOf("book.pdf")) == "old", !isWhole);
             QCOMPARE(QDir(folder_->path())
                          .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)

@@ -89,6 +89,10 @@ public:
         const QByteArray base = WriteBase();
         BookOutput output(path, progress_);
         BookAppending appending(output, base);
+        for (int picture = 0; picture < pictures_.Count(); ++picture) {
+            if (!pictures_.At(picture).IsGood())
+                progress_.Add(pictures_.At(picture).uses);
+        }
         for (const int picture : order_)
             AppendPicture(output, appending, picture);
         appending.Finish();
