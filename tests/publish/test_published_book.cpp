@@ -339,6 +339,10 @@ private slots:
         changed = whole;
         changed.replace("/Length ", "/Lenght ");
         refuses(changed, facts);
+        changed = whole; // of which most viewers would say nothing
+        changed.replace("\xFF\xD9\nendstream\nendobj", "\xFF\xD9\nendstream\nendobk");
+        QVERIFY(changed != whole);
+        refuses(changed, facts);
         BookFacts more = facts;
         more.pages.emplace_back();
         refuses(whole, more);
