@@ -11,7 +11,7 @@
 #include "publish/album/PictureCopying.h"
 #include "publish/album/TravelNames.h"
 #include "publish/album/TravellingAlbum.h"
-#include "publish/album/WorkAside.h"
+#include "publish/WorkAside.h"
 #include "story/Paragraph.h"
 #include "story/PictureFilter.h"
 #include "support/AlbumTest.h"

@@ -4,7 +4,7 @@
 #include "platform/picture/OpenPicture.h"
 #include "platform/picture/PictureFile.h"
 #include "publish/PublishReport.h"
-#include "publish/album/WorkAside.h"
+#include "publish/WorkAside.h"
 #include "publish/album/WriteBehind.h"
 
 #include <QCoreApplication>

@@ -7,10 +7,10 @@
 #include "platform/data/ReadLock.h"
 #include "platform/files/PathRoutines.h"
 #include "publish/PublishFolder.h"
+#include "publish/WorkAside.h"
 #include "publish/album/AlbumRewriting.h"
 #include "publish/album/PictureCopying.h"
 #include "publish/album/TravelPatterns.h"
-#include "publish/album/WorkAside.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -20,8 +20,10 @@ void WriteBehind::Continue(const QFile& file)
     const qint64 written = file.pos();
     if (written >= smallFile)
         sync_file_range(file.handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
-    if (written > mostBehind)
+    if (written > mostBehind) {
         sync_file_range(file.handle(), 0, written - mostBehind, untilWritten);
+        posix_fadvise(file.handle(), 0, written - mostBehind, POSIX_FADV_DONTNEED);
+    }
 }
 
 void WriteBehind::Take(const QFile& file)
@@ -42,6 +44,8 @@ void WriteBehind::WaitForFirst()
     if (handle < 0)
         return;
     sync_file_range(handle, 0, 0, untilWritten);
+    // Nobody reads it soon, and files that are not in memory are removed at once after a stop.
+    posix_fadvise(handle, 0, 0, POSIX_FADV_DONTNEED);
     close(handle);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "publish/album/WorkAside.h"
+#include "publish/WorkAside.h"
 
 #include <QThreadPool>
 
