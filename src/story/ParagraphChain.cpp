@@ -4,9 +4,12 @@
 #include "core/AlbumChains.h"
 #include "core/AlbumSets.h"
 #include "core/UndoSteps.h"
+#include "platform/data/ReadLock.h"
 #include "platform/data/WriteBatch.h"
 
 #include <QCoreApplication>
+
+#include <optional>
 
 using namespace GeneralModule;
 
@@ -104,8 +107,12 @@ void SaveParagraph(const ParagraphPlace& place, const ParagraphDraft& draft)
 {
     if (place.paragraph <= 0)
         return;
+    // What the step and the look at the paragraph read takes the file's lock once; it must be free
+    // again when the batch waits for another program.
+    std::optional<ReadLock> reading(*AlbumDatabase);
     const UndoStep step(StepAbout(UndoStep::tr("Save Paragraph"), draft.edited.text));
     RequireParagraph(place.paragraph);
+    reading.reset();
     WriteBatch batch(AlbumDatabase, WriteBatch::Commits::AtItsEnd);
     const ParagraphContent stored = LoadParagraph(place.paragraph);
     if (HasConflict(draft, stored))
