@@ -7,6 +7,9 @@
 
 #include <QtTest>
 
+#include <atomic>
+#include <thread>
+
 namespace {
 
 const QString chainSql =
@@ -232,6 +235,28 @@ private slots:
         for (int i = 0; i < 2; ++i)
             QVERIFY(MoveParagraphDown(place));
         QCOMPARE(album.Story(), "One:abc Two:e Three:d");
+    }
+
+    // A lock that is still held when the other program wants to commit would let neither go on.
+    void WaitsForAProgramThatWrites()
+    {
+        OneChapter album({"a"});
+        std::atomic<bool> isWriting = false;
+        std::thread other([&] {
+            const auto database = Database::Open(album.GetAlbum());
+            database->Execute("BEGIN IMMEDIATE");
+            database->Execute("INSERT INTO Params VALUES ('Other','1')");
+            isWriting = true;
+            std::this_thread::sleep_for(std::chrono::milliseconds(150)); // now this one waits
+            database->Execute("COMMIT");
+        });
+        while (!isWriting)
+            std::this_thread::yield();
+        const int error =
+            ErrorOf([&] { SaveParagraph(album.place, Edited(album.place, "saved")); });
+        other.join();
+        QCOMPARE(error, 0);
+        QCOMPARE(LoadParagraph(1).text, "saved");
     }
 };
 
