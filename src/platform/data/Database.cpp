@@ -104,13 +104,16 @@ std::shared_ptr<Database> Database::Open(const QString& path, const QString& pas
 }
 
 Database::Database(const QString& path, Use use)
-    : path_(path), isReadOnly_(use == Use::Reading || IsReadOnlyDatabaseFile(path))
+    : path_(path),
+      isReadOnly_(use == Use::Reading || IsReadOnlyDatabaseFile(path)),
+      spareLock_(std::make_shared<Statement>())
 {
 }
 
 Database::~Database()
 {
     log_.reset(); // its statements belong to the connection
+    spareLock_.reset();
     sqlite3_close_v2(engine_);
     if (readHandle_ >= 0)
         close(readHandle_);

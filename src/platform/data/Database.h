@@ -8,6 +8,7 @@
 #include <memory>
 
 class ChangeLog;
+class Statement;
 struct sqlite3;
 
 // One open album file. Every change is committed to disk at once, except inside a WriteBatch. Lives
@@ -78,6 +79,7 @@ public:
     int GetReadHandle() const;
 
 private:
+    friend class ReadLock;
     friend class WriteBatch;
 
     Database(const QString& path, Use use);
@@ -101,5 +103,7 @@ private:
     std::unique_ptr<ChangeLog> log_;
     int openBatches_ = 0;
     std::function<void()> beforeChange_;
+    // Of a ReadLock, prepared; empty while one lives, and before the first.
+    std::shared_ptr<Statement> spareLock_;
     mutable int readHandle_ = -1;
 };
