@@ -163,7 +163,7 @@ for (const width of [390, 1280, 1920]) {
   await settle();
   await shot(page, "chapter-rtl");
   await page.emulateMediaType("print");
-  await page.pdf({path: join(shots, "chapter-print.pdf"), format: "A4"});
+  await page.pdf({path: join(shots, "chapter-print.pdf"), format: "A4", preferCSSPageSize: true});
   await page.close();
 }
 await browser.close();
