@@ -17,6 +17,7 @@
 #include "core/StateReturn.h"
 #include "core/UndoSteps.h"
 #include "core/oldalbum/OldAlbumConversion.h"
+#include "fuzz/kill/StepWork.h"
 #include "story/ParagraphLinks.h"
 #include "story/ParagraphMoves.h"
 #include "support/AlbumFixture.h"
@@ -80,110 +81,6 @@ std::function<void(const QString&)> Prepare(const QString& sql)
         if (!QFile::copy(album.GetAlbum(), folder + '/' + storyName))
             qFatal("the album cannot be copied");
     };
-}
-
-void Require(bool isDone)
-{
-    if (!isDone)
-        throw std::runtime_error("the work was refused");
-}
-
-void ChangeChapters(const QString&, int step)
-{
-    std::mt19937 random{std::uint32_t(step)};
-    const QStringList names = ChapterNames();
-    const QString chosen = names.value(qsizetype(random() % std::size_t(names.size())));
-    switch (random() % 6) {
-    case 0:
-    case 1:
-        CreateChapter(QStringLiteral("New %1").arg(step), chosen);
-        break;
-    case 2:
-        DeleteChapter(chosen);
-        break;
-    case 3:
-        RenameChapter(FindChapter(chosen).value(), QStringLiteral("Named %1").arg(step));
-        break;
-    case 4:
-        MoveChapterUp(chosen);
-        break;
-    default:
-        MoveChapterDown(chosen);
-    }
-}
-
-// The paragraph that was created last, when it was not saved since; 0 when there is none.
-qint32 UnsavedParagraph(qint32& chapter)
-{
-    qint32 newest = 0;
-    for (ParagraphSet->MoveFirst(); !ParagraphSet->AtEnd(); ParagraphSet->MoveNext())
-        newest = ParagraphSet->Number(u"Id");
-    FindById(*ParagraphSet, newest);
-    chapter = ParagraphSet->Number(u"Chapter");
-    for (const ParagraphLine& line : ListParagraphs(chapter)) {
-        if (line.paragraph == newest)
-            return 0;
-    }
-    return newest;
-}
-
-ParagraphDraft Edited(const ParagraphPlace& place, int step)
-{
-    ParagraphContent content;
-    content.text = QStringLiteral("written in step %1").arg(step);
-    content.values.fill(anyValue);
-    return {LoadParagraph(place.paragraph), content};
-}
-
-void ChangeParagraphs(const QString&, int step)
-{
-    std::mt19937 random{std::uint32_t(step)};
-    ParagraphPlace place;
-    place.paragraph = UnsavedParagraph(place.chapter);
-    if (place.paragraph != 0)
-        return SaveParagraph(place, Edited(place, step));
-    place.chapter = 1 + qint32(random() % 6);
-    const std::vector<ParagraphLine> lines = ListParagraphs(place.chapter);
-    if (lines.empty())
-        return CreateFirstParagraph(place);
-    place.paragraph = lines[random() % lines.size()].paragraph;
-    switch (random() % 6) {
-    case 0:
-        CreateNextParagraph(place, Edited(place, step));
-        break;
-    case 1:
-        DeleteParagraph(place);
-        break;
-    case 2:
-    case 3:
-        MoveParagraphDown(place);
-        break;
-    case 4:
-        MoveParagraphUp(place);
-        break;
-    default:
-        SaveParagraph(place, Edited(place, step));
-    }
-}
-
-void Describe(const QString&, int step)
-{
-    std::mt19937 random{std::uint32_t(step)};
-    const QString file = QStringLiteral("/p/%1.jpg").arg(1 + random() % 100);
-    const std::optional<Picture> shown = ReadPicture(file);
-    Picture edited = shown.value();
-    switch (random() % 3) {
-    case 0:
-        edited.legend = QStringLiteral("described in step %1").arg(step);
-        edited.values[4] = QStringLiteral("Value %1").arg(step);
-        StorePicture(file, *shown, edited);
-        break;
-    case 1:
-        SetLinked(1 + qint32(random() % 9), file, random() % 3 != 0);
-        break;
-    default:
-        SetParam(QStringLiteral("P%1").arg(random() % 5), QString::number(step));
-    }
 }
 
 LongWork OfAlbum(const QString& name, const QString& sql,
@@ -287,61 +184,6 @@ LongWork SettingPassword(const QString& name, const QString& before, const QStri
         ReleaseAlbum();
     };
     return work;
-}
-
-// The newest state that no earlier one has replaced.
-QString LastKept(const QString& album)
-{
-    for (const EarlierState& state : EarlierStatesOf(album)) {
-        if (!state.isReplaced)
-            return state.path;
-    }
-    return {};
-}
-
-// A state is kept, the album changes, and the state is taken back whole or in part.
-void ComeAndGo(const QString&, int step)
-{
-    const QString album = OpenAlbumPath();
-    const QString password = AlbumDatabase->GetPassword();
-    switch (step % 6) {
-    case 0:
-        KeepState(false);
-        break;
-    case 1:
-    case 3:
-        CreateChapter(QStringLiteral("New %1").arg(step), ChapterNames().first());
-        break;
-    case 2:
-        Require(TakeBackState(LastKept(album), password, album));
-        break;
-    case 4: {
-        const OpenState state(LastKept(album), password);
-        TakeBackChapters(state, {state.Chapters().back().id}, ReturnPlace::InPlaceOfSame);
-        break;
-    }
-    default:
-        CreateChapter(QStringLiteral("Newer %1").arg(step), ChapterNames().last());
-    }
-}
-
-// A change is made, taken back and made again; one that adds no row, since the numbers of new rows
-// are not taken back. It depends on the album alone, because a program that was killed has
-// forgotten what could be undone.
-void UndoAndRedo(const QString&, int step)
-{
-    {
-        const UndoStep change(QStringLiteral("Change"));
-        const bool isBack = step % 4 == 2;
-        if (step % 2 == 0)
-            Require(ReplaceValue(3, isBack ? "Cleo" : "Anna", isBack ? "Anna" : "Cleo", [](int) {
-                        return true;
-                    })->pictures > 0);
-        else
-            Require(DeleteChapter(ChapterNames().last()) == ChapterDeletion::Deleted);
-    }
-    Require(!Undo().isEmpty());
-    Require(!Redo().isEmpty());
 }
 
 LongWork Creating(const QString& name, bool isOver)

@@ -72,16 +72,6 @@ int RunCheck(int& argc, char** argv)
         Print(stderr, CheckTexts::tr("usage: lumenark --check ALBUM [--password-file FILE]"));
         return BadUse;
     }
-    CatchSignals();
     const QString album = parser.positionalArguments().constFirst();
-    try {
-        return Check(album, parser);
-    } catch (const Trouble& trouble) {
-        Complain(trouble.about, trouble.text);
-    } catch (const DatabaseError& error) {
-        Complain(album, error.GetDescription());
-    } catch (const Interrupted&) {
-        return EndBySignal();
-    }
-    return Failed;
+    return RunCommand(album, [&] { return Check(album, parser); });
 }

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
+#include "core/AlbumSets.h"
 #include "platform/data/DatabaseError.h"
 #include "platform/data/DatabaseFile.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <csignal>
+#include <stdexcept>
 
 namespace {
 
@@ -64,6 +67,25 @@ int EndBySignal()
 {
     std::signal(caughtSignal, SIG_DFL);
     std::raise(caughtSignal);
+    return Failed;
+}
+
+int RunCommand(const QString& album, const std::function<int()>& command)
+{
+    CatchSignals();
+    const auto closeAlbum = qScopeGuard([] { GeneralModule::SetOpenedAlbum(nullptr); });
+    try {
+        return command();
+    } catch (const Trouble& trouble) {
+        Complain(trouble.about, trouble.text);
+    } catch (const DatabaseError& error) {
+        Complain(album, error.GetDescription());
+    } catch (const std::runtime_error& error) {
+        Print(stderr, QStringLiteral("lumenark: ") + QString::fromUtf8(error.what()));
+    } catch (const Interrupted&) {
+        GeneralModule::SetOpenedAlbum(nullptr);
+        return EndBySignal();
+    }
     return Failed;
 }
 

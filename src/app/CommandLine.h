@@ -46,6 +46,11 @@ struct Interrupted
 {
 };
 
+// Runs a command on an album and returns its exit status. What it throws is told on standard error,
+// and the status is then Failed; a signal ends the program as it would have. An album that the
+// command has opened is closed.
+int RunCommand(const QString& album, const std::function<int()>& command);
+
 void CatchSignals();
 bool HasSignal();
 void CheckSignals();

@@ -108,15 +108,5 @@ int RunConversion(int& argc, char** argv)
                           "usage: lumenark --convert OLD NEW [--password-file FILE] [--force]"));
         return BadUse;
     }
-    CatchSignals();
-    try {
-        return Convert(paths[0], paths[1], parser);
-    } catch (const Trouble& trouble) {
-        Complain(trouble.about, trouble.text);
-    } catch (const DatabaseError& error) {
-        Complain(paths[0], error.GetDescription());
-    } catch (const Interrupted&) {
-        return EndBySignal();
-    }
-    return Failed;
+    return RunCommand(paths[0], [&] { return Convert(paths[0], paths[1], parser); });
 }

@@ -11,8 +11,6 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
-#include <stdexcept>
-
 namespace {
 
 using namespace GeneralModule;
@@ -222,21 +220,6 @@ int RunDescriptionTransfer(int& argc, char** argv)
                           "FILE] [--dry-run]"));
         return BadUse;
     }
-    CatchSignals();
     const QString album = parser.positionalArguments().constFirst();
-    int status = Failed;
-    try {
-        status = Transfer(album, parser);
-    } catch (const Trouble& trouble) {
-        Complain(trouble.about, trouble.text);
-    } catch (const DatabaseError& error) {
-        Complain(album, error.GetDescription());
-    } catch (const std::runtime_error& error) {
-        Print(stderr, QStringLiteral("lumenark: ") + QString::fromUtf8(error.what()));
-    } catch (const Interrupted&) {
-        SetOpenedAlbum(nullptr);
-        return EndBySignal();
-    }
-    SetOpenedAlbum(nullptr);
-    return status;
+    return RunCommand(album, [&] { return Transfer(album, parser); });
 }

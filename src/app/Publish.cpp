@@ -138,20 +138,6 @@ bool IsSoundPublishing(const QCommandLineParser& parser)
            (kind->second != PublishAs::SinglePage || !parser.isSet(options.size));
 }
 
-int Complained(const QString& album, const QCommandLineParser& parser)
-{
-    try {
-        return PublishAlbum(album, parser);
-    } catch (const Trouble& trouble) {
-        Complain(trouble.about, trouble.text);
-    } catch (const DatabaseError& error) {
-        Complain(album, error.GetDescription());
-    } catch (const PublishError& error) {
-        Complain(parser.value(PublishOptions().to), error.GetText());
-    }
-    return Failed;
-}
-
 } // namespace
 
 bool IsPublishing(int argc, char** argv)
@@ -215,14 +201,12 @@ int RunPublishing(int& argc, char** argv)
                                "[--force]"));
         return BadUse;
     }
-    CatchSignals();
-    int status = Failed;
-    try {
-        status = Complained(parser.positionalArguments().constFirst(), parser);
-    } catch (const Interrupted&) {
-        SetOpenedAlbum(nullptr);
-        return EndBySignal();
-    }
-    SetOpenedAlbum(nullptr);
-    return status;
+    const QString album = parser.positionalArguments().constFirst();
+    return RunCommand(album, [&] {
+        try {
+            return PublishAlbum(album, parser);
+        } catch (const PublishError& error) {
+            throw Trouble{parser.value(options.to), error.GetText()};
+        }
+    });
 }

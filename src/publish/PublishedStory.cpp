@@ -4,9 +4,11 @@
 #include "catalogue/Picture.h"
 #include "core/Album.h"
 #include "core/AlbumChains.h"
+#include "core/AlbumSets.h"
 #include "core/ChapterChain.h"
 #include "core/LocalCopy.h"
 #include "core/Parameters.h"
+#include "platform/data/ReadLock.h"
 #include "publish/PublishReport.h"
 #include "story/ParagraphMarkers.h"
 #include "viewer/PageContent.h"
@@ -101,6 +103,7 @@ private:
 
     PublishedParagraph ReadParagraphOf(const StoryPosition& position)
     {
+        const ReadLock together(*AlbumDatabase);
         const QString text = TextAt(position).value_or(PageText()).text;
         const FoundPictures found = FindPicturesAt(position, [](int) {});
         if (found.failure)

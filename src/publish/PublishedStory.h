@@ -9,9 +9,9 @@
 #include <optional>
 #include <vector>
 
-// A story as it is given away: plain values, read from the open album at one time, so that pages
-// and books are made without it. Its texts hold neither control characters other than tabs and line
-// feeds nor halves of surrogate pairs; lines end with "\n".
+// A story as it is given away: plain values, read from the open album before anything is made of
+// them, so that pages and books are made without it. Its texts hold neither control characters
+// other than tabs and line feeds nor halves of surrogate pairs; lines end with "\n".
 
 struct PublishedPicture
 {

@@ -271,6 +271,9 @@ void frmPublish::cmdPublish_Click()
     } catch (const PublishError& error) {
         ui_->lblStep->setText(tr("Nothing was published."));
         Tell(error.GetText(), Dialogs::Icon::Warning);
+    } catch (const std::exception&) {
+        ui_->lblStep->setText(tr("Nothing was published."));
+        throw;
     }
 }
 

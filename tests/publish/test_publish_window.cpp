@@ -79,6 +79,14 @@ private slots:
     {
         album_->AddThreeChapters({60, 40});
         frmPublish* window = Open();
+        {
+            SetPlace(*window, album_->PathOf("pages"));
+            const FailingEngine failing(5); // as when another program has the album locked
+            dialogs_->ExpectBoxBeginning("", Icon::Critical);
+            ::Click(*window, "cmdPublish");
+            QCOMPARE(Step(*window), "Nothing was published.");
+            QVERIFY(!QFileInfo::exists(album_->PathOf("pages")));
+        }
         const QString place = album_->PathOf("foreign");
         WriteFile(place + "/letter.txt", "mine");
         SetPlace(*window, place);

@@ -10,7 +10,6 @@
 #include "publish/PublishList.h"
 #include "publish/WorkAside.h"
 #include "publish/album/PictureCopying.h"
-#include "publish/album/TravelNames.h"
 #include "publish/album/TravellingAlbum.h"
 #include "story/Paragraph.h"
 #include "story/PictureFilter.h"
@@ -213,50 +212,6 @@ private slots:
         QCOMPARE(Names(), QStringList({"pictures/a_b.png", "pictures/c.png"}));
         Arrive();
         QCOMPARE(Shown(), before);
-    }
-
-    void GivesNamesThatAllSystemsTake_data()
-    {
-        AddRows<QString>({"name"}, {{"a.jpg", "a.jpg"},
-                                    {"a<>:\"|?*b\t.jpg", "a_______b_.jpg"},
-                                    {"dot.", "dot._"},
-                                    {"blank ", "blank _"},
-                                    {"nul", "_nul"},
-                                    {"Com1.jpg", "_Com1.jpg"},
-                                    {"COM10.jpg", "COM10.jpg"},
-                                    {"..", ".._"}});
-    }
-    void GivesNamesThatAllSystemsTake()
-    {
-        QFETCH(QString, name);
-        QCOMPARE(LegalName(QTest::currentDataTag()), name);
-    }
-
-    void KeepsNamesApart()
-    {
-        const QString lengthy = QString(200, QChar(0xe9)) + ".jpg";
-        QStringList files{"/p/a.jpg",  "/p/A.JPG",  "/p/x/b.jpg",     "/p/X/b.jpg",
-                          "/p/a?.jpg", "/p/a_.jpg", "/p/1" + lengthy, "/p/2" + lengthy};
-        const auto namesOf = [](const QStringList& paths) {
-            TravelNames names(paths, {}, {"pictures"});
-            QStringList all;
-            for (int i = 0; i < paths.size(); ++i)
-                all += names.NameOf(i);
-            return all;
-        };
-        const QStringList names = namesOf(files);
-        QSet<QString> folded;
-        for (const QString& name : names) {
-            folded.insert(FoldedName(name));
-            for (const QString& part : (name + ".jpg").split('/')) // as it may be when scaled
-                QVERIFY(part.toUtf8().size() <= 255 && part == LegalName(part));
-        }
-        QCOMPARE(folded.size(), files.size());
-        QCOMPARE(names[0], "pictures/a.jpg");
-        QCOMPARE(namesOf(files + QStringList("/p/x/c.jpg")).first(files.size()), names);
-        QCOMPARE(
-            namesOf({"/home/u/photos/x/a.jpg", "/media/stick/a.jpg", "C:\\Bilder\\a.jpg"}),
-            QStringList({"pictures/x/a.jpg", "pictures/stick/a.jpg", "pictures/Bilder/a.jpg"}));
     }
 
     void KeepsThePassword()

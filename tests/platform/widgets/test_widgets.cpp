@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/dialogs/Guard.h"
 #include "platform/widgets/LiteralText.h"
+#include "platform/widgets/OutlinedTicks.h"
 #include "platform/widgets/QtDialogs.h"
 #include "platform/widgets/TickDelegate.h"
 #include "platform/widgets/WindowSize.h"
@@ -84,6 +85,25 @@ private slots:
         for (int y = 0; y < 2 * line; ++y)
             edges += qGray(shown.pixel(line / 2, y)) > 120; // through the middle of both boxes
         QCOMPARE(edges, 4);
+    }
+
+    void ButtonsToTickStandOutInDarkWindows()
+    {
+        OutlinedTicks style("Fusion");
+        QRadioButton choice("A");
+        QCheckBox tick("B");
+        QPalette palette(QColor(30, 30, 30));
+        palette.setColor(QPalette::WindowText, Qt::white);
+        for (QAbstractButton* button : std::initializer_list<QAbstractButton*>{&choice, &tick}) {
+            button->setStyle(&style);
+            button->setPalette(palette);
+            const QImage shown = button->grab().toImage();
+            int edges = 0;
+            for (int x = 0; x < style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, button); ++x)
+                edges += qGray(shown.pixel(x, shown.height() / 2)) > 100;
+            QVERIFY2(edges >= 2 && edges <= 4, qPrintable(QString::number(edges)));
+            button->setStyle(nullptr);
+        }
     }
 
     void WindowsRememberTheirSize()
